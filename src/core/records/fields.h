@@ -1,0 +1,104 @@
+#pragma once
+
+// How a record names its fields for the save file.
+//
+// A record is a plain struct. Beside it stands one line,
+//
+//   RECORD_FIELDS(Child, childId, name, gender, ...)
+//
+// in the order of the struct. The encoder, the decoder and the tests walk that list. It does not compile
+// when a field is missing, doubled or out of order, so a record cannot lose a field on its way to disk.
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+namespace tb {
+
+template <class Record, class T>
+struct Field {
+  std::string_view name;
+  T Record::* member;
+  std::size_t offset;  // where it stands in the struct; only the order is of interest
+};
+
+// Specialised by RECORD_FIELDS: a tuple of Field, in the order of the struct.
+template <class Record>
+inline constexpr auto fieldsOf = nullptr;
+
+template <class T>
+concept RecordType = !std::is_same_v<decltype(fieldsOf<T>), const std::nullptr_t>;
+
+// Calls visit(name, value) for every field of the record, in order.
+template <class Record, class Visit>
+constexpr void forEachField(Record&& record, Visit&& visit) {
+  std::apply([&](const auto&... field) { (visit(field.name, record.*field.member), ...); },
+             fieldsOf<std::remove_cvref_t<Record>>);
+}
+
+namespace detail {
+
+template <class T>
+inline constexpr bool isOptional = false;
+template <class T>
+inline constexpr bool isOptional<std::optional<T>> = true;
+
+struct AnyField {
+  template <class T>
+    requires(!isOptional<T>)
+  operator T() const;
+};
+
+template <std::size_t>
+using AnyFieldAt = AnyField;
+
+template <class Record, std::size_t... Index>
+consteval bool takesFields(std::index_sequence<Index...>) {
+  return requires { Record{AnyFieldAt<Index>{}...}; };
+}
+
+// The number of fields of an aggregate: the most initialisers that it takes.
+template <class Record, std::size_t Count = 96>
+consteval std::size_t countFields() {
+  if constexpr (Count == 0 || takesFields<Record>(std::make_index_sequence<Count>{})) {
+    return Count;
+  } else {
+    return countFields<Record, Count - 1>();
+  }
+}
+
+template <class Record, std::size_t... Index>
+consteval bool inOrder(std::index_sequence<Index...>) {
+  constexpr auto& fields = fieldsOf<Record>;
+  return ((std::get<Index>(fields).offset < std::get<Index + 1>(fields).offset) && ...);
+}
+
+}  // namespace detail
+
+template <class Record>
+consteval bool describesWholeRecord() {
+  constexpr std::size_t named = std::tuple_size_v<std::remove_cvref_t<decltype(fieldsOf<Record>)>>;
+  return named == detail::countFields<Record>() && detail::inOrder<Record>(std::make_index_sequence<named - 1>{});
+}
+
+}  // namespace tb
+
+#define TB_PARENTHESES ()
+#define TB_EXPAND(...) TB_EXPAND_1(TB_EXPAND_1(TB_EXPAND_1(TB_EXPAND_1(__VA_ARGS__))))
+#define TB_EXPAND_1(...) TB_EXPAND_2(TB_EXPAND_2(TB_EXPAND_2(TB_EXPAND_2(__VA_ARGS__))))
+#define TB_EXPAND_2(...) TB_EXPAND_3(TB_EXPAND_3(TB_EXPAND_3(TB_EXPAND_3(__VA_ARGS__))))
+#define TB_EXPAND_3(...) __VA_ARGS__
+#define TB_FIELD_LIST(Record, ...) __VA_OPT__(TB_EXPAND(TB_FIELD_STEP(Record, __VA_ARGS__)))
+#define TB_FIELD_STEP(Record, name, ...) \
+  ::tb::Field{#name, &Record::name, __builtin_offsetof(Record, name)} __VA_OPT__(, TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
+#define TB_FIELD_AGAIN() TB_FIELD_STEP
+
+// Stands in namespace tb, right after the struct.
+#define RECORD_FIELDS(Record, ...)                                                            \
+  template <>                                                                                 \
+  inline constexpr auto fieldsOf<Record> = std::tuple{TB_FIELD_LIST(Record, __VA_ARGS__)};    \
+  static_assert(describesWholeRecord<Record>(), #Record " has a field that RECORD_FIELDS misses or misplaces")

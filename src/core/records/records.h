@@ -1,0 +1,3 @@
+#pragma once
+
+// Every record of the game, one header an area.

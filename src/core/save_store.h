@@ -1,0 +1,119 @@
+#pragma once
+
+// The save store: the one flat dictionary in which the whole game is kept, and the small port under it.
+//
+// A value is a property-list value under a key. A list (of records, or of plain values) may be stored in
+// pieces, so that a write costs what changed; asked for its value, the store joins the pieces, and nobody
+// outside sees the difference: a record list is one Data holding a binary property list, a plain list one
+// array.
+//
+// Nothing is durable until commit(): all that one player action wrote then becomes durable together. A
+// process killed at any instant leaves the state before or after an action, never between.
+
+#include <cstdint>
+#include <expected>
+#include <functional>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/property_list.h"
+
+namespace tb {
+
+enum class Shape : std::uint8_t {
+  plain = 0,       // one value, in piece 0
+  recordList = 1,  // pieces are arrays of records; the joined value is a Data that holds their one array
+  plainList = 2,   // pieces are arrays of plain values; the joined value is their one array
+};
+
+// One piece as the port keeps it: `bytes` is a complete binary property list.
+struct StoredPiece {
+  std::string key;
+  Shape shape = Shape::plain;
+  std::int64_t piece = 0;
+  Bytes bytes;
+};
+
+// One step of a commit. Steps are carried out in order, all or none.
+struct StoreChange {
+  enum class Kind : std::uint8_t {
+    put,        // store `stored`, replacing the piece of the same key and number
+    drop,       // forget piece `stored.piece` of `stored.key`
+    dropKey,    // forget every piece of `stored.key`
+    dropAll,    // forget everything
+    keepAside,  // keep `stored` where nothing reads it: a value that could not be understood
+  };
+  Kind kind = Kind::put;
+  StoredPiece stored;
+};
+
+// Where the pieces live: SQLite, IndexedDB, or memory in tests.
+class StorePort {
+ public:
+  StorePort() = default;
+  StorePort(const StorePort&) = delete;
+  StorePort& operator=(const StorePort&) = delete;
+  virtual ~StorePort() = default;
+
+  // Everything that is stored, by key and then by piece.
+  virtual std::vector<StoredPiece> load() = 0;
+
+  // Makes the changes durable, all or none. An error is a plain sentence about what went wrong.
+  virtual std::expected<void, std::string> commit(std::span<const StoreChange> changes) = 0;
+};
+
+class SaveStore {
+ public:
+  // Reads everything that the port holds.
+  explicit SaveStore(StorePort& port);
+
+  [[nodiscard]] bool contains(std::string_view key) const;
+
+  // The value under the key, its pieces joined; nothing when there is none or when a piece does not decode.
+  [[nodiscard]] std::optional<plist::Value> value(std::string_view key) const;
+
+  // The stored pieces of a key, by piece number; empty when there is none. Good until the next write.
+  struct Entry {
+    Shape shape = Shape::plain;
+    std::map<std::int64_t, Bytes> pieces;
+  };
+  [[nodiscard]] const Entry* entry(std::string_view key) const;
+
+  void put(std::string_view key, const plist::Value& value);
+  void remove(std::string_view key);
+
+  // A list in pieces. `bytes` empty: the piece is gone. With `replace`, all that was stored under the key
+  // goes first. A key of another shape is always replaced.
+  struct PieceWrite {
+    std::int64_t piece = 0;
+    std::optional<Bytes> bytes;
+  };
+  void putPieces(std::string_view key, Shape shape, bool replace, std::vector<PieceWrite> writes);
+
+  // Sets aside what is stored under the key, as it is, when it can't be understood; the value itself stays
+  // until it is written over. Does nothing for a key that is not there.
+  void keepAside(std::string_view key);
+
+  // The whole store as one dictionary, keys in alphabetical order, and the way back. replace() takes any
+  // dictionary: a Data or an array comes in as one plain value and is cut into pieces when next written.
+  [[nodiscard]] plist::Dictionary dictionary() const;
+  void replace(const plist::Dictionary& values);
+
+  // True when something was written since the last successful commit.
+  [[nodiscard]] bool hasUncommitted() const { return !uncommitted_.empty(); }
+
+  // Makes all that was written since the last successful commit durable, together. On failure nothing is
+  // lost from memory: the changes stay and go with the next commit.
+  std::expected<void, std::string> commit();
+
+ private:
+  StorePort& port_;
+  std::map<std::string, Entry, std::less<>> entries_;
+  std::vector<StoreChange> uncommitted_;
+};
+
+}  // namespace tb

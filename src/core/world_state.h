@@ -1,0 +1,77 @@
+#pragma once
+
+// The one game state: a flat set of named variables and record lists, each named after the key under which
+// it is saved. Its members, how each is loaded and what a restart does to each all come from one table,
+// core/world_variables.def.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/list.h"
+#include "core/property_list.h"
+#include "core/records/records.h"
+
+namespace tb {
+
+using Int = std::int64_t;
+using Real = double;
+using Flag = bool;
+using Text = std::string;
+using Image = plist::Data;
+using IntList = List<std::int64_t>;
+using RealList = List<double>;
+using TextList = List<std::string>;
+
+struct WorldState {
+#define VARIABLE(Type, key, start, restart, load) Type key = start;
+#define RECORDS(Record, key, restart, load) List<Record> key;
+#define RUNTIME(Type, name, start, restart) Type name = start;
+#include "core/world_variables.def"
+};
+
+// When a stored value comes back into the state.
+enum class Load : std::uint8_t {
+  atStart,  // by the world load, at every start
+  lists,    // by the list loads that follow it
+  byOwner,  // only by the rule that owns it, when its screen or step needs it
+  never,    // written and never read: back to its start value at every launch
+};
+
+// A restart value of `kept` says that a restart leaves the variable as it is.
+struct Kept {};
+inline constexpr Kept kept;
+
+// The key under which a member of the state is saved.
+template <auto Member>
+inline constexpr std::string_view keyOf{};
+
+#define VARIABLE(Type, key, start, restart, load) \
+  template <>                                     \
+  inline constexpr std::string_view keyOf<&WorldState::key> = #key;
+#define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
+#define RUNTIME(Type, name, start, restart)
+#include "core/world_variables.def"
+
+// Calls visit.template operator()<Member>(start, restart, load) for every persisted row of the table, in its
+// order; `restart` is a value, or `kept`.
+template <class Visit>
+void forEachVariable(Visit&& visit) {
+#define VARIABLE(Type, key, start, restart, load) \
+  visit.template operator()<&WorldState::key>(Type(start), restart, Load::load);
+#define RECORDS(Record, key, restart, load) \
+  visit.template operator()<&WorldState::key>(List<Record>{}, restart, Load::load);
+#define RUNTIME(Type, name, start, restart)
+#include "core/world_variables.def"
+}
+
+// The same for the run-time rows, which are never saved: visit.template operator()<Member>(start, restart).
+template <class Visit>
+void forEachRuntimeVariable(Visit&& visit) {
+#define VARIABLE(Type, key, start, restart, load)
+#define RECORDS(Record, key, restart, load)
+#define RUNTIME(Type, name, start, restart) visit.template operator()<&WorldState::name>(Type(start), restart);
+#include "core/world_variables.def"
+}
+
+}  // namespace tb
