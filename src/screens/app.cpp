@@ -1,0 +1,77 @@
+#include "screens/app.h"
+
+#include <memory>
+#include <utility>
+
+#include "core/load_world.h"
+#include "screens/hub/view_controller.h"
+
+namespace tb {
+
+App::App(SaveStore& store, RandomSource& random, Locale locale)
+    : game_{.store = store, .random = random, .locale = std::move(locale)}, stage_(game_) {
+  loadWorld(game_);
+  stage_.open(std::make_unique<ViewController>());
+  endAction();
+}
+
+const view::Page& App::view() {
+  if (!laid_out_) {
+    view::Page page = stage_.top().view(game_);
+    const std::string close = stage_.top().closeLabel();
+    if (!close.empty() && stage_.depth() > 1) {
+      page.close.push_back({.label = close, .press = [](Stage& stage) { stage.close(); }});
+    }
+    if (!stage_.dialogs().empty()) page.dialog.push_back(stage_.dialogs().front());
+    laid_out_ = layOut(std::move(page), stage_);
+  }
+  return laid_out_->page;
+}
+
+template <class Kind, class... Values>
+void App::use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&... values) {
+  view();
+  if (handle < 1 || static_cast<std::size_t>(handle) > laid_out_->uses.size()) return;
+  const Kind operation = laid_out_->uses[static_cast<std::size_t>(handle) - 1].*kind;
+  if (!operation) return;
+  operation(stage_, values...);
+  endAction();
+}
+
+void App::press(view::Handle handle) { use(handle, &LaidOutPage::Use::press); }
+void App::type(view::Handle handle, const std::string& text) { use(handle, &LaidOutPage::Use::type, text); }
+void App::slide(view::Handle handle, double value) { use(handle, &LaidOutPage::Use::slide, value); }
+
+void App::tick(double seconds) {
+  stage_.top().tick(stage_, seconds);
+  endAction();
+}
+
+void App::back() {
+  const auto& close = view().close;
+  if (!close.empty()) press(close.front().handle);
+}
+
+void App::savingFailed(const std::string& why) {
+  if (!told_of_failure_) {
+    stage_.show(Notice{.title = "💾 Not Saved 💾",
+                       .message = "The game can't save right now: " + why +
+                                  "\n\nYou can play on. Nothing is lost while the game stays open, and it tries "
+                                  "again after each thing you do."});
+  }
+  told_of_failure_ = true;
+  laid_out_.reset();
+}
+
+void App::endAction() {
+  stage_.settle();
+  laid_out_.reset();
+  if (!game_.store.hasUncommitted()) return;
+  if (const auto saved = game_.store.commit(); saved) {
+    told_of_failure_ = false;
+  } else {
+    savingFailed(saved.error());
+  }
+}
+
+}  // namespace tb

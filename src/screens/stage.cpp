@@ -1,0 +1,60 @@
+#include "screens/stage.h"
+
+#include "week/end_week.h"
+
+namespace tb {
+
+void Stage::open(std::unique_ptr<Screen> screen) {
+  Screen& opened = *screen;
+  screens_.push_back({std::move(screen)});
+  opened.load(*this);
+}
+
+void Stage::close() {
+  if (screens_.size() < 2) return;
+  screens_.back().screen->leave(*this);
+  left_.push_back(std::move(screens_.back().screen));
+  screens_.pop_back();
+  screens_.back().appeared = false;
+}
+
+void Stage::show(Notice notice) { ask(std::move(notice), {{.label = "OK", .weight = view::Button::Weight::primary}}); }
+
+void Stage::show(Refusal refusal) {
+  if (refusal) show(std::move(*refusal));
+}
+
+void Stage::ask(Notice question, std::vector<view::Button> answers) {
+  for (view::Button& answer : answers) {
+    answer.press = [press = std::move(answer.press)](Stage& stage) {
+      stage.dismiss();
+      if (press) press(stage);
+    };
+  }
+  dialogs_.push_back({std::move(question.title), std::move(question.message), std::move(answers)});
+}
+
+void Stage::dismiss() {
+  if (!dialogs_.empty()) dialogs_.erase(dialogs_.begin());
+}
+
+void Stage::worldChanged() { refreshHub(game_, HubRefresh::worldChanged); }
+
+void Stage::settle() {
+  // Appearing may open a further screen, which then appears in its turn.
+  while (!screens_.empty() && !screens_.back().appeared) {
+    screens_.back().appeared = true;
+    screens_.back().screen->appear(*this);
+  }
+  left_.clear();
+}
+
+std::size_t Stage::listPage(const std::string& key) const {
+  const auto& pages = screens_.back().list_pages;
+  const auto found = pages.find(key);
+  return found == pages.end() ? 0 : found->second;
+}
+
+void Stage::turnList(const std::string& key, std::size_t page) { screens_.back().list_pages[key] = page; }
+
+}  // namespace tb

@@ -1,0 +1,89 @@
+#pragma once
+
+// What the screens stand on: the game, the stack of screens, and the notices over them.
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/game.h"
+#include "core/notice.h"
+#include "screens/view.h"
+
+namespace tb {
+
+// A screen says what it shows and offers the player's operations. It holds no rule: an operation calls the
+// rule and shows what the rule answers.
+class Screen {
+ public:
+  Screen() = default;
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
+  virtual ~Screen() = default;
+
+  virtual void load(Stage&) {}           // once, as it is opened
+  virtual void appear(Stage&) {}         // each time it comes to the top, at the end of the player's action
+  virtual void leave(Stage&) {}          // as the player closes it
+  virtual void tick(Stage&, double) {}   // seconds that passed while it was on top
+
+  // The screen as it is now. Its operations may work on the screen itself, which outlives its page.
+  [[nodiscard]] virtual view::Page view(const Game& game) = 0;
+
+  // What the way back is called; empty for a screen that cannot be left by it.
+  [[nodiscard]] virtual std::string closeLabel() const { return "Back"; }
+};
+
+class Stage {
+ public:
+  explicit Stage(Game& game) : game_(game) {}
+
+  [[nodiscard]] Game& game() const { return game_; }
+
+  // Opens a screen over the one on top. It loads at once and appears when the action ends.
+  void open(std::unique_ptr<Screen> screen);
+
+  // Leaves the screen on top for the one below, which appears again. The first screen stays.
+  void close();
+
+  // Shows a notice with the one answer "OK". An empty refusal shows nothing.
+  void show(Notice notice);
+  void show(Refusal refusal);
+
+  // Asks before something is done; `answers` run their operation after the question is gone. An answer
+  // without an operation just ends the question.
+  void ask(Notice question, std::vector<view::Button> answers);
+
+  // Takes the notice on top away; does nothing when there is none.
+  void dismiss();
+
+  // Says that a screen changed the state of the game: the hub refreshes, and with it the year.
+  void worldChanged();
+
+  // Lets screens that came to the top appear. Ends every action.
+  void settle();
+
+  [[nodiscard]] Screen& top() const { return *screens_.back().screen; }
+  [[nodiscard]] std::size_t depth() const { return screens_.size(); }
+  [[nodiscard]] const std::vector<view::Dialog>& dialogs() const { return dialogs_; }
+
+  // How far the player has paged through a list of the screen on top, in pages from 0.
+  [[nodiscard]] std::size_t listPage(const std::string& key) const;
+  void turnList(const std::string& key, std::size_t page);
+
+ private:
+  struct Standing {
+    std::unique_ptr<Screen> screen;
+    bool appeared = false;
+    std::map<std::string, std::size_t> list_pages = {};
+  };
+
+  Game& game_;
+  std::vector<Standing> screens_;
+  std::vector<std::unique_ptr<Screen>> left_;  // closed during this action; their operation may still run
+  std::vector<view::Dialog> dialogs_;
+};
+
+}  // namespace tb

@@ -1,0 +1,259 @@
+#pragma once
+
+// The view vocabulary: what a screen is made of. A screen says what things are; a shell decides how they
+// look. Nothing here draws, and nothing here knows a rule.
+//
+// A page is built anew after every action of the player. Operations stand in the nodes themselves; laying a
+// page out (screens/layout.h) numbers them, and a shell hands the number of what the player used back to the
+// App.
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tb {
+
+class Stage;  // what an operation works on: the game and the stack of screens (screens/stage.h)
+
+// What happens when the player presses, types or slides.
+using Operation = std::function<void(Stage&)>;
+using TextOperation = std::function<void(Stage&, const std::string&)>;
+using NumberOperation = std::function<void(Stage&, double)>;
+
+}  // namespace tb
+
+namespace tb::view {
+
+// The number under which a laid-out page knows an operation; 0 where there is none, or it is off.
+using Handle = int;
+
+// What a text or figure says about itself; a shell tints by it and a screen reader hears it from the words.
+enum class Tone : std::uint8_t {
+  plain,
+  quiet,    // of less weight: captions, hints
+  good,     // gain, success
+  warning,  // expenses, losses, danger
+  accent,
+};
+
+// The band of a 0 to 100 score: below 25, 25 to 49, 50 to 79, 80 and above.
+enum class Band : std::uint8_t { poor, fair, good, great };
+
+enum class PictureKind : std::uint8_t { avatar, poster, logo, house, vehicle, card, photo, icon };
+
+// Drawn from its name: the same picture for the same name, every time, everywhere.
+struct Picture {
+  PictureKind kind = PictureKind::photo;
+  std::string name;
+  std::string description;  // for those who do not see it; empty when the text beside it says the same
+};
+
+struct Text {
+  enum class Style : std::uint8_t { body, large, caption, quotation };
+  std::string text;  // "\n" breaks the line
+  Style style = Style::body;
+  Tone tone = Tone::plain;
+};
+
+// A figure that is worth a large number.
+struct StatTile {
+  std::string label;
+  std::string value;  // formatted
+  std::string detail;
+  Tone tone = Tone::plain;
+};
+
+// Tiles that belong side by side.
+struct Tiles {
+  std::vector<StatTile> tiles;
+};
+
+// How much of something is there: energy, progress, a score.
+struct Meter {
+  std::string label;
+  double value = 0;    // 0 to maximum; a value above it fills the meter
+  double maximum = 100;
+  std::string text;    // the figure in words, such as "72 of 100"
+  bool isScore = false;  // a score from 0 to 100: tinted by its band
+};
+
+// Stars out of `outOf`, halves included.
+struct Stars {
+  std::string label;
+  double value = 0;
+  int outOf = 5;
+};
+
+struct Button {
+  std::string label;
+  Operation press;
+  std::string price;   // formatted, empty when it costs nothing
+  std::string offReason;  // not empty: the button is off, and this is why
+  enum class Weight : std::uint8_t { normal, primary, quiet, destructive };
+  Weight weight = Weight::normal;
+  Handle handle = 0;
+};
+
+// Buttons that stand side by side.
+struct Buttons {
+  std::vector<Button> buttons;
+};
+
+// One line of a list: what, how much, and where a press leads.
+struct Row {
+  std::string label;
+  std::string value;
+  std::string detail;
+  std::vector<Picture> picture;  // none or one
+  Tone tone = Tone::plain;
+  Operation press;  // may be empty
+  Handle handle = 0;
+};
+
+struct Field {
+  std::string label;
+  std::string value;
+  TextOperation type;
+  std::string hint;
+  int maximumLength = 80;  // in characters
+  bool severalLines = false;
+  Handle handle = 0;
+};
+
+struct Slider {
+  std::string label;
+  double value = 0;
+  double minimum = 0;
+  double maximum = 100;
+  double step = 1;
+  std::string text;  // the value as the player reads it
+  NumberOperation slide;
+  Handle handle = 0;
+};
+
+// One or several of a few options; pressing an option runs its operation.
+struct Choice {
+  struct Option {
+    std::string label;
+    bool chosen = false;
+    Operation press;
+    std::vector<Picture> picture = {};  // none or one
+    Handle handle = 0;
+  };
+  std::string label;
+  std::vector<Option> options;
+  bool several = false;  // any number may be chosen, else exactly one
+};
+
+struct Chart {
+  enum class Kind : std::uint8_t { line, bar, pie, histogram };
+  struct Point {
+    std::string label;  // of the place on the axis, or of the slice
+    double value = 0;
+    std::string text;   // the value in the game's number style
+  };
+  struct Tick {
+    double value = 0;
+    std::string text;
+  };
+  Kind kind = Kind::line;
+  std::string title;
+  std::vector<Point> points;
+  std::vector<Tick> scale;  // of the value axis, lowest first; none for a pie
+  std::string summary;      // what the chart shows, in a sentence or two
+};
+
+struct Bubble {
+  std::string speaker;
+  std::string text;
+  bool mine = false;  // said by the player
+};
+
+struct TimelineEntry {
+  std::string when;
+  std::string text;
+};
+
+// Time that runs while the player looks; App::tick moves it.
+struct Countdown {
+  std::string label;
+  double secondsLeft = 0;
+  double secondsInAll = 0;
+};
+
+struct Node;
+
+struct Section {
+  std::string heading;
+  std::vector<Node> nodes;
+};
+
+struct Card {
+  std::string title;
+  std::string subtitle;
+  std::vector<Picture> picture;  // none or one
+  std::vector<Node> nodes;
+  Operation press;  // the whole card, may be empty
+  Handle handle = 0;
+};
+
+// A card that is answered with one of two buttons, or by pushing it aside.
+struct SwipeCard {
+  Card card;
+  Button left;
+  Button right;
+};
+
+// A list of any length. Only the nodes that are on show are made.
+struct PagedList {
+  std::string key;  // tells the lists of one screen apart, so that each keeps its place when drawn again
+  std::size_t size = 0;
+  std::function<Node(std::size_t index)> nodeAt;
+  std::string whenEmpty;  // a sentence in place of an empty list
+  std::size_t pageLength = 20;
+};
+
+// What a PagedList is laid out as: the rows on show and the ways on and back.
+struct ListPage {
+  std::vector<Node> nodes;
+  std::string position;       // "21–40 of 312"; empty when all is on show
+  std::vector<Button> turns;  // none, or the ways back and on
+};
+
+struct Node {
+  std::variant<Text, Tiles, Meter, Stars, Button, Buttons, Row, Field, Slider, Choice, Chart, Picture, Bubble,
+               TimelineEntry, Countdown, Section, Card, SwipeCard, PagedList, ListPage>
+      node;
+  template <class T>
+  Node(T kind) : node(std::move(kind)) {}
+};
+
+// A way to another screen that is always in reach: tabs at the bottom, icons at the top right.
+struct Tab {
+  std::string label;
+  std::string icon;  // one emoji or letter
+  bool current = false;
+  Operation press;
+  Handle handle = 0;
+};
+
+// A message over the page; it has to be answered before anything else.
+struct Dialog {
+  std::string title;
+  std::string message;
+  std::vector<Button> answers;
+};
+
+struct Page {
+  std::string title;
+  std::string subtitle;
+  std::vector<Tab> icons;  // at the top right
+  std::vector<Node> nodes;
+  std::vector<Tab> tabs;
+  std::vector<Button> close;   // none or one: the way back, filled in by the App for screens that can be left
+  std::vector<Dialog> dialog;  // none or one
+};
+
+}  // namespace tb::view
