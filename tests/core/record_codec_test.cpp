@@ -77,6 +77,17 @@ TEST(RecordCodec, AListIsAnArrayOfDictionariesInTheOrderOfTheRecord) {
   EXPECT_EQ(*full.find("soldOut"), (Value{Array{Value{true}, Value{false}, Value{true}}}));
 }
 
+TEST(RecordCodec, ALongListThatRepeatsItselfIsStillRead) {
+  SampleRecord record;
+  record.title = std::string(2'000, 't');
+  record.genres = {record.title};
+  const std::vector<SampleRecord> list(52'000, record);
+  const auto read = decodeRecords<SampleRecord>(encode(list));
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->size(), list.size());
+  EXPECT_EQ(read->back(), record);
+}
+
 TEST(RecordCodec, PlainListsAreArrays) {
   const std::deque<std::string> lines{"one", "two", "one"};
   const Bytes file = encodeValues<std::string>(lines.begin(), lines.end());
