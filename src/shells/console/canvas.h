@@ -20,7 +20,8 @@ struct Surface {
 
 class Canvas {
  public:
-  explicit Canvas(const Surface& surface) : glyphs_(console::glyphs(surface.blocks)), columns_(surface.columns) {}
+  explicit Canvas(const Surface& surface)
+      : glyphs_(console::glyphs(surface.blocks)), columns_(surface.columns) {}
 
   [[nodiscard]] const Glyphs& glyphs() const { return glyphs_; }
   [[nodiscard]] int columns() const { return columns_; }
@@ -33,7 +34,8 @@ class Canvas {
   void text(std::string_view text, Ink ink, std::string margin = "", int hang = 0);
 
   // "label ........ value", on two lines or more when they do not fit one.
-  void leader(std::string_view label, std::string_view value, Ink label_ink, Ink value_ink, std::string margin = "");
+  void leader(std::string_view label, std::string_view value, Ink label_ink, Ink value_ink,
+              std::string margin = "");
 
   // Things that stand side by side, on as many lines as they need.
   void flow(const std::vector<Runs>& items, int gap = 3);

@@ -15,8 +15,8 @@ namespace {
 using view::Chart;
 
 constexpr int plotRows = 8;
-constexpr int widestPlotPoint = 6;     // columns of one point when there are few
-constexpr std::size_t mostBars = 16;   // more are drawn as a plot
+constexpr int widestPlotPoint = 6;    // columns of one point when there are few
+constexpr std::size_t mostBars = 16;  // more are drawn as a plot
 constexpr int widestBar = 40;
 
 double orZero(double value) { return std::isfinite(value) ? value : 0; }
@@ -40,7 +40,8 @@ void drawBars(Canvas& canvas, const std::vector<Bar>& bars) {
   const int width = std::clamp(canvas.width() - label_width - text_width - 3, 4, widestBar);
   for (const Bar& drawn : bars) {
     const std::string label = fitted(drawn.label, std::max(4, label_width));
-    const std::string full = repeated(canvas.glyphs().full, static_cast<int>(std::lround(drawn.share * width)));
+    const std::string full =
+        repeated(canvas.glyphs().full, static_cast<int>(std::lround(drawn.share * width)));
     canvas.line({{label + repeated(" ", label_width - columnsOf(label) + 1)},
                  {full, Ink::accent},
                  {repeated(" ", width - columnsOf(full) + 1) + drawn.text}});
@@ -85,8 +86,9 @@ class Plot {
   void draw() {
     for (int row = plotRows - 1; row >= 0; --row) drawRow(row);
     const int width = static_cast<int>(values_.size()) * point_width_;
-    canvas_.line({{repeated(" ", label_width_ + 1)},
-                  {std::string(canvas_.glyphs().origin) + repeated(canvas_.glyphs().ground, width), Ink::quiet}});
+    canvas_.line(
+        {{repeated(" ", label_width_ + 1)},
+         {std::string(canvas_.glyphs().origin) + repeated(canvas_.glyphs().ground, width), Ink::quiet}});
     drawPlaces(width);
   }
 
@@ -161,7 +163,9 @@ class Plot {
       const std::string& last = chart_.points.back().label;
       names += chart_.points.front().label;
       if (values_.size() > 1) {
-        names += repeated(" ", std::max(2, width - columnsOf(chart_.points.front().label) - columnsOf(last))) + last;
+        names +=
+            repeated(" ", std::max(2, width - columnsOf(chart_.points.front().label) - columnsOf(last))) +
+            last;
       }
     }
     if (names.find_first_not_of(' ') != std::string::npos) canvas_.line({{names, Ink::quiet}});
@@ -193,8 +197,12 @@ void drawChart(Canvas& canvas, const Chart& chart) {
   if (!chart.title.empty()) canvas.text(chart.title, Ink::strong);
   if (!chart.points.empty()) {
     switch (chart.kind) {
-      case Chart::Kind::pie: drawShares(canvas, chart); break;
-      case Chart::Kind::line: Plot(canvas, chart).draw(); break;
+      case Chart::Kind::pie:
+        drawShares(canvas, chart);
+        break;
+      case Chart::Kind::line:
+        Plot(canvas, chart).draw();
+        break;
       case Chart::Kind::bar:
       case Chart::Kind::histogram:
         if (chart.points.size() > mostBars) {

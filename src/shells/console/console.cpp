@@ -24,9 +24,9 @@ constexpr std::string_view help =
     "b       goes back        ?  shows this        q  leaves; everything is saved\n"
     "[-] is off, and the line below it tells why.";
 constexpr std::string_view clearWord = "-";
-constexpr double repaintEvery = 1;   // seconds, while a countdown runs in a window
-constexpr int fewestScrolled = 3;    // lines that a window shows of a long page, however low it is
-constexpr std::size_t overlap = 1;   // lines of the last screenful that stay in view when scrolling on
+constexpr double repaintEvery = 1;  // seconds, while a countdown runs in a window
+constexpr int fewestScrolled = 3;   // lines that a window shows of a long page, however low it is
+constexpr std::size_t overlap = 1;  // lines of the last screenful that stay in view when scrolling on
 constexpr std::size_t longestNumber = 9;
 
 struct Command {
@@ -36,7 +36,8 @@ struct Command {
 
 Command commandIn(const std::string& line) {
   const std::size_t digits = std::min(line.find_first_not_of("0123456789"), line.size());
-  const bool is_number = digits > 0 && digits <= longestNumber && (digits == line.size() || line[digits] == ' ');
+  const bool is_number =
+      digits > 0 && digits <= longestNumber && (digits == line.size() || line[digits] == ' ');
   if (!is_number) return {.words = line};
   view::Handle number = 0;
   std::from_chars(line.data(), line.data() + digits, number);
@@ -117,9 +118,12 @@ bool Console::obey(const Input& input) {
 bool Console::use(view::Handle handle, const std::string& words) {
   const Target target = page_.targets.at(handle);
   switch (target.kind) {
-    case Target::Kind::field: return type(handle, target, words);
-    case Target::Kind::slider: return slide(handle, target, words);
-    case Target::Kind::button: break;
+    case Target::Kind::field:
+      return type(handle, target, words);
+    case Target::Kind::slider:
+      return slide(handle, target, words);
+    case Target::Kind::button:
+      break;
   }
   if (words.empty()) {
     app_.press(handle);
@@ -188,8 +192,7 @@ std::optional<std::string> Console::ask(const std::string& question) {
 }
 
 std::optional<std::string> Console::askForSeveralLines(const Target& field) {
-  std::string question =
-      std::format("{} (an empty line ends it, {} clears it)\n: ", field.label, clearWord);
+  std::string question = std::format("{} (an empty line ends it, {} clears it)\n: ", field.label, clearWord);
   std::string text;
   for (;;) {
     const std::optional<std::string> line = ask(question);

@@ -28,10 +28,10 @@ struct Input {
 class ConsolePort {
  public:
   struct Shape {
-    int columns = 80;       // of a line
-    int rows = 0;           // of a window that is painted over and over; 0: lines just follow each other
+    int columns = 80;  // of a line
+    int rows = 0;      // of a window that is painted over and over; 0: lines just follow each other
     bool colours = false;
-    bool blocks = false;    // has the block and line characters
+    bool blocks = false;  // has the block and line characters
   };
 
   ConsolePort() = default;

@@ -38,13 +38,20 @@ constexpr Glyphs blockGlyphs{.full = "█",
 // The terminal's own palette, so that the player's choice of dark or light holds.
 std::string_view startOf(Ink ink) {
   switch (ink) {
-    case Ink::plain: return "";
-    case Ink::quiet: return "\x1b[2m";
-    case Ink::good: return "\x1b[32m";
-    case Ink::warning: return "\x1b[31m";
-    case Ink::accent: return "\x1b[1;36m";
-    case Ink::strong: return "\x1b[1m";
-    case Ink::inverse: return "\x1b[7m";
+    case Ink::plain:
+      return "";
+    case Ink::quiet:
+      return "\x1b[2m";
+    case Ink::good:
+      return "\x1b[32m";
+    case Ink::warning:
+      return "\x1b[31m";
+    case Ink::accent:
+      return "\x1b[1;36m";
+    case Ink::strong:
+      return "\x1b[1m";
+    case Ink::inverse:
+      return "\x1b[7m";
   }
   std::unreachable();
 }
@@ -64,11 +71,16 @@ std::string onOneLine(std::string_view text) {
 
 Ink inkOf(view::Tone tone) {
   switch (tone) {
-    case view::Tone::plain: return Ink::plain;
-    case view::Tone::quiet: return Ink::quiet;
-    case view::Tone::good: return Ink::good;
-    case view::Tone::warning: return Ink::warning;
-    case view::Tone::accent: return Ink::accent;
+    case view::Tone::plain:
+      return Ink::plain;
+    case view::Tone::quiet:
+      return Ink::quiet;
+    case view::Tone::good:
+      return Ink::good;
+    case view::Tone::warning:
+      return Ink::warning;
+    case view::Tone::accent:
+      return Ink::accent;
   }
   std::unreachable();
 }

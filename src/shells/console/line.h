@@ -20,14 +20,14 @@ enum class Ink : std::uint8_t { plain, quiet, good, warning, accent, strong, inv
 // The characters that drawings are made of: ASCII alone, or with the block and line characters that a UTF-8
 // terminal has.
 struct Glyphs {
-  std::string_view full;            // of a bar
-  std::string_view rest;            // of a bar
-  std::string_view side;            // left of what belongs to a card or a dialog
-  std::string_view corner;          // over the side
-  std::string_view rule;            // a line across the page
+  std::string_view full;    // of a bar
+  std::string_view rest;    // of a bar
+  std::string_view side;    // left of what belongs to a card or a dialog
+  std::string_view corner;  // over the side
+  std::string_view rule;    // a line across the page
   std::string_view star, halfStar, noStar;
   std::string_view axis, origin, ground;  // of a plot
-  std::string_view eighths[9];      // a cell of a plot, filled from below by 0 to 8 eighths
+  std::string_view eighths[9];            // a cell of a plot, filled from below by 0 to 8 eighths
 };
 
 [[nodiscard]] const Glyphs& glyphs(bool blocks);

@@ -20,8 +20,8 @@ constexpr std::string_view offMark = "[-]";
 constexpr int narrowestTile = 16;
 constexpr int gaugeLabelWidth = 18;
 constexpr int gaugeWidth = 24;
-constexpr int whenWidth = 14;          // of a timeline entry's "when"
-constexpr int bubbleShare = 3;         // a bubble is at most 3 quarters of the page wide
+constexpr int whenWidth = 14;                 // of a timeline entry's "when"
+constexpr int bubbleShare = 3;                // a bubble is at most 3 quarters of the page wide
 constexpr double longestCountdown = 359'999;  // seconds: 99:59:59, more is shown as that
 
 // Kinds that stand apart from what is before and after them.
@@ -32,10 +32,14 @@ constexpr bool standsApart =
 
 Ink inkOf(Band band) {
   switch (band) {
-    case Band::poor: return Ink::warning;
-    case Band::fair: return Ink::plain;
-    case Band::good: return Ink::accent;
-    case Band::great: return Ink::good;
+    case Band::poor:
+      return Ink::warning;
+    case Band::fair:
+      return Ink::plain;
+    case Band::good:
+      return Ink::accent;
+    case Band::great:
+      return Ink::good;
   }
   std::unreachable();
 }
@@ -46,30 +50,43 @@ Band bandOf(double score) {
 
 Ink inkOf(Button::Weight weight) {
   switch (weight) {
-    case Button::Weight::normal: return Ink::plain;
-    case Button::Weight::primary: return Ink::strong;
-    case Button::Weight::quiet: return Ink::quiet;
-    case Button::Weight::destructive: return Ink::warning;
+    case Button::Weight::normal:
+      return Ink::plain;
+    case Button::Weight::primary:
+      return Ink::strong;
+    case Button::Weight::quiet:
+      return Ink::quiet;
+    case Button::Weight::destructive:
+      return Ink::warning;
   }
   std::unreachable();
 }
 
 std::string_view nameOf(PictureKind kind) {
   switch (kind) {
-    case PictureKind::avatar: return "Portrait";
-    case PictureKind::poster: return "Poster";
-    case PictureKind::logo: return "Logo";
-    case PictureKind::house: return "House";
-    case PictureKind::vehicle: return "Vehicle";
-    case PictureKind::card: return "Card";
-    case PictureKind::photo: return "Photo";
-    case PictureKind::icon: return "Icon";
+    case PictureKind::avatar:
+      return "Portrait";
+    case PictureKind::poster:
+      return "Poster";
+    case PictureKind::logo:
+      return "Logo";
+    case PictureKind::house:
+      return "House";
+    case PictureKind::vehicle:
+      return "Vehicle";
+    case PictureKind::card:
+      return "Card";
+    case PictureKind::photo:
+      return "Photo";
+    case PictureKind::icon:
+      return "Icon";
   }
   std::unreachable();
 }
 
 std::string inWords(const Picture& picture) {
-  return picture.description.empty() ? "" : std::format("({}: {})", nameOf(picture.kind), picture.description);
+  return picture.description.empty() ? ""
+                                     : std::format("({}: {})", nameOf(picture.kind), picture.description);
 }
 
 std::string inWords(const std::vector<Picture>& pictures) {
@@ -148,9 +165,15 @@ void NodePainter::several(const std::vector<Node>& nodes) {
 
 void NodePainter::kind(const Text& text) {
   switch (text.style) {
-    case Text::Style::body: canvas_.text(text.text, inkOf(text.tone)); break;
-    case Text::Style::large: canvas_.text(text.text, text.tone == Tone::plain ? Ink::strong : inkOf(text.tone)); break;
-    case Text::Style::caption: canvas_.text(text.text, text.tone == Tone::plain ? Ink::quiet : inkOf(text.tone)); break;
+    case Text::Style::body:
+      canvas_.text(text.text, inkOf(text.tone));
+      break;
+    case Text::Style::large:
+      canvas_.text(text.text, text.tone == Tone::plain ? Ink::strong : inkOf(text.tone));
+      break;
+    case Text::Style::caption:
+      canvas_.text(text.text, text.tone == Tone::plain ? Ink::quiet : inkOf(text.tone));
+      break;
     case Text::Style::quotation:
       canvas_.nested("> ", [&] { canvas_.text(text.text, inkOf(text.tone)); });
       break;
@@ -160,7 +183,8 @@ void NodePainter::kind(const Text& text) {
 void NodePainter::kind(const Tiles& tiles) {
   std::vector<Runs> stacks;
   for (const StatTile& tile : tiles.tiles) {
-    Runs stack{{tile.label, Ink::quiet}, {tile.value, tile.tone == Tone::plain ? Ink::strong : inkOf(tile.tone)}};
+    Runs stack{{tile.label, Ink::quiet},
+               {tile.value, tile.tone == Tone::plain ? Ink::strong : inkOf(tile.tone)}};
     if (!tile.detail.empty()) stack.push_back({tile.detail, Ink::quiet});
     stacks.push_back(std::move(stack));
   }
@@ -239,7 +263,9 @@ void NodePainter::kind(const TimelineEntry& entry) {
   std::string when = entry.when + repeated(" ", whenWidth - columnsOf(entry.when));
   const int width = canvas_.width() - whenWidth - 2;
   for (std::string& part : wrapped(entry.text, std::max(1, width))) {
-    canvas_.line({{std::move(when), Ink::accent}, {std::string(canvas_.glyphs().side), Ink::quiet}, {std::move(part)}});
+    canvas_.line({{std::move(when), Ink::accent},
+                  {std::string(canvas_.glyphs().side), Ink::quiet},
+                  {std::move(part)}});
     when = repeated(" ", whenWidth);
   }
 }
@@ -270,7 +296,8 @@ void NodePainter::kind(const Buttons& buttons) {
 
 void NodePainter::kind(const Row& row) {
   const std::string mark = targets_.add(row.handle, {.label = row.label});
-  canvas_.leader(row.label, row.value, row.tone == Tone::quiet ? Ink::quiet : Ink::plain, inkOf(row.tone), mark);
+  canvas_.leader(row.label, row.value, row.tone == Tone::quiet ? Ink::quiet : Ink::plain, inkOf(row.tone),
+                 mark);
   canvas_.nested("  ", [&] {
     if (!row.detail.empty()) canvas_.text(row.detail, Ink::quiet);
     if (const std::string words = inWords(row.picture); !words.empty()) canvas_.text(words, Ink::quiet);
@@ -300,7 +327,9 @@ void NodePainter::kind(const Slider& slider) {
         Ink::accent, mark);
   std::string how = range;
   if (slider.step != 1 && slider.step > 0) how += std::format(" in steps of {}", number(slider.step));
-  if (slider.handle != 0) how += std::format("; type \"{} {}\" for {}", slider.handle, number(slider.maximum), number(slider.maximum));
+  if (slider.handle != 0)
+    how +=
+        std::format("; type \"{} {}\" for {}", slider.handle, number(slider.maximum), number(slider.maximum));
   canvas_.nested("  ", [&] { canvas_.text(how, Ink::quiet); });
 }
 

@@ -36,7 +36,8 @@ std::vector<Line> head(const Page& page, const Surface& surface, Targets& target
   Canvas canvas(surface);
   drawTitle(canvas, targets, page);
   if (!page.subtitle.empty()) {
-    for (std::string& part : wrapped(page.subtitle, surface.columns)) canvas.flush({{std::move(part), Ink::quiet}});
+    for (std::string& part : wrapped(page.subtitle, surface.columns))
+      canvas.flush({{std::move(part), Ink::quiet}});
   }
   canvas.rule();
   return canvas.take();

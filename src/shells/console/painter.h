@@ -25,12 +25,12 @@ struct Target {
 };
 
 struct PaintedPage {
-  std::vector<Line> head;    // the title, the icons and the way back
+  std::vector<Line> head;  // the title, the icons and the way back
   std::vector<Line> body;
   std::vector<Line> dialog;  // over the body; empty when there is none
   std::vector<Line> foot;    // the tabs
   std::map<view::Handle, Target> targets;
-  bool counting = false;     // time runs on this page
+  bool counting = false;  // time runs on this page
 };
 
 // `page` is a laid-out one: without a PagedList, and with its handles.
