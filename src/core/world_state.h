@@ -38,9 +38,26 @@ enum class Load : std::uint8_t {
   never,    // written and never read: back to its start value at every launch
 };
 
-// A restart value of `kept` says that a restart leaves the variable as it is.
-struct Kept {};
-inline constexpr Kept kept;
+// A restart value of `kept` says that a restart leaves the variable as it is. (Made with an argument only, so
+// that `{}` in the table is always a value of the variable's own type.)
+struct Kept {
+  explicit constexpr Kept(bool) {}
+};
+inline constexpr Kept kept{true};
+
+namespace detail {
+
+// A value column of the table as a value of the row's type; `kept` stays `kept`.
+template <class Type>
+Type rowValue(Type value) {
+  return value;
+}
+template <class Type>
+Kept rowValue(Kept value) {
+  return value;
+}
+
+}  // namespace detail
 
 // The key under which a member of the state is saved.
 template <auto Member>
@@ -54,13 +71,13 @@ inline constexpr std::string_view keyOf{};
 #include "core/world_variables.def"
 
 // Calls visit.template operator()<Member>(start, restart, load) for every persisted row of the table, in its
-// order; `restart` is a value, or `kept`.
+// order; `restart` is a value of the variable's type, or `kept`.
 template <class Visit>
 void forEachVariable(Visit&& visit) {
-#define VARIABLE(Type, key, start, restart, load) \
-  visit.template operator()<&WorldState::key>(Type(start), restart, Load::load);
-#define RECORDS(Record, key, restart, load) \
-  visit.template operator()<&WorldState::key>(List<Record>{}, restart, Load::load);
+#define VARIABLE(Type, key, start, restart, load)                                                              \
+  visit.template operator()<&WorldState::key>(detail::rowValue<Type>(start), detail::rowValue<Type>(restart), \
+                                              Load::load);
+#define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
 #define RUNTIME(Type, name, start, restart)
 #include "core/world_variables.def"
 }
@@ -70,7 +87,9 @@ template <class Visit>
 void forEachRuntimeVariable(Visit&& visit) {
 #define VARIABLE(Type, key, start, restart, load)
 #define RECORDS(Record, key, restart, load)
-#define RUNTIME(Type, name, start, restart) visit.template operator()<&WorldState::name>(Type(start), restart);
+#define RUNTIME(Type, name, start, restart)                                    \
+  visit.template operator()<&WorldState::name>(detail::rowValue<Type>(start), \
+                                               detail::rowValue<Type>(restart));
 #include "core/world_variables.def"
 }
 

@@ -1,6 +1,6 @@
 #include "screens/stage.h"
 
-#include "week/hub_refresh.h"
+#include "week/end_week.h"
 
 namespace tb {
 

@@ -1,0 +1,126 @@
+#include "career/classes.h"
+
+#include <algorithm>
+#include <format>
+
+#include "banks/banks.h"
+#include "core/house_notices.h"
+#include "core/log.h"
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+// The number of classes taken from which each level is open, with the level before it exhausted.
+struct TierBand {
+  std::int64_t from;
+  std::int64_t tier;
+};
+constexpr std::array<TierBand, 4> tiers = {{{39, 4}, {28, 3}, {18, 2}, {0, 1}}};
+
+constexpr std::int64_t mostOptions = 5;
+constexpr int mostDraws = 100;  // the draw of options gives up after these
+constexpr std::int64_t shortestClass = 4;  // weeks
+constexpr std::int64_t longestClass = 8;
+
+bool isTaken(const WorldState& world, std::int64_t id) {
+  return std::ranges::contains(world.saveAllCompletedClasses, id, &ActingClass::classId);
+}
+
+std::vector<const JulliardClass*> classesOfLevel(std::int64_t level) {
+  std::vector<const JulliardClass*> pool;
+  for (const JulliardClass& row : julliardClasses) {
+    if (row.classLevel == level) pool.push_back(&row);
+  }
+  return pool;
+}
+
+ClassOption priced(RandomSource& random, const JulliardClass& row) {
+  const std::int64_t weeks = RandomBetween(random, shortestClass, longestClass);
+  const std::int64_t energy = 4 * row.classLevel + 10 + RandomRange(random, 4);
+  return {.offered = &row,
+          .weeks = weeks,
+          .cost = static_cast<double>(280 * weeks * (row.classLevel + 1) + 275),
+          .energyCost = energy};
+}
+
+}  // namespace
+
+std::int64_t classEnergy(const WorldState& world) {
+  std::int64_t energy = 0;
+  for (const ActingClass& running : world.saveAllCompletedClasses) {
+    if (running.weeksRemaining >= 1) energy += running.energyCost;
+  }
+  return energy;
+}
+
+std::int64_t classTier(const WorldState& world) {
+  const std::int64_t taken = std::ssize(world.saveAllCompletedClasses);
+  return std::ranges::find_if(tiers, [&](const TierBand& band) { return taken >= band.from; })->tier;
+}
+
+double completionPercentage(const WorldState& world) {
+  return static_cast<double>(world.saveAllCompletedClasses.size()) / static_cast<double>(julliardClasses.size());
+}
+
+std::vector<ClassOption> openClasses(Game& game) {
+  const std::vector<const JulliardClass*> pool = classesOfLevel(classTier(game.world));
+  const std::int64_t wanted = 1 + RandomRange(game.random, mostOptions);
+  std::vector<ClassOption> options;
+  for (int draw = 0; draw < mostDraws && std::ssize(options) < wanted; ++draw) {
+    const JulliardClass& row = *RandomElement<const JulliardClass*>(game.random, pool);
+    const bool offered_already = std::ranges::contains(options, &row, &ClassOption::offered);
+    if (!offered_already && !isTaken(game.world, row.id)) options.push_back(priced(game.random, row));
+  }
+  return options;
+}
+
+Refusal signUpForClass(Game& game, const ClassOption& option) {
+  WorldState& world = game.world;
+  if (isTaken(world, option.offered->id)) {
+    return Notice{.title = "🎭 Already Signed Up 🎭",
+                  .message = "You have already signed up or completed this class."};
+  }
+  // What the running classes take is asked, not what the new one will: one class too many can be begun.
+  if (classEnergy(world) > world.totalEnergyMax - world.weeklyEnergyCost) {
+    return Notice{.title = "⚡️ Not Enough Weekly Energy ⚡️",
+                  .message = std::format("You do not have enough energy each week to sign up for this class. You "
+                                         "are currently losing -{} energy each week.",
+                                         classEnergy(world) + world.weeklyEnergyCost)};
+  }
+  if (world.totalCashAvailable < option.cost) {
+    return notEnoughCash("You do not have enough cash for the is class.");
+  }
+
+  world.totalCashAvailable -= option.cost;
+  world.saveAllCompletedClasses.push_back({.classId = option.offered->id,
+                                           .energyCost = option.energyCost,
+                                           .weeksTotal = option.weeks,
+                                           .weeksRemaining = option.weeks,
+                                           .experience = option.offered->percentage,
+                                           .level = option.offered->classLevel,
+                                           .cost = static_cast<std::int64_t>(option.cost),
+                                           .yearStarted = world.yearNumber});
+  logActivity(world, fill(drawRow(game.random, Bank::classSignUp), {{"title", option.offered->title},
+                                                                    {"code", option.offered->classCode},
+                                                                    {"weeks", std::to_string(option.weeks)}}));
+  save<&WorldState::totalCashAvailable, &WorldState::saveAllCompletedClasses, &WorldState::activityTracker>(game);
+  return {};
+}
+
+void advanceClasses(Game& game) {
+  WorldState& world = game.world;
+  for (std::size_t index = 0; index < world.saveAllCompletedClasses.size(); ++index) {
+    if (world.saveAllCompletedClasses[index].weeksRemaining < 1) continue;
+    ActingClass& running = world.saveAllCompletedClasses.edit(index);
+    running.weeksRemaining -= 1;
+    if (running.weeksRemaining > 0) continue;
+    const JulliardClass* finished = classWithId(running.classId);
+    logLine(world, std::format("You finished Drama {}", finished == nullptr ? "" : finished->classCode));
+    world.experience += running.experience;
+  }
+  save<&WorldState::saveAllCompletedClasses, &WorldState::experience, &WorldState::activityTracker>(game);
+}
+
+}  // namespace tb

@@ -1,0 +1,21 @@
+#include "career/job_contract.h"
+
+#include "core/save.h"
+
+namespace tb {
+
+void advanceJobContract(Game& game) {
+  WorldState& world = game.world;
+  if (world.weeklyJobContractRemaining < 1) {
+    world.weeklyJobIncome = 0;
+    world.weeklyEnergyCost = 0;
+    world.weeklyJobTitle.clear();
+  } else {
+    world.weeklyJobContractRemaining -= 1;
+    if (world.weeklyJobContractRemaining == 0) world.WeekFeed.push_back("The contract for your job has ended");
+  }
+  save<&WorldState::weeklyJobContractRemaining, &WorldState::weeklyJobTitle, &WorldState::totalCashAvailable,
+       &WorldState::weeklyJobIncome, &WorldState::weeklyEnergyCost>(game);
+}
+
+}  // namespace tb

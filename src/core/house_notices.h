@@ -1,0 +1,21 @@
+#pragma once
+
+// Refusals that many rules share, in the style of the house: a title between two emoji and one plain
+// sentence.
+
+#include <string>
+#include <utility>
+
+#include "core/notice.h"
+
+namespace tb {
+
+[[nodiscard]] inline Notice notEnoughEnergy(std::string sentence) {
+  return {.title = "⚡️ Not Enough Energy ⚡️", .message = std::move(sentence)};
+}
+
+[[nodiscard]] inline Notice notEnoughCash(std::string sentence) {
+  return {.title = "💰 Not Enough Cash 💰", .message = std::move(sentence)};
+}
+
+}  // namespace tb

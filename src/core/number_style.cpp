@@ -1,0 +1,95 @@
+#include "core/number_style.h"
+
+#include <array>
+#include <cmath>
+#include <format>
+
+namespace tb {
+
+namespace {
+
+// One row of a short form: amounts below `below` are shown divided by `unit`.
+struct ShortForm {
+  double below;
+  double unit;
+  int digits;
+  const char* suffix;
+};
+
+constexpr std::array<ShortForm, 7> moneyForms = {{
+    {.below = 1e2, .unit = 1, .digits = 2, .suffix = ""},
+    {.below = 1e3, .unit = 1, .digits = 0, .suffix = ""},
+    {.below = 1e4, .unit = 1e3, .digits = 1, .suffix = "K"},
+    {.below = 1e6, .unit = 1e3, .digits = 0, .suffix = "K"},
+    {.below = 1e8, .unit = 1e6, .digits = 1, .suffix = "M"},
+    {.below = 1e9, .unit = 1e6, .digits = 0, .suffix = "M"},
+    {.below = 1e12, .unit = 1e9, .digits = 1, .suffix = "B"},
+}};
+
+constexpr std::array<ShortForm, 4> countForms = {{
+    {.below = 1e3, .unit = 1, .digits = 0, .suffix = ""},
+    {.below = 1e6, .unit = 1e3, .digits = 1, .suffix = "K"},
+    {.below = 1e9, .unit = 1e6, .digits = 1, .suffix = "M"},
+    {.below = 1e12, .unit = 1e9, .digits = 1, .suffix = "B"},
+}};
+
+template <std::size_t Count>
+const ShortForm* formOf(const std::array<ShortForm, Count>& forms, double amount) {
+  for (const ShortForm& form : forms) {
+    if (amount < form.below) return &form;
+  }
+  return nullptr;
+}
+
+// The digits of a number that is not negative, grouped by threes, with the locale's separators.
+std::string groupedDigits(const Locale& locale, double amount, int digits) {
+  const std::string plain = std::format("{:.{}f}", amount, digits);
+  const std::size_t whole = std::min(plain.find('.'), plain.size());
+  std::string grouped;
+  for (std::size_t place = 0; place < whole; ++place) {
+    if (place > 0 && (whole - place) % 3 == 0) grouped += locale.groupSeparator;
+    grouped += plain[place];
+  }
+  if (whole < plain.size()) grouped += locale.decimalPoint + plain.substr(whole + 1);
+  return grouped;
+}
+
+std::string withSymbol(const Locale& locale, const std::string& amount) {
+  return locale.currencyBeforeAmount ? locale.currencySymbol + locale.currencyGap + amount
+                                     : amount + locale.currencyGap + locale.currencySymbol;
+}
+
+}  // namespace
+
+std::string shortMoney(const Locale& locale, double v) {
+  if (!std::isfinite(v)) return withSymbol(locale, "0");
+  if (v < 0) return "";
+  const ShortForm* form = formOf(moneyForms, v);
+  if (form == nullptr) return "";
+  return withSymbol(locale, groupedDigits(locale, v / form->unit, form->digits) + form->suffix);
+}
+
+std::string shortCount(std::int64_t n) {
+  if (n < 0) return "";
+  const ShortForm* form = formOf(countForms, static_cast<double>(n));
+  if (form == nullptr) return "";
+  return std::format("{:.{}f}{}", static_cast<double>(n) / form->unit, form->digits, form->suffix);
+}
+
+std::string currency(const Locale& locale, double amount, int digits) {
+  if (!std::isfinite(amount)) return withSymbol(locale, "0");
+  const std::string text = withSymbol(locale, groupedDigits(locale, std::abs(amount), digits));
+  return amount < 0 ? locale.minusSign + text : text;
+}
+
+std::string cash(const Locale& locale, double amount) {
+  constexpr double wholeUnitsFrom = 1000;
+  return currency(locale, amount, amount < wholeUnitsFrom ? 2 : 0);
+}
+
+std::string plainCount(const Locale& locale, std::int64_t n) {
+  const std::string digits = groupedDigits(locale, std::abs(static_cast<double>(n)), 0);
+  return n < 0 ? locale.minusSign + digits : digits;
+}
+
+}  // namespace tb

@@ -1,0 +1,96 @@
+#pragma once
+
+// Love and family.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/records/fields.h"
+
+namespace tb {
+
+// Matches::relationshipState. The partner is the first record from `dating` up.
+namespace bond {
+inline constexpr std::int64_t ended = -1;
+inline constexpr std::int64_t matched = 0;
+inline constexpr std::int64_t dating = 1;
+inline constexpr std::int64_t engaged = 2;
+inline constexpr std::int64_t married = 3;
+}  // namespace bond
+
+// Somebody met on Latch. Ended relationships stay in the list as history.
+//
+// matchId is no key: its counter starts again at every launch. A match is told by its place in the list.
+struct Matches {
+  std::int64_t matchId = 0;
+  std::string name;
+  std::string matchImage;
+  std::string matchPrompt;
+  std::string matchPromptResponse;
+  std::string matchComment;  // the line that the player sent
+  std::string occupation;
+  std::int64_t weekMatched = 0;
+  std::int64_t weekStartedDating = 0;  // 0 before it is official
+  std::int64_t weekEndedDating = -1;   // -1 while open
+  std::int64_t energyBonus = 0;        // added to totalEnergyMax while together
+  double relationshipStatus = 0;       // the meter: 100 is full, 105 the ceiling; below 0 it is over
+  std::int64_t age = 18;
+  double chemistry = 5;     // 5 and up
+  std::int64_t beauty = 5;  // this and the next three: 5 to 100
+  std::int64_t intelligence = 5;
+  std::int64_t personality = 5;
+  std::int64_t maintenance = 5;  // a pregnancy can take it above 100
+  double weeklyEarnings = 0;
+  std::int64_t igFollowers = 0;
+  std::vector<std::string> interests;
+  std::int64_t interested = 0;  // 0: is into the player; 1: rejection waits
+  std::string pickupLineResponse;
+  std::string breakupLine;             // empty until a break-up
+  std::int64_t relationshipState = 0;  // bond
+  std::int64_t timeToPropose = 52;     // weeks of dating wanted before a proposal, 52 to 152
+  std::int64_t timeToBirth = -1;       // weeks left of a pregnancy; -1 when none runs
+  bool operator==(const Matches&) const = default;
+};
+RECORD_FIELDS(Matches, matchId, name, matchImage, matchPrompt, matchPromptResponse, matchComment, occupation,
+              weekMatched, weekStartedDating, weekEndedDating, energyBonus, relationshipStatus, age,
+              chemistry, beauty, intelligence, personality, maintenance, weeklyEarnings, igFollowers,
+              interests, interested, pickupLineResponse, breakupLine, relationshipState, timeToPropose,
+              timeToBirth);
+
+struct Child {
+  std::int64_t id = 0;
+  std::string name;
+  std::int64_t gender = 0;
+  std::int64_t birthYear = 0;
+  std::int64_t birthWeek = 0;  // week of the year
+  std::int64_t birthWeekForTracking = 0;
+  std::string relationship;  // "Son" or "Daughter"
+  std::string partnerName;   // the other parent
+  std::string artistName;    // the performer
+  std::int64_t weeklyEnergyCost = 0;
+  double weeklyFinancialCost = 0;
+  std::string imageString;
+  std::string occupation;        // empty for a newborn
+  std::int64_t songWriting = 0;  // this and the next four: -10 to 10 at birth
+  std::int64_t virality = 0;
+  std::int64_t vocals = 0;
+  std::int64_t rhythm = 0;
+  std::int64_t charisma = 0;
+  std::int64_t totalEnergyMax = 0;
+  double admiration = 100;
+  double weeklyAdmirationLoss = 0;
+  std::int64_t followers = 0;
+  std::int64_t typeOfRelationship = 1;
+  std::int64_t ageofDeath = 0;  // age in years
+  std::string causeOfDeath;
+  std::vector<std::string> relationshipTracker;
+  std::string extraTwo;  // always empty
+  bool operator==(const Child&) const = default;
+};
+RECORD_FIELDS(Child, id, name, gender, birthYear, birthWeek, birthWeekForTracking, relationship, partnerName,
+              artistName, weeklyEnergyCost, weeklyFinancialCost, imageString, occupation, songWriting,
+              virality, vocals, rhythm, charisma, totalEnergyMax, admiration, weeklyAdmirationLoss, followers,
+              typeOfRelationship, ageofDeath, causeOfDeath, relationshipTracker, extraTwo);
+
+}  // namespace tb

@@ -1,0 +1,68 @@
+#pragma once
+
+// Money that titles earn, each amount dated in the week in which the summary counts it. A payout that falls
+// due while a week is ending is dated in the week that begins.
+
+#include <cstdint>
+#include <string>
+
+#include "core/records/fields.h"
+
+namespace tb {
+
+// RoyaltyPayout::typeOfPayment and EquityPayout::typeOfPayment.
+namespace payoutSource {
+inline constexpr std::int64_t boxOffice = 0;
+inline constexpr std::int64_t syndication = 1;
+}  // namespace payoutSource
+
+// Session pay, buyout or residuals of one title in one week.
+struct WeeklyEarnings {
+  std::int64_t filmId = 0;
+  std::string filmTitle;
+  std::int64_t filmType = 0;       // tb::filmType; 0 for every syndication residual
+  double sessionEarned = 0;        // net of guild dues
+  double buyoutEarned = 0;         // gross
+  double residualsEarned = 0;      // net
+  double royaltyEarned = 0;        // always 0
+  std::string earningDescription;  // always empty
+  std::int64_t yearNumber = 0;
+  std::int64_t weekNumberForTracking = 0;
+  bool operator==(const WeeklyEarnings&) const = default;
+};
+RECORD_FIELDS(WeeklyEarnings, filmId, filmTitle, filmType, sessionEarned, buyoutEarned, residualsEarned,
+              royaltyEarned, earningDescription, yearNumber, weekNumberForTracking);
+
+struct RoyaltyPayout {
+  std::int64_t id = 0;  // filmId + 100
+  std::int64_t filmId = 0;
+  std::string title;
+  std::int64_t yearNumber = 0;
+  std::int64_t weekNumberForTracking = 0;
+  double payout = 0;               // net of the agent's share
+  std::int64_t typeOfPayment = 0;  // payoutSource
+  std::int64_t sourceId = 0;       // the signed agent's id; 0 when none
+  double agentEarnings = 0;
+  double totalDealGross = 0;          // what the share was taken from
+  std::int64_t syndicationYears = 0;  // 0 for box office
+  std::string syndicationName;        // empty for box office
+  bool operator==(const RoyaltyPayout&) const = default;
+};
+RECORD_FIELDS(RoyaltyPayout, id, filmId, title, yearNumber, weekNumberForTracking, payout, typeOfPayment,
+              sourceId, agentEarnings, totalDealGross, syndicationYears, syndicationName);
+
+struct EquityPayout {
+  std::int64_t id = 0;  // filmId + 100
+  std::int64_t filmId = 0;
+  std::int64_t yearNumber = 0;
+  std::int64_t weekNumberForTracking = 0;
+  double payOut = 0;
+  std::int64_t typeOfPayment = 0;  // payoutSource
+  std::int64_t sourceId = 0;       // 3 for box office of the player's own production, else 0
+  double managerEarnings = 0;      // -1 for box office of the player's own production, else 0
+  bool operator==(const EquityPayout&) const = default;
+};
+RECORD_FIELDS(EquityPayout, id, filmId, yearNumber, weekNumberForTracking, payOut, typeOfPayment, sourceId,
+              managerEarnings);
+
+}  // namespace tb

@@ -1,0 +1,102 @@
+#pragma once
+
+// The player's streaming company and its rivals.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/records/fields.h"
+
+namespace tb {
+
+// One of the executive team. Who leaves stays in the list, and stays a shareholder.
+struct Employee {
+  static constexpr std::int64_t stillActive = -1;
+
+  std::int64_t id = 0;
+  std::string name;
+  std::int64_t salary = 0;      // dollars a week
+  std::int64_t department = 0;  // 0 technology, 1 finance, 2 operations
+  std::string imageString;
+  std::int64_t originalRating = 0;
+  std::int64_t rating = 0;
+  double motiviation = 0;
+  std::int64_t yearSigned = 0;
+  std::int64_t weekSigned = 0;
+  std::int64_t sharesOwned = 0;
+  std::int64_t energyBoost = 0;  // taken off the company's weekly energy cost
+  std::int64_t yearEnded = stillActive;
+  bool operator==(const Employee&) const = default;
+};
+RECORD_FIELDS(Employee, id, name, salary, department, imageString, originalRating, rating, motiviation,
+              yearSigned, weekSigned, sharesOwned, energyBoost, yearEnded);
+
+// A tier of technology that the company owns, one a category.
+struct StreamingTechUpgrade {
+  std::int64_t uniqueId = 0;  // 1 to 30
+  std::string title;
+  std::int64_t categoryId = 0;  // 1 to 6
+  std::string category;
+  std::int64_t tier = 0;        // 1 to 5
+  std::int64_t cost = 0;        // dollars
+  std::int64_t weeklyCost = 0;  // dollars
+  std::int64_t requiredSubscribers = 0;
+  std::string description;
+  double bonus = 0;  // rolled at purchase, on top of that of the tier replaced
+  bool operator==(const StreamingTechUpgrade&) const = default;
+};
+RECORD_FIELDS(StreamingTechUpgrade, uniqueId, title, categoryId, category, tier, cost, weeklyCost,
+              requiredSubscribers, description, bonus);
+
+// A capital raise. Open while the deadline lies ahead and nobody has invested; its shares count from then on.
+struct FundraisingRound {
+  std::int64_t id = 0;
+  double equityOffered = 0;           // a fraction
+  std::int64_t valuationOffered = 0;  // dollars
+  double cashOffered = 0;
+  std::int64_t sharesToIssue = 0;
+  double interest = 0;
+  std::vector<std::string> investorName;
+  std::vector<double> investorAmount;
+  std::vector<double> investorValuation;
+  std::int64_t weeksToClose = 0;  // the week of the deadline, in spite of its name
+  bool operator==(const FundraisingRound&) const = default;
+};
+RECORD_FIELDS(FundraisingRound, id, equityOffered, valuationOffered, cashOffered, sharesToIssue, interest,
+              investorName, investorAmount, investorValuation, weeksToClose);
+
+// RivalPlatform::status.
+namespace rivalStatus {
+inline constexpr std::int64_t trading = 0;
+inline constexpr std::int64_t acquired = 1;
+}  // namespace rivalStatus
+
+struct RivalPlatform {
+  std::int64_t id = 0;  // 0 to 6
+  std::string name;
+  std::int64_t subscribers = 0;
+  double weeklyRevenue = 0;
+  double weeklyCosts = 0;
+  double cashOnHand = 0;
+  double infrastructureValue = 0;
+  double growthRate = 0;  // a week, a fraction
+  std::int64_t sharesOutstanding = 0;
+  std::int64_t specialty = 0;        // kind of content lot it bids for, 0 to 4
+  std::vector<double> priceHistory;  // share price, newest last, 40 weeks
+  std::int64_t status = 0;           // rivalStatus
+  bool operator==(const RivalPlatform&) const = default;
+};
+RECORD_FIELDS(RivalPlatform, id, name, subscribers, weeklyRevenue, weeklyCosts, cashOnHand,
+              infrastructureValue, growthRate, sharesOutstanding, specialty, priceHistory, status);
+
+// The company's shares in a rival.
+struct RivalHolding {
+  std::int64_t rivalId = 0;
+  std::int64_t shares = 0;
+  double costBasis = 0;
+  bool operator==(const RivalHolding&) const = default;
+};
+RECORD_FIELDS(RivalHolding, rivalId, shares, costBasis);
+
+}  // namespace tb

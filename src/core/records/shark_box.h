@@ -1,0 +1,74 @@
+#pragma once
+
+// Stakes in the ventures of Shark Box. A deal's whole future is rolled when it is closed and then revealed.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/records/fields.h"
+
+namespace tb {
+
+// SharkBoxDeal::exitType.
+namespace ventureExit {
+inline constexpr std::int64_t acquired = 1;
+inline constexpr std::int64_t wentPublic = 2;
+inline constexpr std::int64_t shutDown = 3;
+}  // namespace ventureExit
+
+// SharkBoxDeal::status.
+namespace ventureStatus {
+inline constexpr std::int64_t active = 0;
+inline constexpr std::int64_t exited = 1;
+}  // namespace ventureStatus
+
+struct SharkBoxRound {
+  std::string name;  // "Seed", "Series A", ...
+  std::int64_t week = 0;
+  double valuation = 0;
+  double dilution = 0;  // fraction of the company sold in the round
+  bool isDown = false;  // valued below the round before
+  bool operator==(const SharkBoxRound&) const = default;
+};
+RECORD_FIELDS(SharkBoxRound, name, week, valuation, dilution, isDown);
+
+struct SharkBoxDeal {
+  std::int64_t id = 0;
+  std::string productName;
+  std::string tagline;
+  std::string category;
+  std::int64_t colorSeed = 0;
+  std::string founderName;
+  std::string founderTitle;
+  std::string founderMonogram;
+  std::string founderImage;
+  double askAmount = 0;
+  double askEquity = 0;  // a fraction
+  double investedAmount = 0;
+  double equity = 0;  // the player's present fraction
+  std::int64_t weekAccepted = 0;
+  std::vector<SharkBoxRound> rounds;  // the first is "Seed"
+  std::int64_t roundsResolved = 1;    // "Seed" is settled from the start
+  std::vector<double> stakeHistory;   // the stake's worth after each round that was settled later
+  std::int64_t lastOfferedRound = 0;  // place in rounds of the last one that an e-mail was sent for
+  std::int64_t exitWeek = 0;
+  std::int64_t exitType = 0;  // ventureExit
+  double exitMultiple = 0;    // of the stake's last worth
+  std::int64_t status = 0;    // ventureStatus
+  double realizedCash = 0;
+  std::int64_t weekLastViewed = 0;
+  std::int64_t modelVersion = 0;  // of the rules that rolled the future
+  double quality = 0;             // 0 to 1, never shown
+  double ttmRevenue = 0;          // of the last twelve months
+  std::int64_t growthPct = 0;
+  std::int64_t grossMargin = 0;  // percent
+  bool operator==(const SharkBoxDeal&) const = default;
+};
+RECORD_FIELDS(SharkBoxDeal, id, productName, tagline, category, colorSeed, founderName, founderTitle,
+              founderMonogram, founderImage, askAmount, askEquity, investedAmount, equity, weekAccepted,
+              rounds, roundsResolved, stakeHistory, lastOfferedRound, exitWeek, exitType, exitMultiple,
+              status, realizedCash, weekLastViewed, modelVersion, quality, ttmRevenue, growthPct,
+              grossMargin);
+
+}  // namespace tb

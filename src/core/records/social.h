@@ -1,0 +1,80 @@
+#pragma once
+
+// What reaches the player from the public: posts, e-mails, cameo sales.
+
+#include <cstdint>
+#include <string>
+
+#include "core/property_list.h"
+#include "core/records/fields.h"
+
+namespace tb {
+
+// A post that is kept: the player's own, and those that official accounts and partners send. The passing
+// crowd of the feed has the same shape and is never stored.
+struct Chirp {
+  std::int64_t id = 0;
+  std::int64_t artistId = 0;  // 0 the player, -1 the crowd; posts of the player are counted by it
+  std::string chirpName;
+  std::string message;
+  std::int64_t isPinned = 0;
+  std::int64_t weekNumberForTracking = 0;
+  std::int64_t yearNumber = 0;
+  std::int64_t commentCount = 0;
+  std::int64_t reChirpCount = 0;
+  std::int64_t likeCount = 0;
+  std::int64_t news = 0;  // 0 the player, -1 the crowd
+  std::string imageString;
+  std::int64_t typeOfAccount = 0;  // 0 the player, 3 the partner, 5 a fan, 6 a voice of the industry
+  plist::Date timestamp;           // for the label that tells hours since
+  std::int64_t filmResponse = -1;  // kind of response to a promotion; -1 when none
+  std::int64_t filmId = -1;        // the title that it speaks of; -1 when none
+  bool operator==(const Chirp&) const = default;
+};
+RECORD_FIELDS(Chirp, id, artistId, chirpName, message, isPinned, weekNumberForTracking, yearNumber,
+              commentCount, reChirpCount, likeCount, news, imageString, typeOfAccount, timestamp,
+              filmResponse, filmId);
+
+// Email::typeOfDeal.
+namespace deal {
+inline constexpr std::int64_t help = 0;  // the career's first mails; the gift among them by its id
+inline constexpr std::int64_t agent = 1;
+inline constexpr std::int64_t investment = 2;
+inline constexpr std::int64_t royalty = 3;
+inline constexpr std::int64_t franchise = 4;
+inline constexpr std::int64_t fundraise = 6;
+inline constexpr std::int64_t buyout = 7;
+inline constexpr std::int64_t sharkBox = 8;
+inline constexpr std::int64_t message = 99;  // no deal: opening it does nothing
+}  // namespace deal
+
+// In order of arrival; the inbox keeps the 20 most recent.
+struct Email {
+  static constexpr std::int64_t giftId = -100;
+
+  std::int64_t id = 0;          // random; giftId for the free gift
+  std::int64_t typeOfDeal = 0;  // deal
+  std::string title;
+  std::string message;
+  std::int64_t connectingId = -1;  // id of the agent, venture or rival that it is about; -1 when none
+  std::int64_t isAccepted = 0;
+  std::int64_t weekNumber = 0;  // week of the year
+  std::int64_t yearNumber = 0;
+  std::int64_t weekNumberForTracking = 0;
+  bool operator==(const Email&) const = default;
+};
+RECORD_FIELDS(Email, id, typeOfDeal, title, message, connectingId, isAccepted, weekNumber, yearNumber,
+              weekNumberForTracking);
+
+// One week of cameo sales.
+struct Cameos {
+  std::int64_t weekNumberForTracking = 0;
+  std::int64_t yearNumber = 0;
+  std::int64_t numberOfPurchases = 0;
+  double totalPriceEarned = 0;
+  double averageRating = 0;  // 4.5 to 5
+  bool operator==(const Cameos&) const = default;
+};
+RECORD_FIELDS(Cameos, weekNumberForTracking, yearNumber, numberOfPurchases, totalPriceEarned, averageRating);
+
+}  // namespace tb

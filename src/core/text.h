@@ -1,0 +1,27 @@
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tb {
+
+// Latin letters in capitals, those with accents included; other scripts and emoji as they are.
+[[nodiscard]] std::string upperCase(std::string_view text);
+
+// Without the white space at both ends.
+[[nodiscard]] std::string trimmed(std::string_view text);
+
+// "a", "a and b", "a, b and c".
+[[nodiscard]] std::string joinedWithAnd(std::span<const std::string> parts);
+
+// Puts values in place of the placeholders of a row: {"title", film} for "{title}". One pass: what is put in
+// is never searched again, so a performer who calls herself "{title}" breaks nothing. An unknown placeholder
+// stays as it is.
+using Filling = std::pair<std::string_view, std::string_view>;
+[[nodiscard]] std::string fill(std::string_view row, std::initializer_list<Filling> values);
+
+}  // namespace tb

@@ -1,0 +1,46 @@
+#include "life/energy.h"
+
+#include <algorithm>
+
+#include "career/classes.h"
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+// The first principal roles that run at once cost nothing; each further one costs a point a week.
+constexpr std::int64_t rolesWithoutStress = 5;
+
+std::int64_t stressOfManyRoles(const WorldState& world) {
+  const auto roles = std::ranges::count_if(world.saveAllAuditionList, [](const Audition& audition) {
+    return audition.didAct == 1 && audition.isPrincipal == 1 &&
+           (audition.funnelStage == 1 || audition.funnelStage == 2);
+  });
+  return std::max<std::int64_t>(roles, rolesWithoutStress) - rolesWithoutStress;
+}
+
+}  // namespace
+
+std::int64_t weeklyEnergyDrain(const WorldState& world) {
+  return world.childEnergyCost + world.weeklyEnergyCost + classEnergy(world) + stressOfManyRoles(world) +
+         world.platformEnergyCost;
+}
+
+void refillEnergy(Game& game) {
+  WorldState& world = game.world;
+  // Whoever holds more than the ceiling keeps the surplus, and is not refilled.
+  const std::int64_t full = std::max(world.totalEnergyMax, world.totalEnergyAvailable);
+  world.totalEnergyAvailable = std::max<std::int64_t>(full - weeklyEnergyDrain(world), 0);
+  save<&WorldState::totalEnergyAvailable>(game);
+}
+
+void ageEnergyCeiling(WorldState& world) {
+  constexpr std::int64_t lowestCeiling = 25;
+  constexpr std::int64_t ageOfDoubleLoss = 40;
+  const std::int64_t loss = world.ageCount >= ageOfDoubleLoss ? 2 : 1;
+  world.totalEnergyMax = std::max(world.totalEnergyMax - loss, lowestCeiling);
+  world.saveAgeLoss -= loss;
+}
+
+}  // namespace tb

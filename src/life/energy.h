@@ -1,0 +1,23 @@
+#pragma once
+
+// Energy, the budget of the week: `totalEnergyMax` is the ceiling, `totalEnergyAvailable` what is left, both
+// in whole points.
+
+#include <cstdint>
+
+#include "core/game.h"
+
+namespace tb {
+
+// The refill at the end of a week: sets `totalEnergyAvailable` for the coming one and writes it.
+void refillEnergy(Game& game);
+
+// What a week takes before the player does anything: children, the job, running classes, too many roles at
+// once, the platform. 0 and up.
+[[nodiscard]] std::int64_t weeklyEnergyDrain(const WorldState& world);
+
+// A birthday lowers the ceiling: by 1, from 40 on by 2. `saveAgeLoss` keeps the sum. The ceiling never falls
+// below 25, and the sum is not corrected for that floor. Writes nothing.
+void ageEnergyCeiling(WorldState& world);
+
+}  // namespace tb

@@ -1,0 +1,45 @@
+#include "wealth/market_index.h"
+
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+// How an index moves: by up to `step` either way; at or past a wall it is set just inside.
+struct Corridor {
+  double step;
+  double floor;
+  double aboveFloor;
+  double ceiling;
+  double belowCeiling;
+};
+
+constexpr Corridor realEstate = {
+    .step = 0.01, .floor = 0.5, .aboveFloor = 0.51, .ceiling = 1.5, .belowCeiling = 1.49};
+constexpr Corridor cards = {.step = 0.05, .floor = 0.3, .aboveFloor = 0.31, .ceiling = 1.5, .belowCeiling = 1.49};
+
+constexpr std::size_t weeksOfHistory = 48;
+
+void move(RandomSource& random, const Corridor& corridor, double& index, RealList& history) {
+  index += RandomUnit(random, -corridor.step, corridor.step);
+  if (index <= corridor.floor) index = corridor.aboveFloor;
+  if (index >= corridor.ceiling) index = corridor.belowCeiling;
+  const bool full = history.size() >= weeksOfHistory;
+  history.push_back(index);
+  if (full) history.pop_front();
+}
+
+}  // namespace
+
+void moveRealEstateIndex(Game& game) {
+  move(game.random, realEstate, game.world.realEstateIndex, game.world.trackRealEstateIndex);
+  save<&WorldState::realEstateIndex, &WorldState::trackRealEstateIndex>(game);
+}
+
+void moveCardIndex(Game& game) {
+  move(game.random, cards, game.world.cardIndex, game.world.trackCardIndex);
+  save<&WorldState::cardIndex, &WorldState::trackCardIndex>(game);
+}
+
+}  // namespace tb

@@ -1,0 +1,83 @@
+#include "week/end_week.h"
+
+#include "career/audition_cleanup.h"
+#include "career/classes.h"
+#include "career/job_contract.h"
+#include "core/save.h"
+#include "life/energy.h"
+#include "wealth/best_figures.h"
+#include "wealth/market_index.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t weekAfterTheLast = 53;
+
+void forgetLastWeek(WorldState& world) {
+  world.lastWeekTrackerCount = std::ssize(world.activityTracker);
+  world.weekBalanceItems.clear();
+  world.weekNetIncome = 0;
+  world.randomEventShownThisWeek = 0;
+}
+
+void advanceClock(Game& game) {
+  game.world.weekNumber += 1;
+  game.world.weekNumberForTracking += 1;
+  game.world.saveLastWeekTrackerCount = game.world.lastWeekTrackerCount;
+  save<&WorldState::saveLastWeekTrackerCount, &WorldState::weekNumber, &WorldState::weekNumberForTracking>(game);
+}
+
+void rollYearOver(WorldState& world) {
+  world.yearNumber += 1;
+  world.saveLastYTDPaycheck = world.yearToDatePaycheck;
+  world.yearToDatePaycheck = 0;
+  world.weekNumber = 1;
+  world.ageCount += 1;
+  ageEnergyCeiling(world);
+}
+
+// The best figures are put forward a few times a year. The flag that keeps it to once lives in memory only.
+void putBestFiguresForward(Game& game, HubRefresh reason) {
+  WorldState& world = game.world;
+  if (world.weekNumber < weekAfterTheLast && world.weekNumber % 10 == 0) world.leaderboardSent = false;
+  if (reason == HubRefresh::worldChanged && !world.leaderboardSent && world.weekNumber % 16 == 0) {
+    world.leaderboardSent = true;
+    keepBestFigures(game);
+  }
+}
+
+}  // namespace
+
+void endWeek(Game& game) {
+  forgetLastWeek(game.world);
+  refillEnergy(game);
+  advanceJobContract(game);
+  advanceClock(game);
+}
+
+WeekSummary openSummary(Game& game) {
+  game.world.releaseOffered = false;
+  const EndedWeek ended = endedWeek(game.world);
+  WeekSummary summary{.week = ended.week, .year = ended.year};
+  advanceClasses(game);
+  showFeed(game, summary);
+  cleanUpAuditions(game);
+  return summary;
+}
+
+void closeSummary(Game& game) {
+  keepWeeksNet(game);
+  closeActivityLog(game);
+  moveRealEstateIndex(game);
+  moveCardIndex(game);
+}
+
+void refreshHub(Game& game, HubRefresh reason) {
+  if (game.world.weekNumber >= weekAfterTheLast) rollYearOver(game.world);
+  save<&WorldState::ageCount, &WorldState::saveAgeLoss, &WorldState::yearNumber, &WorldState::yearToDatePaycheck,
+       &WorldState::saveLastYTDPaycheck, &WorldState::weekNumber, &WorldState::totalEnergyMax>(game);
+  putBestFiguresForward(game, reason);
+}
+
+}  // namespace tb

@@ -1,0 +1,46 @@
+#include "week/summary.h"
+
+#include "banks/banks.h"
+#include "core/calendar.h"
+#include "core/log.h"
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t weeksOfAYear = 52;
+constexpr std::size_t weeksOfEarnings = 52;
+
+}  // namespace
+
+EndedWeek endedWeek(const WorldState& world) {
+  if (world.weekNumber == 1) return {.week = weeksOfAYear, .year = world.yearNumber - 1};
+  return {.week = world.weekNumber - 1, .year = world.yearNumber};
+}
+
+void showFeed(Game& game, WeekSummary& summary) {
+  TextList& feed = game.world.WeekFeed;
+  summary.hasNews = !feed.empty();
+  if (!summary.hasNews) feed.push_back(drawRow(game.random, Bank::weeklyTips));
+  summary.feed.assign(feed.begin(), feed.end());
+  feed.clear();
+}
+
+void keepWeeksNet(Game& game) {
+  RealList& earnings = game.world.saveWeeklyEarnings;
+  earnings.push_back(game.world.weekNetIncome);
+  if (earnings.size() > weeksOfEarnings) earnings.pop_front();
+  save<&WorldState::saveWeeklyEarnings>(game);
+}
+
+void closeActivityLog(Game& game) {
+  WorldState& world = game.world;
+  const std::string date = dateHeading(game.locale, world.weekNumber, world.yearNumber, " ");
+  const bool something_happened = std::ssize(world.activityTracker) != world.lastWeekTrackerCount;
+  if (!something_happened) logActivity(world, "Nothing significant happened this week");
+  logActivity(world, date);
+  save<&WorldState::activityTracker>(game);
+}
+
+}  // namespace tb

@@ -1,0 +1,37 @@
+#pragma once
+
+// The report that closes a week: what it shows lives only as long as it is open.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/game.h"
+
+namespace tb {
+
+struct WeekSummary {
+  std::int64_t week = 0;  // the week that ended
+  std::int64_t year = 0;
+  bool hasNews = false;   // false: nothing happened, and the one line is a tip
+  std::vector<std::string> feed;
+};
+
+// The week that just ended, seen from the summary, when the clock already shows the new one. In the last
+// week of a year `weekNumber` is 53 and `yearNumber` still the old year.
+struct EndedWeek {
+  std::int64_t week;
+  std::int64_t year;
+};
+[[nodiscard]] EndedWeek endedWeek(const WorldState& world);
+
+// Hands the lines of `WeekFeed` over to the summary and empties it; a week without a line gives a tip.
+void showFeed(Game& game, WeekSummary& summary);
+
+// Adds the week's net to `saveWeeklyEarnings`, which keeps the newest 52, and writes it.
+void keepWeeksNet(Game& game);
+
+// Heads the week's entries of `activityTracker` with the date, and says so when there are none. Writes it.
+void closeActivityLog(Game& game);
+
+}  // namespace tb
