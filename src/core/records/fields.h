@@ -56,19 +56,10 @@ struct AnyField {
 template <std::size_t>
 using AnyFieldAt = AnyField;
 
+// Whether the aggregate takes that many initialisers: it does up to the number of its fields.
 template <class Record, std::size_t... Index>
 consteval bool takesFields(std::index_sequence<Index...>) {
   return requires { Record{AnyFieldAt<Index>{}...}; };
-}
-
-// The number of fields of an aggregate: the most initialisers that it takes.
-template <class Record, std::size_t Count = 96>
-consteval std::size_t countFields() {
-  if constexpr (Count == 0 || takesFields<Record>(std::make_index_sequence<Count>{})) {
-    return Count;
-  } else {
-    return countFields<Record, Count - 1>();
-  }
 }
 
 template <class Record, std::size_t... Index>
@@ -82,7 +73,9 @@ consteval bool inOrder(std::index_sequence<Index...>) {
 template <class Record>
 consteval bool describesWholeRecord() {
   constexpr std::size_t named = std::tuple_size_v<std::remove_cvref_t<decltype(fieldsOf<Record>)>>;
-  return named == detail::countFields<Record>() && detail::inOrder<Record>(std::make_index_sequence<named - 1>{});
+  return detail::takesFields<Record>(std::make_index_sequence<named>{}) &&
+         !detail::takesFields<Record>(std::make_index_sequence<named + 1>{}) &&
+         detail::inOrder<Record>(std::make_index_sequence<named - 1>{});
 }
 
 }  // namespace tb
