@@ -61,7 +61,7 @@ struct Value {
 enum class ReadError : std::uint8_t {
   notAPropertyList,  // no bplist00 header, or too short to hold a trailer
   badTrailer,        // sizes, counts or offsets of the trailer do not fit the file
-  badObject,         // an object runs past the end, has an unknown or unsupported marker, or names a key twice
+  badObject,         // an object runs past the end, has no known marker, or names a key twice
   badReference,      // a reference to no object, or a circle of references
   badText,           // a string that is no ASCII or UTF-16, or a key that is no string
   tooDeep,           // nested deeper than maximumDepth
