@@ -5,7 +5,8 @@
 
 namespace tb {
 
-static_assert(std::endian::native == std::endian::little, "numbers cross the boundary as they stand in memory");
+static_assert(std::endian::native == std::endian::little,
+              "numbers cross the boundary as they stand in memory");
 
 void MessageWriter::number(std::uint32_t value) {
   const auto raw = std::as_bytes(std::span(&value, 1));

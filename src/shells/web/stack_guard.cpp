@@ -1,5 +1,6 @@
 // 128-bit division comes from a compiler library that was built with stack protection; these are the two
-// names it wants. The guard is no secret here: memory outside of the game's own is out of WebAssembly's reach.
+// names it wants. The guard is no secret here: memory outside of the game's own is out of WebAssembly's
+// reach.
 
 #include <cstdint>
 
