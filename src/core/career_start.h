@@ -13,8 +13,8 @@ inline constexpr Int firstYear = 2026;
 
 // What the form holds when it is confirmed. Age and picture are not in it: they are written when chosen.
 struct NewCareerForm {
-  Text myName;
-  Text aboutDescription;
+  String myName;
+  String aboutDescription;
   Flag isMale = true;
 };
 

@@ -17,7 +17,7 @@ namespace tb {
 using Int = std::int64_t;
 using Real = double;
 using Flag = bool;
-using Text = std::string;
+using String = std::string;
 using Image = plist::Data;
 using IntList = List<std::int64_t>;
 using RealList = List<double>;

@@ -20,13 +20,13 @@
 namespace tb {
 
 template <class Record, class T>
-struct Field {
+struct RecordField {
   std::string_view name;
   T Record::* member;
   std::size_t offset;  // where it stands in the struct; only the order is of interest
 };
 
-// Specialised by RECORD_FIELDS: a tuple of Field, in the order of the struct.
+// Specialised by RECORD_FIELDS: a tuple of RecordField, in the order of the struct.
 template <class Record>
 inline constexpr auto fieldsOf = nullptr;
 
@@ -87,7 +87,7 @@ consteval bool describesWholeRecord() {
 #define TB_EXPAND_3(...) __VA_ARGS__
 #define TB_FIELD_LIST(Record, ...) __VA_OPT__(TB_EXPAND(TB_FIELD_STEP(Record, __VA_ARGS__)))
 #define TB_FIELD_STEP(Record, name, ...) \
-  ::tb::Field{#name, &Record::name, __builtin_offsetof(Record, name)} __VA_OPT__(, TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
+  ::tb::RecordField{#name, &Record::name, __builtin_offsetof(Record, name)} __VA_OPT__(, TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
 #define TB_FIELD_AGAIN() TB_FIELD_STEP
 
 // Stands in namespace tb, right after the struct.
