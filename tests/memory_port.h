@@ -48,10 +48,18 @@ class MemoryPort : public StorePort {
     using enum StoreChange::Kind;
     const StoredPiece& stored = change.stored;
     switch (change.kind) {
-      case put: pieces[{stored.key, stored.piece}] = stored; break;
-      case drop: pieces.erase({stored.key, stored.piece}); break;
-      case dropKey: std::erase_if(pieces, [&](const auto& entry) { return entry.first.first == stored.key; }); break;
-      case dropAll: pieces.clear(); break;
+      case put:
+        pieces[{stored.key, stored.piece}] = stored;
+        break;
+      case drop:
+        pieces.erase({stored.key, stored.piece});
+        break;
+      case dropKey:
+        std::erase_if(pieces, [&](const auto& entry) { return entry.first.first == stored.key; });
+        break;
+      case dropAll:
+        pieces.clear();
+        break;
       case keepAside:
         if (!std::ranges::contains(keptAside, stored)) keptAside.push_back(stored);
     }

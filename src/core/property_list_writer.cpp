@@ -35,7 +35,9 @@ void putBigEndian(std::byte* at, std::uint64_t value, std::size_t size) {
 
 }  // namespace
 
-Writer::Writer() : table_(1024, Slot{0, noObject}) {
+Writer::Writer() : table_(256, Slot{0, noObject}) {
+  integers_.fill({0, noObject});
+  reals_.fill({0, noObject});
   std::memcpy(grow(format::header.size()), format::header.data(), format::header.size());
 }
 
@@ -45,20 +47,20 @@ std::byte* Writer::grow(std::size_t size) {
   return file_.data() + start;
 }
 
-void Writer::addNumber(std::uint8_t marker, std::uint64_t bits, std::size_t size) {
+void Writer::writeNumber(std::uint8_t marker, std::uint64_t bits, std::size_t size) {
   std::byte* at = grow(1 + size);
   at[0] = static_cast<std::byte>(marker);
   putBigEndian(at + 1, bits, size);
 }
 
-void Writer::addCount(std::uint8_t marker, std::uint64_t count) {
+void Writer::writeCount(std::uint8_t marker, std::uint64_t count) {
   if (count < format::countFollows) {
     *grow(1) = static_cast<std::byte>(marker | count);
     return;
   }
   *grow(1) = static_cast<std::byte>(marker | format::countFollows);
   const std::size_t size = sizeFor(count);
-  addNumber(format::integerMarker | sizeCode(size), count, size);
+  writeNumber(format::integerMarker | sizeCode(size), count, size);
 }
 
 Writer::Reference Writer::boolean(bool value) {
@@ -68,28 +70,38 @@ Writer::Reference Writer::boolean(bool value) {
 }
 
 Writer::Reference Writer::integer(std::int64_t value) {
-  const std::size_t start = file_.size();
   // Below zero only 8 bytes will do: the shorter forms are unsigned.
-  const std::size_t size = sizeFor(static_cast<std::uint64_t>(value));
-  addNumber(format::integerMarker | sizeCode(size), static_cast<std::uint64_t>(value), size);
-  return uniqueScalar(start);
+  const auto bits = static_cast<std::uint64_t>(value);
+  const std::size_t size = sizeFor(bits);
+  return number(integers_, format::integerMarker | sizeCode(size), bits, size);
 }
 
 Writer::Reference Writer::real(double value) {
-  const std::size_t start = file_.size();
-  addNumber(format::realMarker | sizeCode(sizeof value), std::bit_cast<std::uint64_t>(value), sizeof value);
-  return uniqueScalar(start);
+  return number(reals_, format::realMarker | sizeCode(sizeof value), std::bit_cast<std::uint64_t>(value),
+                sizeof value);
+}
+
+Writer::Reference Writer::number(RecentNumbers& recent, std::uint8_t marker, std::uint64_t bits,
+                                 std::size_t size) {
+  // The upper half of the product hangs on every bit; the factor is 2^64 over the golden ratio.
+  const std::uint64_t spread = bits * 0x9E3779B97F4A7C15;
+  Number& known = recent[(spread >> 32) % recent.size()];
+  if (known.object != noObject && known.bits == bits) return known.object;
+  known = {bits, static_cast<Reference>(offsets_.size())};
+  offsets_.push_back(file_.size());
+  writeNumber(marker, bits, size);
+  return known.object;
 }
 
 Writer::Reference Writer::date(Date value) {
   const std::size_t start = file_.size();
-  addNumber(format::dateMarker, std::bit_cast<std::uint64_t>(value.seconds), sizeof value.seconds);
+  writeNumber(format::dateMarker, std::bit_cast<std::uint64_t>(value.seconds), sizeof value.seconds);
   return uniqueScalar(start);
 }
 
 Writer::Reference Writer::data(std::span<const std::byte> bytes) {
   const std::size_t start = file_.size();
-  addCount(format::dataMarker, bytes.size());
+  writeCount(format::dataMarker, bytes.size());
   file_.insert(file_.end(), bytes.begin(), bytes.end());
   return uniqueScalar(start);
 }
@@ -97,12 +109,12 @@ Writer::Reference Writer::data(std::span<const std::byte> bytes) {
 Writer::Reference Writer::text(std::string_view utf8) {
   const std::size_t start = file_.size();
   if (isAscii(utf8)) {
-    addCount(format::asciiMarker, utf8.size());
+    writeCount(format::asciiMarker, utf8.size());
     if (!utf8.empty()) std::memcpy(grow(utf8.size()), utf8.data(), utf8.size());
     return uniqueScalar(start);
   }
   const std::u16string units = toUtf16(utf8);
-  addCount(format::utf16Marker, units.size());
+  writeCount(format::utf16Marker, units.size());
   std::byte* at = grow(2 * units.size());
   for (const char16_t unit : units) {
     putBigEndian(at, unit, 2);
@@ -128,8 +140,8 @@ Writer::Reference Writer::uniqueScalar(std::size_t start) {
   const auto object = static_cast<Reference>(offsets_.size());
   offsets_.push_back(start);
   table_[index] = {hash, object};
-  scalars_ += 1;
-  if (2 * scalars_ > table_.size()) growTable();
+  in_table_ += 1;
+  if (2 * in_table_ > table_.size()) growTable();
   return object;
 }
 
@@ -151,7 +163,7 @@ Writer::Reference Writer::dictionary(std::size_t mark) { return container(format
 Writer::Reference Writer::container(std::uint8_t marker, std::size_t mark) {
   const auto object = static_cast<Reference>(offsets_.size());
   offsets_.push_back(0);
-  containers_.push_back({object, marker, aside_.size() - mark});
+  containers_.push_back({object, static_cast<std::uint32_t>(aside_.size() - mark), marker});
   references_.insert(references_.end(), aside_.begin() + static_cast<std::ptrdiff_t>(mark), aside_.end());
   aside_.resize(mark);
   return object;
@@ -190,9 +202,9 @@ void Writer::writeContainers(std::size_t referenceSize) {
   for (const Container& each : containers_) {
     offsets_[each.object] = file_.size();
     const bool pairs = each.marker == format::dictionaryMarker;
-    addCount(each.marker, pairs ? each.references / 2 : each.references);
-    std::byte* at = grow(each.references * referenceSize);
-    for (std::size_t left = each.references; left > 0; --left) {
+    writeCount(each.marker, pairs ? each.references / 2 : each.references);
+    std::byte* at = grow(std::size_t{each.references} * referenceSize);
+    for (std::uint32_t left = each.references; left > 0; --left) {
       putBigEndian(at, *next++, referenceSize);
       at += referenceSize;
     }

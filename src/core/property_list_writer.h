@@ -2,10 +2,12 @@
 
 // Writes a binary property list object by object, for values and for records alike.
 //
-// A scalar that is added twice is one object in the file, as every writer of the format does it: names of
-// fields, titles and small numbers are stored once. Each call costs what it adds, so that a list costs in
-// proportion to its length.
+// What is added twice is one object in the file, as every writer of the format does it: names of fields,
+// titles and small numbers are stored once. Numbers are remembered for a while only: most amounts of money
+// stand in a list once, and looking each up among all others would cost more than a second copy now and then.
+// Each call costs what it adds, so that a list costs in proportion to its length.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -44,17 +46,24 @@ class Writer {
  private:
   struct Container {
     Reference object;
+    std::uint32_t references;
     std::uint8_t marker;
-    std::size_t references;
   };
   struct Slot {
     std::uint32_t hash;
     Reference object;
   };
+  struct Number {
+    std::uint64_t bits;
+    Reference object;
+  };
+  // The numbers that were added lately; of those that share a place, the last one.
+  using RecentNumbers = std::array<Number, 1024>;
 
   std::byte* grow(std::size_t size);
-  void addNumber(std::uint8_t marker, std::uint64_t bits, std::size_t size);
-  void addCount(std::uint8_t marker, std::uint64_t count);
+  void writeNumber(std::uint8_t marker, std::uint64_t bits, std::size_t size);
+  Reference number(RecentNumbers& recent, std::uint8_t marker, std::uint64_t bits, std::size_t size);
+  void writeCount(std::uint8_t marker, std::uint64_t count);
   Reference uniqueScalar(std::size_t start);
   void growTable();
   Reference container(std::uint8_t marker, std::size_t mark);
@@ -63,8 +72,10 @@ class Writer {
 
   Bytes file_;
   std::vector<std::size_t> offsets_;  // by object number; a container's is known when the file is finished
-  std::vector<Slot> table_;           // the scalars by their bytes in the file; a power of 2, half empty
-  std::size_t scalars_ = 0;
+  RecentNumbers integers_;
+  RecentNumbers reals_;
+  std::vector<Slot> table_;  // all other scalars by their bytes in the file; a power of 2, half empty
+  std::size_t in_table_ = 0;
   std::vector<Container> containers_;
   std::vector<Reference> references_;  // of all containers, one after the other
   std::vector<Reference> aside_;

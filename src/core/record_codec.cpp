@@ -80,6 +80,14 @@ bool ListDecoder::read(plist::Reference reference, plist::Data& data) {
   return true;
 }
 
+bool ListDecoder::read(plist::Reference reference, plist::Date& date) {
+  Object object;
+  if (!take(reference, object)) return false;
+  if (object.kind != ObjectKind::date) return wrongKind();
+  date.seconds = object.real;
+  return true;
+}
+
 // A container of the given kind, whose entries take `entrySize` bytes of memory each.
 bool ListDecoder::enter(plist::Reference reference, ObjectKind kind, std::size_t entrySize, Object& object) {
   if (!take(reference, object)) return false;

@@ -68,6 +68,7 @@ class ListEncoder {
   Reference add(double value) { return writer_.real(value); }
   Reference add(const std::string& value) { return writer_.text(value); }
   Reference add(const plist::Data& value) { return writer_.data(value.bytes); }
+  Reference add(plist::Date value) { return writer_.date(value); }
 
   template <class T>
   Reference add(const std::vector<T>& elements) {
@@ -159,6 +160,7 @@ class ListDecoder {
   }
   bool read(plist::Reference reference, std::string& text);
   bool read(plist::Reference reference, plist::Data& data);
+  bool read(plist::Reference reference, plist::Date& date);
 
   template <class T>
   bool read(plist::Reference reference, std::optional<T>& field) {

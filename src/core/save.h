@@ -5,7 +5,9 @@
 // Encoding can't fail: every type of the state has its form in the property list, text that is no UTF-8
 // included. What is written is therefore always stored, and the previous value never has to stand in for it.
 
+#include <cstddef>
 #include <cstdint>
+#include <expected>
 #include <optional>
 #include <span>
 #include <string>
@@ -16,6 +18,7 @@
 #include "core/debug_log.h"
 #include "core/game.h"
 #include "core/record_codec.h"
+#include "core/value_conversion.h"
 
 namespace tb {
 
@@ -36,11 +39,6 @@ void load(Game& game);
 namespace detail {
 
 template <class T>
-inline constexpr bool isList = false;
-template <class T>
-inline constexpr bool isList<List<T>> = true;
-
-template <class T>
 inline constexpr Shape shapeOf = RecordType<T> ? Shape::recordList : Shape::plainList;
 
 template <class T>
@@ -48,14 +46,14 @@ Bytes encodePiece(const List<T>& list, std::size_t first, std::size_t count) {
   const auto begin = list.begin() + static_cast<std::ptrdiff_t>(first);
   const auto end = begin + static_cast<std::ptrdiff_t>(count);
   if constexpr (RecordType<T>) {
-    return encodeRecords(piece);
+    return encodeRecords<T>(begin, end);
   } else {
-    return encodeValues(piece);
+    return encodeValues<T>(begin, end);
   }
 }
 
 template <class T>
-auto decodePiece(std::span<const std::byte> bytes) {
+std::expected<std::vector<T>, DecodeError> decodePiece(std::span<const std::byte> bytes) {
   if constexpr (RecordType<T>) {
     return decodeRecords<T>(bytes);
   } else {
@@ -70,8 +68,9 @@ void saveVariable(SaveStore& store, std::string_view key, const T& variable) {
 
 template <class T>
 void saveVariable(SaveStore& store, std::string_view key, List<T>& list) {
+  // Changes can only be added to pieces that are there.
   const SaveStore::Entry* const stored = store.entry(key);
-  if (stored == nullptr || stored->shape != shapeOf<T>) list.saveWhole();  // no pieces there to add changes to
+  if (stored == nullptr || stored->shape != shapeOf<T>) list.saveWhole();
   const auto changes = list.changes();
   std::vector<SaveStore::PieceWrite> writes;
   if (list.empty()) {
@@ -89,64 +88,74 @@ void saveVariable(SaveStore& store, std::string_view key, List<T>& list) {
   list.changesSaved();
 }
 
-// The elements of a list as an import leaves it, in one plain value: records in a Data, plain values in an array.
-template <class T>
-std::optional<std::vector<T>> importedElements(const plist::Value& value) {
-  if constexpr (RecordType<T>) {
-    const auto* const data = value.as<plist::Data>();
-    if (data == nullptr) return std::nullopt;
-    auto elements = decodePiece<T>(data->bytes);
-    if (!elements) return std::nullopt;
-    return *std::move(elements);
-  } else {
-    if (!value.as<plist::Array>()) return std::nullopt;
-    auto elements = decodePiece<T>(plist::write(value));
-    if (!elements) return std::nullopt;
-    return *std::move(elements);
-  }
-}
+// What a load answers: nothing, or why the variable stays as it was.
+using LoadFailure = std::optional<DecodeError>;
 
-// Takes the pieces over as they are stored. False, and the list as it was, when one of them does not decode.
+inline constexpr DecodeError wrongKind{.kind = DecodeError::Kind::wrongKind};
+
+// Takes the pieces over as they are stored, all or none.
 template <class T>
-bool loadPieces(const SaveStore::Entry& stored, List<T>& list) {
+LoadFailure loadPieces(const SaveStore::Entry& stored, List<T>& list) {
   std::vector<std::pair<std::int64_t, std::vector<T>>> pieces;
   for (const auto& [number, bytes] : stored.pieces) {
     auto elements = decodePiece<T>(bytes);
-    if (!elements) return false;
+    if (!elements) return elements.error();
     pieces.emplace_back(number, *std::move(elements));
   }
   list.startLoading();
   for (auto& [number, elements] : pieces) list.loadPiece(number, std::move(elements));
-  return true;
+  return std::nullopt;
+}
+
+// A list as an import leaves it, in one plain value: records in a Data, plain values in an array. It has no
+// pieces yet, so its next save writes all of it.
+template <class T>
+LoadFailure loadImported(const Bytes& stored, List<T>& list) {
+  if constexpr (RecordType<T>) {
+    const auto value = plist::read(stored);
+    if (!value) return DecodeError{.readError = value.error()};
+    const auto* const data = value->template as<plist::Data>();
+    if (data == nullptr) return wrongKind;
+    auto elements = decodePiece<T>(data->bytes);
+    if (!elements) return elements.error();
+    list.assign(*std::move(elements));
+  } else {
+    auto elements = decodePiece<T>(stored);
+    if (!elements) return elements.error();
+    list.assign(*std::move(elements));
+  }
+  return std::nullopt;
+}
+
+template <class T>
+LoadFailure loadStored(const SaveStore::Entry& stored, List<T>& list) {
+  LoadFailure failure = wrongKind;
+  if (stored.shape == shapeOf<T>) failure = loadPieces(stored, list);
+  if (stored.shape == Shape::plain) failure = loadImported(stored.pieces.begin()->second, list);
+  if (failure) list.saveWhole();  // its next save can't add to what can't be read
+  return failure;
+}
+
+template <class T>
+LoadFailure loadStored(const SaveStore::Entry& stored, T& variable) {
+  if (stored.shape != Shape::plain) return wrongKind;
+  const auto held = plist::read(stored.pieces.begin()->second);
+  if (!held) return DecodeError{.readError = held.error()};
+  auto value = valueAs<T>(*held);
+  if (!value) return wrongKind;
+  variable = *std::move(value);
+  return std::nullopt;
 }
 
 // Nothing that a player wrote is lost because this build can't read it.
-inline void setAside(SaveStore& store, std::string_view key, std::string_view why) {
-  store.keepAside(key);
-  debugLog(std::string(key) + ": " + std::string(why));
-}
-
 template <class T>
 void loadVariable(SaveStore& store, std::string_view key, T& variable) {
-  if (!store.contains(key)) return;
-  const auto stored = store.value(key);
-  if (!stored) return setAside(store, key, "the stored value does not decode");
-  auto value = valueAs<T>(*stored);
-  if (!value) return setAside(store, key, "the stored value is of another type");
-  variable = *std::move(value);
-}
-
-template <class T>
-void loadVariable(SaveStore& store, std::string_view key, List<T>& list) {
   const SaveStore::Entry* const stored = store.entry(key);
   if (stored == nullptr) return;
-  if (stored->shape == shapeOf<T>) {
-    if (loadPieces(*stored, list)) return;
-  } else if (const auto value = store.value(key)) {
-    if (auto elements = importedElements<T>(*value)) return list.assign(*std::move(elements));
-  }
-  setAside(store, key, "the stored list does not decode");
-  list.saveWhole();
+  const LoadFailure failure = loadStored(*stored, variable);
+  if (!failure) return;
+  store.keepAside(key);
+  debugLog(std::string(key) + ": " + describe(*failure));
 }
 
 }  // namespace detail

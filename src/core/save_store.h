@@ -64,7 +64,8 @@ class StorePort {
   // Everything that is stored, in any order. Asked once, by the store's constructor.
   virtual std::vector<StoredPiece> load() = 0;
 
-  // Makes the changes durable, all or none. Keeping aside what is kept aside already does nothing. An error is a plain sentence about what went wrong.
+  // Makes the changes durable, all or none. Keeping aside what is kept aside already does nothing. An error
+  // is a plain sentence about what went wrong.
   virtual std::expected<void, std::string> commit(std::span<const StoreChange> changes) = 0;
 };
 
@@ -89,8 +90,8 @@ class SaveStore {
   void put(std::string_view key, const plist::Value& value);
   void remove(std::string_view key);
 
-  // A list in pieces. `bytes` empty: the piece is gone. With `replace`, every stored piece that is not written
-  // goes. A key of another shape is always replaced. A key whose last piece goes is no longer there.
+  // A list in pieces. `bytes` empty: the piece is gone. With `replace`, every stored piece that is not
+  // written goes. A key of another shape is always replaced. A key whose last piece goes is no longer there.
   struct PieceWrite {
     std::int64_t piece = 0;
     std::optional<Bytes> bytes;

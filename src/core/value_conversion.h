@@ -19,7 +19,8 @@ concept NumberType = std::same_as<T, bool> || std::same_as<T, std::int64_t> || s
 
 // What a variable, a field of a record or an element of a plain list can be.
 template <class T>
-concept PlainType = NumberType<T> || std::same_as<T, std::string> || std::same_as<T, plist::Data>;
+concept PlainType = NumberType<T> || std::same_as<T, std::string> || std::same_as<T, plist::Data> ||
+                    std::same_as<T, plist::Date>;
 
 // The number as another kind; nothing when it has no such meaning:
 // - an integer is a double, rounded to the nearest beyond 2^53;

@@ -1,7 +1,6 @@
 #include "core/list.h"
 
 #include <gtest/gtest.h>
-
 #include <map>
 #include <random>
 #include <ranges>
@@ -135,7 +134,9 @@ class ListHistory : public testing::TestWithParam<unsigned> {};
 
 TEST_P(ListHistory, What_is_loaded_is_what_was_saved) {
   std::mt19937 chance(GetParam());
-  const auto below = [&](std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(chance); };
+  const auto below = [&](std::size_t n) {
+    return std::uniform_int_distribution<std::size_t>(0, n - 1)(chance);
+  };
   List<std::string> list;
   std::vector<std::string> model;
   StoredList<std::string> stored;
@@ -144,11 +145,14 @@ TEST_P(ListHistory, What_is_loaded_is_what_was_saved) {
   for (int step = 0; step < 3000; ++step) {
     const std::string text = std::to_string(step);
     switch (below(16)) {
-      case 0: case 1: case 2:
+      case 0:
+      case 1:
+      case 2:
         list.push_back(text);
         model.push_back(text);
         break;
-      case 3: case 4:
+      case 3:
+      case 4:
         list.push_front(text);
         model.insert(model.begin(), text);
         break;
@@ -158,7 +162,9 @@ TEST_P(ListHistory, What_is_loaded_is_what_was_saved) {
           model.push_back(text);
         }
         break;
-      case 6: case 7: case 8:
+      case 6:
+      case 7:
+      case 8:
         if (model.empty()) break;
         if (const std::size_t at = below(model.size()); true) {
           list.erase_at(at);
@@ -176,7 +182,8 @@ TEST_P(ListHistory, What_is_loaded_is_what_was_saved) {
           EXPECT_EQ(list.erase_if(ends), std::erase_if(model, ends));
         }
         break;
-      case 11: case 12:
+      case 11:
+      case 12:
         if (model.empty()) break;
         if (const std::size_t at = below(model.size()); true) list.edit(at) = model[at] = text;
         break;

@@ -26,6 +26,7 @@ struct SampleRecord {
   bool isReleased = false;
   std::string title;
   plist::Data poster;
+  plist::Date premiere;
   std::optional<std::int64_t> sequelOf;
   std::optional<std::string> tagline;
   SamplePart lead;
@@ -38,7 +39,7 @@ struct SampleRecord {
 
   bool operator==(const SampleRecord&) const = default;
 };
-RECORD_FIELDS(SampleRecord, filmId, gross, isReleased, title, poster, sequelOf, tagline, lead, cameo, weeks,
-              earnings, soldOut, genres, cast);
+RECORD_FIELDS(SampleRecord, filmId, gross, isReleased, title, poster, premiere, sequelOf, tagline, lead,
+              cameo, weeks, earnings, soldOut, genres, cast);
 
 }  // namespace tb

@@ -21,7 +21,8 @@ Bytes piece(std::vector<std::int64_t> numbers) {
   return plist::write(Value{std::move(array)});
 }
 
-std::vector<SaveStore::PieceWrite> pieces(std::vector<std::pair<std::int64_t, std::vector<std::int64_t>>> all) {
+std::vector<SaveStore::PieceWrite> pieces(
+    std::vector<std::pair<std::int64_t, std::vector<std::int64_t>>> all) {
   std::vector<SaveStore::PieceWrite> writes;
   for (auto& [number, elements] : all) writes.push_back({number, piece(std::move(elements))});
   return writes;
@@ -206,20 +207,20 @@ TEST(SaveStore, Whichever_commit_fails_the_next_one_makes_up_for_it) {
 TEST(SaveStore, Years_of_failing_commits_do_not_pile_up) {
   MemoryPort port;
   port.failAll(true);
+  port.pieces[{"myName", 0}] = {"myName", Shape::plain, 0, rubbish()};
   SaveStore store(port);
   for (int n = 0; n < 20'000; ++n) {
     act(store, n);
-    store.keepAside("weekNumber");
+    store.keepAside("myName");
     if (n % 100 == 0) {
       const auto done = store.commit();
       ASSERT_FALSE(done);
       EXPECT_EQ(done.error(), "The disk is full.");
     }
-    if (n % 1000 == 0) store.replace({{"weekNumber", integer(0)}});
   }
   port.failAll(false);
   ASSERT_TRUE(store.commit());
-  EXPECT_LT(port.lastCommit.size(), 100'000u);
+  EXPECT_LT(port.lastCommit.size(), 25u);
   EXPECT_EQ(SaveStore(port).dictionary(), store.dictionary());
 }
 

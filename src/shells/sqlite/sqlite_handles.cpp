@@ -14,8 +14,8 @@ std::unexpected<Error> lastError(sqlite3* database) {
 
 Statement& Statement::bind(int parameter, std::string_view text) {
   // Bytes and text are good until the statement has run: they need no copy.
-  sqlite3_bind_text64(statement_.get(), parameter + 1, text.empty() ? "" : text.data(), text.size(), SQLITE_STATIC,
-                      SQLITE_UTF8);
+  sqlite3_bind_text64(statement_.get(), parameter + 1, text.empty() ? "" : text.data(), text.size(),
+                      SQLITE_STATIC, SQLITE_UTF8);
   return *this;
 }
 

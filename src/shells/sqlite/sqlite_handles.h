@@ -2,14 +2,13 @@
 
 // The little of SQLite's C interface that the port needs, with its handles closed on time.
 
-#include <sqlite3.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <expected>
 #include <filesystem>
 #include <memory>
 #include <span>
+#include <sqlite3.h>
 #include <string>
 #include <string_view>
 

@@ -90,17 +90,22 @@ Result<> setDamagedRowsAside(const Database& database) {
 Result<> setDurability(const Database& database) {
   const auto mode = database.text("PRAGMA journal_mode = WAL");
   if (!mode) return std::unexpected(mode.error());
-  if (*mode != "wal") return std::unexpected(Error{SQLITE_IOERR, "the disk does not support a write-ahead log"});
+  if (*mode != "wal")
+    return std::unexpected(Error{SQLITE_IOERR, "the disk does not support a write-ahead log"});
   return database.run("PRAGMA synchronous = FULL");
 }
 
 // What to say of a write that failed.
 std::string sentence(const Error& error) {
   switch (error.code) {
-    case SQLITE_FULL: return "The disk is full.";
-    case SQLITE_READONLY: return "The career file is write-protected.";
-    case SQLITE_IOERR: return std::format("The disk reported an error ({}).", error.message);
-    default: return std::format("The career file could not be written ({}).", error.message);
+    case SQLITE_FULL:
+      return "The disk is full.";
+    case SQLITE_READONLY:
+      return "The career file is write-protected.";
+    case SQLITE_IOERR:
+      return std::format("The disk reported an error ({}).", error.message);
+    default:
+      return std::format("The career file could not be written ({}).", error.message);
   }
 }
 
@@ -115,13 +120,13 @@ OpenFailure failureOf(const Error& error, const std::filesystem::path& file) {
     case SQLITE_BUSY:
       return {alreadyOpen, std::format("Another program is using {}. Close it there first.", file.string())};
     case newerVersion:
-      return {newerVersion,
-              "This career was saved by a newer version of Top Billing. Update the game to play it; nothing was "
-              "changed."};
+      return {
+          newerVersion,
+          "This career was saved by a newer version of Top Billing. Update the game to play it; nothing was "
+          "changed."};
     default:
-      return {cannotWrite,
-              std::format("Top Billing cannot keep its saves in {}. {}", file.parent_path().string(),
-                          sentence(error))};
+      return {cannotWrite, std::format("Top Billing cannot keep its saves in {}. {}",
+                                       file.parent_path().string(), sentence(error))};
   }
 }
 
@@ -145,7 +150,8 @@ std::expected<std::filesystem::path, OpenFailure> moveAside(const std::filesyste
 
 }  // namespace
 
-std::expected<std::unique_ptr<SqlitePort>, OpenFailure> SqlitePort::open(const std::filesystem::path& folder) {
+std::expected<std::unique_ptr<SqlitePort>, OpenFailure> SqlitePort::open(
+    const std::filesystem::path& folder) {
   auto lock = FolderLock::take(folder);
   if (!lock) return std::unexpected(lock.error());
   const std::filesystem::path file = folder / "career.sqlite";
@@ -155,10 +161,11 @@ std::expected<std::unique_ptr<SqlitePort>, OpenFailure> SqlitePort::open(const s
     debugLog("career.sqlite: " + career.error().message);
     const auto aside = moveAside(file);
     if (!aside) return std::unexpected(aside.error());
-    notice = Notice{"⚠️ Career File Damaged ⚠️",
-                    std::format("Your career could not be read. The damaged file was kept as {}, and a new career "
-                                "begins.",
-                                aside->string())};
+    notice =
+        Notice{"⚠️ Career File Damaged ⚠️",
+               std::format("Your career could not be read. The damaged file was kept as {}, and a new career "
+                           "begins.",
+                           aside->string())};
     career = openCareer(file);
   }
   if (!career) return std::unexpected(failureOf(career.error(), file));
@@ -184,7 +191,8 @@ Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& f
   auto database = Database::open(file);
   if (!database) return std::unexpected(database.error());
   database->tidyWhenClosed(false);
-  if (auto done = database->run("PRAGMA locking_mode = EXCLUSIVE"); !done) return std::unexpected(done.error());
+  if (auto done = database->run("PRAGMA locking_mode = EXCLUSIVE"); !done)
+    return std::unexpected(done.error());
   const auto marks = readMarks(*database);
   if (!marks) return std::unexpected(marks.error());
   if (!marks->isNew()) {
@@ -216,8 +224,13 @@ Result<SqlitePort::Career> SqlitePort::prepareCareer(Database database) {
   for (const auto* const statement : {&put, &drop, &dropKey, &dropAll, &keepAside}) {
     if (!*statement) return damaged(statement->error().message);  // our mark, but not our tables
   }
-  return Career{std::move(database),   *std::move(put),       *std::move(drop), *std::move(dropKey),
-                *std::move(dropAll), *std::move(keepAside), {}};
+  return Career{std::move(database),
+                *std::move(put),
+                *std::move(drop),
+                *std::move(dropKey),
+                *std::move(dropAll),
+                *std::move(keepAside),
+                {}};
 }
 
 Result<> SqlitePort::readPieces(Career& career) {
@@ -250,11 +263,16 @@ Result<> SqlitePort::apply(const StoreChange& change) {
         .bind(3, std::span(stored.bytes));
   };
   switch (change.kind) {
-    case put: return bound(career_.put).run();
-    case drop: return career_.drop.bind(0, std::string_view(stored.key)).bind(1, stored.piece).run();
-    case dropKey: return career_.dropKey.bind(0, std::string_view(stored.key)).run();
-    case dropAll: return career_.dropAll.run();
-    case keepAside: return bound(career_.keepAside).run();
+    case put:
+      return bound(career_.put).run();
+    case drop:
+      return career_.drop.bind(0, std::string_view(stored.key)).bind(1, stored.piece).run();
+    case dropKey:
+      return career_.dropKey.bind(0, std::string_view(stored.key)).run();
+    case dropAll:
+      return career_.dropAll.run();
+    case keepAside:
+      return bound(career_.keepAside).run();
   }
 }
 

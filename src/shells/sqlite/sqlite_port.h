@@ -2,14 +2,15 @@
 
 // A career in a SQLite file, for everything that runs on Linux.
 //
-// One commit is one transaction, on the disk before commit() returns: a killed process or a power cut loses no
-// committed action and shows none by half. The folder belongs to one process at a time.
+// One commit is one transaction, on the disk before commit() returns: a killed process or a power cut loses
+// no committed action and shows none by half. The folder belongs to one process at a time.
 //
 //   pieces       what the save store holds, one row a piece
 //   kept_aside   what could not be understood; nothing reads it but people who look for something lost
 //
-// A file that is damaged, or that is no career, is never deleted: it moves aside as career.damaged-<n>.sqlite.
-// Where single rows are damaged, all of their keys' rows go to kept_aside and the rest of the career loads.
+// A file that is damaged, or that is no career, is never deleted: it moves aside as
+// career.damaged-<n>.sqlite. Where single rows are damaged, all of their keys' rows go to kept_aside and the
+// rest of the career loads.
 
 #include <expected>
 #include <filesystem>
