@@ -14,7 +14,7 @@ import { build } from "esbuild";
 const here = dirname(fileURLToPath(import.meta.url));
 const { values: options } = parseArgs({
   options: {
-    wasm: { type: "string", default: join(here, "../build/wasm/src/top_billing.wasm") },
+    wasm: { type: "string", default: join(here, "../build/wasm/top_billing.wasm") },
     out: { type: "string", default: join(here, "dist") },
   },
 });
