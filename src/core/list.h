@@ -7,7 +7,8 @@
 // and a write stores the changed pieces only. Reading is that of any sequence; writing goes through edit(),
 // the push and erase functions and assign(), so that no change is ever missed.
 //
-// Piece numbers rise from front to back and never change: a list grows at its two ends only.
+// Piece numbers rise from front to back, with gaps where a piece lost its last element. The number of a piece
+// never changes: a list grows at its two ends only.
 
 #include <algorithm>
 #include <cstddef>
@@ -34,13 +35,15 @@ class List {
     std::size_t count;
   };
 
+  // A copy is new to the store, wherever it came from: it is saved whole. So is a list that is moved into,
+  // which is why there is no move of its own: pieces belong to the key that they are stored under.
   List() = default;
-  List(std::initializer_list<T> values) : items_(values) { startOver(); }
-  List(const List& other) : items_(other.items_) { startOver(); }
+  List(std::initializer_list<T> values) : items_(values) { saveWhole(); }
+  List(const List& other) : items_(other.items_) { saveWhole(); }
   List& operator=(const List& other) {
     if (this != &other) {
       items_ = other.items_;
-      startOver();
+      saveWhole();
     }
     return *this;
   }
@@ -62,22 +65,25 @@ class List {
   }
 
   void push_back(T value) {
-    if (pieces_.empty() || pieces_.back().count >= pieceLength) pieces_.push_back({});
+    if (pieces_.empty()) {
+      pieces_.push_back({.number = 0});
+    } else if (pieces_.back().count >= pieceLength) {
+      pieces_.push_back({.number = pieces_.back().number + 1});
+    }
     items_.push_back(std::move(value));
-    pieces_of_items_.push_back(lastPiece());
+    pieces_of_items_.push_back(pieces_.back().number);
     pieces_.back().count += 1;
     pieces_.back().changed = true;
   }
 
   void push_front(T value) {
     if (pieces_.empty()) {
-      pieces_.push_back({});
+      pieces_.push_front({.number = 0});
     } else if (pieces_.front().count >= pieceLength) {
-      pieces_.push_front({});
-      first_piece_ -= 1;
+      pieces_.push_front({.number = pieces_.front().number - 1});
     }
     items_.push_front(std::move(value));
-    pieces_of_items_.push_front(first_piece_);
+    pieces_of_items_.push_front(pieces_.front().number);
     pieces_.front().count += 1;
     pieces_.front().changed = true;
   }
@@ -111,20 +117,24 @@ class List {
       }
       kept += 1;
     }
-    items_.resize(kept);
-    pieces_of_items_.resize(kept);
+    const auto end_of_kept = static_cast<std::ptrdiff_t>(kept);
+    items_.erase(items_.begin() + end_of_kept, items_.end());
+    pieces_of_items_.erase(pieces_of_items_.begin() + end_of_kept, pieces_of_items_.end());
     return before - kept;
   }
 
   void clear() {
     items_.clear();
-    startOver();
+    saveWhole();
   }
 
+  // Takes over the elements of any range, a part or a view of this very list included.
   template <class Range>
-  void assign(const Range& values) {
-    items_.assign(values.begin(), values.end());
-    startOver();
+  void assign(Range&& values) {
+    std::deque<T> items;
+    for (auto&& value : values) items.push_back(std::forward<decltype(value)>(value));
+    items_ = std::move(items);
+    saveWhole();
   }
 
   // --- For saving and loading (core/save.h); rules have no use for what follows. ---
@@ -138,23 +148,31 @@ class List {
   [[nodiscard]] std::vector<Change> changes() const {
     std::vector<Change> changed;
     std::size_t first = 0;
-    std::int64_t number = first_piece_;
     for (const Piece& piece : pieces_) {
-      if (piece.changed) changed.push_back({number, first, piece.count});
+      if (piece.changed) changed.push_back({piece.number, first, piece.count});
       first += piece.count;
-      number += 1;
     }
     return changed;
   }
 
   void changesSaved() {
     replaces_stored_ = false;
+    std::erase_if(pieces_, [](const Piece& piece) { return piece.count == 0; });
     for (Piece& piece : pieces_) piece.changed = false;
-    while (!pieces_.empty() && pieces_.front().count == 0) {
-      pieces_.pop_front();
-      first_piece_ += 1;
+  }
+
+  // Cuts the list into fresh pieces, which replace whatever the store holds.
+  void saveWhole() {
+    replaces_stored_ = true;
+    pieces_.clear();
+    pieces_of_items_.clear();
+    std::int64_t number = 0;
+    for (std::size_t done = 0; done < items_.size(); done += pieceLength) {
+      const std::size_t count = std::min(pieceLength, items_.size() - done);
+      pieces_.push_back({.number = number, .count = count, .changed = true});
+      pieces_of_items_.insert(pieces_of_items_.end(), count, number);
+      number += 1;
     }
-    while (!pieces_.empty() && pieces_.back().count == 0) pieces_.pop_back();
   }
 
   // Takes over what the store holds: elements of piece `number`, which must come in rising order.
@@ -163,43 +181,26 @@ class List {
     replaces_stored_ = false;
   }
   void loadPiece(std::int64_t number, std::vector<T> elements) {
-    if (pieces_.empty()) first_piece_ = number;
-    while (lastPiece() < number) pieces_.push_back({});
-    pieces_.back().count = elements.size();
-    for (T& element : elements) {
-      items_.push_back(std::move(element));
-      pieces_of_items_.push_back(number);
-    }
+    if (elements.empty()) return;
+    pieces_.push_back({.number = number, .count = elements.size()});
+    pieces_of_items_.insert(pieces_of_items_.end(), elements.size(), number);
+    for (T& element : elements) items_.push_back(std::move(element));
   }
 
  private:
   struct Piece {
+    std::int64_t number = 0;
     std::size_t count = 0;
     bool changed = false;
   };
 
-  [[nodiscard]] std::int64_t lastPiece() const {
-    return first_piece_ + static_cast<std::int64_t>(pieces_.size()) - 1;
-  }
-  Piece& pieceOf(std::int64_t number) { return pieces_[static_cast<std::size_t>(number - first_piece_)]; }
-
-  // The list as it stands is new to the store: cut it into fresh pieces.
-  void startOver() {
-    replaces_stored_ = true;
-    pieces_.clear();
-    pieces_of_items_.clear();
-    first_piece_ = 0;
-    for (std::size_t done = 0; done < items_.size(); done += pieceLength) {
-      const std::size_t count = std::min(pieceLength, items_.size() - done);
-      pieces_.push_back({.count = count, .changed = true});
-      pieces_of_items_.insert(pieces_of_items_.end(), count, lastPiece());
-    }
+  Piece& pieceOf(std::int64_t number) {
+    return *std::ranges::lower_bound(pieces_, number, {}, &Piece::number);
   }
 
   std::deque<T> items_;
   std::deque<std::int64_t> pieces_of_items_;  // in step with items_: the piece that each element is in
-  std::deque<Piece> pieces_;                  // piece number first_piece_ + n stands at n
-  std::int64_t first_piece_ = 0;
+  std::deque<Piece> pieces_;                  // by rising number
   bool replaces_stored_ = true;
 };
 

@@ -4,8 +4,8 @@
 // backups and exported files all are property lists, so that any other reader of the format opens them.
 //
 // The reader faces files from outside. It bounds depth, sizes, offsets and the total work, trusts no count
-// in the file, and answers a bad file with a ReadError; it never crashes and never allocates more than a
-// fixed multiple of the file's size.
+// in the file, and answers a bad file with a ReadError; it never crashes and never makes more of a file than
+// 64 times its size and 16 MiB (property_list_objects.h tells why).
 
 #include <cstddef>
 #include <cstdint>
@@ -61,13 +61,14 @@ struct Value {
 enum class ReadError : std::uint8_t {
   notAPropertyList,  // no bplist00 header, or too short to hold a trailer
   badTrailer,        // sizes, counts or offsets of the trailer do not fit the file
-  badObject,         // an object runs past the end, or has an unknown or unsupported marker
+  badObject,         // an object runs past the end, has no known marker, or names a key twice
   badReference,      // a reference to no object, or a circle of references
   badText,           // a string that is no ASCII or UTF-16, or a key that is no string
   tooDeep,           // nested deeper than maximumDepth
   tooMuchWork,       // objects shared so often that reading them out would outgrow the file
 };
 
+// Arrays and dictionaries inside one another, the root counted.
 inline constexpr std::size_t maximumDepth = 64;
 
 // A plain sentence for the debug log.

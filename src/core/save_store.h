@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -36,6 +37,7 @@ struct StoredPiece {
   Shape shape = Shape::plain;
   std::int64_t piece = 0;
   Bytes bytes;
+  bool operator==(const StoredPiece&) const = default;
 };
 
 // One step of a commit. Steps are carried out in order, all or none.
@@ -59,16 +61,18 @@ class StorePort {
   StorePort& operator=(const StorePort&) = delete;
   virtual ~StorePort() = default;
 
-  // Everything that is stored, by key and then by piece.
+  // Everything that is stored, in any order. Asked once, by the store's constructor.
   virtual std::vector<StoredPiece> load() = 0;
 
-  // Makes the changes durable, all or none. An error is a plain sentence about what went wrong.
+  // Makes the changes durable, all or none. Keeping aside what is kept aside already does nothing. An error
+  // is a plain sentence about what went wrong.
   virtual std::expected<void, std::string> commit(std::span<const StoreChange> changes) = 0;
 };
 
 class SaveStore {
  public:
-  // Reads everything that the port holds.
+  // Reads everything that the port holds. A key whose pieces are of different shapes can't be joined: it is
+  // kept aside and counts as missing.
   explicit SaveStore(StorePort& port);
 
   [[nodiscard]] bool contains(std::string_view key) const;
@@ -86,8 +90,8 @@ class SaveStore {
   void put(std::string_view key, const plist::Value& value);
   void remove(std::string_view key);
 
-  // A list in pieces. `bytes` empty: the piece is gone. With `replace`, all that was stored under the key
-  // goes first. A key of another shape is always replaced.
+  // A list in pieces. `bytes` empty: the piece is gone. With `replace`, every stored piece that is not
+  // written goes. A key of another shape is always replaced. A key whose last piece goes is no longer there.
   struct PieceWrite {
     std::int64_t piece = 0;
     std::optional<Bytes> bytes;
@@ -100,20 +104,37 @@ class SaveStore {
 
   // The whole store as one dictionary, keys in alphabetical order, and the way back. replace() takes any
   // dictionary: a Data or an array comes in as one plain value and is cut into pieces when next written.
+  // What dictionary() has to leave out because it does not decode is kept aside by replace().
   [[nodiscard]] plist::Dictionary dictionary() const;
   void replace(const plist::Dictionary& values);
 
   // True when something was written since the last successful commit.
-  [[nodiscard]] bool hasUncommitted() const { return !uncommitted_.empty(); }
+  [[nodiscard]] bool hasUncommitted() const { return drops_all_ || !waiting_.empty() || !aside_.empty(); }
 
   // Makes all that was written since the last successful commit durable, together. On failure nothing is
-  // lost from memory: the changes stay and go with the next commit.
+  // lost from memory: the changes stay and go with the next commit. What waits never outgrows the store,
+  // however long commits fail: a piece written twice waits once.
   std::expected<void, std::string> commit();
 
  private:
+  // What the port does not know yet of a key. The bytes themselves stand in entries_.
+  struct Waiting {
+    bool drops_key = false;
+    std::set<std::int64_t> pieces;  // written or gone
+  };
+
+  void setPiece(std::string_view key, Entry& entry, std::int64_t piece, Bytes bytes);
+  void dropPiece(std::string_view key, Entry& entry, std::int64_t piece);
+  void dropKey(std::string_view key, Entry& entry);
+  void addAside(StoredPiece piece);
+  Waiting& waitingFor(std::string_view key);
+  [[nodiscard]] std::vector<StoreChange> uncommitted() const;
+
   StorePort& port_;
   std::map<std::string, Entry, std::less<>> entries_;
-  std::vector<StoreChange> uncommitted_;
+  std::map<std::string, Waiting, std::less<>> waiting_;
+  std::vector<StoredPiece> aside_;  // waits to be kept aside
+  bool drops_all_ = false;
 };
 
 }  // namespace tb

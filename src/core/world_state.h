@@ -17,7 +17,7 @@ namespace tb {
 using Int = std::int64_t;
 using Real = double;
 using Flag = bool;
-using Text = std::string;
+using String = std::string;
 using Image = plist::Data;
 using IntList = List<std::int64_t>;
 using RealList = List<double>;
@@ -74,9 +74,9 @@ inline constexpr std::string_view keyOf{};
 // order; `restart` is a value of the variable's type, or `kept`.
 template <class Visit>
 void forEachVariable(Visit&& visit) {
-#define VARIABLE(Type, key, start, restart, load)                                                              \
-  visit.template operator()<&WorldState::key>(detail::rowValue<Type>(start), detail::rowValue<Type>(restart), \
-                                              Load::load);
+#define VARIABLE(Type, key, start, restart, load)                            \
+  visit.template operator()<&WorldState::key>(detail::rowValue<Type>(start), \
+                                              detail::rowValue<Type>(restart), Load::load);
 #define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
 #define RUNTIME(Type, name, start, restart)
 #include "core/world_variables.def"
@@ -87,7 +87,7 @@ template <class Visit>
 void forEachRuntimeVariable(Visit&& visit) {
 #define VARIABLE(Type, key, start, restart, load)
 #define RECORDS(Record, key, restart, load)
-#define RUNTIME(Type, name, start, restart)                                    \
+#define RUNTIME(Type, name, start, restart)                                   \
   visit.template operator()<&WorldState::name>(detail::rowValue<Type>(start), \
                                                detail::rowValue<Type>(restart));
 #include "core/world_variables.def"

@@ -30,7 +30,7 @@ const view::Page& App::view() {
 
 template <class Kind, class... Values>
 void App::use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&... values) {
-  view();
+  static_cast<void>(view());
   if (handle < 1 || static_cast<std::size_t>(handle) > laid_out_->uses.size()) return;
   const Kind operation = laid_out_->uses[static_cast<std::size_t>(handle) - 1].*kind;
   if (!operation) return;

@@ -29,7 +29,8 @@ class Screen {
   virtual void leave(Stage&) {}          // as the player closes it
   virtual void tick(Stage&, double) {}   // seconds that passed while it was on top
 
-  [[nodiscard]] virtual view::Page view(const Game& game) const = 0;
+  // The screen as it is now. Its operations may work on the screen itself, which outlives its page.
+  [[nodiscard]] virtual view::Page view(const Game& game) = 0;
 
   // What the way back is called; empty for a screen that cannot be left by it.
   [[nodiscard]] virtual std::string closeLabel() const { return "Back"; }

@@ -20,13 +20,13 @@
 namespace tb {
 
 template <class Record, class T>
-struct Field {
+struct RecordField {
   std::string_view name;
   T Record::* member;
   std::size_t offset;  // where it stands in the struct; only the order is of interest
 };
 
-// Specialised by RECORD_FIELDS: a tuple of Field, in the order of the struct.
+// Specialised by RECORD_FIELDS: a tuple of RecordField, in the order of the struct.
 template <class Record>
 inline constexpr auto fieldsOf = nullptr;
 
@@ -56,19 +56,10 @@ struct AnyField {
 template <std::size_t>
 using AnyFieldAt = AnyField;
 
+// Whether the aggregate takes that many initialisers: it does up to the number of its fields.
 template <class Record, std::size_t... Index>
 consteval bool takesFields(std::index_sequence<Index...>) {
   return requires { Record{AnyFieldAt<Index>{}...}; };
-}
-
-// The number of fields of an aggregate: the most initialisers that it takes.
-template <class Record, std::size_t Count = 96>
-consteval std::size_t countFields() {
-  if constexpr (Count == 0 || takesFields<Record>(std::make_index_sequence<Count>{})) {
-    return Count;
-  } else {
-    return countFields<Record, Count - 1>();
-  }
 }
 
 template <class Record, std::size_t... Index>
@@ -82,7 +73,9 @@ consteval bool inOrder(std::index_sequence<Index...>) {
 template <class Record>
 consteval bool describesWholeRecord() {
   constexpr std::size_t named = std::tuple_size_v<std::remove_cvref_t<decltype(fieldsOf<Record>)>>;
-  return named == detail::countFields<Record>() && detail::inOrder<Record>(std::make_index_sequence<named - 1>{});
+  return detail::takesFields<Record>(std::make_index_sequence<named>{}) &&
+         !detail::takesFields<Record>(std::make_index_sequence<named + 1>{}) &&
+         detail::inOrder<Record>(std::make_index_sequence<named - 1>{});
 }
 
 }  // namespace tb
@@ -94,7 +87,7 @@ consteval bool describesWholeRecord() {
 #define TB_EXPAND_3(...) __VA_ARGS__
 #define TB_FIELD_LIST(Record, ...) __VA_OPT__(TB_EXPAND(TB_FIELD_STEP(Record, __VA_ARGS__)))
 #define TB_FIELD_STEP(Record, name, ...) \
-  ::tb::Field{#name, &Record::name, __builtin_offsetof(Record, name)} __VA_OPT__(, TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
+  ::tb::RecordField{#name, &Record::name, __builtin_offsetof(Record, name)} __VA_OPT__(, TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
 #define TB_FIELD_AGAIN() TB_FIELD_STEP
 
 // Stands in namespace tb, right after the struct.

@@ -74,7 +74,7 @@ class TypeWriter {
   }
 
   template <class Record, class T>
-  void addField(std::string& fields, const Field<Record, T>& field) {
+  void addField(std::string& fields, const RecordField<Record, T>& field) {
     if constexpr (!isOperation<T>) fields += std::format("  readonly {}: {};\n", field.name, reference<T>());
   }
 

@@ -1,0 +1,39 @@
+#include "career/guild.h"
+
+#include <algorithm>
+
+#include "core/save.h"
+
+namespace tb {
+
+std::int64_t guildEligibility(const WorldState& world) {
+  return std::ranges::count_if(world.saveAllAuditionList, [](const Audition& audition) {
+    return audition.funnelStage >= stage::booked && audition.isPrincipal == rolePart::principal;
+  });
+}
+
+Refusal joinGuild(Game& game) {
+  WorldState& world = game.world;
+  if (world.isSAG == 1) return {};
+  if (guildEligibility(world) < rolesForEligibility) {
+    return Notice{.title = "❌ Not Eligible ❌", .message = "\nYou have not met the terms of eligibilty."};
+  }
+  if (world.totalCashAvailable < guildInitiationFee) {
+    return Notice{.title = "💰 Not Enough Cash! 💰", .message = "\nYou do not have cash to join."};
+  }
+
+  world.totalCashAvailable -= guildInitiationFee;
+  world.isSAG = 1;
+  world.memberSince = world.yearNumber;
+  world.saveAllWeeklyLineItems.push_back({.category = 1,
+                                          .title = "AG Monthly Dues",
+                                          .amount = 20,
+                                          .year = world.yearNumber,
+                                          .isExpense = true,
+                                          .typeOfExpense = 1});
+  save<&WorldState::totalCashAvailable, &WorldState::isSAG, &WorldState::memberSince,
+       &WorldState::saveAllWeeklyLineItems>(game);
+  return {};
+}
+
+}  // namespace tb

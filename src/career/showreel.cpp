@@ -1,0 +1,140 @@
+#include "career/showreel.h"
+
+#include <algorithm>
+#include <format>
+
+#include "banks/banks.h"
+#include "core/log.h"
+#include "core/number_style.h"
+#include "core/save.h"
+#include "core/talent_scores.h"
+
+namespace tb {
+
+namespace {
+
+// Of three perfect scenes, a perfect level and the best cut there would be 425 points. The divisor is the same
+// for one scene, which is why short reels rate low, and why the strongest actors pass 100.
+constexpr double pointsOfAPerfectReel = 425;
+
+std::int64_t reelScore(Game& game, std::int64_t scenes, double worstCut) {
+  constexpr double bestCut = 25;
+  const double cut = RandomUnit(game.random, worstCut, bestCut);
+  const double points = static_cast<double>(scenes + overallTalent(game.world)) + cut;
+  return static_cast<std::int64_t>(points / pointsOfAPerfectReel * 100);
+}
+
+std::int64_t footageSum(const WorldState& world, std::span<const std::int64_t> filmIds) {
+  std::int64_t sum = 0;
+  for (const std::size_t index : allPerformanceFootage(world)) {
+    const Audition& work = world.saveAllAuditionList[index];
+    if (std::ranges::contains(filmIds, work.filmId)) sum += static_cast<std::int64_t>(work.performanceRating);
+  }
+  return sum;
+}
+
+std::int64_t shootScene(Game& game) { return static_cast<std::int64_t>(sceneRoll(game, talentRoll(game))); }
+
+Refusal payFor(Game& game, double cost) {
+  if (game.world.totalCashAvailable < cost) {
+    return Notice{.title = "💰 Not Enough Cash! 💰",
+                  .message = "\nYou don't have enough cash to pay for a new showreel."};
+  }
+  game.world.totalCashAvailable -= cost;
+  return {};
+}
+
+Refusal checkScenes(const ScenePackage& package, std::size_t scenes) {
+  if (scenes > package.scenes) {
+    return Notice{.title = "🎥 Too Many Scenes 🎥",
+                  .message = std::format("\nYou can only have up to {} scene{} for this package.", package.scenes,
+                                         package.scenes == 1 ? "" : "s")};
+  }
+  if (scenes == 0) {
+    return Notice{.title = "🎥 No Scene Written 🎥",
+                  .message = "\nTell the production company what happens in at least one scene."};
+  }
+  return {};
+}
+
+}  // namespace
+
+std::vector<std::size_t> allPerformanceFootage(const WorldState& world) {
+  std::vector<std::size_t> footage;
+  for (std::size_t index = 0; index < world.saveAllAuditionList.size(); ++index) {
+    const Audition& work = world.saveAllAuditionList[index];
+    if (work.funnelStage == stage::wrapped && work.didAct == 1) footage.push_back(index);
+  }
+  return footage;
+}
+
+void openShowreel(Game& game) {
+  load<&WorldState::existingFootageScore, &WorldState::newScenesProduced, &WorldState::newSceneDescriptions>(game);
+}
+
+Refusal roomForScene(std::size_t packageIndex, std::size_t scenes) {
+  return checkScenes(scenePackages[packageIndex], scenes + 1);
+}
+
+Refusal chooseFootage(std::vector<std::int64_t>& filmIds, std::int64_t filmId) {
+  if (std::erase(filmIds, filmId) > 0) return {};
+  if (filmIds.size() >= mostFootage) {
+    return Notice{.title = "⚡️ Limit Reached ⚡️",
+                  .message = "\nYou can only select up to 3 scenes for your showreel."};
+  }
+  filmIds.push_back(filmId);
+  return {};
+}
+
+std::int64_t previewFootageReel(Game& game, std::span<const std::int64_t> filmIds) {
+  constexpr double worstCutOfFootage = 10;
+  return reelScore(game, footageSum(game.world, filmIds), worstCutOfFootage);
+}
+
+Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t previewed) {
+  if (filmIds.empty()) {
+    return Notice{.title = "🎞️ No Footage Selected 🎞️",
+                  .message = "\nSelect at least one scene of your finished work for the showreel."};
+  }
+  if (Refusal refusal = payFor(game, footageReelCost)) return refusal;
+
+  WorldState& world = game.world;
+  world.showreelScore = previewed;
+  logActivity(world, std::format("You updated your showreel using existing footage, and it’s now rated {}",
+                                 world.showreelScore));
+  save<&WorldState::totalCashAvailable, &WorldState::showreelScore, &WorldState::activityTracker>(game);
+  return {};
+}
+
+Refusal produceShowreelScenes(Game& game, std::size_t packageIndex, std::span<const std::string> sceneDescriptions,
+                              std::span<const std::int64_t> footageFilmIds) {
+  const ScenePackage& package = scenePackages[packageIndex];
+  if (Refusal refusal = checkScenes(package, sceneDescriptions.size())) return refusal;
+  if (Refusal refusal = payFor(game, package.cost)) return refusal;
+
+  // The scenes of this reel take the place of those of the last one.
+  WorldState& world = game.world;
+  world.newScenesProduced.clear();
+  world.newSceneDescriptions.clear();
+  std::int64_t sum = 0;
+  for (const std::string& description : sceneDescriptions) {
+    const std::int64_t score = shootScene(game);
+    world.newScenesProduced.push_back(score);
+    world.newSceneDescriptions.push_back(description);
+    sum += score;
+  }
+  world.existingFootageScore = static_cast<double>(sum);
+  if (!footageFilmIds.empty()) sum = footageSum(world, footageFilmIds);
+
+  constexpr double worstCutOfScenes = 0;
+  world.showreelScore = reelScore(game, sum, worstCutOfScenes);
+  logActivity(world, fill(drawRow(game.random, Bank::showreelScene),
+                          {{"amount", currency(game.locale, package.cost, 0)},
+                           {"description", joinedWithAnd(sceneDescriptions)},
+                           {"n", std::to_string(world.showreelScore)}}));
+  save<&WorldState::totalCashAvailable, &WorldState::existingFootageScore, &WorldState::newScenesProduced,
+       &WorldState::newSceneDescriptions, &WorldState::showreelScore, &WorldState::activityTracker>(game);
+  return {};
+}
+
+}  // namespace tb

@@ -1,0 +1,26 @@
+#include "core/load_world.h"
+
+#include "core/career_start.h"
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+void loadAll(Game& game, Load wanted) {
+  forEachVariable([&]<auto Member>(const auto&, const auto&, Load when) {
+    if (when == wanted) load<Member>(game);
+  });
+}
+
+}  // namespace
+
+void loadWorld(Game& game) {
+  game.world = WorldState{};
+  loadAll(game, Load::atStart);
+  loadAll(game, Load::lists);
+  ensureBasicNeeds(game);
+  normaliseAgentFanBonus(game);
+}
+
+}  // namespace tb

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+
+#include "core/world_state.h"
+
+namespace tb {
+
+// Where in saveAllTalentAgents the signed agent stands: the first with isSigned 1; nothing when none is.
+[[nodiscard]] inline std::optional<std::size_t> signedAgent(const WorldState& world) {
+  const List<TalentAgent>& agents = world.saveAllTalentAgents;
+  for (std::size_t index = 0; index < agents.size(); ++index) {
+    if (agents[index].isSigned == 1) return index;
+  }
+  return std::nullopt;
+}
+
+}  // namespace tb

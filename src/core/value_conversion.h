@@ -1,0 +1,67 @@
+#pragma once
+
+// Plain values to and from property lists, and which number may stand for which. Loads and the record codec
+// follow the same rules: a file that another program rewrote may hold 3 where 3.0 was, or 1 where true was.
+
+#include <concepts>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <variant>
+
+#include "core/property_list.h"
+
+namespace tb {
+
+template <class T>
+concept NumberType = std::same_as<T, bool> || std::same_as<T, std::int64_t> || std::same_as<T, double>;
+
+// What a variable, a field of a record or an element of a plain list can be.
+template <class T>
+concept PlainType = NumberType<T> || std::same_as<T, std::string> || std::same_as<T, plist::Data> ||
+                    std::same_as<T, plist::Date>;
+
+// The number as another kind; nothing when it has no such meaning:
+// - an integer is a double, rounded to the nearest beyond 2^53;
+// - a double is an integer when it is exactly one, in the signed 64-bit range;
+// - 0 and 1 are a boolean, and a boolean is the integer 0 or 1 (but no double).
+template <NumberType To, NumberType From>
+[[nodiscard]] constexpr std::optional<To> numberAs(From from) {
+  if constexpr (std::same_as<To, From>) {
+    return from;
+  } else if constexpr (std::same_as<To, bool>) {
+    return from == 0 || from == 1 ? std::optional(from == 1) : std::nullopt;
+  } else if constexpr (std::same_as<From, bool>) {
+    return std::same_as<To, std::int64_t> ? std::optional(static_cast<To>(from)) : std::nullopt;
+  } else if constexpr (std::same_as<To, double>) {
+    return static_cast<double>(from);
+  } else {
+    const bool inRange = from >= -0x1p63 && from < 0x1p63;
+    if (!inRange || static_cast<double>(static_cast<std::int64_t>(from)) != from) return std::nullopt;
+    return static_cast<std::int64_t>(from);
+  }
+}
+
+// The value as a T; nothing when it is of another kind.
+template <PlainType T>
+[[nodiscard]] std::optional<T> valueAs(const plist::Value& value) {
+  return std::visit(
+      []<class Held>(const Held& held) -> std::optional<T> {
+        if constexpr (std::same_as<Held, T>) {
+          return held;
+        } else if constexpr (NumberType<Held> && NumberType<T>) {
+          return numberAs<T>(held);
+        } else {
+          return std::nullopt;
+        }
+      },
+      value.held);
+}
+
+template <PlainType T>
+[[nodiscard]] plist::Value toValue(const T& plain) {
+  return plist::Value{plain};
+}
+
+}  // namespace tb

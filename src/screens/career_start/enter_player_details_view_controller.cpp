@@ -1,0 +1,90 @@
+#include "screens/career_start/enter_player_details_view_controller.h"
+
+#include <cmath>
+#include <format>
+
+#include "core/text.h"
+#include "screens/headshot.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+constexpr Int youngestStart = 18;
+constexpr Int oldestStart = 60;
+constexpr int headshotsOnOffer = 6;
+
+Slider ageSlider(const Game& game) {
+  return {.label = "Age",
+          .value = static_cast<double>(game.world.ageCount),
+          .minimum = static_cast<double>(youngestStart),
+          .maximum = static_cast<double>(oldestStart),
+          .step = 1,
+          .text = std::format("{} years", game.world.ageCount),
+          .slide = [](Stage& stage, double age) {
+            const double inside = std::clamp(std::round(age), static_cast<double>(youngestStart),
+                                             static_cast<double>(oldestStart));
+            chooseAge(stage.game(), static_cast<Int>(inside));
+          }};
+}
+
+}  // namespace
+
+void EnterPlayerDetailsViewController::load(Stage& stage) {
+  const WorldState& world = stage.game().world;
+  form_ = {.myName = world.myName, .aboutDescription = world.aboutDescription, .isMale = world.isMale};
+}
+
+Choice EnterPlayerDetailsViewController::genders() {
+  return {.label = "Gender",
+          .options = {{.label = "Male", .chosen = form_.isMale, .press = [this](Stage&) { form_.isMale = true; }},
+                      {.label = "Female",
+                       .chosen = !form_.isMale,
+                       .press = [this](Stage&) { form_.isMale = false; }}}};
+}
+
+Choice EnterPlayerDetailsViewController::headshots(const Game& game) {
+  Choice choice{.label = "Headshot"};
+  for (int number = 1; number <= headshotsOnOffer; ++number) {
+    const std::string name = headshotName(form_.isMale, number);
+    choice.options.push_back({.label = std::format("Headshot {}", number),
+                              .chosen = chosenHeadshot(game.world) == name,
+                              .press = [name](Stage& stage) { chooseHeadshot(stage.game(), headshotImage(name)); },
+                              .picture = {{.kind = PictureKind::avatar, .name = name}}});
+  }
+  return choice;
+}
+
+void EnterPlayerDetailsViewController::confirm(Stage& stage) {
+  if (Refusal refusal = confirmNewCareer(stage.game(), form_)) return stage.show(std::move(refusal));
+  stage.worldChanged();
+  stage.close();
+}
+
+Page EnterPlayerDetailsViewController::view(const Game& game) {
+  return {.title = "A star is cast",
+          .subtitle = std::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
+          .nodes = {
+              Field{.label = "Stage name",
+                    .value = form_.myName,
+                    .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
+                    .hint = "As it will stand on the poster",
+                    .maximumLength = 40},
+              ageSlider(game),
+              genders(),
+              headshots(game),
+              Field{.label = "Biography",
+                    .value = form_.aboutDescription,
+                    .type = [this](Stage&, const std::string& about) { form_.aboutDescription = trimmed(about); },
+                    .hint = "A line or two about who you are",
+                    .maximumLength = 280,
+                    .severalLines = true},
+              Button{.label = "Start my career",
+                     .press = [this](Stage& stage) { confirm(stage); },
+                     .weight = Button::Weight::primary},
+          }};
+}
+
+}  // namespace tb

@@ -1,0 +1,27 @@
+#pragma once
+
+// The form that names the performer. Every career begins here, and it can't be left undone.
+
+#include <cstdint>
+#include <string>
+
+#include "core/career_start.h"
+#include "screens/stage.h"
+
+namespace tb {
+
+class EnterPlayerDetailsViewController : public Screen {
+ public:
+  void load(Stage& stage) override;
+  [[nodiscard]] view::Page view(const Game& game) override;
+  [[nodiscard]] std::string closeLabel() const override { return ""; }
+
+ private:
+  [[nodiscard]] view::Choice genders();
+  [[nodiscard]] view::Choice headshots(const Game& game);
+  void confirm(Stage& stage);
+
+  NewCareerForm form_;
+};
+
+}  // namespace tb

@@ -1,0 +1,37 @@
+#include "screens/career_start/settings_view_controller.h"
+
+#include "core/career_start.h"
+#include "screens/parts.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+void restart(Stage& stage) {
+  restartCareer(stage.game());
+  stage.worldChanged();
+  stage.close();
+}
+
+void askForRestart(Stage& stage) {
+  stage.ask({.title = "Restart?",
+             .message = "Your career ends here and a new one begins. Everything you have built is gone, but for the "
+                        "money in your vault and what you have earned for good."},
+            {{.label = "Keep playing", .weight = Button::Weight::primary},
+             {.label = "Restart", .press = restart, .weight = Button::Weight::destructive}});
+}
+
+}  // namespace
+
+Page SettingsViewController::view(const Game& game) {
+  return {.title = "Settings",
+          .nodes = {Section{.heading = "CAREER",
+                            .nodes = {Text{.text = game.world.myName + ", and everything that came of it."},
+                                      Button{.label = "Restart?",
+                                             .press = askForRestart,
+                                             .weight = Button::Weight::destructive}}}}};
+}
+
+}  // namespace tb

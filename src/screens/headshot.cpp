@@ -1,0 +1,33 @@
+#include "screens/headshot.h"
+
+#include <algorithm>
+#include <format>
+#include <span>
+
+namespace tb {
+
+namespace {
+
+constexpr std::size_t longestName = 64;
+
+}  // namespace
+
+std::string headshotName(bool isMale, int number) {
+  return std::format("headshot_{} ({}).png", isMale ? "m" : "f", number);
+}
+
+Image headshotImage(const std::string& name) {
+  const auto bytes = std::as_bytes(std::span(name));
+  return {.bytes = Bytes(bytes.begin(), bytes.end())};
+}
+
+std::string chosenHeadshot(const WorldState& world) {
+  const Bytes& bytes = world.headshotImage.bytes;
+  const auto is_letter = [](std::byte byte) { return byte >= std::byte{0x20} && byte < std::byte{0x7F}; };
+  if (bytes.size() > longestName || !std::ranges::all_of(bytes, is_letter)) return "";
+  std::string name;
+  for (const std::byte byte : bytes) name += static_cast<char>(byte);
+  return name;
+}
+
+}  // namespace tb

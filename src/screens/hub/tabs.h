@@ -1,0 +1,18 @@
+#pragma once
+
+// What the five tabs of the hub show.
+
+#include <vector>
+
+#include "core/game.h"
+#include "screens/view.h"
+
+namespace tb {
+
+[[nodiscard]] std::vector<view::Node> homeTab(const Game& game);
+[[nodiscard]] std::vector<view::Node> workTab(const Game& game);
+[[nodiscard]] std::vector<view::Node> socialTab(const Game& game);
+[[nodiscard]] std::vector<view::Node> lifeTab(const Game& game);
+[[nodiscard]] std::vector<view::Node> wealthTab(const Game& game);
+
+}  // namespace tb

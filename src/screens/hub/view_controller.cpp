@@ -1,0 +1,61 @@
+#include "screens/hub/view_controller.h"
+
+#include <format>
+#include <memory>
+
+#include "core/calendar.h"
+#include "screens/backstage/backstage_view_controller.h"
+#include "screens/career_start/enter_player_details_view_controller.h"
+#include "screens/career_start/settings_view_controller.h"
+#include "screens/hub/tabs.h"
+#include "screens/week/weekly_summary_view_controller.h"
+#include "week/end_week.h"
+
+namespace tb {
+
+void ViewController::load(Stage& stage) { refreshHub(stage.game(), HubRefresh::launch); }
+
+void ViewController::appear(Stage& stage) {
+  if (stage.game().world.enterPlayerDetails != 0) return;
+  current_ = Tab::home;
+  stage.open(std::make_unique<EnterPlayerDetailsViewController>());
+}
+
+void ViewController::endWeekButton(Stage& stage) {
+  endWeek(stage.game());
+  stage.open(std::make_unique<WeeklySummaryViewController>());
+  stage.worldChanged();
+}
+
+view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {
+  return {.label = label,
+          .icon = icon,
+          .current = current_ == which,
+          .press = [this, which](Stage&) { current_ = which; }};
+}
+
+view::Page ViewController::view(const Game& game) {
+  const WorldState& world = game.world;
+  view::Page page{.title = world.myName,
+                  .subtitle = dateHeading(game.locale, world.weekNumber, world.yearNumber, "\n")};
+  page.icons = {
+      {.label = "The Backstage",
+       .icon = "B",
+       .press = [](Stage& stage) { stage.open(std::make_unique<BackstageViewController>()); }},
+      {.label = "Settings",
+       .icon = "⚙️",
+       .press = [](Stage& stage) { stage.open(std::make_unique<SettingsViewController>()); }},
+  };
+  page.tabs = {tab(Tab::home, "Home", "🏠"), tab(Tab::work, "Work", "🎬"), tab(Tab::social, "Social", "💬"),
+               tab(Tab::life, "Life", "⚡️"), tab(Tab::wealth, "Wealth", "💰")};
+  switch (current_) {
+    case Tab::home: page.nodes = homeTab(game); break;
+    case Tab::work: page.nodes = workTab(game); break;
+    case Tab::social: page.nodes = socialTab(game); break;
+    case Tab::life: page.nodes = lifeTab(game); break;
+    case Tab::wealth: page.nodes = wealthTab(game); break;
+  }
+  return page;
+}
+
+}  // namespace tb

@@ -1,0 +1,27 @@
+#pragma once
+
+// The hub: five tabs, and the week's end. The first screen, and the gate to the new-career form.
+
+#include "screens/stage.h"
+
+namespace tb {
+
+class ViewController : public Screen {
+ public:
+  enum class Tab : std::uint8_t { home, work, social, life, wealth };
+
+  void load(Stage& stage) override;
+  void appear(Stage& stage) override;
+  [[nodiscard]] view::Page view(const Game& game) override;
+  [[nodiscard]] std::string closeLabel() const override { return ""; }
+
+  // The End Week button: lives the week and opens its summary.
+  static void endWeekButton(Stage& stage);
+
+ private:
+  [[nodiscard]] view::Tab tab(Tab which, const char* label, const char* icon);
+
+  Tab current_ = Tab::home;
+};
+
+}  // namespace tb

@@ -1,0 +1,77 @@
+#include "screens/parts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <format>
+
+namespace tb {
+
+using namespace view;
+
+Text caption(std::string text) {
+  return {.text = std::move(text), .style = Text::Style::caption, .tone = Tone::quiet};
+}
+
+Meter energyMeter(const WorldState& world) {
+  return {.label = "Energy",
+          .value = static_cast<double>(world.totalEnergyAvailable),
+          .maximum = static_cast<double>(world.totalEnergyMax),
+          .text = std::format("{} of {}", world.totalEnergyAvailable, world.totalEnergyMax)};
+}
+
+std::string energyPrice(std::int64_t energy) { return std::format("⚡️ {}", energy); }
+
+Meter scoreMeter(std::string label, std::int64_t score) {
+  return {.label = std::move(label),
+          .value = static_cast<double>(score),
+          .maximum = 100,
+          .text = std::to_string(score),
+          .isScore = true};
+}
+
+std::vector<double> roundScale(double lowest, double highest) {
+  constexpr double stepsWanted = 4;
+  const double span = std::max({highest - lowest, std::abs(highest) * 1e-3, 1e-6});
+  const double magnitude = std::pow(10, std::floor(std::log10(span / stepsWanted)));
+  double step = magnitude;
+  for (const double factor : {1.0, 2.0, 5.0, 10.0}) {
+    step = factor * magnitude;
+    if (span / step <= stepsWanted) break;
+  }
+  std::vector<double> scale;
+  const double first = std::floor(lowest / step);
+  const double last = std::ceil(highest / step);
+  for (double mark = first; mark <= last; mark += 1) scale.push_back(mark * step);
+  if (scale.size() < 2) scale.push_back((first + 1) * step);
+  return scale;
+}
+
+namespace {
+
+std::string weeksAgo(std::size_t weeks) {
+  if (weeks == 0) return "this week";
+  return weeks == 1 ? "last week" : std::format("{} weeks ago", weeks);
+}
+
+}  // namespace
+
+Chart weeklyChart(std::string title, std::span<const double> values, const ValueText& textOf) {
+  Chart chart{.kind = Chart::Kind::line, .title = std::move(title)};
+  if (values.empty()) {
+    chart.summary = "There is no history yet.";
+    return chart;
+  }
+  for (std::size_t index = 0; index < values.size(); ++index) {
+    chart.points.push_back({.label = weeksAgo(values.size() - 1 - index),
+                            .value = values[index],
+                            .text = textOf(values[index])});
+  }
+  const auto [lowest, highest] = std::ranges::minmax(values);
+  for (const double mark : roundScale(lowest, highest)) chart.scale.push_back({mark, textOf(mark)});
+  chart.summary = std::format("{} week{}, from {} to {}; lowest {}, highest {}.", values.size(),
+                              values.size() == 1 ? "" : "s", textOf(values.front()), textOf(values.back()),
+                              textOf(lowest), textOf(highest));
+  return chart;
+}
+
+}  // namespace tb

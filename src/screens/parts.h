@@ -1,0 +1,48 @@
+#pragma once
+
+// What many screens are built from, so that each thing is shown in one way.
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "screens/stage.h"
+#include "screens/view.h"
+
+namespace tb {
+
+// A row that leads to another screen.
+template <class Opened>
+[[nodiscard]] view::Row leadingTo(std::string label, std::string detail = "", std::string value = "") {
+  return {.label = std::move(label),
+          .value = std::move(value),
+          .detail = std::move(detail),
+          .press = [](Stage& stage) { stage.open(std::make_unique<Opened>()); }};
+}
+
+[[nodiscard]] view::Text caption(std::string text);
+
+// The energy that is left of the week.
+[[nodiscard]] view::Meter energyMeter(const WorldState& world);
+
+// "⚡️ 12", as prices in energy are written.
+[[nodiscard]] std::string energyPrice(std::int64_t energy);
+
+// A 0 to 100 score, tinted by its band. A score above 100 fills the meter.
+[[nodiscard]] view::Meter scoreMeter(std::string label, std::int64_t score);
+
+// How a chart writes its values.
+using ValueText = std::function<std::string(double)>;
+
+// A line chart of one value a week, oldest first, the last one being of this week.
+[[nodiscard]] view::Chart weeklyChart(std::string title, std::span<const double> values, const ValueText& textOf);
+
+// Three to six round values that span lowest to highest, for the scale of a chart.
+[[nodiscard]] std::vector<double> roundScale(double lowest, double highest);
+
+}  // namespace tb

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "career/classes.h"
+#include "screens/stage.h"
+
+namespace tb {
+
+// Julien: what is on offer today, what is running and what was finished.
+class ActingClassesViewController : public Screen {
+ public:
+  void load(Stage& stage) override;
+  [[nodiscard]] view::Page view(const Game& game) override;
+
+ private:
+  [[nodiscard]] view::Card optionCard(const Game& game, const ClassOption& option);
+  [[nodiscard]] view::Section offered(const Game& game);
+  void signUp(Stage& stage, const ClassOption& option);
+
+  std::vector<ClassOption> options_;
+};
+
+}  // namespace tb

@@ -1,0 +1,63 @@
+#include "screens/talent/actors_guild_view_controller.h"
+
+#include <format>
+
+#include "career/guild.h"
+#include "core/number_style.h"
+#include "core/save.h"
+#include "screens/parts.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+void join(Stage& stage) {
+  stage.show(joinGuild(stage.game()));
+  stage.worldChanged();
+}
+
+Card membersCard(const Game& game) {
+  const WorldState& world = game.world;
+  return {.title = world.myName,
+          .subtitle = std::format("Member since {}", world.memberSince),
+          .nodes = {Text{.text = "Member in good standing. You contribute 3% of earnings up to $750,000 to the guild, "
+                                 "with access to union-only opportunities."},
+                    Row{.label = "Dues paid on your work",
+                        .value = currency(game.locale, world.workDuesPaidSAG, 0)}}};
+}
+
+Section wayIn(const Game& game, std::int64_t eligibility) {
+  return {.heading = "JOIN THE GUILD",
+          .nodes = {Text{.text = "The guild takes in performers with two booked principal roles. Members work on "
+                                 "union productions, with better pay and residuals."},
+                    Meter{.label = "Principal roles booked",
+                          .value = static_cast<double>(eligibility),
+                          .maximum = static_cast<double>(rolesForEligibility),
+                          .text = std::format("{} of {}", eligibility, rolesForEligibility)},
+                    Button{.label = "Join",
+                           .press = join,
+                           .price = currency(game.locale, guildInitiationFee, 0),
+                           .weight = Button::Weight::primary}}};
+}
+
+}  // namespace
+
+void ActorsGuildViewController::load(Stage& stage) {
+  tb::load<&WorldState::memberSince>(stage.game());
+  eligibility_ = guildEligibility(stage.game().world);
+}
+
+Page ActorsGuildViewController::view(const Game& game) {
+  Page page{.title = "Actors Guild"};
+  if (game.world.isSAG == 1) {
+    page.nodes = {membersCard(game)};
+  } else {
+    page.nodes = {Tiles{{{.label = "Cash", .value = cash(game.locale, game.world.totalCashAvailable)}}},
+                  wayIn(game, eligibility_)};
+  }
+  return page;
+}
+
+}  // namespace tb

@@ -1,0 +1,48 @@
+#include "screens/week/weekly_summary_view_controller.h"
+
+#include <format>
+
+#include "core/number_style.h"
+#include "core/text.h"
+#include "screens/parts.h"
+#include "week/end_week.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+StatTile balanceTile(const Game& game, const Analytics& item) {
+  return {.label = upperCase(item.title),
+          .value = item.isCurrency == 1 ? shortMoney(game.locale, item.moneyEarned) : shortCount(item.unitsSold),
+          .detail = item.subtitle};
+}
+
+Section balance(const Game& game) {
+  Tiles tiles;
+  for (const Analytics& item : game.world.weekBalanceItems) tiles.tiles.push_back(balanceTile(game, item));
+  return {.heading = "INCOME • EXPENSES", .nodes = {std::move(tiles)}};
+}
+
+Section feed(const WeekSummary& summary) {
+  Section section{.heading = summary.hasNews ? "FEED" : ""};
+  for (const std::string& line : summary.feed) section.nodes.push_back(Text{.text = line});
+  return section;
+}
+
+}  // namespace
+
+void WeeklySummaryViewController::load(Stage& stage) { summary_ = openSummary(stage.game()); }
+
+void WeeklySummaryViewController::leave(Stage& stage) { closeSummary(stage.game()); }
+
+Page WeeklySummaryViewController::view(const Game& game) {
+  Page page{.title = "REVIEW", .subtitle = std::format("Week {} of {}", summary_.week, summary_.year)};
+  if (!game.world.weekBalanceItems.empty()) page.nodes.push_back(balance(game));
+  page.nodes.push_back(energyMeter(game.world));
+  page.nodes.push_back(feed(summary_));
+  return page;
+}
+
+}  // namespace tb

@@ -1,0 +1,21 @@
+#pragma once
+
+// The report of the week. It opens when a week ends and is gone once it closes.
+
+#include "screens/stage.h"
+#include "week/summary.h"
+
+namespace tb {
+
+class WeeklySummaryViewController : public Screen {
+ public:
+  void load(Stage& stage) override;
+  void leave(Stage& stage) override;
+  [[nodiscard]] view::Page view(const Game& game) override;
+  [[nodiscard]] std::string closeLabel() const override { return "Close"; }
+
+ private:
+  WeekSummary summary_;
+};
+
+}  // namespace tb

@@ -1,0 +1,286 @@
+#include "shells/sqlite/sqlite_port.h"
+
+#include <format>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "core/debug_log.h"
+
+namespace tb {
+
+namespace {
+
+using sqlite::Database;
+using sqlite::Error;
+using sqlite::Result;
+using sqlite::Statement;
+
+constexpr std::int64_t applicationId = 0x54424c47;  // marks the file as a career of this game
+constexpr std::int64_t schemaVersion = 1;           // raise it with every change of the tables
+
+// Rows that no version of the game writes.
+constexpr std::string_view damagedRows =
+    "(typeof(key) <> 'text' OR typeof(piece) <> 'integer' OR typeof(value) <> 'blob' "
+    "OR typeof(shape) <> 'integer' OR shape NOT BETWEEN 0 AND 2)";
+
+// The file's own state, as PRAGMAs have it.
+struct FileMarks {
+  std::int64_t applicationId = 0;
+  std::int64_t version = 0;
+  std::int64_t tables = 0;
+
+  [[nodiscard]] bool isNew() const { return tables == 0; }
+  [[nodiscard]] bool isOurs() const { return applicationId == tb::applicationId; }
+};
+
+std::unexpected<Error> damaged(std::string message) {
+  return std::unexpected(Error{SQLITE_CORRUPT, std::move(message)});
+}
+
+Result<FileMarks> readMarks(const Database& database) {
+  const auto id = database.number("PRAGMA application_id");
+  if (!id) return std::unexpected(id.error());
+  const auto version = database.number("PRAGMA user_version");
+  if (!version) return std::unexpected(version.error());
+  const auto tables = database.number("SELECT count(*) FROM sqlite_schema");
+  if (!tables) return std::unexpected(tables.error());
+  return FileMarks{*id, *version, *tables};
+}
+
+// The marks stand in the transaction that makes the tables: there is never one without the other.
+Result<> createTables(const Database& database) {
+  const std::string statements[] = {
+      "BEGIN IMMEDIATE",
+      "CREATE TABLE pieces (key TEXT, piece INTEGER, shape INTEGER, value BLOB, PRIMARY KEY (key, piece)) "
+      "WITHOUT ROWID",
+      "CREATE TABLE kept_aside (key TEXT, piece INTEGER, shape INTEGER, value BLOB)",
+      std::format("PRAGMA application_id = {}", applicationId),
+      std::format("PRAGMA user_version = {}", schemaVersion),
+      "COMMIT",
+  };
+  for (const std::string& statement : statements) {
+    if (auto done = database.run(statement); !done) return done;
+  }
+  return {};
+}
+
+// Moves the rows of every damaged key out of the way. Rows of a key that are sound go along: part of a list
+// would pass for the whole.
+Result<> setDamagedRowsAside(const Database& database) {
+  const std::string keys = std::format("key IN (SELECT key FROM pieces WHERE {})", damagedRows);
+  const std::string statements[] = {
+      "BEGIN IMMEDIATE",
+      "INSERT INTO kept_aside SELECT key, piece, shape, value FROM pieces WHERE " + keys,
+      "DELETE FROM pieces WHERE " + keys,
+      "COMMIT",
+  };
+  for (const std::string& statement : statements) {
+    if (auto done = database.run(statement); !done) {
+      database.rollBack();
+      return done;
+    }
+  }
+  debugLog("career.sqlite: damaged rows, and what belongs to them, are kept in the table kept_aside");
+  return {};
+}
+
+// Synchronous FULL makes every commit of the write-ahead log wait for the disk; the exclusive lock spares the
+// shared index that several processes would need.
+Result<> setDurability(const Database& database) {
+  const auto mode = database.text("PRAGMA journal_mode = WAL");
+  if (!mode) return std::unexpected(mode.error());
+  if (*mode != "wal")
+    return std::unexpected(Error{SQLITE_IOERR, "the disk does not support a write-ahead log"});
+  return database.run("PRAGMA synchronous = FULL");
+}
+
+// What to say of a write that failed.
+std::string sentence(const Error& error) {
+  switch (error.code) {
+    case SQLITE_FULL:
+      return "The disk is full.";
+    case SQLITE_READONLY:
+      return "The career file is write-protected.";
+    case SQLITE_IOERR:
+      return std::format("The disk reported an error ({}).", error.message);
+    default:
+      return std::format("The career file could not be written ({}).", error.message);
+  }
+}
+
+bool isDamage(const Error& error) { return error.code == SQLITE_CORRUPT || error.code == SQLITE_NOTADB; }
+
+// The version check answers with this code, which means just that in SQLite: a schema of another version.
+constexpr int newerVersion = SQLITE_SCHEMA;
+
+OpenFailure failureOf(const Error& error, const std::filesystem::path& file) {
+  using enum OpenFailure::Kind;
+  switch (error.code) {
+    case SQLITE_BUSY:
+      return {alreadyOpen, std::format("Another program is using {}. Close it there first.", file.string())};
+    case newerVersion:
+      return {
+          newerVersion,
+          "This career was saved by a newer version of Top Billing. Update the game to play it; nothing was "
+          "changed."};
+    default:
+      return {cannotWrite, std::format("Top Billing cannot keep its saves in {}. {}",
+                                       file.parent_path().string(), sentence(error))};
+  }
+}
+
+// Renames the career and what SQLite keeps beside it. Answers with its new name.
+std::expected<std::filesystem::path, OpenFailure> moveAside(const std::filesystem::path& file) {
+  std::filesystem::path aside;
+  std::error_code error;
+  int number = 0;
+  do {
+    number += 1;
+    aside = file.parent_path() / std::format("career.damaged-{}.sqlite", number);
+  } while (std::filesystem::exists(aside, error));
+  for (const std::string_view companion : {"-wal", "-journal", "-shm", ""}) {
+    const std::filesystem::path from = file.string() + std::string(companion);
+    if (!std::filesystem::exists(from, error)) continue;
+    std::filesystem::rename(from, aside.string() + std::string(companion), error);
+    if (error) return std::unexpected(failureOf({SQLITE_READONLY, error.message()}, file));
+  }
+  return aside;
+}
+
+}  // namespace
+
+std::expected<std::unique_ptr<SqlitePort>, OpenFailure> SqlitePort::open(
+    const std::filesystem::path& folder) {
+  auto lock = FolderLock::take(folder);
+  if (!lock) return std::unexpected(lock.error());
+  const std::filesystem::path file = folder / "career.sqlite";
+  std::optional<Notice> notice;
+  auto career = openCareer(file);
+  if (!career && isDamage(career.error())) {
+    debugLog("career.sqlite: " + career.error().message);
+    const auto aside = moveAside(file);
+    if (!aside) return std::unexpected(aside.error());
+    notice =
+        Notice{"⚠️ Career File Damaged ⚠️",
+               std::format("Your career could not be read. The damaged file was kept as {}, and a new career "
+                           "begins.",
+                           aside->string())};
+    career = openCareer(file);
+  }
+  if (!career) return std::unexpected(failureOf(career.error(), file));
+  return std::unique_ptr<SqlitePort>(new SqlitePort(*std::move(lock), *std::move(career), std::move(notice)));
+}
+
+SqlitePort::SqlitePort(FolderLock lock, Career career, std::optional<Notice> notice)
+    : lock_(std::move(lock)), career_(std::move(career)), notice_(std::move(notice)) {}
+
+std::vector<StoredPiece> SqlitePort::load() { return std::exchange(career_.pieces, {}); }
+
+std::expected<void, std::string> SqlitePort::commit(std::span<const StoreChange> changes) {
+  auto done = career_.database.run("BEGIN IMMEDIATE");
+  if (done) done = applyAll(changes);
+  if (done) done = career_.database.run("COMMIT");
+  if (done) return {};
+  career_.database.rollBack();
+  return std::unexpected(sentence(done.error()));
+}
+
+// Until the career is known to be sound and ours, nothing is written, not even by closing the file.
+Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& file) {
+  auto database = Database::open(file);
+  if (!database) return std::unexpected(database.error());
+  database->tidyWhenClosed(false);
+  if (auto done = database->run("PRAGMA locking_mode = EXCLUSIVE"); !done)
+    return std::unexpected(done.error());
+  const auto marks = readMarks(*database);
+  if (!marks) return std::unexpected(marks.error());
+  if (!marks->isNew()) {
+    if (!marks->isOurs()) return damaged("the file is another program's");
+    if (marks->version > schemaVersion) return std::unexpected(Error{newerVersion, ""});
+    const auto check = database->text("PRAGMA quick_check(1)");
+    if (!check) return std::unexpected(check.error());
+    if (*check != "ok") return damaged(*check);
+  }
+  if (auto done = setDurability(*database); !done) return std::unexpected(done.error());
+  if (marks->isNew()) {
+    if (auto done = createTables(*database); !done) return std::unexpected(done.error());
+  }
+  auto career = prepareCareer(*std::move(database));
+  if (!career) return career;
+  if (auto done = readPieces(*career); !done) return std::unexpected(done.error());
+  career->database.tidyWhenClosed(true);
+  return career;
+}
+
+Result<SqlitePort::Career> SqlitePort::prepareCareer(Database database) {
+  auto put = database.prepare("REPLACE INTO pieces (key, piece, shape, value) VALUES (?, ?, ?, ?)");
+  auto drop = database.prepare("DELETE FROM pieces WHERE key = ? AND piece = ?");
+  auto dropKey = database.prepare("DELETE FROM pieces WHERE key = ?");
+  auto dropAll = database.prepare("DELETE FROM pieces");
+  auto keepAside = database.prepare(
+      "INSERT INTO kept_aside (key, piece, shape, value) SELECT ?1, ?2, ?3, ?4 WHERE NOT EXISTS "
+      "(SELECT 1 FROM kept_aside WHERE key = ?1 AND piece = ?2 AND shape = ?3 AND value = ?4)");
+  for (const auto* const statement : {&put, &drop, &dropKey, &dropAll, &keepAside}) {
+    if (!*statement) return damaged(statement->error().message);  // our mark, but not our tables
+  }
+  return Career{std::move(database),
+                *std::move(put),
+                *std::move(drop),
+                *std::move(dropKey),
+                *std::move(dropAll),
+                *std::move(keepAside),
+                {}};
+}
+
+Result<> SqlitePort::readPieces(Career& career) {
+  const auto bad = career.database.number(std::format("SELECT count(*) FROM pieces WHERE {}", damagedRows));
+  if (!bad) return std::unexpected(bad.error());
+  if (*bad > 0) {
+    if (auto done = setDamagedRowsAside(career.database); !done) return done;
+  }
+  auto rows = career.database.prepare("SELECT key, piece, shape, value FROM pieces ORDER BY key, piece");
+  if (!rows) return std::unexpected(rows.error());
+  while (true) {
+    const auto row = rows->step();
+    if (!row) return std::unexpected(row.error());
+    if (!*row) return {};
+    const auto bytes = rows->bytes(3);
+    career.pieces.push_back({.key = rows->text(0),
+                             .shape = static_cast<Shape>(rows->number(2)),
+                             .piece = rows->number(1),
+                             .bytes = Bytes(bytes.begin(), bytes.end())});
+  }
+}
+
+Result<> SqlitePort::apply(const StoreChange& change) {
+  using enum StoreChange::Kind;
+  const StoredPiece& stored = change.stored;
+  const auto bound = [&stored](Statement& statement) -> Statement& {
+    return statement.bind(0, std::string_view(stored.key))
+        .bind(1, stored.piece)
+        .bind(2, static_cast<std::int64_t>(stored.shape))
+        .bind(3, std::span(stored.bytes));
+  };
+  switch (change.kind) {
+    case put:
+      return bound(career_.put).run();
+    case drop:
+      return career_.drop.bind(0, std::string_view(stored.key)).bind(1, stored.piece).run();
+    case dropKey:
+      return career_.dropKey.bind(0, std::string_view(stored.key)).run();
+    case dropAll:
+      return career_.dropAll.run();
+    case keepAside:
+      return bound(career_.keepAside).run();
+  }
+}
+
+Result<> SqlitePort::applyAll(std::span<const StoreChange> changes) {
+  for (const StoreChange& change : changes) {
+    if (auto done = apply(change); !done) return done;
+  }
+  return {};
+}
+
+}  // namespace tb

@@ -1,0 +1,266 @@
+#include <gtest/gtest.h>
+
+#include "career/classes.h"
+#include "career/guild.h"
+#include "career/showreel.h"
+#include "career/traits.h"
+#include "core/talent_scores.h"
+#include "tests/scratch_game.h"
+
+namespace tb {
+namespace {
+
+struct Talent : testing::Test, test::ScratchGame {
+  WorldState& world = game.world;
+
+  void setTraits(std::int64_t points) {
+    for (const Trait& trait : traits) world.*trait.points = points;
+  }
+  void addWork(std::int64_t filmId, std::int64_t funnelStage, double performance, std::int64_t part = 1,
+               std::int64_t didAct = 1) {
+    world.saveAllAuditionList.push_back({.filmId = filmId,
+                                         .isPrincipal = part,
+                                         .funnelStage = funnelStage,
+                                         .performanceRating = performance,
+                                         .didAct = didAct});
+  }
+  ~Talent() override { EXPECT_EQ(random.left(), 0u) << "draws that no rule took"; }
+};
+
+TEST_F(Talent, LevelCountsTheWeakestTraitTwiceAndCapsItAlone) {
+  EXPECT_EQ(overallTalent(world), 1);
+  setTraits(120);
+  EXPECT_EQ(overallTalent(world), (600 + 100) / 6);
+  setTraits(50);
+  world.talentTrait4 = 2;
+  world.talentTrait6 = 900;  // takes no part
+  EXPECT_EQ(overallTalent(world), (202 + 2) / 6);
+}
+
+TEST_F(Talent, PerformanceFollowsTheFormula) {
+  world.talentTrait1 = 40;
+  world.talentTrait2 = 30;
+  world.talentTrait3 = 20;
+  world.talentTrait4 = 10;
+  world.talentTrait5 = 60;
+  world.experience = 500;
+  random.unit(0.5);
+  EXPECT_DOUBLE_EQ(talentRoll(game), 22.5);
+  // a 20, b 30, e 5, s 72.5, h 19.375; low is e, since 5 is below 20: half of the way to 19.375 is 12.1875
+  random.unit(0.5);
+  EXPECT_DOUBLE_EQ(performanceRoll(game, 22.5), 17.94);
+  // In front of the camera experience counts in full: e 100, top 43.125; low is the craft, 20; half way 31.5625
+  random.unit(0.5);
+  EXPECT_DOUBLE_EQ(sceneRoll(game, 22.5), 40.81);
+}
+
+TEST_F(Talent, PerformanceOfABeginnerNeverDrawsFromAnEmptyRange) {
+  world.talentTrait5 = 0;
+  random.unit(1);
+  EXPECT_EQ(talentRoll(game), 0);
+  // With everything at 1 and much experience the lowest result would lie above the highest: it is halved.
+  setTraits(1);
+  world.experience = 100;
+  random.unit(0).unit(0);
+  EXPECT_DOUBLE_EQ(performanceRoll(game, 0), 0.69);
+  world.experience = 0;
+  EXPECT_DOUBLE_EQ(performanceRoll(game, 0), 0.35);
+}
+
+TEST_F(Talent, ATraitTracksItsPrice) {
+  random.range(10, 8);  // the price rises by 2
+  EXPECT_FALSE(buyTrait(game, 1));
+  EXPECT_EQ(world.talentTrait1, 2);
+  EXPECT_EQ(world.totalEnergyAvailable, 98);
+  EXPECT_EQ(world.talentTraitCost1, 4);
+  random.range(10, 9);  // by 3, doubled for the voice
+  EXPECT_FALSE(buyTrait(game, 5));
+  EXPECT_EQ(world.talentTrait5, 2);
+  EXPECT_EQ(world.talentTraitCost5, 10);
+  EXPECT_EQ(world.totalEnergyAvailable, 94);
+  // What chance raised above its price falls back to it.
+  world.talentTrait1 = 60;
+  random.range(10, 0);
+  EXPECT_FALSE(buyTrait(game, 1));
+  EXPECT_EQ(world.talentTrait1, 4);
+  EXPECT_EQ(store.value("talentTrait1"), plist::Value{std::int64_t{4}});
+  EXPECT_EQ(store.value("talentTraitCost1"), plist::Value{std::int64_t{5}});
+  EXPECT_EQ(store.value("totalEnergyAvailable"), plist::Value{std::int64_t{90}});
+}
+
+TEST_F(Talent, TraitsStopAt100AndAtTheEndOfTheEnergy) {
+  world.talentTrait2 = 99;
+  world.talentTraitCost2 = 130;
+  world.totalEnergyAvailable = 129;
+  const Refusal refusal = buyTrait(game, 2);
+  ASSERT_TRUE(refusal);
+  EXPECT_EQ(refusal->title, "⚡️ Not Enough Energy ⚡️");
+  EXPECT_EQ(world.talentTrait2, 99);
+  world.totalEnergyAvailable = 130;
+  random.range(10, 0);
+  EXPECT_FALSE(buyTrait(game, 2));
+  EXPECT_EQ(world.talentTrait2, 100);
+  EXPECT_EQ(world.totalEnergyAvailable, 0);
+  world.totalEnergyAvailable = 500;
+  EXPECT_FALSE(buyTrait(game, 2));  // maxed: nothing happens and nothing is said
+  EXPECT_EQ(world.totalEnergyAvailable, 500);
+  EXPECT_EQ(world.talentTraitCost2, 131);
+}
+
+TEST_F(Talent, CurriculumOpensLevelByLevel) {
+  const std::pair<int, int> tiers[] = {{0, 1}, {17, 1}, {18, 2}, {27, 2}, {28, 3}, {38, 3}, {39, 4}, {47, 4}};
+  for (const auto& [taken, tier] : tiers) {
+    world.saveAllCompletedClasses.assign(std::vector<ActingClass>(static_cast<std::size_t>(taken)));
+    EXPECT_EQ(classTier(world), tier) << taken;
+  }
+  std::map<std::int64_t, int> rows;
+  for (const JulliardClass& row : julliardClasses) rows[row.classLevel] += 1;
+  EXPECT_EQ(rows, (std::map<std::int64_t, int>{{1, 18}, {2, 10}, {3, 11}, {4, 8}}));
+}
+
+TEST_F(Talent, ClassOptionsAreDistinctUntakenAndPriced) {
+  // Taken: Improvisation (the third row). Drawn: it, the first, the first again, the second.
+  world.saveAllCompletedClasses.push_back({.classId = 3});
+  random.range(5, 1).range(18, 2).range(18, 0).range(5, 4).range(4, 3).range(18, 0).range(18, 1).range(5, 0).range(4, 0);
+  const auto options = openClasses(game);
+  ASSERT_EQ(options.size(), 2u);
+  EXPECT_EQ(options[0].offered->title, "Physical Acting I");
+  EXPECT_EQ(options[0].weeks, 8);
+  EXPECT_EQ(options[0].cost, 280 * 8 * 2 + 275);
+  EXPECT_EQ(options[0].energyCost, 4 + 10 + 3);
+  EXPECT_EQ(options[1].offered->id, 2);
+  EXPECT_EQ(options[1].cost, 280 * 4 * 2 + 275);
+}
+
+TEST_F(Talent, ADrawnOutLevelOffersNothingAfterAHundredDraws) {
+  for (const JulliardClass& row : julliardClasses) world.saveAllCompletedClasses.push_back({.classId = row.id});
+  random.range(5, 4).any(100);
+  EXPECT_TRUE(openClasses(game).empty());
+}
+
+TEST_F(Talent, AClassIsPaidRunsAndGivesItsExperience) {
+  world.totalCashAvailable = 12000;
+  world.yearNumber = 2031;
+  const ClassOption option = {.offered = classWithId(41), .weeks = 2, .cost = 11475, .energyCost = 29};
+  random.range(20, 0);
+  EXPECT_FALSE(signUpForClass(game, option));
+  EXPECT_EQ(world.totalCashAvailable, 525);
+  EXPECT_EQ(world.activityTracker.front(),
+            "You signed up for Scene Study IV at Julien. Drama 414 runs 2 weeks, and the syllabus mentions crying "
+            "twice.");
+  EXPECT_TRUE(world.WeekFeed.empty());
+  EXPECT_EQ(world.saveAllCompletedClasses[0],
+            (ActingClass{.classId = 41, .energyCost = 29, .weeksTotal = 2, .weeksRemaining = 2, .experience = 100,
+                         .level = 4, .cost = 11475, .yearStarted = 2031}));
+  EXPECT_EQ(signUpForClass(game, option)->title, "🎭 Already Signed Up 🎭");
+
+  advanceClasses(game);
+  EXPECT_EQ(classEnergy(world), 29);
+  EXPECT_EQ(world.experience, 0);
+  advanceClasses(game);
+  EXPECT_EQ(world.experience, 100);
+  EXPECT_EQ(classEnergy(world), 0);
+  EXPECT_EQ(world.WeekFeed.back(), "You finished Drama 414");
+  EXPECT_EQ(world.activityTracker.front(), "You finished Drama 414");
+  advanceClasses(game);  // done is done
+  EXPECT_EQ(world.experience, 100);
+  EXPECT_EQ(world.WeekFeed.size(), 1u);
+}
+
+TEST_F(Talent, SigningUpAsksForEnergyBeforeCash) {
+  const ClassOption option = {.offered = classWithId(1), .weeks = 4, .cost = 2515, .energyCost = 14};
+  EXPECT_EQ(signUpForClass(game, option)->message, "You do not have enough cash for the is class.");
+  world.weeklyEnergyCost = 41;
+  world.saveAllCompletedClasses.push_back({.classId = 2, .energyCost = 60, .weeksRemaining = 1});
+  const Refusal refusal = signUpForClass(game, option);
+  ASSERT_TRUE(refusal);
+  EXPECT_EQ(refusal->title, "⚡️ Not Enough Weekly Energy ⚡️");
+  EXPECT_TRUE(refusal->message.ends_with("You are currently losing -101 energy each week."));
+  // What runs may fill the week to the brim.
+  world.weeklyEnergyCost = 40;
+  EXPECT_EQ(signUpForClass(game, option)->title, "💰 Not Enough Cash 💰");
+}
+
+TEST_F(Talent, AReelOfFootageIsThePreviewThatWasPaidFor) {
+  setTraits(60);
+  world.totalCashAvailable = 399;
+  addWork(1, 3, 80.9);
+  addWork(2, 3, 70.5);
+  addWork(3, 3, 99, 1, 0);  // directed only
+  addWork(4, 2, 99);        // not wrapped yet
+  addWork(5, 3, 60);
+  addWork(6, 3, 50);
+  EXPECT_EQ(allPerformanceFootage(world), (std::vector<std::size_t>{0, 1, 4, 5}));
+
+  std::vector<std::int64_t> chosen;
+  EXPECT_EQ(buildShowreelFromFootage(game, chosen, 50)->title, "🎞️ No Footage Selected 🎞️");
+  for (const std::int64_t filmId : {1, 2, 5}) EXPECT_FALSE(chooseFootage(chosen, filmId));
+  EXPECT_EQ(chooseFootage(chosen, 6)->title, "⚡️ Limit Reached ⚡️");
+  EXPECT_FALSE(chooseFootage(chosen, 5));  // out again
+  EXPECT_EQ(chosen, (std::vector<std::int64_t>{1, 2}));
+
+  random.unit(1);
+  EXPECT_EQ(previewFootageReel(game, chosen), 55);  // (80 + 70 + 60 + 25) / 425
+  EXPECT_FALSE(buildShowreelFromFootage(game, chosen, 55));
+  EXPECT_EQ(world.showreelScore, 55);
+  EXPECT_EQ(world.totalCashAvailable, 0);
+  EXPECT_EQ(world.activityTracker.front(),
+            "You updated your showreel using existing footage, and it’s now rated 55");
+  EXPECT_EQ(buildShowreelFromFootage(game, chosen, 99)->message,
+            "\nYou don't have enough cash to pay for a new showreel.");
+  EXPECT_EQ(world.showreelScore, 55);
+}
+
+TEST_F(Talent, NewScenesAreShotRatedAndReplaceTheLastReel) {
+  setTraits(40);
+  world.showreelScore = 90;
+  world.totalCashAvailable = 2000;
+  world.newScenesProduced = {7};
+  world.newSceneDescriptions = {"an old scene"};
+  const std::vector<std::string> scenes = {"a waiter quits", "a queen waits"};
+  EXPECT_EQ(produceShowreelScenes(game, 0, scenes, {})->message,
+            "\nYou can only have up to 1 scene for this package.");
+  // x 15, a 40, b 30, E 0: top 21.25, low 0; v at the top (15 + 40 + 30 + 21.25) / 5 = 21.25
+  random.unit(0.5).unit(1).unit(0.5).unit(1).unit(0).range(20, 0);
+  EXPECT_FALSE(produceShowreelScenes(game, 1, scenes, {}));
+  EXPECT_EQ(world.newScenesProduced, (IntList{21, 21}));
+  EXPECT_EQ(world.newSceneDescriptions, (TextList{"a waiter quits", "a queen waits"}));
+  EXPECT_EQ(world.existingFootageScore, 42);
+  EXPECT_EQ(world.showreelScore, 19);  // (42 + 40 + 0) / 425: a new reel can be worse than the old
+  EXPECT_EQ(world.totalCashAvailable, 2000 - 699);
+  EXPECT_EQ(world.activityTracker.front(),
+            "You hired a production company for $699 to add a scene where a waiter quits and a queen waits to your "
+            "showreel. Updated rating: 19");
+  // Footage chosen at the same time takes the place of the scenes in the rating.
+  addWork(9, 3, 100);
+  const std::vector<std::int64_t> footage = {9};
+  random.unit(0.5).unit(1).unit(1).range(20, 1);
+  EXPECT_FALSE(produceShowreelScenes(game, 0, std::vector<std::string>{"a duel"}, footage));
+  EXPECT_EQ(world.existingFootageScore, 21);
+  EXPECT_EQ(world.showreelScore, 38);  // (100 + 40 + 25) / 425
+}
+
+TEST_F(Talent, TheGuildTakesInWorkingActorsWhoCanPay) {
+  world.totalCashAvailable = 2999;
+  world.yearNumber = 2028;
+  addWork(1, 2, 0);
+  addWork(2, 3, 0, 0);  // background
+  addWork(3, 1, 0);     // invited only
+  EXPECT_EQ(joinGuild(game)->message, "\nYou have not met the terms of eligibilty.");
+  addWork(4, 3, 0);
+  EXPECT_EQ(joinGuild(game)->message, "\nYou do not have cash to join.");
+  world.totalCashAvailable = 3500;
+  EXPECT_FALSE(joinGuild(game));
+  EXPECT_EQ(world.totalCashAvailable, 500);
+  EXPECT_EQ(world.isSAG, 1);
+  EXPECT_EQ(world.memberSince, 2028);
+  EXPECT_EQ(world.saveAllWeeklyLineItems.back(),
+            (WeeklyLineItem{.category = 1, .title = "AG Monthly Dues", .amount = 20, .year = 2028, .isExpense = true,
+                            .typeOfExpense = 1}));
+  EXPECT_FALSE(joinGuild(game));  // once
+  EXPECT_EQ(world.totalCashAvailable, 500);
+  EXPECT_EQ(world.saveAllWeeklyLineItems.size(), 1u);
+}
+
+}  // namespace
+}  // namespace tb

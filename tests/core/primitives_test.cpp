@@ -1,0 +1,119 @@
+#include <gtest/gtest.h>
+
+#include "core/calendar.h"
+#include "core/number_style.h"
+#include "core/random.h"
+#include "core/text.h"
+#include "tests/scripted_random.h"
+
+namespace tb {
+namespace {
+
+class Words : public RandomSource {
+ public:
+  explicit Words(std::vector<std::uint64_t> words) : words_(std::move(words)) {}
+  std::uint64_t next() override { return words_.at(place_++); }
+  [[nodiscard]] std::size_t drawn() const { return place_; }
+
+ private:
+  std::vector<std::uint64_t> words_;
+  std::size_t place_ = 0;
+};
+
+TEST(RandomRange, RefusesTheWordsThatWouldFavourSomeResults) {
+  // 2^64 mod 101 is 79: of the words whose low half is below that, each result would get one too many.
+  Words words({0, 1, ~std::uint64_t{0}});
+  EXPECT_EQ(RandomRange(words, 101), 1 * 101 >> 64 == 0 ? 0 : 0);
+  EXPECT_EQ(words.drawn(), 2u);
+  EXPECT_EQ(RandomRange(words, 101), 100);
+}
+
+TEST(RandomRange, CoversItsRangeAndNothingElse) {
+  test::ScriptedRandom random;
+  for (std::int64_t value = 0; value < 101; ++value) random.range(101, value);
+  for (std::int64_t value = 0; value < 101; ++value) EXPECT_EQ(RandomRange(random, 101), value);
+  Words one({12345});
+  EXPECT_EQ(RandomRange(one, 1), 0);
+  Words none({1});
+  EXPECT_DEATH((void)RandomRange(none, 0), "");
+}
+
+TEST(RandomUnit, ReachesBothEndsExactly) {
+  test::ScriptedRandom random;
+  random.unit(0).unit(1).unit(0.5);
+  EXPECT_EQ(RandomUnit(random, -0.1, 0.3), -0.1);
+  EXPECT_EQ(RandomUnit(random, -0.1, 0.3), 0.3);
+  EXPECT_DOUBLE_EQ(RandomUnit(random, -0.1, 0.3), 0.1);
+  EXPECT_DEATH((void)RandomUnit(random, 2, 1), "");
+}
+
+TEST(ShortMoney, TurnsItsFormAtEachThreshold) {
+  const Locale us;
+  const std::pair<double, const char*> cases[] = {
+      {0, "$0.00"},           {99.5, "$99.50"},        {99.999, "$100.00"},    {100, "$100"},
+      {999.4, "$999"},        {1000, "$1.0K"},         {1500, "$1.5K"},        {9999, "$10.0K"},
+      {10000, "$10K"},        {999999, "$1,000K"},     {1e6, "$1.0M"},         {99.94e6, "$99.9M"},
+      {100e6, "$100M"},       {999999999, "$1,000M"},  {1e9, "$1.0B"},         {999.94e9, "$999.9B"},
+      {1e12, ""},             {-0.5, ""},              {-1, ""},               {-1e15, ""}};
+  for (const auto& [amount, text] : cases) EXPECT_EQ(shortMoney(us, amount), text) << amount;
+  EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::quiet_NaN()), "$0");
+  EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::infinity()), "$0");
+}
+
+TEST(ShortCount, TurnsItsFormAtEachThreshold) {
+  const std::pair<std::int64_t, const char*> cases[] = {
+      {0, "0"},           {999, "999"},         {1000, "1.0K"},  {999949, "999.9K"}, {1000000, "1.0M"},
+      {1550000000, "1.6B"}, {999940000000, "999.9B"}, {1000000000000, ""}, {-1, ""}};
+  for (const auto& [count, text] : cases) EXPECT_EQ(shortCount(count), text) << count;
+}
+
+TEST(Currency, FollowsTheLocale) {
+  const Locale german = {.currencySymbol = "€",
+                         .currencyBeforeAmount = false,
+                         .currencyGap = "\u00a0",
+                         .decimalPoint = ",",
+                         .groupSeparator = "."};
+  EXPECT_EQ(currency(german, 1234567.891, 2), "1.234.567,89\u00a0€");
+  EXPECT_EQ(shortMoney(german, 1500), "1,5K\u00a0€");
+  EXPECT_EQ(currency({}, -1234, 0), "-$1,234");
+  EXPECT_EQ(cash({}, 999.5), "$999.50");
+  EXPECT_EQ(cash({}, 1000), "$1,000");
+  EXPECT_EQ(cash({}, -12345), "-$12,345.00");
+  EXPECT_EQ(plainCount({}, -1234567), "-1,234,567");
+}
+
+TEST(DateLabel, NamesTheFridayOfAWeekThatBeginsOnSunday) {
+  const struct {
+    std::int64_t week, year;
+    const char *month, *day;
+  } cases[] = {
+      {1, 2026, "January", "2, 2026"},    {52, 2026, "December", "25, 2026"}, {1, 2027, "January", "1, 2027"},
+      {1, 2028, "December", "31, 2027"},  // the first of January is a Saturday: its Friday is in the old year
+      {10, 2028, "March", "3, 2028"},     {53, 2027, "December", "31, 2027"},
+  };
+  for (const auto& [week, year, month, day] : cases) {
+    const auto label = dateLabel({}, week, year);
+    ASSERT_TRUE(label);
+    EXPECT_EQ(label->month, month) << week << " of " << year;
+    EXPECT_EQ(label->dayAndYear, day);
+  }
+  EXPECT_FALSE(dateLabel({}, 0, 2026));
+  EXPECT_FALSE(dateLabel({}, 54, 2026));
+  EXPECT_EQ(dateHeading({}, 10, 2028, " "), "MARCH 3, 2028");
+}
+
+TEST(Text, FillsARowInOnePass) {
+  EXPECT_EQ(fill("{name} is {title}.", {{"name", "{title}"}, {"title", "here"}}), "{title} is here.");
+  EXPECT_EQ(fill("{unknown} {name", {{"name", "x"}}), "{unknown} {name");
+  EXPECT_EQ(fill("", {}), "");
+}
+
+TEST(Text, RaisesTheMonthsOfLatinAlphabets) {
+  EXPECT_EQ(upperCase("março août märz żółw ÿ 日本 🎬 ß"), "MARÇO AOÛT MÄRZ ŻÓŁW Ÿ 日本 🎬 ß");
+  EXPECT_EQ(trimmed(" \t a b \n"), "a b");
+  const std::vector<std::string> parts = {"a", "b", "c"};
+  EXPECT_EQ(joinedWithAnd(parts), "a, b and c");
+}
+
+}  // namespace
+}  // namespace tb

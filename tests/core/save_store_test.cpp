@@ -1,0 +1,228 @@
+#include "core/save_store.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/memory_port.h"
+
+namespace tb {
+namespace {
+
+using plist::Array;
+using plist::Data;
+using plist::Dictionary;
+using plist::Value;
+using test::MemoryPort;
+
+Value integer(std::int64_t number) { return Value{number}; }
+
+Bytes piece(std::vector<std::int64_t> numbers) {
+  Array array;
+  for (const std::int64_t number : numbers) array.push_back(integer(number));
+  return plist::write(Value{std::move(array)});
+}
+
+std::vector<SaveStore::PieceWrite> pieces(
+    std::vector<std::pair<std::int64_t, std::vector<std::int64_t>>> all) {
+  std::vector<SaveStore::PieceWrite> writes;
+  for (auto& [number, elements] : all) writes.push_back({number, piece(std::move(elements))});
+  return writes;
+}
+
+Bytes rubbish() { return Bytes(7, std::byte{0x42}); }
+
+const Bytes& storedBytes(MemoryPort& port, const std::string& key, std::int64_t number = 0) {
+  return port.pieces.at({key, number}).bytes;
+}
+
+TEST(SaveStore, Nothing_is_durable_before_the_action_ends_and_then_all_of_it_is) {
+  MemoryPort port;
+  SaveStore store(port);
+  EXPECT_FALSE(store.hasUncommitted());
+  store.put("weekNumber", integer(1));
+  store.put("myName", Value{std::string("Ada")});
+  store.put("weekNumber", integer(2));
+  EXPECT_TRUE(store.hasUncommitted());
+  EXPECT_TRUE(port.pieces.empty());
+  EXPECT_EQ(store.value("weekNumber"), integer(2));
+
+  ASSERT_TRUE(store.commit());
+  EXPECT_FALSE(store.hasUncommitted());
+  EXPECT_EQ(port.commits, 1);
+  EXPECT_EQ(port.lastCommit.size(), 2u);  // the last write of a piece is the one that is stored
+  EXPECT_EQ(SaveStore(port).dictionary(), store.dictionary());
+
+  ASSERT_TRUE(store.commit());
+  store.put("weekNumber", integer(2));  // what is there already costs nothing
+  EXPECT_FALSE(store.hasUncommitted());
+  EXPECT_EQ(port.commits, 1);
+}
+
+TEST(SaveStore, A_list_in_pieces_reads_as_one_list_in_the_order_of_its_pieces) {
+  MemoryPort port;
+  SaveStore store(port);
+  store.putPieces("trackFans", Shape::plainList, true, pieces({{1, {3, 4}}, {-1, {1, 2}}, {7, {5}}}));
+  store.putPieces("saveAllFilmList", Shape::recordList, true, pieces({{0, {1}}, {2, {2, 3}}}));
+  ASSERT_TRUE(store.commit());
+
+  const SaveStore again(port);
+  EXPECT_EQ(again.value("trackFans"), Value{plist::read(piece({1, 2, 3, 4, 5})).value()});
+  EXPECT_EQ(again.value("saveAllFilmList"), Value{Data{piece({1, 2, 3})}});
+}
+
+TEST(SaveStore, Only_the_pieces_that_differ_are_written_even_when_the_whole_list_is) {
+  MemoryPort port;
+  SaveStore store(port);
+  store.putPieces("trackFans", Shape::plainList, true, pieces({{0, {1}}, {1, {2}}, {2, {3}}}));
+  ASSERT_TRUE(store.commit());
+  store.putPieces("trackFans", Shape::plainList, true, pieces({{0, {1}}, {1, {20}}}));
+  ASSERT_TRUE(store.commit());
+  EXPECT_EQ(port.lastCommit.size(), 2u);  // piece 1 put, piece 2 dropped
+  EXPECT_EQ(port.pieces.size(), 2u);
+  EXPECT_EQ(storedBytes(port, "trackFans", 1), piece({20}));
+}
+
+TEST(SaveStore, A_key_that_changes_its_shape_leaves_nothing_of_the_old_one) {
+  MemoryPort port;
+  SaveStore store(port);
+  store.putPieces("trackFans", Shape::plainList, true, pieces({{0, {1}}, {5, {2}}}));
+  ASSERT_TRUE(store.commit());
+  store.putPieces("trackFans", Shape::recordList, false, pieces({{1, {9}}}));
+  ASSERT_TRUE(store.commit());
+  EXPECT_EQ(SaveStore(port).value("trackFans"), Value{Data{piece({9})}});
+
+  store.put("trackFans", integer(4));
+  ASSERT_TRUE(store.commit());
+  EXPECT_EQ(port.pieces.size(), 1u);
+  EXPECT_EQ(SaveStore(port).value("trackFans"), integer(4));
+}
+
+TEST(SaveStore, A_key_whose_last_piece_goes_is_gone) {
+  MemoryPort port;
+  SaveStore store(port);
+  store.putPieces("trackFans", Shape::plainList, true, pieces({{3, {1}}}));
+  store.put("weekNumber", integer(1));
+  ASSERT_TRUE(store.commit());
+  store.putPieces("trackFans", Shape::plainList, false, {{3, std::nullopt}, {4, std::nullopt}});
+  store.remove("weekNumber");
+  store.remove("never there");
+  EXPECT_FALSE(store.contains("trackFans"));
+  ASSERT_TRUE(store.commit());
+  EXPECT_TRUE(port.pieces.empty());
+}
+
+TEST(SaveStore, Keys_of_other_versions_stay_untouched) {
+  MemoryPort port;
+  port.pieces[{"fromTheFuture", 0}] = {"fromTheFuture", Shape::plain, 0, rubbish()};
+  SaveStore store(port);
+  store.put("weekNumber", integer(3));
+  ASSERT_TRUE(store.commit());
+  EXPECT_EQ(storedBytes(port, "fromTheFuture"), rubbish());
+  EXPECT_TRUE(store.contains("fromTheFuture"));
+  EXPECT_EQ(store.value("fromTheFuture"), std::nullopt);
+  EXPECT_EQ(store.dictionary(), (Dictionary{{"weekNumber", integer(3)}}));
+}
+
+TEST(SaveStore, What_cannot_be_understood_is_kept_aside_once_and_stays_until_written_over) {
+  MemoryPort port;
+  port.pieces[{"myName", 0}] = {"myName", Shape::plain, 0, rubbish()};
+  SaveStore store(port);
+  store.keepAside("myName");
+  store.keepAside("myName");
+  store.keepAside("never there");
+  ASSERT_TRUE(store.commit());
+  EXPECT_EQ(port.lastCommit.size(), 1u);
+  EXPECT_EQ(storedBytes(port, "myName"), rubbish());
+
+  store.put("myName", Value{std::string("Ada")});
+  ASSERT_TRUE(store.commit());
+  ASSERT_EQ(port.keptAside.size(), 1u);
+  EXPECT_EQ(port.keptAside[0].bytes, rubbish());
+}
+
+TEST(SaveStore, A_key_with_pieces_of_different_shapes_is_kept_aside_whole_and_counts_as_missing) {
+  MemoryPort port;
+  port.pieces[{"trackFans", 0}] = {"trackFans", Shape::plainList, 0, piece({1})};
+  port.pieces[{"trackFans", 1}] = {"trackFans", Shape::recordList, 1, piece({2})};
+  port.pieces[{"weekNumber", 0}] = {"weekNumber", Shape::plain, 0, plist::write(integer(5))};
+  SaveStore store(port);
+  EXPECT_FALSE(store.contains("trackFans"));
+  EXPECT_EQ(store.value("weekNumber"), integer(5));
+  ASSERT_TRUE(store.commit());
+  EXPECT_EQ(port.keptAside.size(), 2u);
+  EXPECT_EQ(port.pieces.size(), 1u);
+}
+
+TEST(SaveStore, Another_career_takes_the_place_of_this_one_whole) {
+  MemoryPort port;
+  SaveStore store(port);
+  store.put("old", integer(1));
+  store.putPieces("trackFans", Shape::plainList, true, pieces({{0, {1}}, {1, {2}}}));
+  ASSERT_TRUE(store.commit());
+  port.pieces[{"unreadable", 0}] = {"unreadable", Shape::plain, 0, rubbish()};
+
+  SaveStore again(port);
+  again.put("waiting", integer(2));
+  const Dictionary other = {{"myName", Value{std::string("Grace")}}, {"trackFans", Value{Array{integer(7)}}}};
+  again.replace(other);
+  EXPECT_EQ(again.dictionary(), other);
+  ASSERT_TRUE(again.commit());
+  EXPECT_EQ(SaveStore(port).dictionary(), other);
+  EXPECT_EQ(port.pieces.size(), 2u);
+  ASSERT_EQ(port.keptAside.size(), 1u);  // what the career's file could not take along
+  EXPECT_EQ(port.keptAside[0].key, "unreadable");
+
+  again.replace({});
+  ASSERT_TRUE(again.commit());
+  EXPECT_TRUE(port.pieces.empty());
+}
+
+// One action of many kinds of writes, by number.
+void act(SaveStore& store, std::int64_t n) {
+  store.put("weekNumber", integer(n));
+  if (n % 7 == 3) store.remove("once");
+  if (n % 7 == 1) store.put("once", integer(n));
+  store.putPieces("trackFans", Shape::plainList, n % 5 == 0, pieces({{n % 4, {n}}, {n % 9, {n, n}}}));
+  if (n % 11 == 4) store.putPieces("trackFans", Shape::plainList, false, {{n % 9, std::nullopt}});
+  if (n % 13 == 6) store.replace({{"weekNumber", integer(n)}, {"trackFans", Value{Array{integer(n)}}}});
+}
+
+TEST(SaveStore, Whichever_commit_fails_the_next_one_makes_up_for_it) {
+  constexpr int actions = 40;
+  for (int failing = 1; failing <= actions; ++failing) {
+    MemoryPort port;
+    port.failCommit(failing).failCommit(failing + 1);
+    SaveStore store(port);
+    Dictionary durable;
+    for (int n = 1; n <= actions; ++n) {
+      act(store, n);
+      const bool done = store.commit().has_value();
+      ASSERT_EQ(done, n != failing && n != failing + 1);
+      ASSERT_EQ(store.hasUncommitted(), !done);
+      if (done) durable = store.dictionary();
+      ASSERT_EQ(SaveStore(port).dictionary(), durable) << "commit " << failing << " failed, action " << n;
+    }
+  }
+}
+
+TEST(SaveStore, Years_of_failing_commits_do_not_pile_up) {
+  MemoryPort port;
+  port.failAll(true);
+  port.pieces[{"myName", 0}] = {"myName", Shape::plain, 0, rubbish()};
+  SaveStore store(port);
+  for (int n = 0; n < 20'000; ++n) {
+    act(store, n);
+    store.keepAside("myName");
+    if (n % 100 == 0) {
+      const auto done = store.commit();
+      ASSERT_FALSE(done);
+      EXPECT_EQ(done.error(), "The disk is full.");
+    }
+  }
+  port.failAll(false);
+  ASSERT_TRUE(store.commit());
+  EXPECT_LT(port.lastCommit.size(), 25u);
+  EXPECT_EQ(SaveStore(port).dictionary(), store.dictionary());
+}
+
+}  // namespace
+}  // namespace tb

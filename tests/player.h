@@ -1,0 +1,50 @@
+#pragma once
+
+// A player: finds things on the page by what is written on them, and uses them.
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "screens/app.h"
+
+namespace tb::test {
+
+class Player {
+ public:
+  explicit Player(App& app) : app_(app) {}
+
+  // Uses the button, row, card, option, tab or icon with this label. Fails the test when there is none, or
+  // when it is off.
+  void press(const std::string& label);
+  // Writes into the field, or moves the slider, with this label.
+  void type(const std::string& label, const std::string& text);
+  void slide(const std::string& label, double value);
+
+  // Everything that can be read on the page, line by line, the dialog first.
+  [[nodiscard]] std::vector<std::string> words() const;
+  [[nodiscard]] bool sees(const std::string& text) const;
+  [[nodiscard]] std::string title() const { return app_.view().title; }
+  // The title of the notice over the page; empty when there is none.
+  [[nodiscard]] std::string notice() const;
+
+  // The handles of all that can be pressed, typed into or slid now.
+  struct Usable {
+    std::string label;
+    view::Handle handle;
+    enum class Kind : std::uint8_t { press, type, slide } kind;
+    double minimum = 0;
+    double maximum = 0;
+  };
+  [[nodiscard]] std::vector<Usable> usable() const;
+
+ private:
+  [[nodiscard]] view::Handle find(const std::string& label, Usable::Kind kind) const;
+
+  App& app_;
+};
+
+}  // namespace tb::test
