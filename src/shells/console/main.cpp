@@ -7,6 +7,7 @@
 #include <optional>
 #include <print>
 #include <string>
+#include <system_error>
 
 #include "screens/app.h"
 #include "shells/console/console.h"
@@ -71,8 +72,11 @@ Options readOptions(int count, char** words) {
 }
 
 std::expected<std::filesystem::path, tb::OpenFailure> folderFor(const Options& options) {
-  if (options.folder) return *options.folder;
-  return tb::saveFolder();
+  if (!options.folder) return tb::saveFolder();
+  // Where it cannot be created, opening it says why.
+  std::error_code ignored;
+  std::filesystem::create_directories(*options.folder, ignored);
+  return *options.folder;
 }
 
 int play(tb::SqlitePort& port) {
