@@ -111,7 +111,7 @@ void print(const Figures& figures) {
 
 int run() {
   // Turn by turn, so that a busy spell of the machine meets both lists.
-  constexpr int runs = 15;
+  constexpr int runs = 25;
   Figures shortFigures{.list = boxOffices(shortList)};
   Figures longFigures{.list = boxOffices(longList)};
   for (int turn = 0; turn < runs; ++turn) {

@@ -1,0 +1,95 @@
+#include "shells/web/message.h"
+
+#include <bit>
+#include <cstring>
+
+namespace tb {
+
+static_assert(std::endian::native == std::endian::little,
+              "numbers cross the boundary as they stand in memory");
+
+void MessageWriter::number(std::uint32_t value) {
+  const auto raw = std::as_bytes(std::span(&value, 1));
+  message_.insert(message_.end(), raw.begin(), raw.end());
+}
+
+void MessageWriter::wideNumber(std::int64_t value) {
+  const auto raw = std::as_bytes(std::span(&value, 1));
+  message_.insert(message_.end(), raw.begin(), raw.end());
+}
+
+void MessageWriter::bytes(std::span<const std::byte> value) {
+  number(static_cast<std::uint32_t>(value.size()));
+  message_.insert(message_.end(), value.begin(), value.end());
+}
+
+void MessageWriter::text(std::string_view value) { bytes(std::as_bytes(std::span(value))); }
+
+std::span<const std::byte> MessageReader::take(std::size_t size) {
+  if (size > rest_.size()) __builtin_trap();
+  const auto taken = rest_.first(size);
+  rest_ = rest_.subspan(size);
+  return taken;
+}
+
+std::uint32_t MessageReader::number() {
+  std::uint32_t value = 0;
+  std::memcpy(&value, take(sizeof value).data(), sizeof value);
+  return value;
+}
+
+std::int64_t MessageReader::wideNumber() {
+  std::int64_t value = 0;
+  std::memcpy(&value, take(sizeof value).data(), sizeof value);
+  return value;
+}
+
+Bytes MessageReader::bytes() {
+  const auto taken = take(number());
+  return {taken.begin(), taken.end()};
+}
+
+std::string MessageReader::text() {
+  const auto taken = take(number());
+  return {reinterpret_cast<const char*>(taken.data()), taken.size()};
+}
+
+std::vector<StoredPiece> readPieces(std::span<const std::byte> message) {
+  MessageReader reader(message);
+  std::vector<StoredPiece> pieces(reader.number());
+  for (StoredPiece& piece : pieces) {
+    piece.key = reader.text();
+    piece.shape = static_cast<Shape>(reader.number());
+    piece.piece = reader.wideNumber();
+    piece.bytes = reader.bytes();
+  }
+  return pieces;
+}
+
+Bytes writeChanges(std::span<const StoreChange> changes) {
+  MessageWriter writer;
+  writer.number(static_cast<std::uint32_t>(changes.size()));
+  for (const StoreChange& change : changes) {
+    writer.number(static_cast<std::uint32_t>(change.kind));
+    writer.text(change.stored.key);
+    writer.number(static_cast<std::uint32_t>(change.stored.shape));
+    writer.wideNumber(change.stored.piece);
+    writer.bytes(change.stored.bytes);
+  }
+  return writer.message();
+}
+
+Locale readLocale(std::span<const std::byte> message) {
+  MessageReader reader(message);
+  Locale locale;
+  locale.currencySymbol = reader.text();
+  locale.currencyBeforeAmount = reader.text() == "1";
+  locale.currencyGap = reader.text();
+  locale.decimalPoint = reader.text();
+  locale.groupSeparator = reader.text();
+  locale.minusSign = reader.text();
+  for (std::string& month : locale.months) month = reader.text();
+  return locale;
+}
+
+}  // namespace tb

@@ -1,0 +1,25 @@
+#include "shells/web/save_file.h"
+
+#include <cstdint>
+
+#include "core/world_state.h"
+
+namespace tb {
+
+Bytes exportedSave(const SaveStore& store) { return plist::write(plist::Value{store.dictionary()}); }
+
+std::string importSave(SaveStore& store, std::span<const std::byte> file) {
+  const auto read = plist::read(file);
+  if (!read) return "This file is damaged, or it is no save of Top Billing.";
+
+  // Any property list that is a dictionary could be stored. Only a career says whether its form was filled
+  // in.
+  const auto* values = read->as<plist::Dictionary>();
+  const plist::Value* started = values ? read->find(keyOf<&WorldState::enterPlayerDetails>) : nullptr;
+  if (!started || !started->as<std::int64_t>()) return "This file holds no career.";
+
+  store.replace(*values);
+  return {};
+}
+
+}  // namespace tb

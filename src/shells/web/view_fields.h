@@ -1,0 +1,101 @@
+#pragma once
+
+// The view vocabulary, described once for the page: the fields of every struct and the words of every
+// enumeration. The JSON of a page (page_json.h) and the page's TypeScript types (view_types.h) both come from
+// these lists. A field or a word that is missing here does not compile, nor does a new kind of node.
+//
+// Operations are listed like every field but never written, since a handle stands for them. A PagedList has
+// no line: laying a page out leaves none.
+
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+#include "core/records/fields.h"
+#include "screens/view.h"
+
+namespace tb {
+
+// The name of a struct or an enumeration, as C++ writes it inside tb::view.
+template <class T>
+inline constexpr std::string_view viewName{};
+
+// A field that stays on this side of the boundary.
+template <class T>
+inline constexpr bool isOperation =
+    std::is_same_v<T, Operation> || std::is_same_v<T, TextOperation> || std::is_same_v<T, NumberOperation>;
+
+// What a node calls itself on the page: "timelineEntry" for a TimelineEntry.
+[[nodiscard]] inline std::string kindOf(std::string_view name) {
+  std::string kind(name);
+  kind.front() = static_cast<char>(kind.front() - 'A' + 'a');
+  return kind;
+}
+
+template <class T>
+inline constexpr bool isVector = false;
+template <class T>
+inline constexpr bool isVector<std::vector<T>> = true;
+
+}  // namespace tb
+
+#define VIEW_STRUCT(Type, ...)            \
+  RECORD_FIELDS(view::Type, __VA_ARGS__); \
+  template <>                             \
+  inline constexpr std::string_view viewName<view::Type> = #Type
+
+#define VIEW_WORDS(...) __VA_OPT__(TB_EXPAND(VIEW_WORDS_STEP(__VA_ARGS__)))
+#define VIEW_WORDS_STEP(word, ...) \
+  case word:                       \
+    return #word;                  \
+    __VA_OPT__(VIEW_WORDS_AGAIN TB_PARENTHESES(__VA_ARGS__))
+#define VIEW_WORDS_AGAIN() VIEW_WORDS_STEP
+
+// wordOf(value): its name; empty for a number that is no value. The switch makes the compiler count.
+#define VIEW_ENUM(Type, ...)                                      \
+  template <>                                                     \
+  inline constexpr std::string_view viewName<view::Type> = #Type; \
+  constexpr std::string_view wordOf(view::Type value) {           \
+    using enum view::Type;                                        \
+    switch (value) { VIEW_WORDS(__VA_ARGS__) }                    \
+    return {};                                                    \
+  }                                                               \
+  static_assert(true)
+
+namespace tb {
+
+VIEW_ENUM(Tone, plain, quiet, good, warning, accent);
+VIEW_ENUM(PictureKind, avatar, poster, logo, house, vehicle, card, photo, icon);
+VIEW_ENUM(Text::Style, body, large, caption, quotation);
+VIEW_ENUM(Button::Weight, normal, primary, quiet, destructive);
+VIEW_ENUM(Chart::Kind, line, bar, pie, histogram);
+
+VIEW_STRUCT(Picture, kind, name, description);
+VIEW_STRUCT(Text, text, style, tone);
+VIEW_STRUCT(StatTile, label, value, detail, tone);
+VIEW_STRUCT(Tiles, tiles);
+VIEW_STRUCT(Meter, label, value, maximum, text, isScore);
+VIEW_STRUCT(Stars, label, value, outOf);
+VIEW_STRUCT(Button, label, press, price, offReason, weight, handle);
+VIEW_STRUCT(Buttons, buttons);
+VIEW_STRUCT(Row, label, value, detail, picture, tone, press, handle);
+VIEW_STRUCT(Field, label, value, type, hint, maximumLength, severalLines, handle);
+VIEW_STRUCT(Slider, label, value, minimum, maximum, step, text, slide, handle);
+VIEW_STRUCT(Choice::Option, label, chosen, press, picture, handle);
+VIEW_STRUCT(Choice, label, options, several);
+VIEW_STRUCT(Chart::Point, label, value, text);
+VIEW_STRUCT(Chart::Tick, value, text);
+VIEW_STRUCT(Chart, kind, title, points, scale, summary);
+VIEW_STRUCT(Bubble, speaker, text, mine);
+VIEW_STRUCT(TimelineEntry, when, text);
+VIEW_STRUCT(Countdown, label, secondsLeft, secondsInAll);
+VIEW_STRUCT(Section, heading, nodes);
+VIEW_STRUCT(Card, title, subtitle, picture, nodes, press, handle);
+VIEW_STRUCT(SwipeCard, card, left, right);
+VIEW_STRUCT(ListPage, nodes, position, turns);
+VIEW_STRUCT(Tab, label, icon, current, press, handle);
+VIEW_STRUCT(Dialog, title, message, answers);
+VIEW_STRUCT(Page, title, subtitle, icons, nodes, tabs, close, dialog);
+
+}  // namespace tb

@@ -1,0 +1,82 @@
+// Builds the static site into dist/: the page's script and styles, the game's WebAssembly, and the service
+// worker that keeps them for play without a network. Every file but the entry points carries a hash of its
+// content in its name, so that an old page never meets a new file.
+//
+//   node build.mjs [--wasm <file>] [--out <directory>]
+
+import { createHash } from "node:crypto";
+import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { dirname, join } from "node:path";
+import { fileURLToPath } from "node:url";
+import { parseArgs } from "node:util";
+import { build } from "esbuild";
+
+const here = dirname(fileURLToPath(import.meta.url));
+const { values: options } = parseArgs({
+  options: {
+    wasm: { type: "string", default: join(here, "../build/wasm/top_billing.wasm") },
+    out: { type: "string", default: join(here, "dist") },
+  },
+});
+
+// Preact, hooks and const enums need nothing newer; these are the browsers that have WebAssembly's
+// bulk memory, Web Locks and IndexedDB's commit().
+const browsers = ["es2022", "chrome100", "firefox100", "safari16"];
+
+const bundling = {
+  bundle: true,
+  minify: true,
+  write: false,
+  target: browsers,
+  legalComments: "none",
+  logLevel: "warning",
+};
+
+const hashOf = (content) => createHash("sha256").update(content).digest("hex").slice(0, 10);
+
+function put(name, content) {
+  mkdirSync(dirname(join(options.out, name)), { recursive: true });
+  writeFileSync(join(options.out, name), content);
+  return name;
+}
+
+function putHashed(stem, ending, content) {
+  return put(`${stem}-${hashOf(content)}.${ending}`, content);
+}
+
+rmSync(options.out, { recursive: true, force: true });
+cpSync(join(here, "static"), options.out, { recursive: true });
+const staticFiles = readdirSync(join(here, "static"), { recursive: true, withFileTypes: true })
+  .filter((entry) => entry.isFile() && entry.name !== "index.html")
+  .map((entry) => join(entry.parentPath ?? entry.path, entry.name).slice(join(here, "static").length + 1));
+
+const wasm = putHashed("top_billing", "wasm", readFileSync(options.wasm));
+
+const page = await build({
+  ...bundling,
+  entryPoints: [join(here, "src/main.tsx")],
+  outdir: options.out,
+  format: "esm",
+  jsx: "automatic",
+  jsxImportSource: "preact",
+  define: { WASM_FILE: JSON.stringify(wasm) },
+});
+const bundled = (ending) => page.outputFiles.find((file) => file.path.endsWith(ending)).contents;
+const script = putHashed("page", "js", bundled(".js"));
+const style = putHashed("page", "css", bundled(".css"));
+
+const names = { "{script}": script, "{style}": style, "{wasm}": wasm };
+const index = readFileSync(join(here, "static/index.html"), "utf8").replace(/\{\w+\}/g, (name) => names[name] ?? name);
+put("index.html", index);
+
+// The version is a hash over everything that is served: any change is a new version, nothing else is.
+const files = [script, style, wasm, ...staticFiles];
+const version = hashOf([index, ...files.map((name) => name + hashOf(readFileSync(join(options.out, name))))].join("\n"));
+const worker = await build({
+  ...bundling,
+  entryPoints: [join(here, "src/service-worker.ts")],
+  outdir: options.out,
+  format: "iife",
+  define: { VERSION: JSON.stringify(version), FILES: JSON.stringify(files) },
+});
+put("service-worker.js", worker.outputFiles[0].contents);

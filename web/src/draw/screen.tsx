@@ -1,0 +1,78 @@
+// A whole page.
+
+import type { RefObject } from "preact";
+import { useMemo, useRef } from "preact/hooks";
+
+import type { PageViewProps } from "../runtime/actions";
+import type { Page } from "../view_types";
+import { partsOf } from "./columns";
+import { Dialog } from "./dialog";
+import { Nodes } from "./node";
+import { Bar, Masthead, Tabs } from "./page_parts";
+import { ScreenContext } from "./screen_context";
+
+// While a message is up, nothing under it can be used and its controls have no handles. The page then stays as it
+// was before the message came, and what has changed shows when the player has read why.
+function usePageUnderDialog(page: Page): Page {
+  const open = useRef(page);
+  if (page.dialog.length === 0 || page.title !== open.current.title) open.current = page;
+  return open.current;
+}
+
+function Content({ page }: { readonly page: Page }) {
+  const { lead, columns, action } = partsOf(page.nodes);
+  return (
+    <div class="nodes">
+      {lead.length > 0 && (
+        <div class="lead" key="lead">
+          <Nodes nodes={lead} />
+        </div>
+      )}
+      {columns.length > 0 && (
+        <div class="columns" key="columns">
+          {columns.map((column, index) => (
+            <div class="column" key={index}>
+              <Nodes nodes={column} />
+            </div>
+          ))}
+        </div>
+      )}
+      {action.length > 0 && (
+        <div class="action" key="action">
+          <Nodes nodes={action} />
+        </div>
+      )}
+    </div>
+  );
+}
+
+type ScreenProps = PageViewProps & { readonly root: RefObject<HTMLDivElement | null> };
+
+export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
+  const under = usePageUnderDialog(page);
+  const context = useMemo(() => ({ title: under.title, actions, headingLevel: 2 }), [under.title, actions]);
+  const dialog = page.dialog[0];
+  return (
+    <ScreenContext.Provider value={context}>
+      <div class={`screen${under.tabs.length > 0 ? " has-tabs" : ""}`} ref={root}>
+        {under.tabs.length > 0 && (
+          <a class="skip" href="#tabs">
+            Skip to the tabs
+          </a>
+        )}
+        <Bar page={under} />
+        <main class="main">
+          <Masthead title={under.title} subtitle={under.subtitle} />
+          <div class="content">
+            {banner}
+            <Content key={under.title} page={under} />
+            {corner}
+          </div>
+        </main>
+        <Tabs tabs={under.tabs} />
+        <p class="unseen" aria-live="polite" data-news />
+        {dialog !== undefined && <Dialog key={`${dialog.title} ${dialog.message}`} {...dialog} />}
+      </div>
+    </ScreenContext.Provider>
+  );
+}

@@ -1,0 +1,15 @@
+// The page's entry: one element to draw into, and the shell that loads the game and keeps it running.
+
+import { render } from "preact";
+
+import { Shell } from "./runtime/shell";
+import { ShellView } from "./runtime/shell_view";
+import "./style/index.css";
+import "./runtime/runtime.css";
+
+const place = document.getElementById("app");
+if (place) {
+  const shell = new Shell();
+  render(<ShellView shell={shell} />, place);
+  void shell.start();
+}

@@ -1,0 +1,2 @@
+// Style sheets are bundled by importing them.
+declare module "*.css";

@@ -1,0 +1,159 @@
+// One running game: an instance of the WebAssembly module behind typed functions. After a trap the instance
+// may hold anything, so it is never called again; its caller starts a new one from what was saved.
+
+import type { Page } from "../view_types";
+import { type Change, type Piece, readChanges, writePieces } from "./pieces";
+import { wasiImports } from "./wasi";
+
+interface Exports {
+  readonly memory: WebAssembly.Memory;
+  _initialize(): void;
+  incoming(size: number): number;
+  answer(): number;
+  open_store(): void;
+  start(): void;
+  view(): number;
+  press(handle: number): void;
+  type(handle: number): void;
+  slide(handle: number, value: number): void;
+  tick(seconds: number): void;
+  back(): void;
+  saving_failed(): void;
+  export_store(): number;
+  import_store(): number;
+}
+
+const exportNames = [
+  "_initialize", "incoming", "answer", "open_store", "start", "view", "press", "type", "slide", "tick", "back",
+  "saving_failed", "export_store", "import_store",
+] as const satisfies readonly Exclude<keyof Exports, "memory">[];
+
+// The game stopped in the middle of something. `cause` is the trap; the log is what it last said.
+export class GameStopped extends Error {
+  constructor(cause: unknown, readonly log: readonly string[]) {
+    super("The game stopped.", { cause });
+  }
+}
+
+export interface GameHost {
+  // All that one action wrote. Called within the action.
+  commit(changes: Change[]): void;
+}
+
+const linesKept = 20;
+
+export class Game {
+  private stopped = false;
+
+  private constructor(
+    private readonly exports: Exports,
+    private readonly log: readonly string[],
+  ) {}
+
+  // A game over these pieces. Throws GameStopped, like every function of a game.
+  static async open(module: WebAssembly.Module, host: GameHost, pieces: readonly Piece[]): Promise<Game> {
+    const log: string[] = [];
+    const memory = () => exports.memory;
+    const wasi = wasiImports({ memory, line: (text) => note(log, text) });
+    const commit = (at: number, size: number) => host.commit(readChanges(new Uint8Array(memory().buffer, at, size)));
+    const instance = await WebAssembly.instantiate(module, { wasi_snapshot_preview1: wasi, game: { commit } });
+    const exports = exportsOf(instance);
+
+    const game = new Game(exports, log);
+    game.guarded(() => {
+      exports._initialize();
+      game.handIn(writePieces(pieces));
+      exports.open_store();
+    });
+    return game;
+  }
+
+  // Loads the career, or opens the form of a new one. What follows, apart from the export and the import of
+  // the whole store, needs a started game.
+  start(locale: Uint8Array): void {
+    this.guarded(() => {
+      this.handIn(locale);
+      this.exports.start();
+    });
+  }
+
+  page(): Page {
+    const json = this.guarded(() => this.answer(this.exports.view()));
+    return JSON.parse(new TextDecoder().decode(json)) as Page;
+  }
+
+  press(handle: number): void {
+    this.guarded(() => this.exports.press(handle));
+  }
+
+  type(handle: number, text: string): void {
+    this.guarded(() => {
+      this.handIn(new TextEncoder().encode(text));
+      this.exports.type(handle);
+    });
+  }
+
+  slide(handle: number, value: number): void {
+    this.guarded(() => this.exports.slide(handle, value));
+  }
+
+  tick(seconds: number): void {
+    this.guarded(() => this.exports.tick(seconds));
+  }
+
+  back(): void {
+    this.guarded(() => this.exports.back());
+  }
+
+  savingFailed(why: string): void {
+    this.guarded(() => {
+      this.handIn(new TextEncoder().encode(why));
+      this.exports.saving_failed();
+    });
+  }
+
+  exportStore(): Uint8Array<ArrayBuffer> {
+    return this.guarded(() => this.answer(this.exports.export_store()));
+  }
+
+  // Why the file was refused; nothing when it was taken and committed.
+  importStore(file: Uint8Array): string {
+    const refusal = this.guarded(() => {
+      this.handIn(file);
+      return this.answer(this.exports.import_store());
+    });
+    return new TextDecoder().decode(refusal);
+  }
+
+  // Memory moves when it grows, so every use looks at it anew.
+  private handIn(bytes: Uint8Array): void {
+    const at = this.exports.incoming(bytes.length);
+    new Uint8Array(this.exports.memory.buffer, at, bytes.length).set(bytes);
+  }
+
+  private answer(size: number): Uint8Array<ArrayBuffer> {
+    return new Uint8Array(this.exports.memory.buffer, this.exports.answer(), size).slice() as Uint8Array<ArrayBuffer>;
+  }
+
+  private guarded<T>(action: () => T): T {
+    if (this.stopped) throw new GameStopped(undefined, this.log);
+    try {
+      return action();
+    } catch (cause) {
+      this.stopped = true;
+      throw new GameStopped(cause, this.log);
+    }
+  }
+}
+
+function note(log: string[], line: string): void {
+  console.info(line);
+  log.push(line);
+  if (log.length > linesKept) log.shift();
+}
+
+function exportsOf(instance: WebAssembly.Instance): Exports {
+  const missing = exportNames.filter((name) => typeof instance.exports[name] !== "function");
+  if (missing.length > 0) throw new Error(`The game has no ${missing.join(", ")}.`);
+  return instance.exports as unknown as Exports;
+}

@@ -1,0 +1,44 @@
+// Taking the whole save out as a file, and bringing one in. Both work on a game of their own that never plays,
+// so that they are there when the career in play does not start, and a bad file can do no harm.
+
+import { Game, GameStopped } from "./game";
+import { type Change, joined } from "./pieces";
+import type { Storage } from "./storage";
+
+const largestFile = 256 * 1024 * 1024; // bytes; a career of a hundred years takes a tenth of it
+
+export async function downloadSave(module: WebAssembly.Module, storage: Storage): Promise<void> {
+  const game = await Game.open(module, { commit: () => undefined }, storage.all());
+  const file = new Blob([game.exportStore()], { type: "application/x-plist" });
+  const link = document.createElement("a");
+  link.href = URL.createObjectURL(file);
+  link.download = `top-billing-${new Date().toISOString().slice(0, 10)}.plist`;
+  link.click();
+  // The download has begun, but a phone may still be asking where to put it.
+  setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
+}
+
+// A save that was read and started once, and that nothing has been replaced by yet.
+export interface ReadSave {
+  readonly changes: readonly Change[];
+}
+
+// What the file holds, or why it can't be brought in: a sentence for the player.
+export async function readSave(module: WebAssembly.Module, locale: Uint8Array, file: Blob): Promise<ReadSave | string> {
+  if (file.size > largestFile) return "This file is too large to be a save of Top Billing.";
+  let changes: Change[] = [];
+  const keep = (more: Change[]) => {
+    changes = joined(changes, more);
+  };
+  try {
+    const game = await Game.open(module, { commit: keep }, []);
+    const refusal = game.importStore(new Uint8Array(await file.arrayBuffer()));
+    if (refusal !== "") return refusal;
+    game.start(locale);
+    game.page();
+    return { changes };
+  } catch (error) {
+    if (error instanceof GameStopped) return "The career in this file can't be opened.";
+    return "This file can't be read.";
+  }
+}

@@ -1,0 +1,99 @@
+// The way to the saves: taking the career out as a file, and bringing one in.
+
+import { type JSX } from "preact";
+import { useRef, useState } from "preact/hooks";
+
+import type { ReadSave } from "./saves";
+import type { Shell } from "./shell";
+
+export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
+  const dialog = useRef<HTMLDialogElement>(null);
+  const [message, setMessage] = useState("");
+  const [read, setRead] = useState<ReadSave>();
+
+  const open = () => {
+    setMessage("");
+    setRead(undefined);
+    dialog.current?.showModal();
+  };
+
+  const download = async () => {
+    setMessage("");
+    try {
+      await shell.download();
+      setMessage("Your save was handed to the browser as a file.");
+    } catch {
+      setMessage("The save can't be made into a file right now.");
+    }
+  };
+
+  const choose = async (input: HTMLInputElement) => {
+    const file = input.files?.[0];
+    input.value = ""; // so that the same file can be chosen again
+    if (!file) return;
+    setRead(undefined);
+    setMessage("Reading the file…");
+    const answer = await shell.read(file).catch(() => "The game's program did not load. Try again with a network.");
+    if (typeof answer === "string") {
+      setMessage(`${answer} Your career is as it was.`);
+    } else {
+      setRead(answer);
+      setMessage("");
+    }
+  };
+
+  const bringIn = async (save: ReadSave) => {
+    setRead(undefined);
+    try {
+      await shell.bringIn(save);
+      dialog.current?.close();
+    } catch {
+      setMessage("There is no room to store this save. Your career is as it was.");
+    }
+  };
+
+  return (
+    <div class="shell-corner">
+      <button type="button" class="shell-button" onClick={open}>
+        Saves
+      </button>
+      <dialog ref={dialog} class="shell-dialog" aria-labelledby="saves-title">
+        <h2 id="saves-title">Saves</h2>
+        <p>The game saves by itself after each thing you do, in this browser. Keep a copy as a file, or bring one in.</p>
+        <div class="shell-buttons">
+          <button type="button" class="shell-button" onClick={() => void download()}>
+            Download a copy
+          </button>
+          <label class="shell-button">
+            Bring in a copy
+            <input
+              type="file"
+              class="shell-file"
+              accept=".plist,application/x-plist"
+              onChange={(event) => void choose(event.currentTarget)}
+            />
+          </label>
+        </div>
+        {read && (
+          <div class="shell-question" role="group" aria-label="Bring in this save?">
+            <p>This save takes the place of the career that is in play now. Download that one first to keep it.</p>
+            <div class="shell-buttons">
+              <button type="button" class="shell-button shell-destructive" onClick={() => void bringIn(read)}>
+                Replace my career
+              </button>
+              <button type="button" class="shell-button" onClick={() => setRead(undefined)}>
+                Keep what I have
+              </button>
+            </div>
+          </div>
+        )}
+        <p class="shell-message" role="status">
+          {message}
+        </p>
+        <button type="button" class="shell-button" onClick={() => dialog.current?.close()}>
+          Close
+        </button>
+      </dialog>
+    </div>
+  );
+}

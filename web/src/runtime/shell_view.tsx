@@ -1,0 +1,107 @@
+// What the player sees of the shell: the game's page with its notices, or why there is none.
+
+import { type JSX } from "preact";
+import { useEffect, useState } from "preact/hooks";
+
+import { PageView } from "../draw/page_view";
+import { SavesCorner } from "./saves_corner";
+import type { Shell, ShellState } from "./shell";
+import type { Refusal } from "./storage";
+
+export function ShellView({ shell }: { shell: Shell }): JSX.Element {
+  const [state, setState] = useState(shell.state);
+  useEffect(() => shell.onChange(setState), [shell]);
+
+  const { showing } = state;
+  const banner = <Notices shell={shell} state={state} />;
+  const corner = <SavesCorner shell={shell} />;
+  switch (showing.kind) {
+    case "playing":
+      return <PageView page={showing.page} actions={shell.actions} banner={banner} corner={corner} />;
+    case "loading":
+      return (
+        <Standing title="Top Billing">
+          <p role="status">The house lights go down…</p>
+        </Standing>
+      );
+    case "elsewhere":
+      return (
+        <Standing title="Your career is open in another tab">
+          <p>Close it there, and it goes on here. Only one tab plays at a time, so that no week is lost.</p>
+          <p>
+            <button type="button" class="shell-button shell-primary" onClick={() => shell.playHere()}>
+              Play here
+            </button>
+          </p>
+        </Standing>
+      );
+    case "stopped":
+      return (
+        <Standing title="Cut!" corner={corner}>
+          <p role="alert">
+            Something in the game broke, and it stopped before any harm was done. Your career is safe as of its last
+            save.
+          </p>
+          <p>
+            <button type="button" class="shell-button shell-primary" onClick={() => shell.startAgain()}>
+              Go on from the last save
+            </button>
+          </p>
+        </Standing>
+      );
+    case "unavailable":
+      return (
+        <Standing title="The game did not load" corner={corner}>
+          <p role="alert">Its program could not be fetched. Are you online? Your saves are safe in this browser.</p>
+          <p>
+            <button type="button" class="shell-button shell-primary" onClick={() => shell.startAgain()}>
+              Try again
+            </button>
+          </p>
+        </Standing>
+      );
+  }
+}
+
+function Standing({ title, corner, children }: {
+  title: string;
+  corner?: JSX.Element;
+  children: JSX.Element | JSX.Element[];
+}): JSX.Element {
+  return (
+    <main class="shell-standing">
+      <h1>{title}</h1>
+      {children}
+      {corner}
+    </main>
+  );
+}
+
+const refusals: Record<Refusal, string> = {
+  refused:
+    "This browser does not let the game save, as in a private window. Your career lives until this page is " +
+    "closed: download it from Saves to keep it.",
+  unreadable:
+    "The save in this browser could not be read, so this is a new career, and nothing of it is saved. Loading the " +
+    "page again may help.",
+};
+
+function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Element {
+  return (
+    <div class="shell-notices" role="status">
+      {state.refusal && <p class="shell-warning">{refusals[state.refusal]}</p>}
+      {state.failing && (
+        <p class="shell-warning">Not saved: {state.failing} You can play on; it tries again after each thing you do.</p>
+      )}
+      {/* Without a save, loading the new version would end the career. */}
+      {state.updateReady && !state.refusal && (
+        <p>
+          A new version is ready.{" "}
+          <button type="button" class="shell-button" onClick={() => void shell.update()}>
+            Use it now
+          </button>
+        </p>
+      )}
+    </div>
+  );
+}

@@ -1,0 +1,206 @@
+// Written by view_types from the fields of the view vocabulary (src/shells/web/view_fields.h). Do not edit:
+// build the target view_types and run it.
+export interface Tab {
+  readonly label: string;
+  readonly icon: string;
+  readonly current: boolean;
+  readonly handle: number;
+}
+
+export type ButtonWeight = "normal" | "primary" | "quiet" | "destructive";
+
+export interface Button {
+  readonly label: string;
+  readonly price: string;
+  readonly offReason: string;
+  readonly weight: ButtonWeight;
+  readonly handle: number;
+}
+
+export interface Dialog {
+  readonly title: string;
+  readonly message: string;
+  readonly answers: readonly Button[];
+}
+
+export interface Page {
+  readonly title: string;
+  readonly subtitle: string;
+  readonly icons: readonly Tab[];
+  readonly nodes: readonly Node[];
+  readonly tabs: readonly Tab[];
+  readonly close: readonly Button[];
+  readonly dialog: readonly Dialog[];
+}
+
+export type TextStyle = "body" | "large" | "caption" | "quotation";
+
+export type Tone = "plain" | "quiet" | "good" | "warning" | "accent";
+
+export interface Text {
+  readonly text: string;
+  readonly style: TextStyle;
+  readonly tone: Tone;
+}
+
+export interface StatTile {
+  readonly label: string;
+  readonly value: string;
+  readonly detail: string;
+  readonly tone: Tone;
+}
+
+export interface Tiles {
+  readonly tiles: readonly StatTile[];
+}
+
+export interface Meter {
+  readonly label: string;
+  readonly value: number;
+  readonly maximum: number;
+  readonly text: string;
+  readonly isScore: boolean;
+}
+
+export interface Stars {
+  readonly label: string;
+  readonly value: number;
+  readonly outOf: number;
+}
+
+export interface Buttons {
+  readonly buttons: readonly Button[];
+}
+
+export type PictureKind = "avatar" | "poster" | "logo" | "house" | "vehicle" | "card" | "photo" | "icon";
+
+export interface Picture {
+  readonly kind: PictureKind;
+  readonly name: string;
+  readonly description: string;
+}
+
+export interface Row {
+  readonly label: string;
+  readonly value: string;
+  readonly detail: string;
+  readonly picture: readonly Picture[];
+  readonly tone: Tone;
+  readonly handle: number;
+}
+
+export interface Field {
+  readonly label: string;
+  readonly value: string;
+  readonly hint: string;
+  readonly maximumLength: number;
+  readonly severalLines: boolean;
+  readonly handle: number;
+}
+
+export interface Slider {
+  readonly label: string;
+  readonly value: number;
+  readonly minimum: number;
+  readonly maximum: number;
+  readonly step: number;
+  readonly text: string;
+  readonly handle: number;
+}
+
+export interface ChoiceOption {
+  readonly label: string;
+  readonly chosen: boolean;
+  readonly picture: readonly Picture[];
+  readonly handle: number;
+}
+
+export interface Choice {
+  readonly label: string;
+  readonly options: readonly ChoiceOption[];
+  readonly several: boolean;
+}
+
+export type ChartKind = "line" | "bar" | "pie" | "histogram";
+
+export interface ChartPoint {
+  readonly label: string;
+  readonly value: number;
+  readonly text: string;
+}
+
+export interface ChartTick {
+  readonly value: number;
+  readonly text: string;
+}
+
+export interface Chart {
+  readonly kind: ChartKind;
+  readonly title: string;
+  readonly points: readonly ChartPoint[];
+  readonly scale: readonly ChartTick[];
+  readonly summary: string;
+}
+
+export interface Bubble {
+  readonly speaker: string;
+  readonly text: string;
+  readonly mine: boolean;
+}
+
+export interface TimelineEntry {
+  readonly when: string;
+  readonly text: string;
+}
+
+export interface Countdown {
+  readonly label: string;
+  readonly secondsLeft: number;
+  readonly secondsInAll: number;
+}
+
+export interface Section {
+  readonly heading: string;
+  readonly nodes: readonly Node[];
+}
+
+export interface Card {
+  readonly title: string;
+  readonly subtitle: string;
+  readonly picture: readonly Picture[];
+  readonly nodes: readonly Node[];
+  readonly handle: number;
+}
+
+export interface SwipeCard {
+  readonly card: Card;
+  readonly left: Button;
+  readonly right: Button;
+}
+
+export interface ListPage {
+  readonly nodes: readonly Node[];
+  readonly position: string;
+  readonly turns: readonly Button[];
+}
+
+export type Node =
+  | { readonly kind: "text"; readonly content: Text }
+  | { readonly kind: "tiles"; readonly content: Tiles }
+  | { readonly kind: "meter"; readonly content: Meter }
+  | { readonly kind: "stars"; readonly content: Stars }
+  | { readonly kind: "button"; readonly content: Button }
+  | { readonly kind: "buttons"; readonly content: Buttons }
+  | { readonly kind: "row"; readonly content: Row }
+  | { readonly kind: "field"; readonly content: Field }
+  | { readonly kind: "slider"; readonly content: Slider }
+  | { readonly kind: "choice"; readonly content: Choice }
+  | { readonly kind: "chart"; readonly content: Chart }
+  | { readonly kind: "picture"; readonly content: Picture }
+  | { readonly kind: "bubble"; readonly content: Bubble }
+  | { readonly kind: "timelineEntry"; readonly content: TimelineEntry }
+  | { readonly kind: "countdown"; readonly content: Countdown }
+  | { readonly kind: "section"; readonly content: Section }
+  | { readonly kind: "card"; readonly content: Card }
+  | { readonly kind: "swipeCard"; readonly content: SwipeCard }
+  | { readonly kind: "listPage"; readonly content: ListPage };
