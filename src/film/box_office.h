@@ -2,6 +2,9 @@
 
 // A feature film in the cinemas: an opening in up to 52 markets, seven weeks after it, and the close.
 
+#include <cstdint>
+#include <optional>
+
 #include "core/game.h"
 
 namespace tb {
@@ -19,10 +22,11 @@ void advanceBoxOffice(Game& game, const Audition& project, std::int64_t weeksSin
 void postBoxOfficeChirp(Game& game);
 
 // When the summary opens: films whose run is over, in week 8 and later, get their gross. Writes the films,
-// the box office and `activityTracker` when there was one. A film without a record stays at 0.
+// the box office and `activityTracker`. A film without a record stays at 0 and is looked at again every week,
+// and so is one that took nothing.
 void closeBoxOffice(Game& game);
 
-// What a film took so far in all markets, in dollars.
-[[nodiscard]] double grossOf(const WorldState& world, std::int64_t filmId);
+// What a film took so far in all markets, in dollars; nothing when it opened in none.
+[[nodiscard]] std::optional<double> grossOf(const WorldState& world, std::int64_t filmId);
 
 }  // namespace tb
