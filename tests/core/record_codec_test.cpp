@@ -79,8 +79,7 @@ TEST(RecordCodec, AListIsAnArrayOfDictionariesInTheOrderOfTheRecord) {
 
 TEST(RecordCodec, ALongListThatRepeatsItselfIsStillRead) {
   SampleRecord record;
-  record.title = std::string(2'000, 't');
-  record.genres = {record.title};
+  record.title = std::string(500, 't');
   const std::vector<SampleRecord> list(52'000, record);
   const auto read = decodeRecords<SampleRecord>(encode(list));
   ASSERT_TRUE(read);
