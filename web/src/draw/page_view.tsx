@@ -62,6 +62,7 @@ export class PageView extends Component<PageViewProps> {
 
   private tell(news: readonly string[]): void {
     const region = this.root.current?.querySelector("[data-news]");
-    if (region && news.length > 0) region.textContent = news.join(". ");
+    const sentences = news.map((words) => (/[.!?…]\s*$/u.test(words) ? words : `${words}.`));
+    if (region && sentences.length > 0) region.textContent = sentences.join(" ");
   }
 }

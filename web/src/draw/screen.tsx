@@ -1,11 +1,12 @@
 // A whole page.
 
 import type { RefObject } from "preact";
-import { useMemo, useRef } from "preact/hooks";
+import { useEffect, useMemo, useRef } from "preact/hooks";
 
 import type { PageViewProps } from "../runtime/actions";
 import type { Page } from "../view_types";
 import { partsOf } from "./columns";
+import type { Parts } from "./columns";
 import { Dialog } from "./dialog";
 import { Nodes } from "./node";
 import { Bar, Masthead, Tabs } from "./page_parts";
@@ -19,8 +20,7 @@ function usePageUnderDialog(page: Page): Page {
   return open.current;
 }
 
-function Content({ page }: { readonly page: Page }) {
-  const { lead, columns, action } = partsOf(page.nodes);
+function Content({ lead, columns, action }: Parts) {
   return (
     <div class="nodes">
       {lead.length > 0 && (
@@ -46,11 +46,25 @@ function Content({ page }: { readonly page: Page }) {
   );
 }
 
+// Tells the style when the title has scrolled away, so that the bar shows it.
+function useScrolledTitle(root: RefObject<HTMLDivElement | null>): void {
+  useEffect(() => {
+    const screen = root.current!;
+    const watch = new IntersectionObserver(([title]) => screen.toggleAttribute("data-scrolled", !title!.isIntersecting), {
+      rootMargin: "-56px 0px 0px", // under the bar is out of sight
+    });
+    watch.observe(screen.querySelector("h1")!);
+    return () => watch.disconnect();
+  }, []);
+}
+
 type ScreenProps = PageViewProps & { readonly root: RefObject<HTMLDivElement | null> };
 
 export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
   const under = usePageUnderDialog(page);
+  useScrolledTitle(root);
   const context = useMemo(() => ({ title: under.title, actions, headingLevel: 2 }), [under.title, actions]);
+  const parts = partsOf(under.nodes);
   const dialog = page.dialog[0];
   return (
     <ScreenContext.Provider value={context}>
@@ -61,11 +75,11 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
           </a>
         )}
         <Bar page={under} />
-        <main class="main">
+        <main class={parts.isNarrow ? "main main-narrow" : "main"}>
           <Masthead title={under.title} subtitle={under.subtitle} />
           <div class="content">
             {banner}
-            <Content key={under.title} page={under} />
+            <Content key={under.title} {...parts} />
             {corner}
           </div>
         </main>
