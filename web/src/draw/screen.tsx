@@ -10,13 +10,14 @@ import type { Parts } from "./columns";
 import { Dialog } from "./dialog";
 import { Nodes } from "./node";
 import { Bar, Masthead, Tabs } from "./page_parts";
+import { screenOf } from "./places";
 import { ScreenContext } from "./screen_context";
 
 // While a message is up, nothing under it can be used and its controls have no handles. The page then stays as it
 // was before the message came, and what has changed shows when the player has read why.
 function usePageUnderDialog(page: Page): Page {
   const open = useRef(page);
-  if (page.dialog.length === 0 || page.title !== open.current.title) open.current = page;
+  if (page.dialog.length === 0 || screenOf(page) !== screenOf(open.current)) open.current = page;
   return open.current;
 }
 
@@ -58,11 +59,27 @@ function useScrolledTitle(root: RefObject<HTMLDivElement | null>): void {
   }, []);
 }
 
+// Tells the style how high the tabs stand, which large text may break into two lines: what sticks does so above them.
+function useTabsHeight(root: RefObject<HTMLDivElement | null>, count: number): void {
+  useEffect(() => {
+    const tabs = root.current!.querySelector<HTMLElement>(".tabs");
+    if (tabs === null) return;
+    const tell = () => document.documentElement.style.setProperty("--tabs-height", `${tabs.offsetHeight}px`);
+    const watch = new ResizeObserver(tell);
+    watch.observe(tabs);
+    return () => {
+      watch.disconnect();
+      document.documentElement.style.removeProperty("--tabs-height");
+    };
+  }, [count > 0]);
+}
+
 type ScreenProps = PageViewProps & { readonly root: RefObject<HTMLDivElement | null> };
 
 export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
   const under = usePageUnderDialog(page);
   useScrolledTitle(root);
+  useTabsHeight(root, under.tabs.length);
   const context = useMemo(() => ({ title: under.title, actions, headingLevel: 2 }), [under.title, actions]);
   const parts = partsOf(under.nodes);
   const dialog = page.dialog[0];
@@ -79,7 +96,7 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
           <Masthead title={under.title} subtitle={under.subtitle} />
           <div class="content">
             {banner}
-            <Content key={under.title} {...parts} />
+            <Content key={screenOf(under)} {...parts} />
             {corner}
           </div>
         </main>
