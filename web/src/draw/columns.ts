@@ -6,6 +6,7 @@ export interface Parts {
   readonly lead: readonly Node[]; // over both columns
   readonly columns: readonly (readonly Node[])[]; // none, or two
   readonly action: readonly Node[]; // none or one: what the page is for, kept in reach of the thumb
+  readonly isNarrow: boolean; // nothing on it uses a wide screen
 }
 
 // How high a node stands, roughly, in rows of text. Nodes are never measured, so a page keeps its columns while
@@ -54,12 +55,19 @@ function cutOf(sections: readonly Node[]): number {
   return best;
 }
 
+// Cards stand side by side where there is room.
+const isWide = (node: Node): boolean =>
+  node.kind === "card" || (node.kind === "listPage" && node.content.nodes.some((listed) => listed.kind === "card"));
+
 export function partsOf(nodes: readonly Node[]): Parts {
   const action = isAction(nodes[nodes.length - 1]) ? nodes.slice(-1) : [];
   const rest = nodes.slice(0, nodes.length - action.length);
   const first = rest.findIndex((node) => node.kind === "section");
   const sections = first < 0 ? [] : rest.slice(first);
-  if (sections.filter((node) => node.kind === "section").length < 2) return { lead: rest, columns: [], action };
+  if (sections.filter((node) => node.kind === "section").length < 2) {
+    const inside = sections[0]?.kind === "section" ? sections[0].content.nodes : [];
+    return { lead: rest, columns: [], action, isNarrow: ![...rest, ...inside].some(isWide) };
+  }
   const cut = cutOf(sections);
-  return { lead: rest.slice(0, first), columns: [sections.slice(0, cut), sections.slice(cut)], action };
+  return { lead: rest.slice(0, first), columns: [sections.slice(0, cut), sections.slice(cut)], action, isNarrow: false };
 }
