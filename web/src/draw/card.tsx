@@ -1,0 +1,68 @@
+// A ticket: what it is for on top, the rest under the tear. A card that can be pressed is pressed anywhere on it;
+// for the keyboard and the screen reader its title is the button.
+
+import type { ComponentChildren } from "preact";
+
+import type * as View from "../view_types";
+import { Nodes } from "./node";
+import { Picture } from "./picture";
+import { usePress } from "./pressing";
+import { Heading, Under } from "./section";
+import { Chevron } from "./signs";
+import { Words } from "./words";
+
+export function Cards({ children }: { readonly children?: ComponentChildren }) {
+  return <div class="cards">{children}</div>;
+}
+
+// Pictures that are wider than high stand over the words, all others beside them.
+const wide: ReadonlySet<View.PictureKind> = new Set(["house", "vehicle", "photo"]);
+
+function CardHead({ title, subtitle, handle }: Pick<View.Card, "title" | "subtitle" | "handle">) {
+  const press = usePress();
+  const words = <Words text={title} />;
+  return (
+    <div class="card-words">
+      {title !== "" && (
+        <Heading class="card-title">
+          {handle === 0 ? (
+            words
+          ) : (
+            <button type="button" class="card-press" data-handle={handle} onClick={press}>
+              {words}
+            </button>
+          )}
+        </Heading>
+      )}
+      {subtitle !== "" && (
+        <p class="card-subtitle">
+          <Words text={subtitle} />
+        </p>
+      )}
+    </div>
+  );
+}
+
+export function Card({ title, subtitle, picture, nodes, handle }: View.Card) {
+  const banner = picture.some((shown) => wide.has(shown.kind));
+  return (
+    <article class="card">
+      {(title !== "" || subtitle !== "" || picture.length > 0) && (
+        <div class={`card-head${banner ? " card-banner" : ""}`}>
+          {picture.map((shown) => (
+            <Picture key={shown.name} {...shown} size={banner ? "full" : "card"} />
+          ))}
+          <CardHead title={title} subtitle={subtitle} handle={handle} />
+          {handle !== 0 && <Chevron />}
+        </div>
+      )}
+      {nodes.length > 0 && (
+        <div class="card-body">
+          <Under>
+            <Nodes nodes={nodes} />
+          </Under>
+        </div>
+      )}
+    </article>
+  );
+}

@@ -1,0 +1,70 @@
+// One or several of a few options, as radio buttons or check boxes, whatever they look like.
+
+import { useId, useLayoutEffect, useRef } from "preact/hooks";
+
+import type * as View from "../view_types";
+import { numbered } from "./keys";
+import { Picture } from "./picture";
+import { usePress } from "./pressing";
+import { Check } from "./signs";
+import { Words } from "./words";
+
+const fitsSideBySide = 22; // letters of all options together, on a small phone
+
+function looksOf({ options, several }: View.Choice): "pictures" | "side-by-side" | "list" {
+  if (options.some((option) => option.picture.length > 0)) return "pictures";
+  const letters = options.reduce((sum, option) => sum + option.label.length, 0);
+  return !several && options.length <= 4 && letters <= fitsSideBySide ? "side-by-side" : "list";
+}
+
+export function Choice(choice: View.Choice) {
+  const name = useId();
+  const press = usePress();
+  const fieldset = useRef<HTMLFieldSetElement>(null);
+  const chosen = useRef<readonly boolean[]>([]);
+  chosen.current = choice.options.map((option) => option.chosen);
+
+  // The browser marks an option as it is pressed; whether it is chosen is for the page to say.
+  const showChosen = () => {
+    fieldset.current?.querySelectorAll("input").forEach((input, index) => {
+      input.checked = chosen.current[index] ?? false;
+    });
+  };
+  useLayoutEffect(showChosen);
+  const choose = (event: Event) => {
+    press(event);
+    showChosen();
+  };
+
+  const looks = looksOf(choice);
+  const keys = numbered(choice.options.map((option) => option.label));
+  return (
+    <fieldset class={`choice choice-${looks}`} ref={fieldset}>
+      <legend class={choice.label === "" ? "unseen" : "field-label"}>
+        <Words text={choice.label === "" ? "Options" : choice.label} />
+      </legend>
+      <div class="options">
+        {choice.options.map((option, index) => (
+          <label class={`option${option.chosen ? " is-chosen" : ""}`} key={keys[index]!}>
+            <input
+              type={choice.several ? "checkbox" : "radio"}
+              class="option-control"
+              name={name}
+              data-handle={option.handle}
+              onChange={choose}
+            />
+            {option.picture.map((shown) => (
+              <Picture key={shown.name} {...shown} size="option" />
+            ))}
+            <span class="option-mark" aria-hidden="true">
+              <Check />
+            </span>
+            <span class="option-label">
+              <Words text={option.label} />
+            </span>
+          </label>
+        ))}
+      </div>
+    </fieldset>
+  );
+}

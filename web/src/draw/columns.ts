@@ -1,0 +1,73 @@
+// How the nodes of a page share a wide screen. On a phone the parts stand under each other in the same order.
+
+import type { Node } from "../view_types";
+
+export interface Parts {
+  readonly lead: readonly Node[]; // over both columns
+  readonly columns: readonly (readonly Node[])[]; // none, or two
+  readonly action: readonly Node[]; // none or one: what the page is for, kept in reach of the thumb
+  readonly isNarrow: boolean; // nothing on it uses a wide screen
+}
+
+// How high a node stands, roughly, in rows of text. Nodes are never measured, so a page keeps its columns while
+// figures change.
+function heightOf(node: Node): number {
+  switch (node.kind) {
+    case "section":
+      return 2 + heightOfAll(node.content.nodes);
+    case "listPage":
+      return heightOfAll(node.content.nodes) + (node.content.turns.length > 0 ? 3 : 0);
+    case "card":
+      return 4 + heightOfAll(node.content.nodes);
+    case "choice":
+      return 2 + 2 * node.content.options.length;
+    case "tiles":
+      return 3 * Math.ceil(node.content.tiles.length / 2);
+    case "chart":
+      return 12;
+    case "picture":
+    case "swipeCard":
+      return 16;
+    case "text":
+      return 1 + node.content.text.length / 60;
+    default:
+      return 2.5;
+  }
+}
+
+const heightOfAll = (nodes: readonly Node[]): number => nodes.reduce((sum, node) => sum + heightOf(node), 0);
+
+const isAction = (node: Node | undefined): boolean =>
+  (node?.kind === "button" && node.content.weight === "primary") ||
+  (node?.kind === "buttons" && node.content.buttons.some((button) => button.weight === "primary"));
+
+// Where to cut the sections so that the higher of the two columns is as low as can be.
+function cutOf(sections: readonly Node[]): number {
+  const all = heightOfAll(sections);
+  let best = sections.length;
+  let lowest = all;
+  let left = 0;
+  sections.forEach((section, index) => {
+    left += heightOf(section);
+    const higher = Math.max(left, all - left);
+    if (higher < lowest) [lowest, best] = [higher, index + 1];
+  });
+  return best;
+}
+
+// Cards stand side by side where there is room.
+const isWide = (node: Node): boolean =>
+  node.kind === "card" || (node.kind === "listPage" && node.content.nodes.some((listed) => listed.kind === "card"));
+
+export function partsOf(nodes: readonly Node[]): Parts {
+  const action = isAction(nodes[nodes.length - 1]) ? nodes.slice(-1) : [];
+  const rest = nodes.slice(0, nodes.length - action.length);
+  const first = rest.findIndex((node) => node.kind === "section");
+  const sections = first < 0 ? [] : rest.slice(first);
+  if (sections.filter((node) => node.kind === "section").length < 2) {
+    const inside = sections[0]?.kind === "section" ? sections[0].content.nodes : [];
+    return { lead: rest, columns: [], action, isNarrow: ![...rest, ...inside].some(isWide) };
+  }
+  const cut = cutOf(sections);
+  return { lead: rest.slice(0, first), columns: [sections.slice(0, cut), sections.slice(cut)], action, isNarrow: false };
+}

@@ -1,0 +1,51 @@
+// What tells the nodes of one run apart when they are drawn again: their kind and the words that name them.
+// A control that keeps its name keeps its element, and with it the focus, wherever it moves among its fellows.
+
+import type { Node } from "../view_types";
+
+function nameOf(node: Node): string {
+  switch (node.kind) {
+    case "meter":
+    case "stars":
+    case "button":
+    case "row":
+    case "field":
+    case "slider":
+    case "choice":
+    case "countdown":
+      return node.content.label;
+    case "buttons":
+      return node.content.buttons[0]?.label ?? "";
+    case "section":
+      return node.content.heading;
+    case "chart":
+    case "card":
+      return node.content.title;
+    case "swipeCard":
+      return node.content.card.title;
+    case "picture":
+      return `${node.content.kind} ${node.content.name}`;
+    case "bubble":
+      return `${node.content.speaker} ${node.content.text}`;
+    case "timelineEntry":
+      return `${node.content.when} ${node.content.text}`;
+    case "text":
+    case "tiles":
+    case "listPage":
+      return "";
+  }
+}
+
+// One key a node, no two alike: nodes of one name are told apart by their order.
+export function keysOf(nodes: readonly Node[]): string[] {
+  return numbered(nodes.map((node) => `${node.kind} ${nameOf(node)}`));
+}
+
+export function numbered(names: readonly string[]): string[] {
+  const seen = new Map<string, number>();
+  return names.map((name) => {
+    const before = seen.get(name) ?? 0;
+    seen.set(name, before + 1);
+    return before === 0 ? name : `${name} #${before}`;
+  });
+}

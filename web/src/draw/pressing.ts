@@ -1,0 +1,48 @@
+// Pressing and typing, and the order of the two.
+//
+// A text that is still being typed is handed over before anything is pressed. On a touch screen a button does not
+// take the focus from a field, so the field would otherwise never hear that the player is done. Handing it over
+// draws the page again and numbers its controls anew: the press waits for that and then reads the control's handle.
+
+import { useScreen } from "./screen_context";
+
+let unfinished: (() => void) | null = null;
+let waiting: (() => void) | null = null;
+
+// A field says that its text is not handed over yet, and how to do so; null when it is.
+export function setUnfinished(finish: (() => void) | null): void {
+  unfinished = finish;
+}
+
+export function finishTyping(): void {
+  const finish = unfinished;
+  unfinished = null;
+  finish?.();
+}
+
+// The page was drawn again: a press that waited for it is done.
+export function pressAfterTyping(): void {
+  const press = waiting;
+  waiting = null;
+  press?.();
+}
+
+// The handle that a control stands for now; 0 when it cannot be used or is no longer on the page.
+export function handleOf(control: HTMLElement): number {
+  return control.isConnected ? Number(control.dataset["handle"] ?? 0) : 0;
+}
+
+// The answer to a click on any control that has a data-handle.
+export function usePress(): (event: Event) => void {
+  const { actions } = useScreen();
+  return (event) => {
+    const control = event.currentTarget as HTMLElement;
+    const press = () => {
+      const handle = handleOf(control);
+      if (handle > 0) actions.press(handle);
+    };
+    if (unfinished === null) return press();
+    waiting = press;
+    finishTyping();
+  };
+}

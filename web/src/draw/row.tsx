@@ -1,0 +1,64 @@
+// One line of a list: what, how much, and where a press leads.
+
+import type { ComponentChildren } from "preact";
+
+import type * as View from "../view_types";
+import { Chevron } from "./signs";
+import { Picture } from "./picture";
+import { usePress } from "./pressing";
+import { Words } from "./words";
+
+export function Rows({ children }: { readonly children?: ComponentChildren }) {
+  return (
+    <ul class="rows" role="list">
+      {children}
+    </ul>
+  );
+}
+
+function RowContent({ label, value, detail, picture }: View.Row) {
+  return (
+    <>
+      {picture.map((shown) => (
+        <Picture key={shown.name} {...shown} size="row" />
+      ))}
+      <span class="row-words">
+        <span class="row-label">
+          <Words text={label} />
+        </span>
+        {detail !== "" && (
+          <span class="row-detail">
+            <span class="unseen">, </span>
+            <Words text={detail} />
+          </span>
+        )}
+      </span>
+      {value !== "" && (
+        <span class="row-value">
+          <span class="unseen">, </span>
+          <Words text={value} />
+        </span>
+      )}
+    </>
+  );
+}
+
+export function Row(row: View.Row) {
+  const press = usePress();
+  const tint = `tone-${row.tone}${row.value === "" ? " row-bare" : ""}`;
+  if (row.handle === 0) {
+    return (
+      <li class={`row ${tint}`}>
+        <RowContent {...row} />
+      </li>
+    );
+  }
+  return (
+    <li class="row-place">
+      <button type="button" class={`row row-press ${tint}`} data-handle={row.handle} onClick={press}>
+        <RowContent {...row} />
+        <Chevron />
+      </button>
+    </li>
+  );
+}

@@ -1,0 +1,20 @@
+// What every component of one screen knows: its title, its way to the owner, and how deep headings are nested.
+
+import { createContext } from "preact";
+import { useContext } from "preact/hooks";
+
+import type { Actions } from "../runtime/actions";
+
+export interface ScreenContext {
+  readonly title: string;
+  readonly actions: Actions;
+  readonly headingLevel: number; // of the next heading, 2 to 6
+}
+
+export const ScreenContext = createContext<ScreenContext>({
+  title: "",
+  actions: { press() {}, type() {}, slide() {}, back() {} },
+  headingLevel: 2,
+});
+
+export const useScreen = (): ScreenContext => useContext(ScreenContext);
