@@ -36,7 +36,7 @@ class Walk {
     if (handle != 0) use_({.label = label, .handle = handle, .kind = Kind::press});
   }
   void nodes(const std::vector<Node>& nodes) {
-    for (const Node& each : nodes) std::visit([this](const auto& kind) { node(kind); }, each.node);
+    for (const Node& each : nodes) std::visit([this](const auto& kind) { this->node(kind); }, each.node);
   }
 
   void node(const Text& text) { text_(text.text); }

@@ -6,7 +6,7 @@
 import { mkdirSync, writeFileSync } from "node:fs";
 import { dirname, join } from "node:path";
 import { fileURLToPath } from "node:url";
-import { launchChromium } from "./test/browser.mjs";
+import { launchChromium } from "./browser.mjs";
 
 const folder = join(dirname(fileURLToPath(import.meta.url)), "static/icons");
 const size = 512;
@@ -38,7 +38,7 @@ function bulbs(radius) {
     const angle = (index * 2 * Math.PI) / count;
     const x = round(middle + radius * Math.cos(angle));
     const y = round(middle + radius * Math.sin(angle));
-    return `<circle cx="${x}" cy="${y}" r="13" fill="${index % 2 === 0 ? "#ffe9a8" : "#e0a83a"}"/>`;
+    return `<circle cx="${x}" cy="${y}" r="13" fill="${index % 2 === 0 ? "#fff1c9" : "#ffc44d"}"/>`;
   }).join("");
 }
 
@@ -46,9 +46,9 @@ function bulbs(radius) {
 // icon the drawing takes; a mask may cut away all but the middle four fifths.
 function drawing(corner, scale) {
   return `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${size} ${size}">
-<rect width="${size}" height="${size}" rx="${corner}" fill="#5a1636"/>
+<rect width="${size}" height="${size}" rx="${corner}" fill="#54102a"/>
 <g transform="translate(${middle} ${middle}) scale(${scale}) translate(${-middle} ${-middle})">
-<circle cx="${middle}" cy="${middle}" r="200" fill="#6f1f45" stroke="#3c0d26" stroke-width="44"/>
+<circle cx="${middle}" cy="${middle}" r="200" fill="#6b1836" stroke="#390a1d" stroke-width="44"/>
 ${bulbs(200)}
 ${star(142)}
 </g>

@@ -1,13 +1,16 @@
 #include "core/debug_log.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 
 namespace tb {
 
 void debugLog(std::string_view line) {
-  // One write a line, so that lines of several processes do not mix.
-  const std::string whole = std::string(line) + "\n";
+  // One line and one write, whatever the text: lines of several processes do not mix.
+  std::string whole(line);
+  std::ranges::replace(whole, '\n', ' ');
+  whole += '\n';
   std::fwrite(whole.data(), 1, whole.size(), stderr);
 }
 

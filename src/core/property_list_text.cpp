@@ -20,27 +20,6 @@ constexpr Lead leads[] = {
     {0xF1, 0xF3, 3, 0x80, 0xBF}, {0xF4, 0xF4, 3, 0x80, 0x8F},
 };
 
-// The character at the front of `text`, which is not empty; takes its bytes off.
-char32_t takeCharacter(std::string_view& text) {
-  const auto byte = static_cast<std::uint8_t>(text.front());
-  text.remove_prefix(1);
-  if (byte < 0x80) return byte;
-  for (const Lead& lead : leads) {
-    if (byte < lead.first || byte > lead.last) continue;
-    char32_t character = byte & (0x3F >> lead.following);
-    for (int taken = 0; taken < lead.following; ++taken) {
-      if (text.empty()) return replacementCharacter;
-      const auto next = static_cast<std::uint8_t>(text.front());
-      const bool fits = taken == 0 ? next >= lead.low && next <= lead.high : (next & 0xC0) == 0x80;
-      if (!fits) return replacementCharacter;
-      character = character << 6 | (next & 0x3F);
-      text.remove_prefix(1);
-    }
-    return character;
-  }
-  return replacementCharacter;
-}
-
 void appendCharacter(std::string& text, char32_t character) {
   const auto add = [&](char32_t byte) { text.push_back(static_cast<char>(byte)); };
   if (character < 0x80) {
@@ -61,6 +40,26 @@ void appendCharacter(std::string& text, char32_t character) {
 }
 
 }  // namespace
+
+char32_t takeCharacter(std::string_view& text) {
+  const auto byte = static_cast<std::uint8_t>(text.front());
+  text.remove_prefix(1);
+  if (byte < 0x80) return byte;
+  for (const Lead& lead : leads) {
+    if (byte < lead.first || byte > lead.last) continue;
+    char32_t character = byte & (0x3F >> lead.following);
+    for (int taken = 0; taken < lead.following; ++taken) {
+      if (text.empty()) return replacementCharacter;
+      const auto next = static_cast<std::uint8_t>(text.front());
+      const bool fits = taken == 0 ? next >= lead.low && next <= lead.high : (next & 0xC0) == 0x80;
+      if (!fits) return replacementCharacter;
+      character = character << 6 | (next & 0x3F);
+      text.remove_prefix(1);
+    }
+    return character;
+  }
+  return replacementCharacter;
+}
 
 bool isAscii(std::string_view text) {
   unsigned char all = 0;

@@ -9,9 +9,13 @@
 
 namespace tb::plist {
 
+// The character at the front of `utf8`, which is not empty; takes its bytes off. Ill-formed bytes are U+FFFD,
+// one for each longest piece that could have begun a character.
+char32_t takeCharacter(std::string_view& utf8);
+
 [[nodiscard]] bool isAscii(std::string_view text);
 
-// Ill-formed bytes become U+FFFD, one for each longest piece that could have begun a character.
+// Ill-formed bytes as takeCharacter() reads them.
 [[nodiscard]] std::u16string toUtf16(std::string_view utf8);
 
 // Turns the big-endian units into UTF-8 at the end of `text`; false when a surrogate stands alone. An odd

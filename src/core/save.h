@@ -88,10 +88,10 @@ void saveVariable(SaveStore& store, std::string_view key, List<T>& list) {
   list.changesSaved();
 }
 
-// What a load answers: nothing, or why the variable stays as it was.
-using LoadFailure = std::optional<DecodeError>;
+// What a load answers: nothing, or why the variable stays as it was, for the debug log.
+using LoadFailure = std::optional<std::string>;
 
-inline constexpr DecodeError wrongKind{.kind = DecodeError::Kind::wrongKind};
+inline constexpr const char* otherKind = "The stored value is of another kind.";
 
 // Takes the pieces over as they are stored, all or none.
 template <class T>
@@ -99,7 +99,7 @@ LoadFailure loadPieces(const SaveStore::Entry& stored, List<T>& list) {
   std::vector<std::pair<std::int64_t, std::vector<T>>> pieces;
   for (const auto& [number, bytes] : stored.pieces) {
     auto elements = decodePiece<T>(bytes);
-    if (!elements) return elements.error();
+    if (!elements) return describe(elements.error());
     pieces.emplace_back(number, *std::move(elements));
   }
   list.startLoading();
@@ -113,15 +113,15 @@ template <class T>
 LoadFailure loadImported(const Bytes& stored, List<T>& list) {
   if constexpr (RecordType<T>) {
     const auto value = plist::read(stored);
-    if (!value) return DecodeError{.readError = value.error()};
+    if (!value) return std::string(plist::describe(value.error()));
     const auto* const data = value->template as<plist::Data>();
-    if (data == nullptr) return wrongKind;
+    if (data == nullptr) return otherKind;
     auto elements = decodePiece<T>(data->bytes);
-    if (!elements) return elements.error();
+    if (!elements) return describe(elements.error());
     list.assign(*std::move(elements));
   } else {
     auto elements = decodePiece<T>(stored);
-    if (!elements) return elements.error();
+    if (!elements) return describe(elements.error());
     list.assign(*std::move(elements));
   }
   return std::nullopt;
@@ -129,7 +129,7 @@ LoadFailure loadImported(const Bytes& stored, List<T>& list) {
 
 template <class T>
 LoadFailure loadStored(const SaveStore::Entry& stored, List<T>& list) {
-  LoadFailure failure = wrongKind;
+  LoadFailure failure = otherKind;
   if (stored.shape == shapeOf<T>) failure = loadPieces(stored, list);
   if (stored.shape == Shape::plain) failure = loadImported(stored.pieces.begin()->second, list);
   if (failure) list.saveWhole();  // its next save can't add to what can't be read
@@ -138,11 +138,11 @@ LoadFailure loadStored(const SaveStore::Entry& stored, List<T>& list) {
 
 template <class T>
 LoadFailure loadStored(const SaveStore::Entry& stored, T& variable) {
-  if (stored.shape != Shape::plain) return wrongKind;
+  if (stored.shape != Shape::plain) return otherKind;
   const auto held = plist::read(stored.pieces.begin()->second);
-  if (!held) return DecodeError{.readError = held.error()};
+  if (!held) return std::string(plist::describe(held.error()));
   auto value = valueAs<T>(*held);
-  if (!value) return wrongKind;
+  if (!value) return otherKind;
   variable = *std::move(value);
   return std::nullopt;
 }
@@ -155,7 +155,7 @@ void loadVariable(SaveStore& store, std::string_view key, T& variable) {
   const LoadFailure failure = loadStored(*stored, variable);
   if (!failure) return;
   store.keepAside(key);
-  debugLog(std::string(key) + ": " + describe(*failure));
+  debugLog(std::string(key) + ": " + *failure);
 }
 
 }  // namespace detail

@@ -9,9 +9,12 @@
 namespace tb {
 
 App::App(SaveStore& store, RandomSource& random, Locale locale)
+    : App(store, random, std::move(locale), std::make_unique<ViewController>()) {}
+
+App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first)
     : game_{.store = store, .random = random, .locale = std::move(locale)}, stage_(game_) {
   loadWorld(game_);
-  stage_.open(std::make_unique<ViewController>());
+  stage_.open(std::move(first));
   endAction();
 }
 
@@ -60,6 +63,11 @@ void App::savingFailed(const std::string& why) {
                                   "again after each thing you do."});
   }
   told_of_failure_ = true;
+  laid_out_.reset();
+}
+
+void App::tell(Notice notice) {
+  stage_.show(std::move(notice));
   laid_out_.reset();
 }
 

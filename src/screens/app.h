@@ -2,6 +2,7 @@
 
 // The whole game as a shell sees it: a page to show, and what the player did.
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -15,6 +16,9 @@ class App {
  public:
   // Loads the career that the store holds, or opens the form of a new one.
   App(SaveStore& store, RandomSource& random, Locale locale = {});
+
+  // The same with another screen at the bottom of the stack, for trying a screen or a shell alone.
+  App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first);
 
   // What is on show now. Good until the next call of anything else.
   [[nodiscard]] const view::Page& view();
@@ -33,6 +37,9 @@ class App {
 
   // The platform could not keep what was committed: tells the player, once until saving works again.
   void savingFailed(const std::string& why);
+
+  // Shows what the platform has to say, such as that a damaged career was put aside.
+  void tell(Notice notice);
 
   [[nodiscard]] const Game& game() const { return game_; }
 

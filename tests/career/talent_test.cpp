@@ -62,7 +62,7 @@ TEST_F(Talent, PerformanceOfABeginnerNeverDrawsFromAnEmptyRange) {
   setTraits(1);
   world.experience = 100;
   random.unit(0).unit(0);
-  EXPECT_DOUBLE_EQ(performanceRoll(game, 0), 0.69);
+  EXPECT_DOUBLE_EQ(performanceRoll(game, 0), 0.62);
   world.experience = 0;
   EXPECT_DOUBLE_EQ(performanceRoll(game, 0), 0.35);
 }

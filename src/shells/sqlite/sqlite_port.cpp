@@ -112,14 +112,14 @@ std::string sentence(const Error& error) {
 bool isDamage(const Error& error) { return error.code == SQLITE_CORRUPT || error.code == SQLITE_NOTADB; }
 
 // The version check answers with this code, which means just that in SQLite: a schema of another version.
-constexpr int newerVersion = SQLITE_SCHEMA;
+constexpr int laterSchema = SQLITE_SCHEMA;
 
 OpenFailure failureOf(const Error& error, const std::filesystem::path& file) {
   using enum OpenFailure::Kind;
   switch (error.code) {
     case SQLITE_BUSY:
       return {alreadyOpen, std::format("Another program is using {}. Close it there first.", file.string())};
-    case newerVersion:
+    case laterSchema:
       return {
           newerVersion,
           "This career was saved by a newer version of Top Billing. Update the game to play it; nothing was "
@@ -197,7 +197,7 @@ Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& f
   if (!marks) return std::unexpected(marks.error());
   if (!marks->isNew()) {
     if (!marks->isOurs()) return damaged("the file is another program's");
-    if (marks->version > schemaVersion) return std::unexpected(Error{newerVersion, ""});
+    if (marks->version > schemaVersion) return std::unexpected(Error{laterSchema, ""});
     const auto check = database->text("PRAGMA quick_check(1)");
     if (!check) return std::unexpected(check.error());
     if (*check != "ok") return damaged(*check);

@@ -53,7 +53,7 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
   };
 
   return (
-    <footer class="shell-corner">
+    <div class="shell-corner">
       <button type="button" class="shell-button" onClick={open}>
         Saves
       </button>
@@ -94,6 +94,6 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
           Close
         </button>
       </dialog>
-    </footer>
+    </div>
   );
 }

@@ -143,7 +143,7 @@ export class Shell {
   }
 
   private stop(error: unknown): void {
-    console.error(error);
+    console.error(error, error instanceof GameStopped ? error.cause : "");
     this.game = undefined;
     this.show({ kind: "stopped" });
   }

@@ -1,4 +1,5 @@
-// The browser of the tests: Chromium without a window, with nothing that talks to a network by itself.
+// The browser of the tests and of the drawing of icons: Chromium without a window, with nothing that talks to
+// a network by itself.
 
 import { chromium } from "playwright-core";
 

@@ -1,0 +1,108 @@
+// Top Billing in a terminal or a pipe.
+
+#include <cstdio>
+#include <expected>
+#include <filesystem>
+#include <getopt.h>
+#include <optional>
+#include <print>
+#include <string>
+#include <system_error>
+
+#include "screens/app.h"
+#include "shells/console/console.h"
+#include "shells/console/terminal.h"
+#include "shells/native/system_locale.h"
+#include "shells/native/system_random.h"
+#include "shells/sqlite/save_folder.h"
+#include "shells/sqlite/sqlite_port.h"
+
+namespace {
+
+constexpr int success = 0;
+constexpr int failure = 1;
+constexpr int wrongUse = 2;
+
+constexpr const char* usage =
+    "Usage: top-billing [--data-dir DIR]\n"
+    "\n"
+    "An acting career, one week at a time. Type the number before what you want to\n"
+    "use, and Enter; ? tells more, q leaves. Everything is saved as you play.\n"
+    "\n"
+    "  --data-dir DIR  keeps the career in DIR (else in $XDG_DATA_HOME/top-billing,\n"
+    "                  or ~/.local/share/top-billing)\n"
+    "  --help          shows this\n"
+    "  --version       shows the version\n"
+    "\n"
+    "NO_COLOR in the environment leaves colours out. In a pipe, and where TERM is\n"
+    "\"dumb\", the pages just follow each other as plain text.";
+
+struct Options {
+  std::optional<std::filesystem::path> folder;
+  std::optional<int> exitCode;  // there is nothing to play: --help, --version, or a wrong option
+};
+
+Options readOptions(int count, char** words) {
+  constexpr option known[] = {{"data-dir", required_argument, nullptr, 'd'},
+                              {"help", no_argument, nullptr, 'h'},
+                              {"version", no_argument, nullptr, 'v'},
+                              {nullptr, 0, nullptr, 0}};
+  Options options;
+  for (int found = 0; (found = getopt_long(count, words, "", known, nullptr)) != -1;) {
+    switch (found) {
+      case 'd':
+        options.folder = optarg;
+        break;
+      case 'h':
+        std::println("{}", usage);
+        return {.exitCode = success};
+      case 'v':
+        std::println("Top Billing {}", BILLING_VERSION);
+        return {.exitCode = success};
+      default:
+        std::println(stderr, "{}", usage);
+        return {.exitCode = wrongUse};
+    }
+  }
+  if (optind < count) {
+    std::println(stderr, "What is \"{}\"?\n{}", words[optind], usage);
+    return {.exitCode = wrongUse};
+  }
+  return options;
+}
+
+std::expected<std::filesystem::path, tb::OpenFailure> folderFor(const Options& options) {
+  if (!options.folder) return tb::saveFolder();
+  // Where it cannot be created, opening it says why.
+  std::error_code ignored;
+  std::filesystem::create_directories(*options.folder, ignored);
+  return *options.folder;
+}
+
+int play(tb::SqlitePort& port) {
+  tb::SaveStore store(port);
+  tb::SystemRandom random;
+  tb::App app(store, random, tb::systemLocale());
+  if (port.notice()) app.tell(*port.notice());
+  {
+    tb::console::Terminal terminal;
+    tb::console::Console(app, terminal).play();
+  }
+  if (!store.hasUncommitted()) return success;
+  std::println(stderr,
+               "What you did last could not be saved. Your career is as it was when saving last worked.");
+  return failure;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+  const Options options = readOptions(count, words);
+  if (options.exitCode) return *options.exitCode;
+  const auto port = folderFor(options).and_then(tb::SqlitePort::open);
+  if (!port) {
+    std::println(stderr, "{}", port.error().message);
+    return failure;
+  }
+  return play(**port);
+}

@@ -1,0 +1,392 @@
+#include "shells/console/node_painter.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <format>
+#include <type_traits>
+#include <utility>
+
+#include "shells/console/chart.h"
+#include "shells/console/text.h"
+
+namespace tb::console {
+
+using namespace view;
+
+namespace {
+
+constexpr std::string_view offMark = "[-]";
+constexpr int narrowestTile = 16;
+constexpr int gaugeLabelWidth = 18;
+constexpr int gaugeWidth = 24;
+constexpr int whenWidth = 14;                 // of a timeline entry's "when"
+constexpr int bubbleShare = 3;                // a bubble is at most 3 quarters of the page wide
+constexpr double longestCountdown = 359'999;  // seconds: 99:59:59, more is shown as that
+
+// Kinds that stand apart from what is before and after them.
+template <class Kind>
+constexpr bool standsApart =
+    std::is_same_v<Kind, Tiles> || std::is_same_v<Kind, Chart> || std::is_same_v<Kind, Bubble> ||
+    std::is_same_v<Kind, Section> || std::is_same_v<Kind, Card> || std::is_same_v<Kind, SwipeCard>;
+
+Ink inkOf(Band band) {
+  switch (band) {
+    case Band::poor:
+      return Ink::warning;
+    case Band::fair:
+      return Ink::plain;
+    case Band::good:
+      return Ink::accent;
+    case Band::great:
+      return Ink::good;
+  }
+  std::unreachable();
+}
+
+Band bandOf(double score) {
+  return score < 25 ? Band::poor : score < 50 ? Band::fair : score < 80 ? Band::good : Band::great;
+}
+
+Ink inkOf(Button::Weight weight) {
+  switch (weight) {
+    case Button::Weight::normal:
+      return Ink::plain;
+    case Button::Weight::primary:
+      return Ink::strong;
+    case Button::Weight::quiet:
+      return Ink::quiet;
+    case Button::Weight::destructive:
+      return Ink::warning;
+  }
+  std::unreachable();
+}
+
+std::string_view nameOf(PictureKind kind) {
+  switch (kind) {
+    case PictureKind::avatar:
+      return "Portrait";
+    case PictureKind::poster:
+      return "Poster";
+    case PictureKind::logo:
+      return "Logo";
+    case PictureKind::house:
+      return "House";
+    case PictureKind::vehicle:
+      return "Vehicle";
+    case PictureKind::card:
+      return "Card";
+    case PictureKind::photo:
+      return "Photo";
+    case PictureKind::icon:
+      return "Icon";
+  }
+  std::unreachable();
+}
+
+std::string inWords(const Picture& picture) {
+  return picture.description.empty() ? ""
+                                     : std::format("({}: {})", nameOf(picture.kind), picture.description);
+}
+
+std::string inWords(const std::vector<Picture>& pictures) {
+  return pictures.empty() ? "" : inWords(pictures.front());
+}
+
+// A number as the player types it: without group separators, with as many decimals as it needs, up to four.
+std::string number(double value) {
+  std::string digits = std::format("{:.4f}", value);
+  digits.erase(digits.find_last_not_of('0') + 1);
+  if (digits.ends_with('.')) digits.pop_back();
+  return digits;
+}
+
+// "1:05", or "1:02:03" from an hour on; a second that has begun counts.
+std::string clock(double seconds) {
+  const double inside = std::isfinite(seconds) ? std::clamp(seconds, 0.0, longestCountdown) : 0;
+  const auto whole = static_cast<int>(std::ceil(inside));
+  const int hours = whole / 3600;
+  if (hours == 0) return std::format("{}:{:02}", whole / 60, whole % 60);
+  return std::format("{}:{:02}:{:02}", hours, whole / 60 % 60, whole % 60);
+}
+
+}  // namespace
+
+std::string Targets::add(Handle handle, Target target) {
+  if (handle == 0) return "";
+  all.insert_or_assign(handle, std::move(target));
+  return std::format("[{}]", handle);
+}
+
+Runs tabRuns(Targets& targets, const Tab& tab) {
+  const std::string mark = targets.add(tab.handle, {.label = tab.label});
+  Runs runs;
+  if (!mark.empty()) runs.push_back({mark + " ", Ink::accent});
+  const std::string words = tab.icon.empty() ? tab.label : tab.icon + " " + tab.label;
+  runs.push_back(tab.current ? Run{"<" + words + ">", Ink::strong} : Run{words});
+  return runs;
+}
+
+Runs buttonRuns(Targets& targets, const Button& button) {
+  const std::string mark =
+      button.offReason.empty() ? targets.add(button.handle, {.label = button.label}) : std::string(offMark);
+  Runs runs;
+  if (!mark.empty()) runs.push_back({mark + " ", Ink::accent});
+  runs.push_back({button.label, button.offReason.empty() ? inkOf(button.weight) : Ink::quiet});
+  if (!button.price.empty()) runs.push_back({" " + button.price, Ink::strong});
+  if (!button.offReason.empty()) runs.push_back({" (" + button.offReason + ")", Ink::quiet});
+  return runs;
+}
+
+void drawButton(Canvas& canvas, Targets& targets, const Button& button) {
+  const bool off = !button.offReason.empty();
+  const std::string mark = off ? std::string(offMark) : targets.add(button.handle, {.label = button.label});
+  canvas.leader(button.label, button.price, off ? Ink::quiet : inkOf(button.weight), Ink::strong, mark);
+  if (off) canvas.nested("  ", [&] { canvas.text(button.offReason, Ink::quiet); });
+}
+
+void NodePainter::draw(const Node& node) {
+  std::visit(
+      [this]<class Kind>(const Kind& shown) {
+        if (standsApart<Kind>) canvas_.gap();
+        kind(shown);
+        if (standsApart<Kind>) canvas_.gap();
+      },
+      node.node);
+}
+
+void NodePainter::several(const std::vector<Node>& nodes) {
+  depth_ += 1;
+  for (const Node& node : nodes) draw(node);
+  depth_ -= 1;
+}
+
+// --- What says something ---
+
+void NodePainter::kind(const Text& text) {
+  switch (text.style) {
+    case Text::Style::body:
+      canvas_.text(text.text, inkOf(text.tone));
+      break;
+    case Text::Style::large:
+      canvas_.text(text.text, text.tone == Tone::plain ? Ink::strong : inkOf(text.tone));
+      break;
+    case Text::Style::caption:
+      canvas_.text(text.text, text.tone == Tone::plain ? Ink::quiet : inkOf(text.tone));
+      break;
+    case Text::Style::quotation:
+      canvas_.nested("> ", [&] { canvas_.text(text.text, inkOf(text.tone)); });
+      break;
+  }
+}
+
+void NodePainter::kind(const Tiles& tiles) {
+  std::vector<Runs> stacks;
+  for (const StatTile& tile : tiles.tiles) {
+    Runs stack{{tile.label, Ink::quiet},
+               {tile.value, tile.tone == Tone::plain ? Ink::strong : inkOf(tile.tone)}};
+    if (!tile.detail.empty()) stack.push_back({tile.detail, Ink::quiet});
+    stacks.push_back(std::move(stack));
+  }
+  canvas_.grid(stacks, narrowestTile);
+}
+
+// "label     [######------]  text", the bar of one width on the whole page so that bars can be compared.
+void NodePainter::gauge(const std::string& label, double share, const std::string& text, Ink ink,
+                        std::string margin) {
+  const int width = std::min(gaugeWidth, canvas_.width() / 3);
+  const int beside = canvas_.width() - gaugeLabelWidth - width - 4;
+  Runs runs{{"["}, {bar(canvas_.glyphs(), share, width), ink}, {"]  " + text}};
+  if (columnsOf(label) < gaugeLabelWidth && columnsOf(text) <= beside) {
+    runs.insert(runs.begin(), {label + repeated(" ", gaugeLabelWidth - columnsOf(label))});
+    return canvas_.line(std::move(runs), std::move(margin));
+  }
+  canvas_.text(label, Ink::plain, std::move(margin), 2);
+  if (columnsOf(text) > canvas_.width() - width - 4) {
+    runs.pop_back();
+    runs.push_back({"]"});
+    canvas_.line(std::move(runs));
+    canvas_.text(text, Ink::plain);
+  } else {
+    canvas_.line(std::move(runs));
+  }
+}
+
+void NodePainter::kind(const Meter& meter) {
+  gauge(meter.label, shareOf(meter.value, meter.maximum), meter.text,
+        meter.isScore ? inkOf(bandOf(meter.value)) : Ink::accent, "");
+}
+
+void NodePainter::kind(const Stars& stars) {
+  const int of = std::clamp(stars.outOf, 0, 20);
+  const int halves = static_cast<int>(std::lround(shareOf(stars.value, of) * of * 2));
+  const Glyphs& glyphs = canvas_.glyphs();
+  const std::string drawn = repeated(glyphs.star, halves / 2) + repeated(glyphs.halfStar, halves % 2) +
+                            repeated(glyphs.noStar, of - halves / 2 - halves % 2);
+  const std::string figure = std::format("{}  {:g} of {}", drawn, halves / 2.0, of);
+  const int pad = stars.label.empty() ? 0 : std::max(1, gaugeLabelWidth - columnsOf(stars.label));
+  canvas_.flow({{{stars.label + repeated(" ", pad)}, {figure}}});
+}
+
+void NodePainter::kind(const Chart& chart) { drawChart(canvas_, chart); }
+
+void NodePainter::kind(const Picture& picture) {
+  if (const std::string words = inWords(picture); !words.empty()) canvas_.text(words, Ink::quiet);
+}
+
+void NodePainter::kind(const Bubble& bubble) {
+  const int width = canvas_.width();
+  const int side = columnsOf(canvas_.glyphs().side);
+  const int widest = width * bubbleShare / 4 - side;
+  const auto atRight = [&](const std::string& text, const std::string& edge, Ink ink) {
+    const int pad = std::max(0, width - columnsOf(text) - side);
+    canvas_.line({{repeated(" ", pad)}, {text, ink}, {edge, Ink::accent}});
+  };
+  if (!bubble.mine) {
+    if (!bubble.speaker.empty()) canvas_.text(bubble.speaker, Ink::strong);
+    for (std::string& part : wrapped(bubble.text, widest)) {
+      canvas_.line({{std::string(canvas_.glyphs().side), Ink::quiet}, {std::move(part)}});
+    }
+    return;
+  }
+  const std::string edge = " " + std::string(canvas_.glyphs().axis);
+  if (!bubble.speaker.empty()) atRight(bubble.speaker, "  ", Ink::strong);
+  for (const std::string& part : wrapped(bubble.text, widest)) atRight(part, edge, Ink::plain);
+}
+
+void NodePainter::kind(const TimelineEntry& entry) {
+  if (columnsOf(entry.when) > whenWidth) {
+    canvas_.text(entry.when, Ink::accent);
+    canvas_.nested("  ", [&] { canvas_.text(entry.text, Ink::plain); });
+    return;
+  }
+  std::string when = entry.when + repeated(" ", whenWidth - columnsOf(entry.when));
+  const int width = canvas_.width() - whenWidth - 2;
+  for (std::string& part : wrapped(entry.text, std::max(1, width))) {
+    canvas_.line({{std::move(when), Ink::accent},
+                  {std::string(canvas_.glyphs().side), Ink::quiet},
+                  {std::move(part)}});
+    when = repeated(" ", whenWidth);
+  }
+}
+
+void NodePainter::kind(const Countdown& countdown) {
+  counting_ = counting_ || countdown.secondsLeft > 0;
+  gauge(countdown.label, shareOf(countdown.secondsLeft, countdown.secondsInAll), clock(countdown.secondsLeft),
+        Ink::accent, "");
+}
+
+// --- What can be used ---
+
+void NodePainter::kind(const Button& button) { drawButton(canvas_, targets_, button); }
+
+// Side by side on one line, else each on its own.
+void NodePainter::kind(const Buttons& buttons) {
+  std::vector<Runs> items;
+  int columns = 0;
+  bool off = false;
+  for (const Button& button : buttons.buttons) {
+    items.push_back(buttonRuns(targets_, button));
+    columns += columnsOf(items.back()) + 3;
+    off = off || !button.offReason.empty();
+  }
+  if (!off && columns - 3 <= canvas_.width()) return canvas_.flow(items);
+  for (const Button& button : buttons.buttons) drawButton(canvas_, targets_, button);
+}
+
+void NodePainter::kind(const Row& row) {
+  const std::string mark = targets_.add(row.handle, {.label = row.label});
+  canvas_.leader(row.label, row.value, row.tone == Tone::quiet ? Ink::quiet : Ink::plain, inkOf(row.tone),
+                 mark);
+  canvas_.nested("  ", [&] {
+    if (!row.detail.empty()) canvas_.text(row.detail, Ink::quiet);
+    if (const std::string words = inWords(row.picture); !words.empty()) canvas_.text(words, Ink::quiet);
+  });
+}
+
+void NodePainter::kind(const Field& field) {
+  const std::string mark = targets_.add(field.handle, {.kind = Target::Kind::field,
+                                                       .label = field.label,
+                                                       .value = field.value,
+                                                       .maximumLength = field.maximumLength,
+                                                       .severalLines = field.severalLines});
+  if (field.severalLines && !field.value.empty()) {
+    canvas_.text(field.label + ":", Ink::plain, mark);
+    canvas_.nested("  ", [&] { canvas_.text(field.value, Ink::strong); });
+  } else {
+    canvas_.text(field.label + ": " + (field.value.empty() ? "____" : field.value), Ink::plain, mark, 2);
+  }
+  if (!field.hint.empty()) canvas_.nested("  ", [&] { canvas_.text(field.hint, Ink::quiet); });
+}
+
+void NodePainter::kind(const Slider& slider) {
+  const std::string range = std::format("{} to {}", number(slider.minimum), number(slider.maximum));
+  const std::string mark =
+      targets_.add(slider.handle, {.kind = Target::Kind::slider, .label = slider.label, .range = range});
+  gauge(slider.label, shareOf(slider.value - slider.minimum, slider.maximum - slider.minimum), slider.text,
+        Ink::accent, mark);
+  std::string how = range;
+  if (slider.step != 1 && slider.step > 0) how += std::format(" in steps of {}", number(slider.step));
+  if (slider.handle != 0)
+    how +=
+        std::format("; type \"{} {}\" for {}", slider.handle, number(slider.maximum), number(slider.maximum));
+  canvas_.nested("  ", [&] { canvas_.text(how, Ink::quiet); });
+}
+
+// Options in columns: "(*)" is the one chosen, "(x)" is one of those chosen.
+void NodePainter::kind(const Choice& choice) {
+  if (!choice.label.empty()) {
+    canvas_.text(choice.label + (choice.several ? " (any number of them)" : "") + ":", Ink::plain);
+  }
+  Runs cells;
+  int widest = 0;
+  for (const Choice::Option& option : choice.options) {
+    const std::string mark = targets_.add(option.handle, {.label = option.label});
+    const std::string_view state = option.chosen ? (choice.several ? "(x)" : "(*)") : "( )";
+    std::string words = std::format("{}{}{} {}", mark, mark.empty() ? "" : " ", state, option.label);
+    if (const std::string picture = inWords(option.picture); !picture.empty()) words += " " + picture;
+    widest = std::max(widest, columnsOf(words));
+    cells.push_back({std::move(words), option.chosen ? Ink::strong : Ink::plain});
+  }
+  std::vector<Runs> stacks;
+  for (Run& cell : cells) stacks.push_back({std::move(cell)});
+  canvas_.nested("  ", [&] { canvas_.grid(stacks, std::min(widest, canvas_.width())); });
+}
+
+// --- What holds others ---
+
+void NodePainter::kind(const Section& section) {
+  if (depth_ == 0) {
+    canvas_.headline(section.heading);
+  } else if (!section.heading.empty()) {
+    canvas_.text(section.heading, Ink::strong);
+  }
+  several(section.nodes);
+}
+
+void NodePainter::kind(const Card& card) {
+  const std::string mark = targets_.add(card.handle, {.label = card.title});
+  canvas_.framed(card.title, mark, [&] {
+    if (!card.subtitle.empty()) canvas_.text(card.subtitle, Ink::quiet);
+    if (const std::string words = inWords(card.picture); !words.empty()) canvas_.text(words, Ink::quiet);
+    several(card.nodes);
+  });
+}
+
+void NodePainter::kind(const SwipeCard& swipe) {
+  kind(swipe.card);
+  kind(Buttons{{swipe.left, swipe.right}});
+}
+
+// Laying out leaves a ListPage in its place.
+void NodePainter::kind(const PagedList&) {}
+
+void NodePainter::kind(const ListPage& list) {
+  several(list.nodes);
+  if (list.position.empty()) return;
+  std::vector<Runs> items{{{list.position, Ink::quiet}}};
+  for (const Button& turn : list.turns) items.push_back(buttonRuns(targets_, turn));
+  canvas_.flow(items);
+}
+
+}  // namespace tb::console

@@ -1,0 +1,189 @@
+#include "core/save.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+#include "tests/memory_port.h"
+#include "tests/scripted_random.h"
+
+namespace tb {
+namespace {
+
+using plist::Array;
+using plist::Data;
+using plist::Dictionary;
+using plist::Value;
+using test::MemoryPort;
+
+// A launch of the game on what is stored.
+struct Launch {
+  explicit Launch(MemoryPort& port) : store(port) {}
+
+  SaveStore store;
+  test::ScriptedRandom random;
+  Game game{.store = store, .random = random};
+};
+
+Child child(std::int64_t id) { return {.id = id, .name = "Child " + std::to_string(id)}; }
+
+// A stored career of two pieces of children and two of fans.
+void storeLists(MemoryPort& port) {
+  Launch play(port);
+  for (std::int64_t id = 0; id < 40; ++id) play.game.world.saveAllChildList.push_back(child(id));
+  for (std::int64_t fans = 0; fans < 36; ++fans) play.game.world.trackFans.push_back(fans);
+  play.game.world.weekNumber = 9;
+  save<&WorldState::saveAllChildList, &WorldState::trackFans, &WorldState::weekNumber>(play.game);
+  EXPECT_TRUE(play.store.commit());
+}
+
+void loadThem(Game& game) {
+  load<&WorldState::saveAllChildList, &WorldState::trackFans, &WorldState::weekNumber>(game);
+}
+
+TEST(Save, AWeekWritesThePiecesItChangedAndNothingElse) {
+  MemoryPort port;
+  storeLists(port);
+  EXPECT_EQ(port.pieces.size(), 5u);
+  Launch play(port);
+  loadThem(play.game);
+  EXPECT_FALSE(play.store.hasUncommitted());
+  save<&WorldState::saveAllChildList, &WorldState::trackFans, &WorldState::weekNumber>(play.game);
+  EXPECT_FALSE(play.store.hasUncommitted());
+
+  WorldState& world = play.game.world;
+  world.saveAllChildList.edit(39).followers = 5;
+  world.trackFans.push_back(36);
+  world.trackFans.pop_front();
+  save<&WorldState::saveAllChildList, &WorldState::trackFans>(play.game);
+  ASSERT_TRUE(play.store.commit());
+  EXPECT_EQ(port.lastCommit.size(), 3u);
+
+  Launch next(port);
+  loadThem(next.game);
+  EXPECT_EQ(next.game.world.saveAllChildList, world.saveAllChildList);
+  EXPECT_EQ(next.game.world.trackFans, world.trackFans);
+  EXPECT_EQ(next.game.world.weekNumber, 9);
+}
+
+TEST(Save, AListThatEmptiedIsThereAsAnEmptyListAndGrowsAgain) {
+  MemoryPort port;
+  storeLists(port);
+  Launch play(port);
+  loadThem(play.game);
+  WorldState& world = play.game.world;
+  while (!world.saveAllChildList.empty()) world.saveAllChildList.pop_front();
+  world.trackFans.clear();
+  save<&WorldState::saveAllChildList, &WorldState::trackFans>(play.game);
+  ASSERT_TRUE(play.store.commit());
+  EXPECT_EQ(SaveStore(port).value("saveAllChildList"), Value{Data{plist::write(Value{Array{}})}});
+  EXPECT_EQ(SaveStore(port).value("trackFans"), Value{Array{}});
+
+  Launch next(port);
+  loadThem(next.game);
+  next.game.world.saveAllChildList.push_front(child(7));
+  next.game.world.trackFans.push_back(3);
+  save<&WorldState::saveAllChildList, &WorldState::trackFans>(next.game);
+  ASSERT_TRUE(next.store.commit());
+  Launch last(port);
+  loadThem(last.game);
+  EXPECT_EQ(last.game.world.saveAllChildList, List<Child>{child(7)});
+  EXPECT_EQ(last.game.world.trackFans, IntList{3});
+}
+
+TEST(Save, AListLeftByAnImportLoadsAndIsCutIntoPiecesWhenNextWritten) {
+  MemoryPort port;
+  storeLists(port);
+  Launch play(port);
+  loadThem(play.game);
+  const WorldState before = play.game.world;
+
+  play.store.replace(play.store.dictionary());
+  play.game.world = WorldState{};
+  loadThem(play.game);
+  ASSERT_EQ(play.game.world.saveAllChildList, before.saveAllChildList);
+  ASSERT_EQ(play.game.world.trackFans, before.trackFans);
+
+  play.game.world.saveAllChildList.edit(0).name = "Zoe";
+  play.game.world.trackFans.push_back(99);
+  save<&WorldState::saveAllChildList, &WorldState::trackFans>(play.game);
+  ASSERT_TRUE(play.store.commit());
+  EXPECT_EQ(port.pieces.size(), 5u);
+  Launch next(port);
+  loadThem(next.game);
+  EXPECT_EQ(next.game.world.saveAllChildList, play.game.world.saveAllChildList);
+  EXPECT_EQ(next.game.world.trackFans, play.game.world.trackFans);
+}
+
+// A slot that lacks a key must not make the next week add its changes to nothing.
+TEST(Save, AListWhoseKeyVanishedIsWrittenWhole) {
+  MemoryPort port;
+  storeLists(port);
+  Launch play(port);
+  loadThem(play.game);
+  play.store.replace({});
+  loadThem(play.game);
+  play.game.world.trackFans.push_back(36);
+  save<&WorldState::trackFans>(play.game);
+  ASSERT_TRUE(play.store.commit());
+  Launch next(port);
+  loadThem(next.game);
+  EXPECT_EQ(next.game.world.trackFans.size(), 37u);
+}
+
+TEST(Save, OneDamagedPieceCostsItsListOnlyAndIsKeptAsideWithItsNeighbours) {
+  MemoryPort port;
+  storeLists(port);
+  port.pieces.at({"saveAllChildList", 1}).bytes.resize(20);
+  Launch play(port);
+  testing::internal::CaptureStderr();
+  loadThem(play.game);
+  const std::string log = testing::internal::GetCapturedStderr();
+  EXPECT_TRUE(log.starts_with("saveAllChildList: ")) << log;
+  EXPECT_EQ(std::ranges::count(log, '\n'), 1);
+  EXPECT_TRUE(play.game.world.saveAllChildList.empty());
+  EXPECT_EQ(play.game.world.trackFans.size(), 36u);
+
+  play.game.world.saveAllChildList.push_back(child(1));
+  save<&WorldState::saveAllChildList>(play.game);
+  ASSERT_TRUE(play.store.commit());
+  EXPECT_EQ(port.keptAside.size(), 2u);
+  Launch next(port);
+  loadThem(next.game);
+  EXPECT_EQ(next.game.world.saveAllChildList, List<Child>{child(1)});
+}
+
+TEST(Save, AValueOfAnotherKindLeavesTheVariableAndIsNotLost) {
+  MemoryPort port;
+  const std::pair<const char*, Value> odd[] = {
+      {"weekNumber", Value{std::string("soon")}},
+      {"myName", Value{std::int64_t{4}}},
+      {"trackFans", Value{Array{Value{std::string("many")}}}},
+      {"saveAllChildList", Value{Data{plist::write(Value{std::int64_t{4}})}}},
+      {"activityTracker", Value{Dictionary{}}},
+      {"saveAllEmailList", Value{Array{}}},
+  };
+  Launch before(port);
+  for (const auto& [key, value] : odd) before.store.put(key, value);
+  // Pieces under a key that holds no list in this version.
+  before.store.putPieces("yearNumber", Shape::plainList, true, {{0, plist::write(Value{Array{}})}});
+  ASSERT_TRUE(before.store.commit());
+
+  Launch play(port);
+  testing::internal::CaptureStderr();
+  load<&WorldState::weekNumber, &WorldState::myName, &WorldState::trackFans, &WorldState::saveAllChildList,
+       &WorldState::activityTracker, &WorldState::saveAllEmailList, &WorldState::yearNumber>(play.game);
+  testing::internal::GetCapturedStderr();
+  const WorldState start;
+  EXPECT_EQ(play.game.world.weekNumber, start.weekNumber);
+  EXPECT_EQ(play.game.world.myName, start.myName);
+  EXPECT_EQ(play.game.world.yearNumber, start.yearNumber);
+  EXPECT_TRUE(play.game.world.trackFans.empty());
+  save<&WorldState::weekNumber, &WorldState::trackFans, &WorldState::saveAllChildList>(play.game);
+  ASSERT_TRUE(play.store.commit());
+  EXPECT_EQ(port.keptAside.size(), 7u);
+  EXPECT_EQ(SaveStore(port).value("weekNumber"), Value{start.weekNumber});
+  EXPECT_EQ(SaveStore(port).value("trackFans"), Value{Array{}});
+}
+
+}  // namespace
+}  // namespace tb

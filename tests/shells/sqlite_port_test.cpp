@@ -1,0 +1,346 @@
+#include "shells/sqlite/sqlite_port.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace tb {
+namespace {
+
+namespace fs = std::filesystem;
+using plist::Array;
+using plist::Dictionary;
+using plist::Value;
+
+Value integer(std::int64_t number) { return Value{number}; }
+
+std::string contentOf(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void overwrite(const fs::path& file, const std::string& content) {
+  std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
+}
+
+// While it lives, SQLite's writes find room on the disk for a number of times and then never again.
+class FullDisk {
+ public:
+  explicit FullDisk(int room) {
+    room_ = room;
+    for (const char* const call : calls) set(call, &write);
+  }
+  ~FullDisk() {
+    for (const char* const call : calls) set(call, nullptr);  // back to the system's own
+  }
+
+ private:
+  // SQLite uses one of them, which one depends on how it was built.
+  static constexpr const char* calls[] = {"pwrite", "pwrite64"};
+
+  static void set(const char* call, ssize_t (*function)(int, const void*, size_t, off_t)) {
+    sqlite3_vfs* const system = sqlite3_vfs_find(nullptr);
+    system->xSetSystemCall(system, call, reinterpret_cast<sqlite3_syscall_ptr>(function));
+  }
+  static ssize_t write(int file, const void* bytes, size_t count, off_t offset) {
+    if (room_ > 0) {
+      room_ -= 1;
+      return pwrite(file, bytes, count, offset);
+    }
+    errno = ENOSPC;
+    return -1;
+  }
+
+  static inline int room_ = 0;
+};
+
+class SqlitePortTest : public testing::Test {
+ protected:
+  SqlitePortTest() {
+    std::string name = (fs::temp_directory_path() / "billing-store-XXXXXX").string();
+    folder_ = mkdtemp(name.data());
+    file_ = folder_ / "career.sqlite";
+  }
+  ~SqlitePortTest() override {
+    std::error_code error;
+    fs::remove_all(folder_, error);
+  }
+
+  std::unique_ptr<SqlitePort> open() {
+    auto port = SqlitePort::open(folder_);
+    if (!port) ADD_FAILURE() << port.error().message;
+    return port ? *std::move(port) : nullptr;
+  }
+
+  OpenFailure refusal() {
+    auto port = SqlitePort::open(folder_);
+    EXPECT_FALSE(port);
+    return port ? OpenFailure{} : port.error();
+  }
+
+  // A career with a scalar and a list, as a first session leaves it.
+  Dictionary beginCareer() {
+    const auto port = open();
+    SaveStore store(*port);
+    store.put("weekNumber", integer(12));
+    store.put("", Value{std::string("a key without a name, “ä”")});
+    for (std::int64_t piece = -2; piece < 3; ++piece) writePiece(store, piece);
+    EXPECT_TRUE(store.commit());
+    return store.dictionary();
+  }
+
+  static void writePiece(SaveStore& store, std::int64_t piece, std::size_t length = 100) {
+    const Value content{Array(length, integer(piece))};
+    store.putPieces("trackFans", Shape::plainList, false, {{piece, plist::write(content)}});
+  }
+
+  Dictionary stored() {
+    const auto port = open();
+    return port ? SaveStore(*port).dictionary() : Dictionary{};
+  }
+
+  // Runs SQL on the closed career, as another program would.
+  void alter(const std::string& sql) {
+    const auto database = sqlite::Database::open(file_);
+    ASSERT_TRUE(database);
+    const auto done = database->run(sql);
+    ASSERT_TRUE(done) << done.error().message;
+  }
+
+  std::int64_t count(const std::string& table) {
+    return sqlite::Database::open(file_)->number("SELECT count(*) FROM " + table).value_or(-1);
+  }
+
+  fs::path folder_;
+  fs::path file_;
+};
+
+TEST_F(SqlitePortTest, ACareerIsThereAgainAfterEverySession) {
+  const Dictionary first = beginCareer();
+  EXPECT_EQ(stored(), first);
+  {
+    const auto port = open();
+    EXPECT_FALSE(port->notice());
+    SaveStore store(*port);
+    store.put("weekNumber", integer(13));
+    store.remove("");
+    store.putPieces("trackFans", Shape::plainList, false, {{0, std::nullopt}});
+    store.putPieces("trackCards", Shape::plainList, true,
+                    {{0, Bytes{}}});  // bytes of no length are kept, too
+    ASSERT_TRUE(store.commit());
+    store.keepAside("trackCards");
+    store.remove("trackCards");
+    store.keepAside("weekNumber");
+    ASSERT_TRUE(store.commit());
+    store.keepAside("weekNumber");
+    ASSERT_TRUE(store.commit());
+  }
+  EXPECT_EQ(stored().size(), 2u);
+  EXPECT_EQ(count("pieces"), 5);
+  EXPECT_EQ(count("kept_aside"), 2);
+  {
+    const auto port = open();
+    SaveStore(*port).replace({});
+    SaveStore store(*port);
+    store.replace({{"myName", Value{std::string("Ada")}}});
+    ASSERT_TRUE(store.commit());
+  }
+  EXPECT_EQ(stored(), (Dictionary{{"myName", Value{std::string("Ada")}}}));
+}
+
+TEST_F(SqlitePortTest, ASecondWindowIsToldThatTheGameIsOpen) {
+  const auto port = open();
+  const pid_t other = fork();
+  if (other == 0) {
+    const auto second = SqlitePort::open(folder_);
+    const bool told =
+        !second && second.error().kind == OpenFailure::Kind::alreadyOpen &&
+        second.error().message == "Top Billing is already open in another window. Close it there first.";
+    _exit(told ? 0 : 1);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(other, &status, 0), other);
+  EXPECT_EQ(status, 0);
+  SaveStore store(*port);
+  store.put("weekNumber", integer(2));
+  EXPECT_TRUE(store.commit());
+}
+
+TEST_F(SqlitePortTest, AFileThatIsInUseByAnotherProgramIsLeftAlone) {
+  beginCareer();
+  {
+    const auto other = sqlite::Database::open(file_);
+    ASSERT_TRUE(other->number("SELECT count(*) FROM pieces"));
+    ASSERT_TRUE(other->run("BEGIN IMMEDIATE"));
+    EXPECT_EQ(refusal().kind, OpenFailure::Kind::alreadyOpen);
+  }
+  EXPECT_EQ(stored().size(), 3u);
+}
+
+TEST_F(SqlitePortTest, ADamagedCareerMovesAsideAndANewOneBegins) {
+  beginCareer();
+  const std::string sound = contentOf(file_);
+  std::string scratched = sound;
+  std::fill(scratched.begin() + 4096, scratched.begin() + 4096 + 600, '\x5a');
+  std::vector<std::string> damages = {
+      "This is no database, but a shopping list. Eggs, flour, butter, two lemons.", sound.substr(0, 5000),
+      scratched};
+  // Any page of the file.
+  for (std::size_t page = 1; page * 4096 < sound.size(); ++page) {
+    damages.push_back(sound);
+    damages.back().replace(page * 4096, 512, 512, '\xff');
+  }
+  int number = 0;
+  for (const std::string& damage : damages) {
+    number += 1;
+    overwrite(file_, damage);
+    overwrite(file_.string() + "-wal", "left over");
+    const fs::path aside = folder_ / ("career.damaged-" + std::to_string(number) + ".sqlite");
+    const auto port = open();
+    ASSERT_NE(port, nullptr);
+    ASSERT_TRUE(port->notice()) << "damage " << number << " went unseen";
+    EXPECT_TRUE(port->notice()->message.contains(aside.string()));
+    EXPECT_EQ(contentOf(aside), damage);
+    EXPECT_EQ(contentOf(aside.string() + "-wal"), "left over");
+    SaveStore store(*port);
+    EXPECT_TRUE(store.dictionary().empty());
+    store.put("weekNumber", integer(1));
+    EXPECT_TRUE(store.commit());
+  }
+  EXPECT_EQ(stored().size(), 1u);
+}
+
+TEST_F(SqlitePortTest, ADatabaseOfAnotherProgramMovesAside) {
+  alter("CREATE TABLE recipes (name TEXT)");
+  EXPECT_TRUE(open()->notice());
+  EXPECT_TRUE(fs::exists(folder_ / "career.damaged-1.sqlite"));
+  alter("DROP TABLE kept_aside");
+  EXPECT_TRUE(open()->notice());
+  EXPECT_TRUE(fs::exists(folder_ / "career.damaged-2.sqlite"));
+}
+
+TEST_F(SqlitePortTest, AnEmptyFileIsACareerThatHasNotBegun) {
+  overwrite(file_, "");
+  EXPECT_FALSE(open()->notice());
+  EXPECT_EQ(beginCareer(), stored());
+}
+
+TEST_F(SqlitePortTest, ACareerOfANewerVersionIsRefusedAndNotTouched) {
+  beginCareer();
+  alter("PRAGMA user_version = 2");
+  alter("INSERT INTO pieces VALUES ('future', 0, 9, x'00')");
+  const std::string before = contentOf(file_);
+  EXPECT_EQ(refusal().kind, OpenFailure::Kind::newerVersion);
+  EXPECT_EQ(contentOf(file_), before);
+  EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1.sqlite"));
+}
+
+TEST_F(SqlitePortTest, DamagedRowsCostTheirKeysOnlyAndAreKeptAside) {
+  beginCareer();
+  alter(
+      "INSERT INTO pieces VALUES ('shape', 0, 7, x'00'), ('text', 0, 0, 'text'), ('piece', 'one', 0, x'00')");
+  alter("INSERT INTO pieces VALUES (x'6b6579', 0, 0, x'00')");
+  alter("UPDATE pieces SET shape = NULL WHERE key = 'trackFans' AND piece = 1");
+  const Dictionary rest = stored();
+  ASSERT_EQ(rest.size(), 2u);
+  EXPECT_EQ(rest[1], (std::pair{std::string("weekNumber"), integer(12)}));
+  EXPECT_EQ(count("kept_aside"), 4 + 5);
+  EXPECT_EQ(count("pieces"), 2);
+}
+
+TEST_F(SqlitePortTest, AFolderThatCannotBeWrittenIsNamed) {
+  overwrite(folder_ / "file", "");
+  const auto port = SqlitePort::open(folder_ / "file");
+  ASSERT_FALSE(port);
+  EXPECT_EQ(port.error().kind, OpenFailure::Kind::cannotWrite);
+  EXPECT_TRUE(port.error().message.contains((folder_ / "file").string()));
+}
+
+TEST_F(SqlitePortTest, ADiskThatFillsUpAtAnyWriteOfACommitCostsNothing) {
+  const Dictionary begun = beginCareer();
+  bool fitted = false;
+  for (int room = 0; !fitted; ++room) {
+    ASSERT_LT(room, 100);
+    Dictionary after;
+    {
+      const auto port = open();
+      SaveStore store(*port);
+      ASSERT_EQ(store.dictionary(), begun);
+      store.put("weekNumber", integer(1000 + room));
+      for (std::int64_t piece = 0; piece < 8; ++piece) writePiece(store, piece, 2000);
+      FullDisk disk(room);
+      const auto done = store.commit();
+      fitted = done.has_value();
+      if (!done) EXPECT_EQ(done.error(), "The disk is full.");
+      EXPECT_EQ(store.hasUncommitted(), !done);
+      after = store.dictionary();
+    }
+    // The window closes with the disk still full: the last complete state is there. Then the week is played
+    // again, with room, and fails at no point of the way.
+    ASSERT_EQ(stored(), fitted ? after : begun) << "room for " << room << " writes";
+    if (fitted) EXPECT_GT(room, 5);
+  }
+}
+
+TEST_F(SqlitePortTest, WhenThereIsRoomAgainTheSessionGoesOn) {
+  beginCareer();
+  Dictionary last;
+  {
+    const auto port = open();
+    SaveStore store(*port);
+    for (int room = 0; room < 20; ++room) {
+      store.put("weekNumber", integer(1000 + room));
+      writePiece(store, room % 8, 3000);
+      {
+        FullDisk disk(room);
+        (void)store.commit();
+      }
+      if (room % 3 == 0) ASSERT_TRUE(store.commit());
+    }
+    ASSERT_TRUE(store.commit());
+    last = store.dictionary();
+  }
+  EXPECT_EQ(stored(), last);
+}
+
+TEST_F(SqlitePortTest, ADiskThatIsFullWhenACareerBeginsIsSaidAndNothingIsMoved) {
+  bool fitted = false;
+  for (int room = 0; !fitted; ++room) {
+    ASSERT_LT(room, 100);
+    {
+      FullDisk disk(room);
+      const auto port = SqlitePort::open(folder_);
+      fitted = port.has_value();
+      if (!port) {
+        EXPECT_EQ(port.error().kind, OpenFailure::Kind::cannotWrite);
+        EXPECT_TRUE(port.error().message.ends_with("The disk is full.")) << port.error().message;
+      }
+    }
+    EXPECT_FALSE(open()->notice());
+    if (!fitted) fs::remove(file_);
+  }
+}
+
+TEST_F(SqlitePortTest, SavesLiveInTheUsersDataFolder) {
+  setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
+  EXPECT_EQ(saveFolder(), folder_ / "data" / "top-billing");
+  EXPECT_EQ(fs::status(folder_ / "data" / "top-billing").permissions(), fs::perms::owner_all);
+  setenv("XDG_DATA_HOME", "relative", 1);
+  setenv("HOME", folder_.c_str(), 1);
+  EXPECT_EQ(saveFolder(), folder_ / ".local" / "share" / "top-billing");
+  overwrite(folder_ / "file", "");
+  setenv("XDG_DATA_HOME", (folder_ / "file").c_str(), 1);
+  const auto folder = saveFolder();
+  ASSERT_FALSE(folder);
+  EXPECT_EQ(folder.error().kind, OpenFailure::Kind::cannotWrite);
+}
+
+}  // namespace
+}  // namespace tb

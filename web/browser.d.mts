@@ -1,0 +1,3 @@
+import type { Browser } from "playwright-core";
+
+export function launchChromium(): Promise<Browser>;

@@ -1,0 +1,49 @@
+// Builds the site and runs the page's tests with node's own runner.
+//
+//   node test.mjs [--wasm <file>] [<part of a test file's name> ...]
+
+import { spawnSync } from "node:child_process";
+import { readdirSync, rmSync } from "node:fs";
+import { dirname, join } from "node:path";
+import { fileURLToPath } from "node:url";
+import { parseArgs } from "node:util";
+import { build } from "esbuild";
+
+const here = dirname(fileURLToPath(import.meta.url));
+const { values: options, positionals: wanted } = parseArgs({
+  options: { wasm: { type: "string" } },
+  allowPositionals: true,
+});
+
+function run(command, ...parts) {
+  const { status } = spawnSync(command, parts, { cwd: here, stdio: "inherit" });
+  if (status !== 0) process.exit(status ?? 1);
+}
+
+const isWanted = (name) => wanted.length === 0 || wanted.some((part) => name.includes(part));
+const tests = readdirSync(join(here, "test")).filter((name) => /\.test\.(ts|tsx|mjs)$/.test(name) && isWanted(name));
+if (tests.length === 0) {
+  console.error("No test of that name.");
+  process.exit(1);
+}
+
+run("node", "build.mjs", ...(options.wasm ? ["--wasm", options.wasm] : []));
+
+// Inside node_modules, so that the packages are found from there and nothing has to be cleaned up.
+const built = join(here, "node_modules/.cache/tests");
+rmSync(built, { recursive: true, force: true });
+await build({
+  entryPoints: tests.map((name) => join(here, "test", name)),
+  outdir: built,
+  outExtension: { ".js": ".mjs" },
+  bundle: true,
+  platform: "node",
+  format: "esm",
+  packages: "external",
+  jsx: "automatic",
+  jsxImportSource: "preact",
+  loader: { ".css": "empty" },
+  logLevel: "warning",
+});
+// One file after the other: each has browsers of its own, and figures are measured in some.
+run("node", "--test", "--test-concurrency=1", ...tests.map((name) => join(built, name.replace(/\.\w+$/, ".mjs"))));

@@ -1,0 +1,167 @@
+// What the tests of the runtime share: the built site on a server of its own, a browser, and the first steps of
+// a career. A page here fails its test on any error in its console and on anything that the content security
+// policy refused.
+
+import assert from "node:assert/strict";
+import { cpSync, mkdtempSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { after, before } from "node:test";
+import type { Browser, BrowserContext, Page } from "playwright-core";
+
+import { launchChromium } from "../browser.mjs";
+import { serve, type Served } from "../server.mjs";
+
+export const phone = { width: 390, height: 844 };
+
+// A copy of the built site that a test may change or take off the network.
+export class Site {
+  readonly folder = mkdtempSync(join(tmpdir(), "top-billing-"));
+  private served: Served | undefined;
+  bytesSent = 0; // of the contents of all answers, as they went over the wire
+
+  // `below`: the path under the server's root at which the site stands.
+  constructor(private readonly below = "") {
+    cpSync(join(process.cwd(), "dist"), join(this.folder, below), { recursive: true });
+  }
+
+  get address(): string {
+    assert(this.served, "the site is not served");
+    return new URL(this.below === "" ? "./" : `${this.below}/`, this.served.address).href;
+  }
+
+  get origin(): string {
+    return new URL(this.address).origin;
+  }
+
+  async start(): Promise<this> {
+    this.served = await serve(this.folder, 0, (bytes) => (this.bytesSent += bytes));
+    return this;
+  }
+
+  async stop(): Promise<void> {
+    await this.served?.stop();
+    this.served = undefined;
+  }
+
+  // A new version of the site: its pages have another title in their source, so its service worker differs.
+  publish(mark: string): void {
+    const change = (name: string, from: RegExp, to: string) => {
+      const file = join(this.folder, this.below, name);
+      const text = readFileSync(file, "utf8");
+      assert.match(text, from);
+      writeFileSync(file, text.replace(from, to));
+    };
+    change("index.html", /<title>/, `<meta name="version" content="${mark}"><title>`);
+    change("service-worker.js", /"[0-9a-f]{10}"/, `"${mark}"`);
+  }
+
+  // Some of its files are not there.
+  lose(names: RegExp): void {
+    const folder = join(this.folder, this.below);
+    for (const name of readdirSync(folder)) if (names.test(name)) rmSync(join(folder, name));
+  }
+
+  remove(): void {
+    rmSync(this.folder, { recursive: true, force: true });
+  }
+}
+
+export interface Stage {
+  readonly site: Site;
+  readonly browser: Browser;
+}
+
+// A served site and a browser for the tests of one file.
+export function stage(below = ""): Stage {
+  const made: { site?: Site; browser?: Browser } = {};
+  before(async () => {
+    made.site = await new Site(below).start();
+    made.browser = await launchChromium();
+  });
+  after(async () => {
+    await made.browser?.close();
+    await made.site?.stop();
+    made.site?.remove();
+  });
+  return made as Stage;
+}
+
+export interface Visit {
+  readonly context: BrowserContext;
+  open(address?: string): Promise<Page>;
+  readonly complaints: string[]; // what went wrong on any page; a test takes away what it provoked
+  end(): Promise<void>;
+}
+
+// One player's browser profile. `script` runs in each page before anything of the page does.
+export async function visit(stage: Stage, script?: () => void): Promise<Visit> {
+  const context = await stage.browser.newContext({ viewport: phone, acceptDownloads: true });
+  const complaints: string[] = [];
+  if (script) await context.addInitScript(script);
+  await context.addInitScript(() => {
+    addEventListener("securitypolicyviolation", (event) => {
+      console.error(`policy: ${event.violatedDirective} ${event.blockedURI}`);
+    });
+  });
+  context.on("console", (message) => {
+    if (message.type() === "error" || message.type() === "warning") complaints.push(message.text());
+  });
+  context.on("weberror", (error) => complaints.push(String(error.error())));
+  return {
+    context,
+    complaints,
+    open: async (address = stage.site.address) => {
+      const page = await context.newPage();
+      await page.goto(address);
+      return page;
+    },
+    end: async () => {
+      await context.close();
+      assert.deepEqual(complaints, []);
+    },
+  };
+}
+
+export async function waitForGame(page: Page): Promise<void> {
+  await page.getByRole("button", { name: "Saves" }).waitFor();
+}
+
+export const nameField = (page: Page) => page.getByLabel("Stage name");
+
+// Starts a career under the name.
+export async function startCareer(page: Page, name: string): Promise<void> {
+  await nameField(page).fill(name);
+  await nameField(page).blur();
+  await page.getByRole("button", { name: "Start my career" }).click();
+  await page.getByText(name).first().waitFor();
+}
+
+// When the page has a service worker that keeps everything.
+export async function waitForCopy(page: Page): Promise<void> {
+  await page.evaluate(async () => {
+    await navigator.serviceWorker.ready;
+    const controlled = () => navigator.serviceWorker.controller?.state === "activated";
+    while (!controlled()) await new Promise((later) => setTimeout(later, 20));
+  });
+}
+
+export async function openSaves(page: Page): Promise<void> {
+  await page.getByRole("button", { name: "Saves" }).click();
+  await page.getByRole("heading", { name: "Saves" }).waitFor();
+}
+
+// For visit(): with `full` set, no transaction gets through, in the way in which browsers refuse one.
+export function fillable(): void {
+  const commit = IDBTransaction.prototype.commit;
+  IDBTransaction.prototype.commit = function refused(this: IDBTransaction): void {
+    if (!(globalThis as { full?: boolean }).full) return commit.call(this);
+    const error = new DOMException("Quota exceeded.", "QuotaExceededError");
+    Object.defineProperty(this, "error", { value: error });
+    this.abort();
+  };
+}
+
+export async function fill(page: Page, full: boolean): Promise<void> {
+  await page.evaluate((given) => Object.assign(globalThis, { full: given }), full);
+}
