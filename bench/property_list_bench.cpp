@@ -3,9 +3,9 @@
 // proportion to the list's length.
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <expected>
 #include <filesystem>
 #include <format>
@@ -52,16 +52,15 @@ std::vector<BoxOffice> boxOffices(std::size_t count) {
   return list;
 }
 
+// Of the processor, so that what else the machine does is not counted.
 template <class Work>
 double milliseconds(Work work) {
-  using Clock = std::chrono::steady_clock;
-  const auto start = Clock::now();
+  const std::clock_t start = std::clock();
   work();
-  return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+  return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-// Of one list. Times are the shortest of several runs, in milliseconds: what the machine does beside them
-// only adds.
+// Of one list. Times are the shortest of several runs, in milliseconds.
 struct Figures {
   std::vector<BoxOffice> list;
   Bytes encoded;
@@ -110,7 +109,7 @@ void print(const Figures& figures) {
 }
 
 int run() {
-  // Turn by turn, so that a busy spell of the machine meets both lists.
+  // Turn by turn, so that both lists find the machine alike.
   constexpr int runs = 25;
   Figures shortFigures{.list = boxOffices(shortList)};
   Figures longFigures{.list = boxOffices(longList)};

@@ -69,8 +69,10 @@ const names = { "{script}": script, "{style}": style, "{wasm}": wasm };
 const index = readFileSync(join(here, "static/index.html"), "utf8").replace(/\{\w+\}/g, (name) => names[name] ?? name);
 put("index.html", index);
 
-// The version is a hash over everything that is served: any change is a new version, nothing else is.
-const files = [script, style, wasm, ...staticFiles];
+// What is kept for play without a network. Home screens keep their own copies of the PNG icons.
+const files = [script, style, wasm, ...staticFiles.filter((name) => !name.endsWith(".png"))];
+
+// The version is a hash over all of it: any change is a new version, nothing else is.
 const version = hashOf([index, ...files.map((name) => name + hashOf(readFileSync(join(options.out, name))))].join("\n"));
 const worker = await build({
   ...bundling,

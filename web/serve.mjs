@@ -1,136 +1,28 @@
-// Serves the built site on this machine, for playing and for the tests: plain files, compressed once, with
-// the types that a browser insists on.
+// Serves the built site on this machine, to be played at the address that it prints.
 //
-//   node serve.mjs [--dir <directory>] [--port <number>]     the next free port where that one is taken
+//   node serve.mjs [--dir <directory>] [--port <number>] [--open]
+//
+// The next free port is taken where that one is in use. --open opens the address in a browser where there is a
+// desktop to open it on.
 
-import { createReadStream } from "node:fs";
-import { readFile, stat } from "node:fs/promises";
-import { createServer } from "node:http";
-import { dirname, extname, join, normalize, sep } from "node:path";
-import { fileURLToPath, pathToFileURL } from "node:url";
-import { parseArgs, promisify } from "node:util";
-import { brotliCompress, constants, gzip } from "node:zlib";
+import { spawn } from "node:child_process";
+import { dirname, join } from "node:path";
+import { fileURLToPath } from "node:url";
+import { parseArgs } from "node:util";
+import { serve } from "./server.mjs";
 
-const types = {
-  ".css": "text/css; charset=utf-8",
-  ".html": "text/html; charset=utf-8",
-  ".js": "text/javascript; charset=utf-8",
-  ".png": "image/png",
-  ".svg": "image/svg+xml",
-  ".wasm": "application/wasm",
-  ".webmanifest": "application/manifest+json",
-};
-const alreadySmall = new Set([".png"]);
-
-const encoders = {
-  br: (content) => promisify(brotliCompress)(content, { params: { [constants.BROTLI_PARAM_QUALITY]: 9 } }),
-  gzip: (content) => promisify(gzip)(content, { level: 9 }),
-};
-
-// A name with a hash in it never changes its content. Everything else is asked for anew each time, so that a
-// new version is found at once.
-function cacheControl(name) {
-  return /-[0-9a-f]{10}\.\w+$/.test(name) ? "public, max-age=31536000, immutable" : "no-store";
-}
-
-class Site {
-  #folder;
-  #compressed = new Map(); // by encoding, name and time of change
-
-  constructor(folder) {
-    this.#folder = folder;
-  }
-
-  async answer(request, response) {
-    if (request.method !== "GET" && request.method !== "HEAD") return refuse(response, 405);
-    const file = this.#fileOf(request.url ?? "/");
-    const found = file && (await stat(file).catch(() => undefined));
-    if (!found?.isFile()) return refuse(response, 404);
-
-    const ending = extname(file);
-    const headers = {
-      "Content-Type": types[ending] ?? "application/octet-stream",
-      "Cache-Control": cacheControl(file),
-      "X-Content-Type-Options": "nosniff",
-    };
-    const encoding = alreadySmall.has(ending) ? undefined : wantedEncoding(request);
-    if (!encoding) {
-      response.writeHead(200, { ...headers, "Content-Length": found.size });
-      if (request.method === "HEAD") return response.end();
-      return createReadStream(file).pipe(response);
-    }
-    const content = await this.#compress(encoding, file, found.mtimeMs);
-    response.writeHead(200, {
-      ...headers,
-      "Content-Encoding": encoding,
-      "Content-Length": content.length,
-      Vary: "Accept-Encoding",
-    });
-    return response.end(request.method === "HEAD" ? undefined : content);
-  }
-
-  // The file that an address means; none when the address leaves the folder.
-  #fileOf(url) {
-    let path;
-    try {
-      path = decodeURIComponent(new URL(url, "http://localhost").pathname);
-    } catch {
-      return undefined;
-    }
-    const file = normalize(join(this.#folder, path.endsWith("/") ? `${path}index.html` : path));
-    return file.startsWith(this.#folder + sep) ? file : undefined;
-  }
-
-  #compress(encoding, file, changed) {
-    const name = `${encoding} ${changed} ${file}`;
-    if (!this.#compressed.has(name)) this.#compressed.set(name, readFile(file).then(encoders[encoding]));
-    return this.#compressed.get(name);
-  }
-}
-
-function wantedEncoding(request) {
-  const accepted = String(request.headers["accept-encoding"] ?? "");
-  return Object.keys(encoders).find((encoding) => accepted.includes(encoding));
-}
-
-function refuse(response, status) {
-  response.writeHead(status, { "Content-Type": "text/plain" });
-  response.end(status === 404 ? "Not found\n" : "Not allowed\n");
-}
-
-// Serves the folder; resolves to the address and the way to stop, once it listens.
-export function serve(folder, port) {
-  const site = new Site(normalize(folder));
-  const server = createServer((request, response) => {
-    site.answer(request, response).catch(() => refuse(response, 500));
-  });
-  return new Promise((resolve, reject) => {
-    server.on("error", (error) => {
-      if (error.code === "EADDRINUSE" && port !== 0) server.listen((port += 1), "127.0.0.1");
-      else reject(error);
-    });
-    server.on("listening", () => {
-      resolve({
-        address: `http://localhost:${server.address().port}/`,
-        stop: () =>
-          new Promise((stopped) => {
-            server.close(stopped);
-            server.closeAllConnections();
-          }),
-      });
-    });
-    server.listen(port, "127.0.0.1");
-  });
-}
-
-if (import.meta.url === pathToFileURL(process.argv[1] ?? "").href) {
-  const here = dirname(fileURLToPath(import.meta.url));
-  const { values: options } = parseArgs({
-    options: {
-      dir: { type: "string", default: join(here, "dist") },
-      port: { type: "string", default: "8080" },
-    },
-  });
-  const { address } = await serve(options.dir, Number(options.port));
-  console.log(`Top Billing is served at ${address}`);
+const here = dirname(fileURLToPath(import.meta.url));
+const { values: options } = parseArgs({
+  options: {
+    dir: { type: "string", default: join(here, "dist") },
+    port: { type: "string", default: "8080" },
+    open: { type: "boolean", default: false },
+  },
+});
+const { address } = await serve(options.dir, Number(options.port));
+console.log(`Top Billing is served at ${address}`);
+if (options.open && (process.env.DISPLAY || process.env.WAYLAND_DISPLAY)) {
+  spawn("xdg-open", [address], { stdio: "ignore", detached: true })
+    .on("error", () => undefined) // no such program: the address is printed
+    .unref();
 }

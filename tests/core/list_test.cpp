@@ -51,7 +51,7 @@ List<int> numbers(int count) {
   return list;
 }
 
-TEST(List, A_week_that_changes_one_element_of_a_long_list_writes_one_piece) {
+TEST(List, AWeekThatChangesOneElementOfALongListWritesOnePiece) {
   List<int> list = numbers(1000);
   StoredList<int> stored;
   stored.save(list);
@@ -73,7 +73,7 @@ TEST(List, A_week_that_changes_one_element_of_a_long_list_writes_one_piece) {
   EXPECT_EQ(contents(stored.load()), contents(list));
 }
 
-TEST(List, A_history_that_drops_its_oldest_week_forgets_emptied_pieces) {
+TEST(List, AHistoryThatDropsItsOldestWeekForgetsEmptiedPieces) {
   List<int> history;
   StoredList<int> stored;
   for (int week = 0; week < 1000; ++week) {
@@ -86,7 +86,7 @@ TEST(List, A_history_that_drops_its_oldest_week_forgets_emptied_pieces) {
   EXPECT_EQ(contents(stored.load()), contents(history));
 }
 
-TEST(List, What_was_put_in_another_lists_place_is_saved_whole) {
+TEST(List, WhatWasPutInAnotherListsPlaceIsSavedWhole) {
   List<int> list = numbers(100);
   StoredList<int> stored;
   stored.save(list);
@@ -106,7 +106,7 @@ TEST(List, What_was_put_in_another_lists_place_is_saved_whole) {
   EXPECT_TRUE(stored.pieces.empty());
 }
 
-TEST(List, A_list_can_be_assigned_from_a_view_of_itself) {
+TEST(List, AListCanBeAssignedFromAViewOfItself) {
   List<int> list = numbers(100);
   list.assign(list | std::views::filter([](int value) { return value % 2 == 1; }));
   EXPECT_EQ(list.size(), 50u);
@@ -114,7 +114,7 @@ TEST(List, A_list_can_be_assigned_from_a_view_of_itself) {
   EXPECT_EQ(list.back(), 99);
 }
 
-TEST(List, Pieces_with_gaps_and_empty_pieces_load_in_order) {
+TEST(List, PiecesWithGapsAndEmptyPiecesLoadInOrder) {
   StoredList<int> stored;
   stored.pieces = {{-4'000'000'000'000, {1, 2}}, {-7, {}}, {0, {}}, {3, {3}}, {9'000'000'000'000, {4, 5}}};
   List<int> list = stored.load();
@@ -132,7 +132,7 @@ TEST(List, Pieces_with_gaps_and_empty_pieces_load_in_order) {
 // Any sequence of operations, with saves and relaunches in between, against std::vector.
 class ListHistory : public testing::TestWithParam<unsigned> {};
 
-TEST_P(ListHistory, What_is_loaded_is_what_was_saved) {
+TEST_P(ListHistory, WhatIsLoadedIsWhatWasSaved) {
   std::mt19937 chance(GetParam());
   const auto below = [&](std::size_t n) {
     return std::uniform_int_distribution<std::size_t>(0, n - 1)(chance);

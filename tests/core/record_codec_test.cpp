@@ -8,6 +8,14 @@
 #include "tests/core/sample_record.h"
 
 namespace tb {
+
+// A record that holds others of its kind, so that a file can go in a circle through it.
+struct Troupe {
+  std::int64_t players = 0;
+  std::vector<Troupe> guests;
+};
+RECORD_FIELDS(Troupe, players, guests);
+
 namespace {
 
 using plist::Array;
@@ -79,8 +87,7 @@ TEST(RecordCodec, AListIsAnArrayOfDictionariesInTheOrderOfTheRecord) {
 
 TEST(RecordCodec, ALongListThatRepeatsItselfIsStillRead) {
   SampleRecord record;
-  record.title = std::string(2'000, 't');
-  record.genres = {record.title};
+  record.title = std::string(500, 't');
   const std::vector<SampleRecord> list(52'000, record);
   const auto read = decodeRecords<SampleRecord>(encode(list));
   ASSERT_TRUE(read);
@@ -141,6 +148,12 @@ TEST(RecordCodec, HostileFilesAreRefused) {
             refused(ReadError::badObject));
   EXPECT_EQ(decode({object({0xA1, 1}), object({0xD2, 2, 3, 9, 4}), role, weeks, one}),
             refused(ReadError::badReference));
+
+  const auto circle = decodeRecords<Troupe>(test::HandMadeFile{
+      {object({0xA1, 1}), object({0xD2, 2, 3, 4, 0}), "Wplayers", "Vguests",
+       one}}.bytes());
+  ASSERT_FALSE(circle);
+  EXPECT_EQ(circle.error(), DecodeError{.readError = ReadError::tooDeep});
 
   // One huge record that the list refers to again and again, by turns with another of it.
   std::string pairs = object({0xAF, 0x11, 0xFF, 0xFF});

@@ -40,7 +40,7 @@ void loadThem(Game& game) {
   load<&WorldState::saveAllChildList, &WorldState::trackFans, &WorldState::weekNumber>(game);
 }
 
-TEST(Save, A_week_writes_the_pieces_it_changed_and_nothing_else) {
+TEST(Save, AWeekWritesThePiecesItChangedAndNothingElse) {
   MemoryPort port;
   storeLists(port);
   EXPECT_EQ(port.pieces.size(), 5u);
@@ -65,7 +65,7 @@ TEST(Save, A_week_writes_the_pieces_it_changed_and_nothing_else) {
   EXPECT_EQ(next.game.world.weekNumber, 9);
 }
 
-TEST(Save, A_list_that_emptied_is_there_as_an_empty_list_and_grows_again) {
+TEST(Save, AListThatEmptiedIsThereAsAnEmptyListAndGrowsAgain) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
@@ -90,7 +90,7 @@ TEST(Save, A_list_that_emptied_is_there_as_an_empty_list_and_grows_again) {
   EXPECT_EQ(last.game.world.trackFans, IntList{3});
 }
 
-TEST(Save, A_list_left_by_an_import_loads_and_is_cut_into_pieces_when_next_written) {
+TEST(Save, AListLeftByAnImportLoadsAndIsCutIntoPiecesWhenNextWritten) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
@@ -115,7 +115,7 @@ TEST(Save, A_list_left_by_an_import_loads_and_is_cut_into_pieces_when_next_writt
 }
 
 // A slot that lacks a key must not make the next week add its changes to nothing.
-TEST(Save, A_list_whose_key_vanished_is_written_whole) {
+TEST(Save, AListWhoseKeyVanishedIsWrittenWhole) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
@@ -130,7 +130,7 @@ TEST(Save, A_list_whose_key_vanished_is_written_whole) {
   EXPECT_EQ(next.game.world.trackFans.size(), 37u);
 }
 
-TEST(Save, One_damaged_piece_costs_its_list_only_and_is_kept_aside_with_its_neighbours) {
+TEST(Save, OneDamagedPieceCostsItsListOnlyAndIsKeptAsideWithItsNeighbours) {
   MemoryPort port;
   storeLists(port);
   port.pieces.at({"saveAllChildList", 1}).bytes.resize(20);
@@ -152,7 +152,7 @@ TEST(Save, One_damaged_piece_costs_its_list_only_and_is_kept_aside_with_its_neig
   EXPECT_EQ(next.game.world.saveAllChildList, List<Child>{child(1)});
 }
 
-TEST(Save, A_value_of_another_kind_leaves_the_variable_and_is_not_lost) {
+TEST(Save, AValueOfAnotherKindLeavesTheVariableAndIsNotLost) {
   MemoryPort port;
   const std::pair<const char*, Value> odd[] = {
       {"weekNumber", Value{std::string("soon")}},

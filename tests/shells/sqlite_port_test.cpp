@@ -122,7 +122,7 @@ class SqlitePortTest : public testing::Test {
   fs::path file_;
 };
 
-TEST_F(SqlitePortTest, A_career_is_there_again_after_every_session) {
+TEST_F(SqlitePortTest, ACareerIsThereAgainAfterEverySession) {
   const Dictionary first = beginCareer();
   EXPECT_EQ(stored(), first);
   {
@@ -155,7 +155,7 @@ TEST_F(SqlitePortTest, A_career_is_there_again_after_every_session) {
   EXPECT_EQ(stored(), (Dictionary{{"myName", Value{std::string("Ada")}}}));
 }
 
-TEST_F(SqlitePortTest, A_second_window_is_told_that_the_game_is_open) {
+TEST_F(SqlitePortTest, ASecondWindowIsToldThatTheGameIsOpen) {
   const auto port = open();
   const pid_t other = fork();
   if (other == 0) {
@@ -173,7 +173,7 @@ TEST_F(SqlitePortTest, A_second_window_is_told_that_the_game_is_open) {
   EXPECT_TRUE(store.commit());
 }
 
-TEST_F(SqlitePortTest, A_file_that_is_in_use_by_another_program_is_left_alone) {
+TEST_F(SqlitePortTest, AFileThatIsInUseByAnotherProgramIsLeftAlone) {
   beginCareer();
   {
     const auto other = sqlite::Database::open(file_);
@@ -184,7 +184,7 @@ TEST_F(SqlitePortTest, A_file_that_is_in_use_by_another_program_is_left_alone) {
   EXPECT_EQ(stored().size(), 3u);
 }
 
-TEST_F(SqlitePortTest, A_damaged_career_moves_aside_and_a_new_one_begins) {
+TEST_F(SqlitePortTest, ADamagedCareerMovesAsideAndANewOneBegins) {
   beginCareer();
   const std::string sound = contentOf(file_);
   std::string scratched = sound;
@@ -217,7 +217,7 @@ TEST_F(SqlitePortTest, A_damaged_career_moves_aside_and_a_new_one_begins) {
   EXPECT_EQ(stored().size(), 1u);
 }
 
-TEST_F(SqlitePortTest, A_database_of_another_program_moves_aside) {
+TEST_F(SqlitePortTest, ADatabaseOfAnotherProgramMovesAside) {
   alter("CREATE TABLE recipes (name TEXT)");
   EXPECT_TRUE(open()->notice());
   EXPECT_TRUE(fs::exists(folder_ / "career.damaged-1.sqlite"));
@@ -226,13 +226,13 @@ TEST_F(SqlitePortTest, A_database_of_another_program_moves_aside) {
   EXPECT_TRUE(fs::exists(folder_ / "career.damaged-2.sqlite"));
 }
 
-TEST_F(SqlitePortTest, An_empty_file_is_a_career_that_has_not_begun) {
+TEST_F(SqlitePortTest, AnEmptyFileIsACareerThatHasNotBegun) {
   overwrite(file_, "");
   EXPECT_FALSE(open()->notice());
   EXPECT_EQ(beginCareer(), stored());
 }
 
-TEST_F(SqlitePortTest, A_career_of_a_newer_version_is_refused_and_not_touched) {
+TEST_F(SqlitePortTest, ACareerOfANewerVersionIsRefusedAndNotTouched) {
   beginCareer();
   alter("PRAGMA user_version = 2");
   alter("INSERT INTO pieces VALUES ('future', 0, 9, x'00')");
@@ -242,7 +242,7 @@ TEST_F(SqlitePortTest, A_career_of_a_newer_version_is_refused_and_not_touched) {
   EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1.sqlite"));
 }
 
-TEST_F(SqlitePortTest, Damaged_rows_cost_their_keys_only_and_are_kept_aside) {
+TEST_F(SqlitePortTest, DamagedRowsCostTheirKeysOnlyAndAreKeptAside) {
   beginCareer();
   alter(
       "INSERT INTO pieces VALUES ('shape', 0, 7, x'00'), ('text', 0, 0, 'text'), ('piece', 'one', 0, x'00')");
@@ -255,7 +255,7 @@ TEST_F(SqlitePortTest, Damaged_rows_cost_their_keys_only_and_are_kept_aside) {
   EXPECT_EQ(count("pieces"), 2);
 }
 
-TEST_F(SqlitePortTest, A_folder_that_cannot_be_written_is_named) {
+TEST_F(SqlitePortTest, AFolderThatCannotBeWrittenIsNamed) {
   overwrite(folder_ / "file", "");
   const auto port = SqlitePort::open(folder_ / "file");
   ASSERT_FALSE(port);
@@ -263,7 +263,7 @@ TEST_F(SqlitePortTest, A_folder_that_cannot_be_written_is_named) {
   EXPECT_TRUE(port.error().message.contains((folder_ / "file").string()));
 }
 
-TEST_F(SqlitePortTest, A_disk_that_fills_up_at_any_write_of_a_commit_costs_nothing) {
+TEST_F(SqlitePortTest, ADiskThatFillsUpAtAnyWriteOfACommitCostsNothing) {
   const Dictionary begun = beginCareer();
   bool fitted = false;
   for (int room = 0; !fitted; ++room) {
@@ -289,7 +289,7 @@ TEST_F(SqlitePortTest, A_disk_that_fills_up_at_any_write_of_a_commit_costs_nothi
   }
 }
 
-TEST_F(SqlitePortTest, When_there_is_room_again_the_session_goes_on) {
+TEST_F(SqlitePortTest, WhenThereIsRoomAgainTheSessionGoesOn) {
   beginCareer();
   Dictionary last;
   {
@@ -310,7 +310,7 @@ TEST_F(SqlitePortTest, When_there_is_room_again_the_session_goes_on) {
   EXPECT_EQ(stored(), last);
 }
 
-TEST_F(SqlitePortTest, A_disk_that_is_full_when_a_career_begins_is_said_and_nothing_is_moved) {
+TEST_F(SqlitePortTest, ADiskThatIsFullWhenACareerBeginsIsSaidAndNothingIsMoved) {
   bool fitted = false;
   for (int room = 0; !fitted; ++room) {
     ASSERT_LT(room, 100);
@@ -328,7 +328,7 @@ TEST_F(SqlitePortTest, A_disk_that_is_full_when_a_career_begins_is_said_and_noth
   }
 }
 
-TEST_F(SqlitePortTest, Saves_live_in_the_users_data_folder) {
+TEST_F(SqlitePortTest, SavesLiveInTheUsersDataFolder) {
   setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
   EXPECT_EQ(saveFolder(), folder_ / "data" / "top-billing");
   EXPECT_EQ(fs::status(folder_ / "data" / "top-billing").permissions(), fs::perms::owner_all);

@@ -12,10 +12,14 @@ const cachePrefix = `top-billing ${self.registration.scope} `;
 const cacheName = cachePrefix + VERSION;
 const entry = "./";
 
-// The network's copy, not one that the browser kept: a version is made of files that belong together.
+// A name with a hash in it never changes its content, so a copy that the browser has, as on the first visit, is
+// as good as the network's. The few other files have to come from there, to be of this version.
 async function keepEverything(): Promise<void> {
   const cache = await caches.open(cacheName);
-  await cache.addAll([entry, ...FILES].map((file) => new Request(file, { cache: "reload" })));
+  const hashed = /-[0-9a-f]{10}\.\w+$/;
+  await cache.addAll(
+    [entry, ...FILES].map((file) => new Request(file, { cache: hashed.test(file) ? "default" : "reload" })),
+  );
 }
 
 async function dropOtherVersions(): Promise<void> {

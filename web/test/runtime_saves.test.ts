@@ -5,7 +5,7 @@ import { readFileSync } from "node:fs";
 import { test } from "node:test";
 import type { Page } from "playwright-core";
 
-import { nameField, openSaves, stage, startCareer, visit, waitForGame } from "./runtime_site";
+import { fill, fillable, nameField, openSaves, stage, startCareer, visit, waitForGame } from "./runtime_site";
 
 const setting = stage();
 
@@ -102,11 +102,10 @@ test("a file that is no career changes nothing and says why", async () => {
 
 test("a save that there is no room for leaves the old one in place", async () => {
   const file = await careerOf("Ada Large");
-  const player = await visit(setting);
+  const player = await visit(setting, fillable);
   const page = await player.open();
   await startCareer(page, "Ada Small");
-  const session = await player.context.newCDPSession(page);
-  await session.send("Storage.overrideQuotaForOrigin", { origin: setting.site.origin, quotaSize: 1 });
+  await fill(page, true);
   await openSaves(page);
   await choose(page, file);
   await page.getByRole("button", { name: "Replace my career" }).click();

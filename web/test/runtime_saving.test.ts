@@ -5,7 +5,7 @@ import assert from "node:assert/strict";
 import { test } from "node:test";
 import type { Page } from "playwright-core";
 
-import { nameField, stage, startCareer, visit, waitForGame } from "./runtime_site";
+import { fill, fillable, nameField, stage, startCareer, visit, waitForGame } from "./runtime_site";
 
 const setting = stage();
 
@@ -63,18 +63,11 @@ for (const [how, script] of Object.entries(refusals)) {
   });
 }
 
-// Gives the site this much room, or the usual again.
-async function limitRoom(page: Page, bytes?: number): Promise<void> {
-  const session = await page.context().newCDPSession(page);
-  const quota = bytes === undefined ? {} : { quotaSize: bytes };
-  await session.send("Storage.overrideQuotaForOrigin", { origin: setting.site.origin, ...quota });
-}
-
 test("a device without room is told of once, and the career is whole once there is room again", async () => {
-  const player = await visit(setting);
+  const player = await visit(setting, fillable);
   const page = await player.open();
   await waitForGame(page);
-  await limitRoom(page, 1);
+  await fill(page, true);
   await startCareer(page, "Ada Full");
 
   const dialog = page.getByRole("dialog").filter({ hasText: "Not Saved" });
@@ -90,7 +83,7 @@ test("a device without room is told of once, and the career is whole once there 
   assert.equal(await dialog.count(), 0);
   assert.equal(await notice.count(), 1);
 
-  await limitRoom(page);
+  await fill(page, false);
   await writeSomething(page);
   await notice.waitFor({ state: "detached" });
   await page.reload();

@@ -10,7 +10,7 @@ import { after, before } from "node:test";
 import type { Browser, BrowserContext, Page } from "playwright-core";
 
 import { launchChromium } from "../browser.mjs";
-import { serve, type Served } from "../serve.mjs";
+import { serve, type Served } from "../server.mjs";
 
 export const phone = { width: 390, height: 844 };
 
@@ -18,6 +18,7 @@ export const phone = { width: 390, height: 844 };
 export class Site {
   readonly folder = mkdtempSync(join(tmpdir(), "top-billing-"));
   private served: Served | undefined;
+  bytesSent = 0; // of the contents of all answers, as they went over the wire
 
   // `below`: the path under the server's root at which the site stands.
   constructor(private readonly below = "") {
@@ -34,7 +35,7 @@ export class Site {
   }
 
   async start(): Promise<this> {
-    this.served = await serve(this.folder, 0);
+    this.served = await serve(this.folder, 0, (bytes) => (this.bytesSent += bytes));
     return this;
   }
 
@@ -148,4 +149,19 @@ export async function waitForCopy(page: Page): Promise<void> {
 export async function openSaves(page: Page): Promise<void> {
   await page.getByRole("button", { name: "Saves" }).click();
   await page.getByRole("heading", { name: "Saves" }).waitFor();
+}
+
+// For visit(): with `full` set, no transaction gets through, in the way in which browsers refuse one.
+export function fillable(): void {
+  const commit = IDBTransaction.prototype.commit;
+  IDBTransaction.prototype.commit = function refused(this: IDBTransaction): void {
+    if (!(globalThis as { full?: boolean }).full) return commit.call(this);
+    const error = new DOMException("Quota exceeded.", "QuotaExceededError");
+    Object.defineProperty(this, "error", { value: error });
+    this.abort();
+  };
+}
+
+export async function fill(page: Page, full: boolean): Promise<void> {
+  await page.evaluate((given) => Object.assign(globalThis, { full: given }), full);
 }

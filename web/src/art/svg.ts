@@ -59,7 +59,7 @@ export function fall(id: string, colours: readonly string[], across = false): { 
 }
 
 export function picture(width: number, height: number, content: string): string {
-  return `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${width} ${height}">${content}</svg>`;
+  return `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${width} ${height}" preserveAspectRatio="xMidYMid slice">${content}</svg>`;
 }
 
 // A mix of two colours given as "#rrggbb"; `share` of the second.

@@ -22,12 +22,16 @@ export function PressButton({ label, price, offReason, weight, handle }: View.Bu
         onClick={press}
       >
         <span class="button-label">
-          <Words text={label} />
+          <span>
+            <Words text={label} />
+          </span>
         </span>
         {price !== "" && (
           <span class="button-price">
-            <span class="unseen">, </span>
-            <Words text={price} />
+            <span>
+              <span class="unseen">, </span>
+              <Words text={price} />
+            </span>
           </span>
         )}
       </button>

@@ -46,7 +46,7 @@ function CardHead({ title, subtitle, handle }: Pick<View.Card, "title" | "subtit
 export function Card({ title, subtitle, picture, nodes, handle }: View.Card) {
   const banner = picture.some((shown) => wide.has(shown.kind));
   return (
-    <article class={`card${handle === 0 ? "" : " card-pressable"}`}>
+    <article class="card">
       {(title !== "" || subtitle !== "" || picture.length > 0) && (
         <div class={`card-head${banner ? " card-banner" : ""}`}>
           {picture.map((shown) => (

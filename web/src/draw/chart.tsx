@@ -161,16 +161,18 @@ function Scrub({ chart: { kind, title, points }, shown, ask }: ScrubProps) {
 
 function Table({ title, points }: View.Chart) {
   return (
-    <table class="unseen">
-      <caption>{title}</caption>
-      <tbody>
-        {points.map((point, index) => (
-          <tr key={index}>
-            <th scope="row">{point.label}</th>
-            <td>{point.text}</td>
-          </tr>
-        ))}
-      </tbody>
-    </table>
+    <div class="unseen">
+      <table>
+        <caption>{title}</caption>
+        <tbody>
+          {points.map((point, index) => (
+            <tr key={index}>
+              <th scope="row">{point.label}</th>
+              <td>{point.text}</td>
+            </tr>
+          ))}
+        </tbody>
+      </table>
+    </div>
   );
 }

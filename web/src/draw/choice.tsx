@@ -45,7 +45,7 @@ export function Choice(choice: View.Choice) {
       </legend>
       <div class="options">
         {choice.options.map((option, index) => (
-          <label class="option" key={keys[index]!}>
+          <label class={`option${option.chosen ? " is-chosen" : ""}`} key={keys[index]!}>
             <input
               type={choice.several ? "checkbox" : "radio"}
               class="option-control"

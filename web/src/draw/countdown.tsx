@@ -18,7 +18,9 @@ export function Countdown({ label, secondsLeft, secondsInAll }: View.Countdown) 
     <div class={`countdown${secondsLeft <= lastCall ? " is-last-call" : ""}`} role="timer" aria-label={label}>
       <svg class="countdown-ring" viewBox="0 0 100 100" aria-hidden="true">
         <circle class="countdown-track" cx="50" cy="50" r={radius} />
-        <circle class="countdown-left" cx="50" cy="50" r={radius} stroke-dasharray={`${share * around} ${around}`} />
+        {share > 0 && (
+          <circle class="countdown-left" cx="50" cy="50" r={radius} stroke-dasharray={`${share * around} ${around}`} />
+        )}
       </svg>
       <div class="countdown-words">
         <span class="countdown-figure">{clockText(secondsLeft)}</span>

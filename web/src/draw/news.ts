@@ -1,6 +1,7 @@
 // What a screen reader is told when a screen is drawn again: what is new on it, in the words that stand there.
 
 import type { Node, Page } from "../view_types";
+import { screenOf } from "./places";
 
 const mostAtOnce = 4; // a player who listens wants the outcome, not the page
 const lastCall = 10; // seconds
@@ -58,7 +59,7 @@ function heard(page: Page): Said {
 
 // Sentences to read out, the most telling first; none for another screen, whose heading is read anyway.
 export function newsBetween(before: Page, after: Page): string[] {
-  if (before.title !== after.title) return [];
+  if (screenOf(before) !== screenOf(after)) return [];
   const old = heard(before);
   const now = heard(after);
   const news: string[] = [];

@@ -97,9 +97,9 @@ export function Nodes({ nodes }: { readonly nodes: readonly Node[] }) {
   const keys = numbered(runs.map((run) => run.kind));
   return (
     <>
-      {runs.map((run, index) => {
+      {runs.flatMap((run, index) => {
         const List = lists[run.kind];
-        return List === undefined ? run.drawn : <List key={keys[index]!}>{run.drawn}</List>;
+        return List === undefined ? run.drawn : [<List key={keys[index]!}>{run.drawn}</List>];
       })}
     </>
   );

@@ -1,22 +1,19 @@
 // Draws a page: the one way in for whoever holds it.
 //
-// A page is drawn over the one before. On the same screen, which is one of the same title, everything keeps its
-// place: the scroll, the focus, a text that is being typed. Another screen starts at its top, with the focus on its
-// heading; one that is come back to is found where it was left.
+// A page is drawn over the one before. On the same screen everything keeps its place: the scroll, the focus, a text
+// that is being typed. Another screen starts at its top, with the focus on its heading; one that is come back to is
+// found where it was left.
 
 import { Component, createRef } from "preact";
 
 import type { PageViewProps } from "../runtime/actions";
-import type { Page } from "../view_types";
 import { newsBetween } from "./news";
-import { focusNow, keepFocus, Places } from "./places";
+import { focusNow, keepFocus, Places, screenOf } from "./places";
 import type { Focus } from "./places";
 import { pressAfterTyping } from "./pressing";
 import { Screen } from "./screen";
 
 const product = document.title;
-
-const isRoot = (page: Page): boolean => page.close.length === 0;
 
 export class PageView extends Component<PageViewProps> {
   private readonly root = createRef<HTMLDivElement>();
@@ -30,22 +27,20 @@ export class PageView extends Component<PageViewProps> {
   // The page before is still on show.
   override getSnapshotBeforeUpdate(before: PageViewProps): null {
     this.focus = focusNow(this.root.current!) ?? (before.page.dialog.length > 0 ? this.focus : null);
-    if (before.page.title !== this.props.page.title) {
-      this.places.leave(before.page.title, isRoot(before.page), this.focus);
-    }
+    if (screenOf(before.page) !== screenOf(this.props.page)) this.places.leave(before.page, this.focus);
     return null;
   }
 
   override componentDidUpdate(before: PageViewProps): void {
     const { page } = this.props;
     const root = this.root.current!;
-    if (before.page.title === page.title) {
+    if (screenOf(before.page) === screenOf(page)) {
       const wasOnPage = this.focus !== null || before.page.dialog.length > 0;
       if (wasOnPage && page.dialog.length === 0) keepFocus(root, this.focus);
     } else {
       this.nameTab();
       this.focus = null;
-      this.places.enter(root, page.title, isRoot(page));
+      this.places.enter(root, page);
     }
     this.tell(newsBetween(before.page, page));
     pressAfterTyping();
@@ -62,6 +57,7 @@ export class PageView extends Component<PageViewProps> {
 
   private tell(news: readonly string[]): void {
     const region = this.root.current?.querySelector("[data-news]");
-    if (region && news.length > 0) region.textContent = news.join(". ");
+    const sentences = news.map((words) => (/[.!?…]\s*$/u.test(words) ? words : `${words}.`));
+    if (region && sentences.length > 0) region.textContent = sentences.join(" ");
   }
 }

@@ -1,6 +1,17 @@
 // Where the player was: how far a page was scrolled and which control had the focus, kept when the page is drawn
 // again, and found again when a screen is come back to.
 
+import type { Page } from "../view_types";
+
+// A screen that nothing leads back from: the hub behind its tabs.
+export const isRoot = (page: Page): boolean => page.close.length === 0;
+
+// What tells one screen from another. Tabs may share the title of their hub, and a detail that of what it is about.
+export function screenOf(page: Page): string {
+  const tab = page.tabs.find((tab) => tab.current)?.label ?? "";
+  return [page.title, tab, isRoot(page) ? "root" : ""].join("\n");
+}
+
 const controls = "button, input, textarea, a[href]";
 
 // What a control is called, so that it is found when its element is gone.
@@ -43,26 +54,26 @@ export function keepFocus(root: Element, before: Focus | null): void {
 interface Place {
   readonly scroll: number;
   readonly focus: string; // the name of the control, empty for none
+  readonly isRoot: boolean;
 }
 
-// The places of the screens that can be come back to, by title.
+// The places of the screens that can be come back to.
 export class Places {
   private readonly places = new Map<string, Place>();
-  private readonly roots = new Set<string>(); // screens that nothing leads back from: the tabs
 
   // As a screen is left.
-  leave(title: string, isRoot: boolean, focus: Focus | null): void {
-    this.places.set(title, { scroll: window.scrollY, focus: focus?.name ?? "" });
-    if (isRoot) this.roots.add(title);
+  leave(page: Page, focus: Focus | null): void {
+    this.places.set(screenOf(page), { scroll: window.scrollY, focus: focus?.name ?? "", isRoot: isRoot(page) });
   }
 
   // As a screen opens: at its top, or where it was left when the player comes back to it. Under a dialog nothing
   // can take the focus; it goes to the heading when the dialog is answered.
-  enter(root: Element, title: string, isRoot: boolean): void {
-    const place = this.places.get(title);
-    this.places.delete(title);
+  enter(root: Element, page: Page): void {
+    const screen = screenOf(page);
+    const place = this.places.get(screen);
+    this.places.delete(screen);
     // Back on a tab, what was opened from it is over: opened again, it starts at its top.
-    if (isRoot) for (const other of this.places.keys()) if (!this.roots.has(other)) this.places.delete(other);
+    if (isRoot(page)) for (const [other, { isRoot }] of this.places) if (!isRoot) this.places.delete(other);
     window.scrollTo(0, place?.scroll ?? 0);
     if (root.querySelector("dialog[open]") !== null) return;
     const control = place === undefined || place.focus === "" ? undefined : findByName(root, place.focus);

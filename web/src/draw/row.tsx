@@ -45,7 +45,7 @@ function RowContent({ label, value, detail, picture }: View.Row) {
 
 export function Row(row: View.Row) {
   const press = usePress();
-  const tint = `tone-${row.tone}`;
+  const tint = `tone-${row.tone}${row.value === "" ? " row-bare" : ""}`;
   if (row.handle === 0) {
     return (
       <li class={`row ${tint}`}>

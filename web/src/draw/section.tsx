@@ -1,7 +1,6 @@
 // A part of the page under its heading. Headings count down from the page's own, as parts stand within parts.
 
 import type { ComponentChildren } from "preact";
-import { useId } from "preact/hooks";
 
 import type * as View from "../view_types";
 import { Nodes } from "./node";
@@ -10,7 +9,6 @@ import { Words } from "./words";
 
 interface HeadingProps {
   readonly class: string;
-  readonly id?: string;
   readonly children: ComponentChildren;
 }
 
@@ -27,8 +25,8 @@ export function Under({ children }: { readonly children: ComponentChildren }) {
   return <ScreenContext.Provider value={below}>{children}</ScreenContext.Provider>;
 }
 
+// Found by its heading; a landmark of its own for each part would be too many to go through.
 export function Section({ heading, nodes }: View.Section) {
-  const id = useId();
   if (heading === "") {
     return (
       <div class="section">
@@ -37,8 +35,8 @@ export function Section({ heading, nodes }: View.Section) {
     );
   }
   return (
-    <section class="section" aria-labelledby={id}>
-      <Heading class="section-heading" id={id}>
+    <section class="section">
+      <Heading class="section-heading">
         <Words text={heading} />
       </Heading>
       <Under>

@@ -3,6 +3,7 @@
 
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
+import { BackGesture } from "./back_gesture";
 import { Game, GameStopped } from "./game";
 import { localeMessage } from "./locale";
 import { downloadSave, type ReadSave, readSave } from "./saves";
@@ -50,6 +51,8 @@ export class Shell {
   });
   private readonly updates = new Updates(() => this.change({ updateReady: true }));
   private readonly ticker = new Ticker((seconds) => this.act((game) => game.tick(seconds)));
+
+  private readonly backGesture = new BackGesture(() => this.actions.back());
 
   readonly actions: Actions = {
     press: (handle) => this.act((game) => game.press(handle)),
@@ -143,7 +146,7 @@ export class Shell {
   }
 
   private stop(error: unknown): void {
-    console.error(error);
+    console.error(error, error instanceof GameStopped ? error.cause : "");
     this.game = undefined;
     this.show({ kind: "stopped" });
   }
@@ -181,7 +184,9 @@ export class Shell {
 
   private show(showing: Showing): void {
     this.change({ showing });
-    this.ticker.watch(showing.kind === "playing" ? showing.page : undefined);
+    const page = showing.kind === "playing" ? showing.page : undefined;
+    this.ticker.watch(page);
+    this.backGesture.watch(page);
   }
 
   private change(changes: Partial<ShellState>): void {

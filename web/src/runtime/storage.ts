@@ -20,6 +20,7 @@ interface Schema extends DBSchema {
 }
 
 const databaseName = "top-billing";
+const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
 const openingPatience = 5000; // milliseconds; some browsers neither open a database nor refuse it
 
 // Why nothing is saved here; each is told to the player in her own words.
@@ -48,7 +49,7 @@ export class Storage {
     let storage: Storage | undefined;
     let database: IDBPDatabase<Schema>;
     try {
-      database = await withPatience(openDatabase(() => storage?.reopen()));
+      database = await withPatience(openDatabase(() => storage?.lost()));
     } catch {
       return new Storage(undefined, new Pieces(), "refused", watcher);
     }
@@ -102,7 +103,7 @@ export class Storage {
     if (this.refusal) return;
     this.latest += 1;
     const upTo = this.latest;
-    this.writes = this.transaction(this.waiting).then(
+    this.writes = (this.database ? this.transaction(this.waiting) : this.reopen()).then(
       () => {
         // What came after this transaction waits for the one that carries it.
         if (upTo === this.latest) this.waiting = [];
@@ -117,7 +118,7 @@ export class Storage {
   }
 
   private async transaction(changes: readonly Change[]): Promise<void> {
-    if (!this.database) throw new DOMException("", "InvalidStateError");
+    if (!this.database) throw closed();
     const transaction = this.database.transaction(["pieces", "aside"], "readwrite");
     try {
       const pieces = transaction.objectStore("pieces");
@@ -140,17 +141,25 @@ export class Storage {
     await transaction.done;
   }
 
-  // The browser closed the database by itself, and may have thrown its content away: the new one is given the
-  // whole save.
-  private async reopen(): Promise<void> {
+  private lost(): void {
     this.database = undefined;
-    this.waiting = this.pieces.rewriting();
-    try {
-      this.database = await withPatience(openDatabase(() => this.reopen()));
-    } catch {
-      // The write below then fails, and says so.
-    }
     this.write();
+  }
+
+  // The browser closed the database by itself, and may have thrown its content away: the new one is given the
+  // whole save. It may also need a moment before it opens one again.
+  private async reopen(): Promise<void> {
+    for (const pause of pausesBeforeReopening) {
+      await new Promise((over) => setTimeout(over, pause));
+      try {
+        this.database ??= await withPatience(openDatabase(() => this.lost()));
+        await this.transaction(this.pieces.rewriting());
+        return;
+      } catch {
+        // The next try, or the error below, which is what the player is told.
+      }
+    }
+    throw closed();
   }
 }
 
@@ -163,6 +172,8 @@ function openDatabase(whenClosed: () => void): Promise<IDBPDatabase<Schema>> {
     terminated: whenClosed,
   });
 }
+
+const closed = () => new DOMException("The database was closed.", "InvalidStateError");
 
 function withPatience<T>(promise: Promise<T>): Promise<T> {
   return new Promise((resolve, reject) => {

@@ -1,0 +1,127 @@
+// A server of static files for this machine, for playing and for the tests: compressed once, with the types
+// that a browser insists on.
+
+import { createReadStream } from "node:fs";
+import { readFile, stat } from "node:fs/promises";
+import { createServer } from "node:http";
+import { extname, join, normalize, sep } from "node:path";
+import { promisify } from "node:util";
+import { brotliCompress, constants, gzip } from "node:zlib";
+
+const types = {
+  ".css": "text/css; charset=utf-8",
+  ".html": "text/html; charset=utf-8",
+  ".js": "text/javascript; charset=utf-8",
+  ".png": "image/png",
+  ".svg": "image/svg+xml",
+  ".wasm": "application/wasm",
+  ".webmanifest": "application/manifest+json",
+};
+const alreadySmall = new Set([".png"]);
+
+const encoders = {
+  br: (content) => promisify(brotliCompress)(content, { params: { [constants.BROTLI_PARAM_QUALITY]: 9 } }),
+  gzip: (content) => promisify(gzip)(content, { level: 9 }),
+};
+
+// A name with a hash in it never changes its content. Everything else is asked for anew each time, so that a
+// new version is found at once.
+function cacheControl(name) {
+  return /-[0-9a-f]{10}\.\w+$/.test(name) ? "public, max-age=31536000, immutable" : "no-store";
+}
+
+class Site {
+  #folder;
+  #sent; // is told the size of each answer
+  #compressed = new Map(); // by encoding, name and time of change
+
+  constructor(folder, sent) {
+    this.#folder = folder;
+    this.#sent = sent;
+  }
+
+  async answer(request, response) {
+    if (request.method !== "GET" && request.method !== "HEAD") return refuse(response, 405);
+    const file = this.#fileOf(request.url ?? "/");
+    const found = file && (await stat(file).catch(() => undefined));
+    if (!found?.isFile()) return refuse(response, 404);
+
+    const ending = extname(file);
+    const headers = {
+      "Content-Type": types[ending] ?? "application/octet-stream",
+      "Cache-Control": cacheControl(file),
+      "X-Content-Type-Options": "nosniff",
+    };
+    const encoding = alreadySmall.has(ending) ? undefined : wantedEncoding(request);
+    if (!encoding) {
+      response.writeHead(200, { ...headers, "Content-Length": found.size });
+      if (request.method === "HEAD") return response.end();
+      this.#sent(found.size);
+      return createReadStream(file).pipe(response);
+    }
+    const content = await this.#compress(encoding, file, found.mtimeMs);
+    response.writeHead(200, {
+      ...headers,
+      "Content-Encoding": encoding,
+      "Content-Length": content.length,
+      Vary: "Accept-Encoding",
+    });
+    if (request.method === "HEAD") return response.end();
+    this.#sent(content.length);
+    return response.end(content);
+  }
+
+  // The file that an address means; none when the address leaves the folder.
+  #fileOf(url) {
+    let path;
+    try {
+      path = decodeURIComponent(new URL(url, "http://localhost").pathname);
+    } catch {
+      return undefined;
+    }
+    const file = normalize(join(this.#folder, path.endsWith("/") ? `${path}index.html` : path));
+    return file.startsWith(this.#folder + sep) ? file : undefined;
+  }
+
+  #compress(encoding, file, changed) {
+    const name = `${encoding} ${changed} ${file}`;
+    if (!this.#compressed.has(name)) this.#compressed.set(name, readFile(file).then(encoders[encoding]));
+    return this.#compressed.get(name);
+  }
+}
+
+function wantedEncoding(request) {
+  const accepted = String(request.headers["accept-encoding"] ?? "");
+  return Object.keys(encoders).find((encoding) => accepted.includes(encoding));
+}
+
+function refuse(response, status) {
+  response.writeHead(status, { "Content-Type": "text/plain" });
+  response.end(status === 404 ? "Not found\n" : "Not allowed\n");
+}
+
+// Serves the folder on the port, or on the next free one; on any with 0. Resolves to the address and the way to
+// stop, once it listens. `sent` is told the size of each answer's content, in bytes.
+export function serve(folder, port, sent = () => undefined) {
+  const site = new Site(normalize(folder), sent);
+  const server = createServer((request, response) => {
+    site.answer(request, response).catch(() => refuse(response, 500));
+  });
+  return new Promise((resolve, reject) => {
+    server.on("error", (error) => {
+      if (error.code === "EADDRINUSE" && port !== 0) server.listen((port += 1), "127.0.0.1");
+      else reject(error);
+    });
+    server.on("listening", () => {
+      resolve({
+        address: `http://localhost:${server.address().port}/`,
+        stop: () =>
+          new Promise((stopped) => {
+            server.close(stopped);
+            server.closeAllConnections();
+          }),
+      });
+    });
+    server.listen(port, "127.0.0.1");
+  });
+}

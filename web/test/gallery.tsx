@@ -1,0 +1,44 @@
+// The gallery: shows one page of gallery_pages.ts, named in the address after "#", and keeps what was done to it.
+
+import { render } from "preact";
+
+import { PageView } from "../src/draw/page_view";
+import "../src/style/index.css";
+import type { Page } from "../src/view_types";
+import { pages } from "./gallery_pages";
+
+type Done = readonly [action: string, ...values: readonly (number | string)[]];
+
+const done: Done[] = [];
+const actions = {
+  press: (handle: number) => void done.push(["press", handle]),
+  type: (handle: number, text: string) => {
+    done.push(["type", handle, text]);
+    window.gallery.afterTyping(shown);
+  },
+  slide: (handle: number, value: number) => void done.push(["slide", handle, value]),
+  back: () => void done.push(["back"]),
+};
+
+let shown: Page = pages["hub"]!;
+
+function show(page: Page): void {
+  shown = page;
+  render(<PageView page={page} actions={actions} banner={null} corner={null} />, document.getElementById("app")!);
+}
+
+declare global {
+  interface Window {
+    gallery: {
+      readonly pages: typeof pages;
+      readonly show: typeof show;
+      readonly done: Done[];
+      afterTyping: typeof show; // what the game answers; the same page again unless a test says otherwise
+    };
+  }
+}
+window.gallery = { pages, show, done, afterTyping: show };
+
+const showNamed = (): void => show(pages[location.hash.slice(1)] ?? pages["hub"]!);
+window.addEventListener("hashchange", showNamed);
+showNamed();
