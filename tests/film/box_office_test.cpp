@@ -230,7 +230,7 @@ TEST(Stakes, ARoyaltyIsToldInFullAndPaidLessTheSignedAgentsPart) {
     ASSERT_EQ(film.world().saveAllRoyaltyPayouts.size(), 1U);
     EXPECT_EQ(film.world().saveAllRoyaltyPayouts.front(), expected);
     const std::string line =
-        "You received a box office royalty of $30 from the $1.5K that Salt Road took in.";
+        "You received a box office royalty of $30.00 from the $1.5K that Salt Road took in.";
     EXPECT_EQ(film.world().activityTracker.front(), line);
     EXPECT_EQ(film.world().WeekFeed.front(), line);
   }

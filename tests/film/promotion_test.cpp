@@ -115,8 +115,8 @@ TEST(Catalogue, ASagaGoesOnByNumbersWithoutAGap) {
 TEST(Catalogue, TheTablesOfAllTimeAreRankedAndAddUp) {
   EXPECT_TRUE(std::ranges::is_sorted(movieRecords(), std::greater{}, &MovieRecord::worldwide));
   for (const MovieRecord& row : movieRecords()) EXPECT_LT(row.domestic, row.worldwide) << row.title;
-  EXPECT_TRUE(std::ranges::is_sorted(tvRecords(), std::greater{}, &TVRecord::imbdRating));
-  EXPECT_EQ(tvRecords().front().imbdRating, 9.6);
+  EXPECT_TRUE(std::ranges::is_sorted(tvRecords(), std::greater{}, &TVRecord::imdbRating));
+  EXPECT_EQ(tvRecords().front().imdbRating, 9.6);
   EXPECT_EQ(tvRecords().back().rank, 250);
 }
 
