@@ -7,6 +7,7 @@
 #include "core/log.h"
 #include "core/save.h"
 #include "core/signed_agent.h"
+#include "film/box_office.h"
 #include "film/film_record.h"
 #include "film/released_project.h"
 
@@ -225,6 +226,7 @@ void resolveAuditionsForWeek(Game& game) {
   // The carry is paid, not spent: what a title brought comes in every week until the game is closed.
   if (records > 0) game.world.totalFans += game.world.fanGainCarry;
   save<&WorldState::totalFans, &WorldState::experience, &WorldState::activityTracker>(game);
+  postBoxOfficeChirp(game);
 }
 
 }  // namespace tb

@@ -1,9 +1,12 @@
 #include "week/end_week.h"
 
 #include "career/audition_cleanup.h"
+#include "career/audition_week.h"
 #include "career/classes.h"
 #include "career/job_contract.h"
+#include "career/renewals.h"
 #include "core/save.h"
+#include "film/box_office.h"
 #include "life/energy.h"
 #include "wealth/best_figures.h"
 #include "wealth/market_index.h"
@@ -51,6 +54,7 @@ void putBestFiguresForward(Game& game, HubRefresh reason) {
 
 void endWeek(Game& game) {
   forgetLastWeek(game.world);
+  resolveAuditionsForWeek(game);
   refillEnergy(game);
   advanceJobContract(game);
   advanceClock(game);
@@ -60,6 +64,9 @@ WeekSummary openSummary(Game& game) {
   game.world.releaseOffered = false;
   const EndedWeek ended = endedWeek(game.world);
   WeekSummary summary{.week = ended.week, .year = ended.year};
+  renewSeries(game);
+  renewSaga(game);
+  closeBoxOffice(game);
   advanceClasses(game);
   showFeed(game, summary);
   cleanUpAuditions(game);
