@@ -1,5 +1,5 @@
-// Everybody can use what is drawn: the rules of WCAG 2.2 AA that a machine can check, on every page of the gallery,
-// in both themes, at three widths and with text twice as large; and the keyboard reaches all of it.
+// Everybody can use what is drawn: the rules of WCAG 2.2 AA that a machine can check, on every page of the
+// gallery, in both themes, at three widths and with text twice as large; and the keyboard reaches all of it.
 
 import assert from "node:assert/strict";
 import { mkdirSync, readFileSync } from "node:fs";
@@ -11,7 +11,10 @@ import type { Page } from "playwright-core";
 import { Gallery, type Looks } from "./draw_browser";
 import { pages } from "./gallery_pages";
 
-const checker = readFileSync(createRequire(join(process.cwd(), "package.json")).resolve("axe-core/axe.min.js"), "utf8");
+const checker = readFileSync(
+  createRequire(join(process.cwd(), "package.json")).resolve("axe-core/axe.min.js"),
+  "utf8",
+);
 const rules = ["wcag2a", "wcag2aa", "wcag21a", "wcag21aa", "wcag22aa", "best-practice"];
 const pictures = process.env["SCREENSHOTS"]; // a folder, to keep a picture of each page in
 
@@ -34,11 +37,13 @@ async function onEveryPage(looks: Looks, check: (page: Page, name: string) => Pr
   await page.close();
 }
 
-// The window is as high as the page, so that a button behind what sticks to the window's edge, which the player scrolls
-// into the open, does not count as one that is too small to hit.
+// The window is as high as the page, so that a button behind what sticks to the window's edge, which the
+// player scrolls into the open, does not count as one that is too small to hit.
 async function showWhole(page: Page, { width, height }: { width: number; height: number }): Promise<void> {
   await page.setViewportSize({ width, height });
-  const whole = await page.evaluate(() => (document.querySelector("dialog") ? 0 : document.documentElement.scrollHeight));
+  const whole = await page.evaluate(() =>
+    document.querySelector("dialog") ? 0 : document.documentElement.scrollHeight,
+  );
   await page.setViewportSize({ width, height: Math.max(height, whole) });
 }
 
@@ -49,7 +54,9 @@ interface Violation {
 
 async function violations(page: Page): Promise<string[]> {
   await page.evaluate(checker);
-  const found = await page.evaluate<Violation[]>(`axe.run({ runOnly: ${JSON.stringify(rules)} }).then((run) => run.violations)`);
+  const found = await page.evaluate<Violation[]>(
+    `axe.run({ runOnly: ${JSON.stringify(rules)} }).then((run) => run.violations)`,
+  );
   return found.map(({ id, nodes }) => `${id}: ${nodes[0]!.html.slice(0, 160)} ${nodes[0]!.failureSummary}`);
 }
 
@@ -72,7 +79,8 @@ for (const dark of [false, true]) {
 function cutOff(): string[] {
   const wide = document.documentElement.clientWidth;
   const cut: string[] = [];
-  if (document.documentElement.scrollWidth > wide) cut.push(`the page is ${document.documentElement.scrollWidth} wide`);
+  if (document.documentElement.scrollWidth > wide)
+    cut.push(`the page is ${document.documentElement.scrollWidth} wide`);
   for (const element of document.querySelectorAll("#app *")) {
     const box = element.getBoundingClientRect();
     if (element.closest("svg, .unseen, .skip, .bar-title, [inert]") || box.width === 0) continue;
@@ -80,7 +88,8 @@ function cutOff(): string[] {
     const style = getComputedStyle(element);
     const hides = style.overflowX !== "visible" || style.overflowY !== "visible";
     const scrolls = /auto|scroll/.test(style.overflowX + style.overflowY) || element.matches("input");
-    if (hides && !scrolls && element.scrollWidth > element.clientWidth + 1) cut.push(`${element.className} hides its content`);
+    if (hides && !scrolls && element.scrollWidth > element.clientWidth + 1)
+      cut.push(`${element.className} hides its content`);
   }
   return cut;
 }
@@ -103,7 +112,10 @@ test("a finger hits every control: none is under 44 pixels", async () => {
     const small = await page.evaluate(() =>
       [...document.querySelectorAll("button, input, textarea")]
         .filter((control) => control.closest("dialog") || !document.querySelector("dialog"))
-        .map((control) => ({ control, box: (control.closest(".card-press") ? control.closest(".card") : control)!.getBoundingClientRect() }))
+        .map((control) => ({
+          control,
+          box: (control.closest(".card-press") ? control.closest(".card") : control)!.getBoundingClientRect(),
+        }))
         .filter(({ box }) => box.width < 44 || box.height < 44)
         .map(({ control, box }) => `${control.outerHTML.slice(0, 80)} ${box.width} x ${box.height}`),
     );
@@ -111,8 +123,8 @@ test("a finger hits every control: none is under 44 pixels", async () => {
   });
 });
 
-// Everything that the page offers is reached by Tab (of radio buttons, the chosen one of each group), and what has
-// the focus is in sight, not under the bar or the tabs.
+// Everything that the page offers is reached by Tab (of radio buttons, the chosen one of each group), and
+// what has the focus is in sight, not under the bar or the tabs.
 test("the keyboard reaches everything, in its order, and it can be seen", async () => {
   await onEveryPage(phone, async (page, name) => {
     const wanted = await page.evaluate(() => {
@@ -139,7 +151,8 @@ test("the keyboard reaches everything, in its order, and it can be seen", async 
         const y = Math.min(Math.max(box.top + box.height / 2, 0), innerHeight - 1);
         const whole = (element: Element | null) => element?.closest(".option, .card, .chart-plot") ?? element;
         const onTop = document.elementFromPoint(box.left + box.width / 2, y);
-        const isOnTop = control.contains(onTop) || onTop?.contains(control) || whole(onTop) === whole(control);
+        const isOnTop =
+          control.contains(onTop) || onTop?.contains(control) || whole(onTop) === whole(control);
         const isSeen = box.bottom > 0 && box.top < innerHeight && isOnTop;
         return { place: Number(control.dataset["place"]), isSeen, what: control.outerHTML.slice(0, 100) };
       });
@@ -147,19 +160,31 @@ test("the keyboard reaches everything, in its order, and it can be seen", async 
       assert.ok(at.isSeen, `${name}: hidden under something: ${at.what}`);
       reached.push(at.place);
     }
-    const missed = Array.from({ length: wanted }, (_, place) => place).filter((place) => !reached.includes(place));
+    const missed = Array.from({ length: wanted }, (_, place) => place).filter(
+      (place) => !reached.includes(place),
+    );
     assert.deepEqual(missed, [], `${name}: not reached`);
     if (!(await page.evaluate(() => document.querySelector("dialog")))) {
-      assert.deepEqual(reached, [...reached].sort((a, b) => a - b), `${name}: out of order`);
+      assert.deepEqual(
+        reached,
+        [...reached].sort((a, b) => a - b),
+        `${name}: out of order`,
+      );
     }
   });
 });
 
 test("every page has one heading of its own, and no level is left out below it", async () => {
   await onEveryPage(phone, async (page, name) => {
-    const levels = await page.evaluate(() => [...document.querySelectorAll("main :is(h1, h2, h3, h4, h5, h6)")].map((heading) => Number(heading.tagName[1])));
+    const levels = await page.evaluate(() =>
+      [...document.querySelectorAll("main :is(h1, h2, h3, h4, h5, h6)")].map((heading) =>
+        Number(heading.tagName[1]),
+      ),
+    );
     assert.equal(levels.filter((level) => level === 1).length, 1, name);
-    levels.forEach((level, index) => assert.ok(index === 0 || level <= levels[index - 1]! + 1, `${name}: ${levels}`));
+    levels.forEach((level, index) =>
+      assert.ok(index === 0 || level <= levels[index - 1]! + 1, `${name}: ${levels}`),
+    );
   });
 });
 

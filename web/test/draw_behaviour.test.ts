@@ -15,7 +15,11 @@ before(async () => {
 after(() => gallery.stop());
 
 // A page with these nodes, drawn by hand; later ones of the same title are drawn over it.
-async function drawn(nodes: readonly View.Node[], rest: Partial<View.Page> = {}, looks: Looks = {}): Promise<Page> {
+async function drawn(
+  nodes: readonly View.Node[],
+  rest: Partial<View.Page> = {},
+  looks: Looks = {},
+): Promise<Page> {
   const page = await gallery.open("hub", looks);
   await again(page, nodes, rest);
   return page;
@@ -62,7 +66,10 @@ const cash = (value: string): View.Node => ({
   kind: "tiles",
   content: { tiles: [{ label: "Cash", value, detail: "", tone: "plain" }] },
 });
-const section = (heading: string, ...nodes: View.Node[]): View.Node => ({ kind: "section", content: { heading, nodes } });
+const section = (heading: string, ...nodes: View.Node[]): View.Node => ({
+  kind: "section",
+  content: { heading, nodes },
+});
 const tall = Array.from({ length: 40 }, (_, index) => text(`Line ${index}`));
 
 test("a press is told by its handle, and one that is off says why and does nothing", async () => {
@@ -72,7 +79,10 @@ test("a press is told by its handle, and one that is off says why and does nothi
   assert.deepEqual(await done(page), [["press", 7]]);
   const off = page.getByRole("button", { name: /Buy/ });
   assert.equal(await off.getAttribute("aria-disabled"), "true");
-  assert.equal(await page.locator(`#${await off.getAttribute("aria-describedby")}`).textContent(), "No cash.");
+  assert.equal(
+    await page.locator(`#${await off.getAttribute("aria-describedby")}`).textContent(),
+    "No cash.",
+  );
 });
 
 test("what is still being typed is handed over before a press, which takes the handle of the page after it", async () => {
@@ -85,7 +95,10 @@ test("what is still being typed is handed over before a press, which takes the h
   await page.fill("input", "Mara");
   // As on a touch screen, where the field keeps the focus.
   await page.evaluate(() => document.querySelector<HTMLElement>(".button")!.click());
-  assert.deepEqual(await done(page), [["type", 1, "Mara"], ["press", 12]]);
+  assert.deepEqual(await done(page), [
+    ["type", 1, "Mara"],
+    ["press", 12],
+  ]);
 });
 
 test("typing is not disturbed when the page is drawn again, and is handed over once", async () => {
@@ -148,7 +161,10 @@ test("the same screen drawn again keeps in place what is read, and the focus, wh
   await scrollTo(page, 300);
   const top = async () => (await page.getByText("Line 8", { exact: true }).boundingBox())?.y;
   const read = await top();
-  await again(page, [section("Roles", row("Kin", 1), row("Static", 2), row("Iris", 3), row("Hush", 4)), ...tall]);
+  await again(page, [
+    section("Roles", row("Kin", 1), row("Static", 2), row("Iris", 3), row("Hush", 4)),
+    ...tall,
+  ]);
   assert.equal(await focused(page), "Hush");
   assert.equal(await top(), read);
   assert.equal(await page.evaluate(() => document.activeElement?.getAttribute("data-handle")), "4");
@@ -159,6 +175,19 @@ test("a control that is gone leaves the focus to its heading, not to the next co
   await page.getByRole("button", { name: "Iris" }).focus();
   await again(page, [section("Roles", row("Hush", 1))]);
   assert.equal(await focused(page), "Roles");
+});
+
+test("the one main button of a page stays in reach; of two, each stays where it is", async () => {
+  const end = button("End Week", 1, { weight: "primary" });
+  const reach = async (page: Page) =>
+    (await page.getByRole("button", { name: "End Week" }).boundingBox())!.y + 24 < 844;
+  const page = await drawn([text("Cash"), end, section("Log", ...tall)]);
+  assert.ok(await reach(page));
+  await scrollTo(page, 10_000);
+  assert.ok(await reach(page));
+  await again(page, [...tall, end, button("Other", 2, { weight: "primary" })]);
+  await scrollTo(page, 0);
+  assert.ok(!(await reach(page)));
 });
 
 test("another screen starts at its top with its heading; the one come back to is where it was left", async () => {
@@ -249,7 +278,10 @@ for (const still of [false, true]) {
     await page.waitForFunction(() => window.gallery.done.length === 1);
     await push(page, -160);
     await page.waitForFunction(() => window.gallery.done.length === 2);
-    assert.deepEqual(await done(page), [["press", 2], ["press", 1]]);
+    assert.deepEqual(await done(page), [
+      ["press", 2],
+      ["press", 1],
+    ]);
   });
 }
 
@@ -267,17 +299,31 @@ test("a screen reader hears what changed, and nothing of what did not", async ()
 
 test("figures count to where they belong", async () => {
   const page = await drawn([cash("$1,250")], {}, { still: false });
-  const seen = await page.evaluate(async (next) => {
-    const figure = document.querySelector(".figure")!;
-    const frames = new Set<string>();
-    const watch = new MutationObserver(() => frames.add(figure.textContent ?? ""));
-    watch.observe(figure, { characterData: true, subtree: true, childList: true });
-    window.gallery.show({ title: "Test", subtitle: "", icons: [], nodes: next, tabs: [], close: [], dialog: [] });
-    await new Promise((wait) => setTimeout(wait, 400));
-    return [...frames];
-  }, [cash("$2,400")]);
+  const seen = await page.evaluate(
+    async (next) => {
+      const figure = document.querySelector(".figure")!;
+      const frames = new Set<string>();
+      const watch = new MutationObserver(() => frames.add(figure.textContent ?? ""));
+      watch.observe(figure, { characterData: true, subtree: true, childList: true });
+      window.gallery.show({
+        title: "Test",
+        subtitle: "",
+        icons: [],
+        nodes: next,
+        tabs: [],
+        close: [],
+        dialog: [],
+      });
+      await new Promise((wait) => setTimeout(wait, 400));
+      return [...frames];
+    },
+    [cash("$2,400")],
+  );
   assert.ok(seen.length > 2, `${seen}`);
-  assert.ok(seen.every((frame) => /^\$\d,\d{3}$/.test(frame)), `${seen}`);
+  assert.ok(
+    seen.every((frame) => /^\$\d,\d{3}$/.test(frame)),
+    `${seen}`,
+  );
   assert.equal(await page.locator(".figure").textContent(), "$2,400");
 });
 
@@ -286,11 +332,17 @@ test("nothing moves for longer than 200 milliseconds, and nothing at all where t
     for (const name of ["hub", "latch", "form", "question", "auction"]) {
       const page = await gallery.open(name, { still });
       const longest = await page.evaluate(() => {
-        const seconds = (list: string) => Math.max(...list.split(",").map((time) => parseFloat(time) * (/ms/.test(time) ? 0.001 : 1)));
-        return Math.max(...[...document.querySelectorAll("#app *")].map((element) => {
-          const style = getComputedStyle(element);
-          return Math.max(seconds(style.transitionDuration) + seconds(style.transitionDelay), style.animationName === "none" ? 0 : seconds(style.animationDuration));
-        }));
+        const seconds = (list: string) =>
+          Math.max(...list.split(",").map((time) => parseFloat(time) * (/ms/.test(time) ? 0.001 : 1)));
+        return Math.max(
+          ...[...document.querySelectorAll("#app *")].map((element) => {
+            const style = getComputedStyle(element);
+            return Math.max(
+              seconds(style.transitionDuration) + seconds(style.transitionDelay),
+              style.animationName === "none" ? 0 : seconds(style.animationDuration),
+            );
+          }),
+        );
       });
       assert.ok(longest <= (still ? 0 : 0.2), `${name}: ${longest} s`);
       await page.close();
@@ -323,7 +375,9 @@ test("a page of 160 rows with pictures is drawn again within a frame", async () 
   const before = await milliseconds();
   await redraw(40);
   const each = ((await milliseconds()) - before) / 40;
-  console.log(`redraw of ${await page.evaluate(() => document.querySelectorAll("#app *").length)} elements: ${each.toFixed(1)} ms`);
+  console.log(
+    `redraw of ${await page.evaluate(() => document.querySelectorAll("#app *").length)} elements: ${each.toFixed(1)} ms`,
+  );
   assert.ok(each <= 16, `${each} ms`);
 });
 

@@ -1,5 +1,5 @@
-// A browser with the gallery in it, for the tests of the drawing. It stands in the page's own index.html, so under
-// its policy: a picture or a style that would break it shows here.
+// A browser with the gallery in it, for the tests of the drawing. It stands in the page's own index.html, so
+// under its policy: a picture or a style that would break it shows here.
 
 import { mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
@@ -39,7 +39,11 @@ export async function buildGallery(): Promise<Built> {
     jsxImportSource: "preact",
     logLevel: "warning",
   });
-  return { folder, script: readFileSync(join(folder, "gallery.js")), style: readFileSync(join(folder, "gallery.css")) };
+  return {
+    folder,
+    script: readFileSync(join(folder, "gallery.js")),
+    style: readFileSync(join(folder, "gallery.css")),
+  };
 }
 
 export interface Looks {
@@ -64,13 +68,19 @@ export class Gallery {
   }
 
   // A window with that page of gallery_pages.ts.
-  async open(name: string, { width = 390, height = 844, dark = false, still = true }: Looks = {}): Promise<Page> {
+  async open(
+    name: string,
+    { width = 390, height = 844, dark = false, still = true }: Looks = {},
+  ): Promise<Page> {
     const page = await this.browser.newPage({
       viewport: { width, height },
       colorScheme: dark ? "dark" : "light",
       reducedMotion: still ? "reduce" : "no-preference",
     });
-    page.on("console", (message) => message.type() !== "log" && this.problems.push(`${name}: ${message.text()}`));
+    page.on(
+      "console",
+      (message) => message.type() !== "log" && this.problems.push(`${name}: ${message.text()}`),
+    );
     page.on("pageerror", (error) => this.problems.push(`${name}: ${error.message}`));
     await page.goto(`${this.served.address}#${name}`);
     return page;

@@ -1,4 +1,5 @@
-// The gallery: shows one page of gallery_pages.ts, named in the address after "#", and keeps what was done to it.
+// The gallery: shows one page of gallery_pages.ts, named in the address after "#", and keeps what was done to
+// it.
 
 import { render } from "preact";
 
@@ -25,7 +26,10 @@ let shown: Page = pages["hub"]!;
 
 function show(page: Page): void {
   shown = page;
-  render(<PageView page={page} actions={actions} banner={null} corner={null} />, document.getElementById("app")!);
+  render(
+    <PageView page={page} actions={actions} banner={null} corner={null} />,
+    document.getElementById("app")!,
+  );
 }
 
 declare global {
