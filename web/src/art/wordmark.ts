@@ -3,7 +3,7 @@
 import { hands, lettering } from "./lettering";
 import { picture } from "./svg";
 
-const width = 240;
+const width = 209;
 const height = 30;
 
 export function wordmark(): string {

@@ -1,8 +1,9 @@
 // How the nodes of a page share a wide screen. On a phone the parts stand under each other in the same order.
 
-import type { Node } from "../view_types";
+import type { Node, PictureKind } from "../view_types";
 
 export interface Parts {
+  readonly front: readonly Node[]; // none or one: the picture that the page opens with, beside the lead
   readonly lead: readonly Node[]; // over both columns
   readonly columns: readonly (readonly Node[])[]; // none, or two
   readonly action: readonly Node[]; // none or one: what the page is for, kept in reach of the thumb
@@ -59,15 +60,27 @@ function cutOf(sections: readonly Node[]): number {
 const isWide = (node: Node): boolean =>
   node.kind === "card" || (node.kind === "listPage" && node.content.nodes.some((listed) => listed.kind === "card"));
 
+const uprights: ReadonlySet<PictureKind> = new Set(["poster", "card", "avatar", "logo", "icon"]);
+
+// A picture that leaves room at its side, with something to stand there.
+const isFront = (first: Node | undefined, second: Node | undefined): boolean =>
+  first?.kind === "picture" && uprights.has(first.content.kind) && second !== undefined;
+
 export function partsOf(nodes: readonly Node[]): Parts {
   const action = isAction(nodes[nodes.length - 1]) ? nodes.slice(-1) : [];
   const rest = nodes.slice(0, nodes.length - action.length);
   const first = rest.findIndex((node) => node.kind === "section");
   const sections = first < 0 ? [] : rest.slice(first);
-  if (sections.filter((node) => node.kind === "section").length < 2) {
-    const inside = sections[0]?.kind === "section" ? sections[0].content.nodes : [];
-    return { lead: rest, columns: [], action, isNarrow: ![...rest, ...inside].some(isWide) };
-  }
+  const hasColumns = sections.filter((node) => node.kind === "section").length >= 2;
+  const lead = hasColumns ? rest.slice(0, first) : rest;
+  const fronts = isFront(lead[0], lead[1]) ? 1 : 0;
   const cut = cutOf(sections);
-  return { lead: rest.slice(0, first), columns: [sections.slice(0, cut), sections.slice(cut)], action, isNarrow: false };
+  const inside = sections[0]?.kind === "section" ? sections[0].content.nodes : [];
+  return {
+    front: lead.slice(0, fronts),
+    lead: lead.slice(fronts),
+    columns: hasColumns ? [sections.slice(0, cut), sections.slice(cut)] : [],
+    action,
+    isNarrow: !hasColumns && ![...rest, ...inside].some(isWide),
+  };
 }

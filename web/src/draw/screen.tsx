@@ -21,12 +21,15 @@ function usePageUnderDialog(page: Page): Page {
   return open.current;
 }
 
-function Content({ lead, columns, action }: Parts) {
+function Content({ front, lead, columns, action }: Parts) {
   return (
     <div class="nodes">
       {lead.length > 0 && (
-        <div class="lead" key="lead">
-          <Nodes nodes={lead} />
+        <div class="opening" key="opening">
+          <Nodes nodes={front} />
+          <div class="lead">
+            <Nodes nodes={lead} />
+          </div>
         </div>
       )}
       {columns.length > 0 && (
@@ -82,17 +85,18 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
   useTabsHeight(root, under.tabs.length);
   const context = useMemo(() => ({ title: under.title, actions, headingLevel: 2 }), [under.title, actions]);
   const parts = partsOf(under.nodes);
+  const looks = ["screen", under.tabs.length > 0 && "has-tabs", parts.isNarrow && "is-narrow"];
   const dialog = page.dialog[0];
   return (
     <ScreenContext.Provider value={context}>
-      <div class={`screen${under.tabs.length > 0 ? " has-tabs" : ""}`} ref={root}>
+      <div class={looks.filter(Boolean).join(" ")} ref={root}>
         {under.tabs.length > 0 && (
           <a class="skip" href="#tabs">
             Skip to the tabs
           </a>
         )}
         <Bar page={under} />
-        <main class={parts.isNarrow ? "main main-narrow" : "main"}>
+        <main class="main">
           <Masthead title={under.title} subtitle={under.subtitle} />
           <div class="content">
             {banner}
