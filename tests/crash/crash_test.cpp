@@ -1,7 +1,7 @@
 // The process killed at random moments, again and again: the store opens each time, and all that it holds is
 // from before or after one and the same action.
 //
-//   crash_test KILLS
+//   crash_test KILLS      of each of the two sessions
 //
 // A child plays on the SQLite store and says after each action that it is done; the parent kills it, plays
 // the same actions in memory, and compares the whole dictionaries. The store must hold every action that was
@@ -177,8 +177,8 @@ bool surviveKills(const std::filesystem::path& folder, const char* name, Launch 
 int main(int kills) {
   std::string name = (std::filesystem::temp_directory_path() / "billing-crash-XXXXXX").string();
   const std::filesystem::path folder = mkdtemp(name.data());
-  const bool whole = surviveKills(folder, "books", keepBooks, kills / 2) &&
-                     surviveKills(folder, "game", playGame, kills - kills / 2);
+  const bool whole = surviveKills(folder, "books", keepBooks, kills) &&
+                     surviveKills(folder, "game", playGame, kills);
   if (!whole) {
     std::println(stderr, "The store is left in {}", folder.string());
     return 1;

@@ -3,6 +3,7 @@
 #include "core/number_style.h"
 #include "core/talent_scores.h"
 #include "core/text.h"
+#include "screens/headshot.h"
 #include "screens/hub/tabs.h"
 #include "screens/hub/view_controller.h"
 #include "screens/parts.h"
@@ -21,8 +22,14 @@ Tiles careerTiles(const Game& game) {
        .tone = world.totalCashAvailable < 0 ? Tone::warning : Tone::plain},
       {.label = "Fans", .value = shortCount(world.totalFans)},
       {.label = "Talent", .value = std::to_string(overallTalent(world))},
-      {.label = "Age", .value = std::to_string(world.ageCount)},
   }};
+}
+
+Card profile(const WorldState& world) {
+  Card card{.title = std::format("{} years old", world.ageCount), .subtitle = world.aboutDescription};
+  const std::string headshot = chosenHeadshot(world);
+  if (!headshot.empty()) card.picture = {{.kind = PictureKind::avatar, .name = headshot}};
+  return card;
 }
 
 Card jobCard(const Game& game) {
@@ -61,7 +68,7 @@ PagedList activityLog(const Game& game) {
 }  // namespace
 
 std::vector<Node> homeTab(const Game& game) {
-  std::vector<Node> nodes = {careerTiles(game), energyMeter(game.world)};
+  std::vector<Node> nodes = {profile(game.world), careerTiles(game), energyMeter(game.world)};
   if (!game.world.weeklyJobTitle.empty()) nodes.push_back(jobCard(game));
   nodes.push_back(
       Button{.label = "End Week", .press = ViewController::endWeekButton, .weight = Button::Weight::primary});

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/calendar.h"
+#include "core/save.h"
 #include "screens/backstage/backstage_view_controller.h"
 #include "screens/career_start/enter_player_details_view_controller.h"
 #include "screens/career_start/settings_view_controller.h"
@@ -13,7 +14,10 @@
 
 namespace tb {
 
-void ViewController::load(Stage& stage) { refreshHub(stage.game(), HubRefresh::launch); }
+void ViewController::load(Stage& stage) {
+  tb::load<&WorldState::headshotImage>(stage.game());
+  refreshHub(stage.game(), HubRefresh::launch);
+}
 
 void ViewController::appear(Stage& stage) {
   if (stage.game().world.enterPlayerDetails != 0) return;

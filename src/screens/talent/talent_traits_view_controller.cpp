@@ -32,7 +32,7 @@ Button trainButton(const WorldState& world, int k) {
 Card traitCard(const WorldState& world, int k) {
   const Trait& trait = traits[static_cast<std::size_t>(k - 1)];
   return {.title = std::string(trait.label),
-          .nodes = {scoreMeter(std::string(trait.label), world.*trait.points), trainButton(world, k)}};
+          .nodes = {scoreMeter("Points", world.*trait.points), trainButton(world, k)}};
 }
 
 }  // namespace
