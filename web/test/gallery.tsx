@@ -2,6 +2,7 @@
 
 import { render } from "preact";
 
+import { pictureArt } from "../src/art/picture_art";
 import { PageView } from "../src/draw/page_view";
 import "../src/style/index.css";
 import type { Page } from "../src/view_types";
@@ -31,13 +32,14 @@ declare global {
   interface Window {
     gallery: {
       readonly pages: typeof pages;
+      readonly pictureArt: typeof pictureArt;
       readonly show: typeof show;
       readonly done: Done[];
       afterTyping: typeof show; // what the game answers; the same page again unless a test says otherwise
     };
   }
 }
-window.gallery = { pages, show, done, afterTyping: show };
+window.gallery = { pages, pictureArt, show, done, afterTyping: show };
 
 const showNamed = (): void => show(pages[location.hash.slice(1)] ?? pages["hub"]!);
 window.addEventListener("hashchange", showNamed);

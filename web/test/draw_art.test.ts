@@ -2,49 +2,35 @@
 
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
-import { dirname, join } from "node:path";
 import { after, before, test } from "node:test";
-import { fileURLToPath } from "node:url";
 import { gzipSync } from "node:zlib";
 
-import { build } from "esbuild";
+import { hands, lettering } from "../src/art/lettering";
+import { pictureArt } from "../src/art/picture_art";
+import { formatLike, parseFigure } from "../src/draw/counting";
+import type { PictureKind } from "../src/view_types";
+import { Gallery } from "./draw_browser";
+import { pages } from "./gallery_pages";
 
-import { builtGallery, openGallery } from "./draw_browser.mjs";
+// The words that the vocabulary has for a type, from its generated TypeScript.
+const types = readFileSync("src/view_types.ts", "utf8");
+const wordsOf = (type: string): string[] => [...new RegExp(`type ${type} = ([^;]+);`, "u").exec(types)![1]!.matchAll(/\w+/gu)].map(([word]) => word);
+const kinds = wordsOf("PictureKind") as PictureKind[];
 
-const here = dirname(fileURLToPath(import.meta.url));
+const hostile = `"/><script>alert(1)</script>`;
+const names = ["man (3).png", "Night Train", "imbdPearTv.png", "夜の電車", "", "🎬", hostile, "ring2.png", "castle", "jet", "a".repeat(300)];
 
-async function imported(source) {
-  const { outputFiles } = await build({
-    stdin: { contents: source, resolveDir: join(here, "../src"), loader: "ts" },
-    bundle: true,
-    write: false,
-    format: "esm",
-    jsx: "automatic",
-    jsxImportSource: "preact",
-  });
-  return import(`data:text/javascript;base64,${Buffer.from(outputFiles[0].text).toString("base64")}`);
-}
-
-const { pictureArt, parseFigure, formatLike, lettering, hands } = await imported(`
-  export { pictureArt } from "./art/picture_art";
-  export { hands, lettering } from "./art/lettering";
-  export { formatLike, parseFigure } from "./draw/counting";
-`);
-
-const types = readFileSync(join(here, "../src/view_types.ts"), "utf8");
-const kinds = /PictureKind = ([^;]+);/u.exec(types)[1].match(/\w+/gu);
-const names = ["man (3).png", "Night Train", "imbdPearTv.png", "夜の電車", "", "🎬", `"/><script>alert(1)</script>`, "ring2.png", "castle", "jet", "a".repeat(300)];
-
-let gallery;
+let gallery: Gallery;
 before(async () => {
-  gallery = await openGallery();
+  gallery = await Gallery.start();
 });
-after(() => gallery.close());
+after(() => gallery.stop());
 
-test("a picture is the same for the same name, and another for another name", async () => {
-  const anew = await imported(`export { pictureArt } from "./art/picture_art";`);
+test("a picture is the same for the same name everywhere, and another for another name", async () => {
+  const page = await gallery.open("hub");
   for (const kind of kinds) {
-    for (const name of names) assert.equal(pictureArt(kind, name), anew.pictureArt(kind, name), `${kind} ${name}`);
+    const there = await page.evaluate(([kind, names]) => names.map((name) => window.gallery.pictureArt(kind, name)), [kind, names] as const);
+    assert.deepEqual(there, names.map((name) => pictureArt(kind, name)), kind);
     const thirty = Array.from({ length: 30 }, (_, index) => pictureArt(kind, `name ${index}`));
     assert.ok(new Set(thirty).size >= 29, `${kind}: ${new Set(thirty).size} of 30 differ`);
   }
@@ -71,7 +57,7 @@ test("every picture is sound SVG that the page's policy lets through, whatever i
 });
 
 test("a face goes with what its name says: only men have beards, and not all of them", () => {
-  const bearded = (name) => !pictureArt("avatar", name).includes('<g transform="translate(14 26)"></g>');
+  const bearded = (name: string): boolean => !pictureArt("avatar", name).includes('<g transform="translate(14 26)"></g>');
   const numbers = Array.from({ length: 45 }, (_, index) => index + 1);
   assert.deepEqual(numbers.filter((number) => bearded(`woman (${number}).png`) || bearded(`sw${number}.png`)), []);
   const beards = numbers.filter((number) => bearded(`man (${number}).png`)).length;
@@ -94,35 +80,29 @@ test("a title stays in its room, however long", () => {
 
 test("a figure is read and written back as it stood, in any country's way", () => {
   for (const text of ["$1,250", "-$340", "14.2K", "8.4", "61%", "€ 1.234.567,89", "1\u202f250 €", "$99.50", "0", "£12M", "3.5B"]) {
-    const figure = parseFigure(text);
+    const figure = parseFigure(text)!;
     assert.equal(formatLike(figure, figure.value), text);
   }
-  assert.equal(parseFigure("$1.5K").value, 1500);
-  assert.equal(parseFigure("-$340").value, -340);
+  assert.equal(parseFigure("$1.5K")?.value, 1500);
+  assert.equal(parseFigure("-$340")?.value, -340);
   for (const text of ["72 of 100", "None", "", "—"]) assert.equal(parseFigure(text), null, text);
 });
 
-test("the gallery shows every kind of node and of picture that there is", async () => {
-  const page = await gallery.open("hub");
-  const shown = await page.evaluate(() => {
-    const found = new Set();
-    const visit = (value) => {
-      if (Array.isArray(value)) return value.forEach(visit);
-      if (value === null || typeof value !== "object") return;
-      if ("kind" in value) found.add(value.kind);
-      Object.values(value).forEach(visit);
-    };
-    visit(window.gallery.pages);
-    return [...found];
-  });
+test("the gallery shows every kind of node, of picture and of chart that there is", () => {
+  const shown = new Set<unknown>();
+  const visit = (value: unknown): void => {
+    if (value === null || typeof value !== "object") return;
+    if ("kind" in value) shown.add(value.kind);
+    Object.values(value).forEach(visit);
+  };
+  visit(pages);
   const nodes = [...types.matchAll(/readonly kind: "(\w+)"/gu)].map(([, kind]) => kind);
-  const charts = /ChartKind = ([^;]+);/u.exec(types)[1].match(/\w+/gu);
   assert.ok(nodes.length > 15);
-  assert.deepEqual([...nodes, ...kinds, ...charts].filter((kind) => !shown.includes(kind)), []);
+  assert.deepEqual([...nodes, ...kinds, ...wordsOf("ChartKind")].filter((kind) => !shown.has(kind)), []);
 });
 
-test("what draws the page is light enough for a first visit", async () => {
-  const { script, style } = await builtGallery();
+test("what draws the page is light enough for a first visit", () => {
+  const { script, style } = gallery.built;
   const bytes = { script: gzipSync(script).length, style: gzipSync(style).length };
   console.log(`drawing with its gallery, compressed: script ${bytes.script} bytes, style ${bytes.style} bytes`);
   assert.ok(bytes.script + bytes.style < 90_000, JSON.stringify(bytes));
