@@ -1,7 +1,11 @@
 // Serves the built site on this machine, to be played at the address that it prints.
 //
-//   node serve.mjs [--dir <directory>] [--port <number>]     the next free port where that one is taken
+//   node serve.mjs [--dir <directory>] [--port <number>] [--open]
+//
+// The next free port is taken where that one is in use. --open opens the address in a browser where there is a
+// desktop to open it on.
 
+import { spawn } from "node:child_process";
 import { dirname, join } from "node:path";
 import { fileURLToPath } from "node:url";
 import { parseArgs } from "node:util";
@@ -12,7 +16,13 @@ const { values: options } = parseArgs({
   options: {
     dir: { type: "string", default: join(here, "dist") },
     port: { type: "string", default: "8080" },
+    open: { type: "boolean", default: false },
   },
 });
 const { address } = await serve(options.dir, Number(options.port));
 console.log(`Top Billing is served at ${address}`);
+if (options.open && (process.env.DISPLAY || process.env.WAYLAND_DISPLAY)) {
+  spawn("xdg-open", [address], { stdio: "ignore", detached: true })
+    .on("error", () => undefined) // no such program: the address is printed
+    .unref();
+}

@@ -1,12 +1,13 @@
 // The process killed at random moments, again and again: the store opens each time, and all that it holds is
 // from before or after one and the same action.
 //
-//   crash_test KILLS
+//   crash_test KILLS      of each of the two sessions
 //
 // A child plays on the SQLite store and says after each action that it is done; the parent kills it, plays
 // the same actions in memory, and compares the whole dictionaries. The store must hold every action that was
 // said to be done and may hold the one after it, whole.
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>
@@ -14,6 +15,8 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <format>
+#include <memory>
 #include <print>
 #include <random>
 #include <string>
@@ -177,8 +180,8 @@ bool surviveKills(const std::filesystem::path& folder, const char* name, Launch 
 int main(int kills) {
   std::string name = (std::filesystem::temp_directory_path() / "billing-crash-XXXXXX").string();
   const std::filesystem::path folder = mkdtemp(name.data());
-  const bool whole = surviveKills(folder, "books", keepBooks, kills / 2) &&
-                     surviveKills(folder, "game", playGame, kills - kills / 2);
+  const bool whole =
+      surviveKills(folder, "books", keepBooks, kills) && surviveKills(folder, "game", playGame, kills);
   if (!whole) {
     std::println(stderr, "The store is left in {}", folder.string());
     return 1;

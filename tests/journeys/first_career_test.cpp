@@ -1,27 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "tests/memory_port.h"
 #include "tests/player.h"
+#include "tests/seeded_random.h"
 
 namespace tb {
 namespace {
 
-// Chance that is the same in every run.
-class SeededRandom : public RandomSource {
- public:
-  explicit SeededRandom(std::uint64_t seed) : engine_(seed) {}
-  std::uint64_t next() override { return engine_(); }
-
- private:
-  std::mt19937_64 engine_;
-};
-
 // One device: its storage outlives the game that runs on it.
 struct Device {
   test::MemoryPort port;
-  SeededRandom random{2026};
+  test::SeededRandom random{2026};
 
   struct Running {
     explicit Running(Device& device) : store(device.port), app(store, device.random) {}
@@ -66,7 +55,8 @@ TEST(FirstCareer, AStrangerStartsTrainsAndFindsEverythingAsItWas) {
 
   game->player.press("Work");
   game->player.press("Talent");
-  while (game->player.notice().empty()) game->player.press("Train to " + std::to_string(game->app.game().world.talentTraitCost1));
+  while (game->player.notice().empty())
+    game->player.press("Train to " + std::to_string(game->app.game().world.talentTraitCost1));
   EXPECT_EQ(game->player.notice(), "⚡️ Not Enough Energy ⚡️");
   game->player.press("OK");
   game->player.press("Back");

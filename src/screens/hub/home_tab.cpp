@@ -3,6 +3,7 @@
 #include "core/number_style.h"
 #include "core/talent_scores.h"
 #include "core/text.h"
+#include "screens/headshot.h"
 #include "screens/hub/tabs.h"
 #include "screens/hub/view_controller.h"
 #include "screens/parts.h"
@@ -21,15 +22,21 @@ Tiles careerTiles(const Game& game) {
        .tone = world.totalCashAvailable < 0 ? Tone::warning : Tone::plain},
       {.label = "Fans", .value = shortCount(world.totalFans)},
       {.label = "Talent", .value = std::to_string(overallTalent(world))},
-      {.label = "Age", .value = std::to_string(world.ageCount)},
   }};
+}
+
+Card profile(const WorldState& world) {
+  Card card{.title = std::format("{} years old", world.ageCount), .subtitle = world.aboutDescription};
+  const std::string headshot = chosenHeadshot(world);
+  if (!headshot.empty()) card.picture = {{.kind = PictureKind::avatar, .name = headshot}};
+  return card;
 }
 
 Card jobCard(const Game& game) {
   const WorldState& world = game.world;
   return {.title = world.weeklyJobTitle,
-          .subtitle = std::format("{} a week • {} energy a week", shortMoney(game.locale, world.weeklyJobIncome),
-                                  world.weeklyEnergyCost),
+          .subtitle = std::format("{} a week • {} energy a week",
+                                  shortMoney(game.locale, world.weeklyJobIncome), world.weeklyEnergyCost),
           .nodes = {caption(std::format("{} week{} left", world.weeklyJobContractRemaining,
                                         world.weeklyJobContractRemaining == 1 ? "" : "s"))}};
 }
@@ -38,7 +45,8 @@ Card jobCard(const Game& game) {
 bool isDateHeading(const Locale& locale, const std::string& line) {
   for (const std::string& month : locale.months) {
     const std::string start = upperCase(month) + " ";
-    if (line.starts_with(start) && line.find_first_not_of("0123456789, ", start.size()) == std::string::npos) {
+    if (line.starts_with(start) &&
+        line.find_first_not_of("0123456789, ", start.size()) == std::string::npos) {
       return true;
     }
   }
@@ -47,7 +55,8 @@ bool isDateHeading(const Locale& locale, const std::string& line) {
 
 Node activityNode(const Game& game, std::size_t index) {
   const std::string& line = game.world.activityTracker[index];
-  if (isDateHeading(game.locale, line)) return Text{.text = line, .style = Text::Style::large, .tone = Tone::accent};
+  if (isDateHeading(game.locale, line))
+    return Text{.text = line, .style = Text::Style::large, .tone = Tone::accent};
   return Text{.text = line};
 }
 
@@ -55,13 +64,14 @@ PagedList activityLog(const Game& game) {
   return {.key = "activity",
           .size = game.world.activityTracker.size(),
           .nodeAt = [&game](std::size_t index) { return activityNode(game, index); },
-          .whenEmpty = "Your story starts here. Everything that happens in your career is written down in this log."};
+          .whenEmpty =
+              "Your story starts here. Everything that happens in your career is written down in this log."};
 }
 
 }  // namespace
 
 std::vector<Node> homeTab(const Game& game) {
-  std::vector<Node> nodes = {careerTiles(game), energyMeter(game.world)};
+  std::vector<Node> nodes = {profile(game.world), careerTiles(game), energyMeter(game.world)};
   if (!game.world.weeklyJobTitle.empty()) nodes.push_back(jobCard(game));
   nodes.push_back(
       Button{.label = "End Week", .press = ViewController::endWeekButton, .weight = Button::Weight::primary});

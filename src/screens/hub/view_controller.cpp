@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/calendar.h"
+#include "core/save.h"
 #include "screens/backstage/backstage_view_controller.h"
 #include "screens/career_start/enter_player_details_view_controller.h"
 #include "screens/career_start/settings_view_controller.h"
@@ -13,7 +14,10 @@
 
 namespace tb {
 
-void ViewController::load(Stage& stage) { refreshHub(stage.game(), HubRefresh::launch); }
+void ViewController::load(Stage& stage) {
+  tb::load<&WorldState::headshotImage>(stage.game());
+  refreshHub(stage.game(), HubRefresh::launch);
+}
 
 void ViewController::appear(Stage& stage) {
   if (stage.game().world.enterPlayerDetails != 0) return;
@@ -28,10 +32,9 @@ void ViewController::endWeekButton(Stage& stage) {
 }
 
 view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {
-  return {.label = label,
-          .icon = icon,
-          .current = current_ == which,
-          .press = [this, which](Stage&) { current_ = which; }};
+  return {.label = label, .icon = icon, .current = current_ == which, .press = [this, which](Stage&) {
+            current_ = which;
+          }};
 }
 
 view::Page ViewController::view(const Game& game) {
@@ -49,11 +52,21 @@ view::Page ViewController::view(const Game& game) {
   page.tabs = {tab(Tab::home, "Home", "🏠"), tab(Tab::work, "Work", "🎬"), tab(Tab::social, "Social", "💬"),
                tab(Tab::life, "Life", "⚡️"), tab(Tab::wealth, "Wealth", "💰")};
   switch (current_) {
-    case Tab::home: page.nodes = homeTab(game); break;
-    case Tab::work: page.nodes = workTab(game); break;
-    case Tab::social: page.nodes = socialTab(game); break;
-    case Tab::life: page.nodes = lifeTab(game); break;
-    case Tab::wealth: page.nodes = wealthTab(game); break;
+    case Tab::home:
+      page.nodes = homeTab(game);
+      break;
+    case Tab::work:
+      page.nodes = workTab(game);
+      break;
+    case Tab::social:
+      page.nodes = socialTab(game);
+      break;
+    case Tab::life:
+      page.nodes = lifeTab(game);
+      break;
+    case Tab::wealth:
+      page.nodes = wealthTab(game);
+      break;
   }
   return page;
 }

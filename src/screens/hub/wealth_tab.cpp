@@ -27,7 +27,7 @@ PagedList lineItems(const Game& game) {
 
 Chart indexChart(const char* title, const RealList& history) {
   const std::vector<double> values(history.begin(), history.end());
-  return weeklyChart(title, values, [](double index) { return std::format("{:.2f}", index); });
+  return weeklyChart(title, values, [](double index) { return std::format("{:.3f}", index); });
 }
 
 }  // namespace

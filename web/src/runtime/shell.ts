@@ -3,6 +3,7 @@
 
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
+import { BackGesture } from "./back_gesture";
 import { Game, GameStopped } from "./game";
 import { localeMessage } from "./locale";
 import { downloadSave, type ReadSave, readSave } from "./saves";
@@ -50,6 +51,8 @@ export class Shell {
   });
   private readonly updates = new Updates(() => this.change({ updateReady: true }));
   private readonly ticker = new Ticker((seconds) => this.act((game) => game.tick(seconds)));
+
+  private readonly backGesture = new BackGesture(() => this.actions.back());
 
   readonly actions: Actions = {
     press: (handle) => this.act((game) => game.press(handle)),
@@ -159,7 +162,7 @@ export class Shell {
 
   private loadModule(): Promise<WebAssembly.Module> {
     if (!this.module) {
-      this.module = WebAssembly.compileStreaming(fetch(WASM_FILE));
+      this.module = fetchProgram();
       // A failure is tried again the next time it is wanted.
       this.module.catch(() => {
         this.module = undefined;
@@ -181,11 +184,21 @@ export class Shell {
 
   private show(showing: Showing): void {
     this.change({ showing });
-    this.ticker.watch(showing.kind === "playing" ? showing.page : undefined);
+    const page = showing.kind === "playing" ? showing.page : undefined;
+    this.ticker.watch(page);
+    this.backGesture.watch(page);
   }
 
   private change(changes: Partial<ShellState>): void {
     this.current = { ...this.current, ...changes };
     this.listener?.(this.current);
   }
+}
+
+async function fetchProgram(): Promise<WebAssembly.Module> {
+  const answer = await fetch(WASM_FILE);
+  if (!answer.ok) throw new Error(`The game's program: ${answer.status} ${answer.statusText}`);
+  // Compiling while it arrives is faster, but insists on a type that not every host knows.
+  const streams = answer.headers.get("Content-Type")?.startsWith("application/wasm") ?? false;
+  return streams ? WebAssembly.compileStreaming(answer) : WebAssembly.compile(await answer.arrayBuffer());
 }

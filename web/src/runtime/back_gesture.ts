@@ -1,0 +1,28 @@
+// The system's way back, a swipe or a button, leaves the screen on top as the page's own "Back" does, instead of
+// leaving the game. While a screen can be left there is one entry more in the browser's history for it to take.
+// The entry stays when the screen is left by the page's own button, and serves the next screen: going back in the
+// history by ourselves would race with what the player does.
+
+import type { Page } from "../view_types";
+
+const mark = "screen";
+
+export class BackGesture {
+  // A page that was loaded again stands on the entry that its former self made.
+  private guarded = history.state === mark;
+
+  // `back`: leaves the screen on top; does nothing where that can't be left.
+  constructor(back: () => void) {
+    addEventListener("popstate", () => {
+      this.guarded = false;
+      back();
+    });
+  }
+
+  // The page that is on show now; none while nothing is played.
+  watch(page: Page | undefined): void {
+    if (this.guarded || !page || page.close.length === 0) return;
+    history.pushState(mark, "");
+    this.guarded = true;
+  }
+}

@@ -1,0 +1,119 @@
+// The parts of the runtime that need no browser.
+
+import assert from "node:assert/strict";
+import { test } from "node:test";
+
+import { localeFields } from "../src/runtime/locale";
+import { MessageReader, MessageWriter } from "../src/runtime/message";
+import { type Change, joined, Pieces, readChanges } from "../src/runtime/pieces";
+import { wasiImports } from "../src/runtime/wasi";
+
+const bytes = (...values: number[]) => new Uint8Array(values);
+
+test("a message says on the other side what was put into it, however long", () => {
+  const writer = new MessageWriter();
+  const long = "Ж".repeat(5000);
+  writer.number(4_000_000_000);
+  writer.wideNumber(-3);
+  writer.text(long);
+  writer.bytesOf(bytes(1, 2, 3));
+  const reader = new MessageReader(writer.message());
+  assert.equal(reader.number(), 4_000_000_000);
+  assert.equal(reader.wideNumber(), -3);
+  assert.equal(reader.text(), long);
+  assert.deepEqual([...reader.bytesOf()], [1, 2, 3]);
+});
+
+test("a commit of an unknown kind is refused rather than half understood", () => {
+  const writer = new MessageWriter();
+  writer.number(1);
+  writer.number(9);
+  assert.throws(() => readChanges(writer.message()));
+});
+
+// A fixed sequence, so that a failure comes again.
+function* draws(seed: number): Generator<number, never> {
+  for (let state = seed; ; state = (state * 48271) % 2147483647) yield state;
+}
+
+function someChanges(draw: Generator<number, never>, count: number): Change[] {
+  const kinds = ["put", "put", "put", "drop", "dropKey", "dropAll", "keepAside"] as const;
+  const next = (below: number) => draw.next().value % below;
+  return Array.from({ length: count }, () => {
+    const kind = next(40) === 0 ? "dropAll" : (kinds[next(5)] ?? "put");
+    return { kind, stored: { key: `key ${next(3)}`, shape: 1, piece: next(3), bytes: bytes(next(256)) } };
+  });
+}
+
+const contents = (pieces: Pieces) =>
+  pieces
+    .all()
+    .map(({ key, piece, bytes: [value] }) => `${key} ${piece} ${value}`)
+    .sort();
+
+test("what waits to be saved has the same outcome as all that was to be saved, and stays small", () => {
+  const draw = draws(20260101);
+  for (let round = 0; round < 300; round += 1) {
+    const before = someChanges(draw, 8).filter(({ kind }) => kind === "put");
+    const changes = Array.from({ length: 6 }, () => someChanges(draw, 5));
+    const oneByOne = new Pieces(before.map(({ stored }) => stored));
+    for (const action of changes) oneByOne.change(action);
+    const atOnce = new Pieces(before.map(({ stored }) => stored));
+    const waiting = changes.reduce(joined, []);
+    atOnce.change(waiting);
+    assert.deepEqual(contents(atOnce), contents(oneByOne));
+
+    const asides = changes.flat().filter(({ kind }) => kind === "keepAside").length;
+    assert.equal(waiting.filter(({ kind }) => kind === "keepAside").length, asides);
+    assert(waiting.length - asides <= 3 * 3 + 3 + 1, `${waiting.length} changes wait`);
+
+    const rewritten = new Pieces([{ key: "old", shape: 0, piece: 0, bytes: bytes(7) }]);
+    rewritten.change(oneByOne.rewriting());
+    assert.deepEqual(contents(rewritten), contents(oneByOne));
+  }
+});
+
+test("money, numbers and months are written as the device writes them", () => {
+  const [symbol, before, gap, point, group, minus, january] = localeFields("en-US");
+  assert.deepEqual([symbol, before, gap, point, group, minus, january], ["$", "1", "", ".", ",", "-", "January"]);
+  assert.deepEqual(localeFields("de-DE").slice(0, 7), ["€", "0", "\u00a0", ",", ".", "-", "Januar"]);
+  assert.deepEqual(localeFields("pt-BR").slice(0, 5), ["R$", "1", "\u00a0", ",", "."]);
+  assert.equal(localeFields("en-CA")[0], "$");
+  assert.equal(localeFields("ja")[0], "￥"); // a language without a region means its usual one
+  for (const tag of ["en", "ar-EG", "fa-IR", "hi-IN", "de-CH", "fr-FR", "tr-TR", "th-TH", "und", "eo"]) {
+    const fields = localeFields(tag);
+    assert.equal(fields.length, 6 + 12, tag);
+    assert(fields.slice(6).every((month) => month !== ""), tag);
+    assert(fields[0] !== "", tag);
+  }
+});
+
+test("the game gets random bytes of any length, in pieces that a browser gives", () => {
+  const memory = new WebAssembly.Memory({ initial: 4 });
+  const { random_get } = wasiImports({ memory: () => memory, line: () => undefined });
+  assert.equal((random_get as (at: number, size: number) => number)(10, 200_000), 0);
+  const filled = new Uint8Array(memory.buffer, 10, 200_000);
+  for (const at of [0, 65_536, 131_072, 199_000]) {
+    assert(filled.subarray(at, at + 64).some((value) => value !== 0), `nothing random at ${at}`);
+  }
+  assert.equal(new Uint8Array(memory.buffer)[9], 0);
+  assert.equal(new Uint8Array(memory.buffer)[200_010], 0);
+});
+
+test("what the game logs comes line by line, emoji whole, even when it is written in parts", () => {
+  const memory = new WebAssembly.Memory({ initial: 1 });
+  const lines: string[] = [];
+  const { fd_write } = wasiImports({ memory: () => memory, line: (text) => lines.push(text) });
+  const write = (content: Uint8Array) => {
+    new Uint8Array(memory.buffer).set(content, 100);
+    const view = new DataView(memory.buffer);
+    view.setUint32(0, 100, true);
+    view.setUint32(4, content.length, true);
+    return (fd_write as (...values: number[]) => number)(2, 0, 1, 8);
+  };
+  const text = new TextEncoder().encode("rating save failed: 🎬\nnext");
+  assert.equal(write(text.subarray(0, 22)), 0); // in the middle of the emoji
+  assert.equal(write(text.subarray(22)), 0);
+  assert.deepEqual(lines, ["rating save failed: 🎬"]);
+  assert.equal((fd_write as (...values: number[]) => number)(5, 0, 0, 8), 8);
+});
