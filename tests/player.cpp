@@ -114,7 +114,11 @@ class Walk {
 
 std::vector<std::string> Player::words() const {
   std::vector<std::string> words;
-  Walk([&](const std::string& text) { if (!text.empty()) words.push_back(text); }, [](const Usable&) {})
+  Walk(
+      [&](const std::string& text) {
+        if (!text.empty()) words.push_back(text);
+      },
+      [](const Usable&) {})
       .page(app_.view());
   return words;
 }
@@ -146,6 +150,8 @@ void Player::press(const std::string& label) { app_.press(find(label, Usable::Ki
 void Player::type(const std::string& label, const std::string& text) {
   app_.type(find(label, Usable::Kind::type), text);
 }
-void Player::slide(const std::string& label, double value) { app_.slide(find(label, Usable::Kind::slide), value); }
+void Player::slide(const std::string& label, double value) {
+  app_.slide(find(label, Usable::Kind::slide), value);
+}
 
 }  // namespace tb::test

@@ -3,7 +3,6 @@
 // A player: finds things on the page by what is written on them, and uses them.
 
 #include <gtest/gtest.h>
-
 #include <optional>
 #include <string>
 #include <variant>

@@ -32,7 +32,11 @@ const std::array<JulliardClass, 47> julliardClasses = {{
     {.id = 25, .title = "Voice and Text II", .classCode = "239-249", .percentage = 50, .classLevel = 2},
     {.id = 26, .title = "Stage Combat: Armed", .classCode = "243", .percentage = 50, .classLevel = 2},
     {.id = 27, .title = "Drama Performances", .classCode = "410", .percentage = 25, .classLevel = 4},
-    {.id = 28, .title = "Society, Politics, and Culture", .classCode = "112", .percentage = 25, .classLevel = 1},
+    {.id = 28,
+     .title = "Society, Politics, and Culture",
+     .classCode = "112",
+     .percentage = 25,
+     .classLevel = 1},
     {.id = 29, .title = "Physical Acting II", .classCode = "244", .percentage = 50, .classLevel = 2},
     {.id = 30, .title = "Singing for Performance", .classCode = "306", .percentage = 75, .classLevel = 3},
     {.id = 31, .title = "Speech and Dialects III", .classCode = "307-347", .percentage = 75, .classLevel = 3},
@@ -51,7 +55,11 @@ const std::array<JulliardClass, 47> julliardClasses = {{
     {.id = 44, .title = "Acting on Camera II", .classCode = "435", .percentage = 100, .classLevel = 4},
     {.id = 45, .title = "American Theater Landscape", .classCode = "449", .percentage = 100, .classLevel = 4},
     {.id = 46, .title = "Actor Presentations", .classCode = "411", .percentage = 100, .classLevel = 4},
-    {.id = 47, .title = "Bridge to the Profession", .classCode = "447-448", .percentage = 100, .classLevel = 4},
+    {.id = 47,
+     .title = "Bridge to the Profession",
+     .classCode = "447-448",
+     .percentage = 100,
+     .classLevel = 4},
 }};
 
 const JulliardClass* classWithId(std::int64_t id) {

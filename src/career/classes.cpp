@@ -20,7 +20,7 @@ struct TierBand {
 constexpr std::array<TierBand, 4> tiers = {{{39, 4}, {28, 3}, {18, 2}, {0, 1}}};
 
 constexpr std::int64_t mostOptions = 5;
-constexpr int mostDraws = 100;  // the draw of options gives up after these
+constexpr int mostDraws = 100;             // the draw of options gives up after these
 constexpr std::int64_t shortestClass = 4;  // weeks
 constexpr std::int64_t longestClass = 8;
 
@@ -61,7 +61,8 @@ std::int64_t classTier(const WorldState& world) {
 }
 
 double completionPercentage(const WorldState& world) {
-  return static_cast<double>(world.saveAllCompletedClasses.size()) / static_cast<double>(julliardClasses.size());
+  return static_cast<double>(world.saveAllCompletedClasses.size()) /
+         static_cast<double>(julliardClasses.size());
 }
 
 std::vector<ClassOption> openClasses(Game& game) {
@@ -84,10 +85,11 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
   }
   // What the running classes take is asked, not what the new one will: one class too many can be begun.
   if (classEnergy(world) > world.totalEnergyMax - world.weeklyEnergyCost) {
-    return Notice{.title = "⚡️ Not Enough Weekly Energy ⚡️",
-                  .message = std::format("You do not have enough energy each week to sign up for this class. You "
-                                         "are currently losing -{} energy each week.",
-                                         classEnergy(world) + world.weeklyEnergyCost)};
+    return Notice{
+        .title = "⚡️ Not Enough Weekly Energy ⚡️",
+        .message = std::format("You do not have enough energy each week to sign up for this class. You "
+                               "are currently losing -{} energy each week.",
+                               classEnergy(world) + world.weeklyEnergyCost)};
   }
   if (world.totalCashAvailable < option.cost) {
     return notEnoughCash("You do not have enough cash for the is class.");
@@ -102,10 +104,12 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
                                            .level = option.offered->classLevel,
                                            .cost = static_cast<std::int64_t>(option.cost),
                                            .yearStarted = world.yearNumber});
-  logActivity(world, fill(drawRow(game.random, Bank::classSignUp), {{"title", option.offered->title},
-                                                                    {"code", option.offered->classCode},
-                                                                    {"weeks", std::to_string(option.weeks)}}));
-  save<&WorldState::totalCashAvailable, &WorldState::saveAllCompletedClasses, &WorldState::activityTracker>(game);
+  logActivity(world,
+              fill(drawRow(game.random, Bank::classSignUp), {{"title", option.offered->title},
+                                                             {"code", option.offered->classCode},
+                                                             {"weeks", std::to_string(option.weeks)}}));
+  save<&WorldState::totalCashAvailable, &WorldState::saveAllCompletedClasses, &WorldState::activityTracker>(
+      game);
   return {};
 }
 

@@ -12,7 +12,8 @@ void advanceJobContract(Game& game) {
     world.weeklyJobTitle.clear();
   } else {
     world.weeklyJobContractRemaining -= 1;
-    if (world.weeklyJobContractRemaining == 0) world.WeekFeed.push_back("The contract for your job has ended");
+    if (world.weeklyJobContractRemaining == 0)
+      world.WeekFeed.push_back("The contract for your job has ended");
   }
   save<&WorldState::weeklyJobContractRemaining, &WorldState::weeklyJobTitle, &WorldState::totalCashAvailable,
        &WorldState::weeklyJobIncome, &WorldState::weeklyEnergyCost>(game);

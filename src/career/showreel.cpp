@@ -13,8 +13,8 @@ namespace tb {
 
 namespace {
 
-// Of three perfect scenes, a perfect level and the best cut there would be 425 points. The divisor is the same
-// for one scene, which is why short reels rate low, and why the strongest actors pass 100.
+// Of three perfect scenes, a perfect level and the best cut there would be 425 points. The divisor is the
+// same for one scene, which is why short reels rate low, and why the strongest actors pass 100.
 constexpr double pointsOfAPerfectReel = 425;
 
 std::int64_t reelScore(Game& game, std::int64_t scenes, double worstCut) {
@@ -47,8 +47,8 @@ Refusal payFor(Game& game, double cost) {
 Refusal checkScenes(const ScenePackage& package, std::size_t scenes) {
   if (scenes > package.scenes) {
     return Notice{.title = "🎥 Too Many Scenes 🎥",
-                  .message = std::format("\nYou can only have up to {} scene{} for this package.", package.scenes,
-                                         package.scenes == 1 ? "" : "s")};
+                  .message = std::format("\nYou can only have up to {} scene{} for this package.",
+                                         package.scenes, package.scenes == 1 ? "" : "s")};
   }
   if (scenes == 0) {
     return Notice{.title = "🎥 No Scene Written 🎥",
@@ -69,7 +69,8 @@ std::vector<std::size_t> allPerformanceFootage(const WorldState& world) {
 }
 
 void openShowreel(Game& game) {
-  load<&WorldState::existingFootageScore, &WorldState::newScenesProduced, &WorldState::newSceneDescriptions>(game);
+  load<&WorldState::existingFootageScore, &WorldState::newScenesProduced, &WorldState::newSceneDescriptions>(
+      game);
 }
 
 Refusal roomForScene(std::size_t packageIndex, std::size_t scenes) {
@@ -106,7 +107,8 @@ Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmI
   return {};
 }
 
-Refusal produceShowreelScenes(Game& game, std::size_t packageIndex, std::span<const std::string> sceneDescriptions,
+Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
+                              std::span<const std::string> sceneDescriptions,
                               std::span<const std::int64_t> footageFilmIds) {
   const ScenePackage& package = scenePackages[packageIndex];
   if (Refusal refusal = checkScenes(package, sceneDescriptions.size())) return refusal;

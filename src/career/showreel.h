@@ -34,7 +34,8 @@ inline constexpr std::array<ScenePackage, 3> scenePackages = {{
 inline constexpr double footageReelCost = 399;  // dollars
 inline constexpr std::size_t mostFootage = 3;   // scenes in a reel
 
-// Where in `saveAllAuditionList` the footage stands that a reel can be cut from: the performer's wrapped work.
+// Where in `saveAllAuditionList` the footage stands that a reel can be cut from: the performer's wrapped
+// work.
 [[nodiscard]] std::vector<std::size_t> allPerformanceFootage(const WorldState& world);
 
 // Reads the showreel's keys back when its screen opens.
@@ -57,7 +58,8 @@ Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmI
 // Has the scenes of a package (0 to 2) shot: one description each. When footage is chosen too, the reel is
 // rated by the footage in their place. Refuses more scenes than the package holds, none at all, and without
 // the cash. Writes cash, score, scenes and log.
-Refusal produceShowreelScenes(Game& game, std::size_t packageIndex, std::span<const std::string> sceneDescriptions,
+Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
+                              std::span<const std::string> sceneDescriptions,
                               std::span<const std::int64_t> footageFilmIds);
 
 }  // namespace tb

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <format>
 
-#include "core/save.h"
 #include "core/house_notices.h"
+#include "core/save.h"
 
 namespace tb {
 

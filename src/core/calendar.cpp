@@ -22,7 +22,8 @@ std::optional<DateLabel> dateLabel(const Locale& locale, std::int64_t week, std:
                                              static_cast<int>(friday.year()))};
 }
 
-std::string dateHeading(const Locale& locale, std::int64_t week, std::int64_t year, const std::string& between) {
+std::string dateHeading(const Locale& locale, std::int64_t week, std::int64_t year,
+                        const std::string& between) {
   const auto label = dateLabel(locale, week, year);
   return label ? upperCase(label->month) + between + label->dayAndYear : "";
 }

@@ -14,8 +14,9 @@ struct Locale {
   std::string decimalPoint = ".";
   std::string groupSeparator = ",";
   std::string minusSign = "-";
-  std::array<std::string, 12> months = {"January", "February", "March",     "April",   "May",      "June",
-                                        "July",    "August",   "September", "October", "November", "December"};
+  std::array<std::string, 12> months = {"January",   "February", "March",    "April",
+                                        "May",       "June",     "July",     "August",
+                                        "September", "October",  "November", "December"};
 };
 
 }  // namespace tb

@@ -27,8 +27,8 @@ double roll(Game& game, double x, double experience) {
 }  // namespace
 
 std::int64_t overallTalent(const WorldState& world) {
-  const std::int64_t sum = world.talentTrait1 + world.talentTrait2 + world.talentTrait3 + world.talentTrait4 +
-                           world.talentTrait5;
+  const std::int64_t sum =
+      world.talentTrait1 + world.talentTrait2 + world.talentTrait3 + world.talentTrait4 + world.talentTrait5;
   const std::int64_t weakest =
       std::min({world.talentTrait1, world.talentTrait2, world.talentTrait3, world.talentTrait4,
                 world.talentTrait5, static_cast<std::int64_t>(highestScore)});
@@ -42,7 +42,9 @@ double talentRoll(Game& game) {
 
 double performanceRoll(Game& game, double x) { return roll(game, x, game.world.experience / 100); }
 
-double sceneRoll(Game& game, double x) { return roll(game, x, std::min(game.world.experience, highestScore)); }
+double sceneRoll(Game& game, double x) {
+  return roll(game, x, std::min(game.world.experience, highestScore));
+}
 
 double roundedScore(double score) { return std::round(score * 100) / 100; }
 

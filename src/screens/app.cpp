@@ -57,10 +57,11 @@ void App::back() {
 
 void App::savingFailed(const std::string& why) {
   if (!told_of_failure_) {
-    stage_.show(Notice{.title = "💾 Not Saved 💾",
-                       .message = "The game can't save right now: " + why +
-                                  "\n\nYou can play on. Nothing is lost while the game stays open, and it tries "
-                                  "again after each thing you do."});
+    stage_.show(
+        Notice{.title = "💾 Not Saved 💾",
+               .message = "The game can't save right now: " + why +
+                          "\n\nYou can play on. Nothing is lost while the game stays open, and it tries "
+                          "again after each thing you do."});
   }
   told_of_failure_ = true;
   laid_out_.reset();

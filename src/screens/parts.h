@@ -40,7 +40,8 @@ template <class Opened>
 using ValueText = std::function<std::string(double)>;
 
 // A line chart of one value a week, oldest first, the last one being of this week.
-[[nodiscard]] view::Chart weeklyChart(std::string title, std::span<const double> values, const ValueText& textOf);
+[[nodiscard]] view::Chart weeklyChart(std::string title, std::span<const double> values,
+                                      const ValueText& textOf);
 
 // Three to six round values that span lowest to highest, for the scale of a chart.
 [[nodiscard]] std::vector<double> roundScale(double lowest, double highest);

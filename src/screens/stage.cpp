@@ -18,7 +18,9 @@ void Stage::close() {
   screens_.back().appeared = false;
 }
 
-void Stage::show(Notice notice) { ask(std::move(notice), {{.label = "OK", .weight = view::Button::Weight::primary}}); }
+void Stage::show(Notice notice) {
+  ask(std::move(notice), {{.label = "OK", .weight = view::Button::Weight::primary}});
+}
 
 void Stage::show(Refusal refusal) {
   if (refusal) show(std::move(*refusal));

@@ -24,10 +24,10 @@ class Screen {
   Screen& operator=(const Screen&) = delete;
   virtual ~Screen() = default;
 
-  virtual void load(Stage&) {}           // once, as it is opened
-  virtual void appear(Stage&) {}         // each time it comes to the top, at the end of the player's action
-  virtual void leave(Stage&) {}          // as the player closes it
-  virtual void tick(Stage&, double) {}   // seconds that passed while it was on top
+  virtual void load(Stage&) {}          // once, as it is opened
+  virtual void appear(Stage&) {}        // each time it comes to the top, at the end of the player's action
+  virtual void leave(Stage&) {}         // as the player closes it
+  virtual void tick(Stage&, double) {}  // seconds that passed while it was on top
 
   // The screen as it is now. Its operations may work on the screen itself, which outlives its page.
   [[nodiscard]] virtual view::Page view(const Game& game) = 0;

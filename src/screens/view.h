@@ -73,9 +73,9 @@ struct Tiles {
 // How much of something is there: energy, progress, a score.
 struct Meter {
   std::string label;
-  double value = 0;    // 0 to maximum; a value above it fills the meter
+  double value = 0;  // 0 to maximum; a value above it fills the meter
   double maximum = 100;
-  std::string text;    // the figure in words, such as "72 of 100"
+  std::string text;      // the figure in words, such as "72 of 100"
   bool isScore = false;  // a score from 0 to 100: tinted by its band
 };
 
@@ -89,7 +89,7 @@ struct Stars {
 struct Button {
   std::string label;
   Operation press;
-  std::string price;   // formatted, empty when it costs nothing
+  std::string price;      // formatted, empty when it costs nothing
   std::string offReason;  // not empty: the button is off, and this is why
   enum class Weight : std::uint8_t { normal, primary, quiet, destructive };
   Weight weight = Weight::normal;
@@ -152,7 +152,7 @@ struct Chart {
   struct Point {
     std::string label;  // of the place on the axis, or of the slice
     double value = 0;
-    std::string text;   // the value in the game's number style
+    std::string text;  // the value in the game's number style
   };
   struct Tick {
     double value = 0;

@@ -17,7 +17,8 @@ struct Corridor {
 
 constexpr Corridor realEstate = {
     .step = 0.01, .floor = 0.5, .aboveFloor = 0.51, .ceiling = 1.5, .belowCeiling = 1.49};
-constexpr Corridor cards = {.step = 0.05, .floor = 0.3, .aboveFloor = 0.31, .ceiling = 1.5, .belowCeiling = 1.49};
+constexpr Corridor cards = {
+    .step = 0.05, .floor = 0.3, .aboveFloor = 0.31, .ceiling = 1.5, .belowCeiling = 1.49};
 
 constexpr std::size_t weeksOfHistory = 48;
 

@@ -1,5 +1,7 @@
 #include "week/end_week.h"
 
+#include <utility>
+
 #include "career/audition_cleanup.h"
 #include "career/audition_week.h"
 #include "career/classes.h"
@@ -7,6 +9,7 @@
 #include "career/renewals.h"
 #include "core/save.h"
 #include "film/box_office.h"
+#include "film/new_releases.h"
 #include "life/energy.h"
 #include "wealth/best_figures.h"
 #include "wealth/market_index.h"
@@ -28,7 +31,8 @@ void advanceClock(Game& game) {
   game.world.weekNumber += 1;
   game.world.weekNumberForTracking += 1;
   game.world.saveLastWeekTrackerCount = game.world.lastWeekTrackerCount;
-  save<&WorldState::saveLastWeekTrackerCount, &WorldState::weekNumber, &WorldState::weekNumberForTracking>(game);
+  save<&WorldState::saveLastWeekTrackerCount, &WorldState::weekNumber, &WorldState::weekNumberForTracking>(
+      game);
 }
 
 void rollYearOver(WorldState& world) {
@@ -68,7 +72,9 @@ WeekSummary openSummary(Game& game) {
   renewSaga(game);
   closeBoxOffice(game);
   advanceClasses(game);
+  offerRelease(game.world);
   showFeed(game, summary);
+  summary.offersRelease = std::exchange(game.world.releaseOffered, false);
   cleanUpAuditions(game);
   return summary;
 }
@@ -82,8 +88,9 @@ void closeSummary(Game& game) {
 
 void refreshHub(Game& game, HubRefresh reason) {
   if (game.world.weekNumber >= weekAfterTheLast) rollYearOver(game.world);
-  save<&WorldState::ageCount, &WorldState::saveAgeLoss, &WorldState::yearNumber, &WorldState::yearToDatePaycheck,
-       &WorldState::saveLastYTDPaycheck, &WorldState::weekNumber, &WorldState::totalEnergyMax>(game);
+  save<&WorldState::ageCount, &WorldState::saveAgeLoss, &WorldState::yearNumber,
+       &WorldState::yearToDatePaycheck, &WorldState::saveLastYTDPaycheck, &WorldState::weekNumber,
+       &WorldState::totalEnergyMax>(game);
   putBestFiguresForward(game, reason);
 }
 

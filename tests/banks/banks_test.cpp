@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
+#include "banks/banks.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <ranges>
 #include <set>
 #include <sstream>
-
-#include "banks/banks.h"
 
 namespace tb {
 namespace {
@@ -58,7 +57,8 @@ TEST(Banks, HoldOnlyWhatTheRuleCanFillIn) {
         EXPECT_TRUE(std::ranges::contains(allowed, placeholder)) << bank.name << ": " << row;
       }
       EXPECT_EQ(std::ranges::count(row, '{'), std::ranges::count(row, '}')) << bank.name << ": " << row;
-      EXPECT_FALSE(row.starts_with(' ') || row.ends_with(' ') || row.ends_with('\r')) << bank.name << ": " << row;
+      EXPECT_FALSE(row.starts_with(' ') || row.ends_with(' ') || row.ends_with('\r'))
+          << bank.name << ": " << row;
     }
   }
 }

@@ -49,7 +49,8 @@ TEST_F(Talent, PerformanceFollowsTheFormula) {
   // a 20, b 30, e 5, s 72.5, h 19.375; low is e, since 5 is below 20: half of the way to 19.375 is 12.1875
   random.unit(0.5);
   EXPECT_DOUBLE_EQ(performanceRoll(game, 22.5), 17.94);
-  // In front of the camera experience counts in full: e 100, top 43.125; low is the craft, 20; half way 31.5625
+  // In front of the camera experience counts in full: e 100, top 43.125; low is the craft, 20; half
+  // way 31.5625
   random.unit(0.5);
   EXPECT_DOUBLE_EQ(sceneRoll(game, 22.5), 40.81);
 }
@@ -121,7 +122,15 @@ TEST_F(Talent, CurriculumOpensLevelByLevel) {
 TEST_F(Talent, ClassOptionsAreDistinctUntakenAndPriced) {
   // Taken: Improvisation (the third row). Drawn: it, the first, the first again, the second.
   world.saveAllCompletedClasses.push_back({.classId = 3});
-  random.range(5, 1).range(18, 2).range(18, 0).range(5, 4).range(4, 3).range(18, 0).range(18, 1).range(5, 0).range(4, 0);
+  random.range(5, 1)
+      .range(18, 2)
+      .range(18, 0)
+      .range(5, 4)
+      .range(4, 3)
+      .range(18, 0)
+      .range(18, 1)
+      .range(5, 0)
+      .range(4, 0);
   const auto options = openClasses(game);
   ASSERT_EQ(options.size(), 2u);
   EXPECT_EQ(options[0].offered->title, "Physical Acting I");
@@ -133,7 +142,8 @@ TEST_F(Talent, ClassOptionsAreDistinctUntakenAndPriced) {
 }
 
 TEST_F(Talent, ADrawnOutLevelOffersNothingAfterAHundredDraws) {
-  for (const JulliardClass& row : julliardClasses) world.saveAllCompletedClasses.push_back({.classId = row.id});
+  for (const JulliardClass& row : julliardClasses)
+    world.saveAllCompletedClasses.push_back({.classId = row.id});
   random.range(5, 4).any(100);
   EXPECT_TRUE(openClasses(game).empty());
 }
@@ -145,13 +155,19 @@ TEST_F(Talent, AClassIsPaidRunsAndGivesItsExperience) {
   random.range(20, 0);
   EXPECT_FALSE(signUpForClass(game, option));
   EXPECT_EQ(world.totalCashAvailable, 525);
-  EXPECT_EQ(world.activityTracker.front(),
-            "You signed up for Scene Study IV at Julien. Drama 414 runs 2 weeks, and the syllabus mentions crying "
-            "twice.");
+  EXPECT_EQ(
+      world.activityTracker.front(),
+      "You signed up for Scene Study IV at Julien. Drama 414 runs 2 weeks, and the syllabus mentions crying "
+      "twice.");
   EXPECT_TRUE(world.WeekFeed.empty());
-  EXPECT_EQ(world.saveAllCompletedClasses[0],
-            (ActingClass{.classId = 41, .energyCost = 29, .weeksTotal = 2, .weeksRemaining = 2, .experience = 100,
-                         .level = 4, .cost = 11475, .yearStarted = 2031}));
+  EXPECT_EQ(world.saveAllCompletedClasses[0], (ActingClass{.classId = 41,
+                                                           .energyCost = 29,
+                                                           .weeksTotal = 2,
+                                                           .weeksRemaining = 2,
+                                                           .experience = 100,
+                                                           .level = 4,
+                                                           .cost = 11475,
+                                                           .yearStarted = 2031}));
   EXPECT_EQ(signUpForClass(game, option)->title, "🎭 Already Signed Up 🎭");
 
   advanceClasses(game);
@@ -228,9 +244,10 @@ TEST_F(Talent, NewScenesAreShotRatedAndReplaceTheLastReel) {
   EXPECT_EQ(world.existingFootageScore, 42);
   EXPECT_EQ(world.showreelScore, 19);  // (42 + 40 + 0) / 425: a new reel can be worse than the old
   EXPECT_EQ(world.totalCashAvailable, 2000 - 699);
-  EXPECT_EQ(world.activityTracker.front(),
-            "You hired a production company for $699 to add a scene where a waiter quits and a queen waits to your "
-            "showreel. Updated rating: 19");
+  EXPECT_EQ(
+      world.activityTracker.front(),
+      "You hired a production company for $699 to add a scene where a waiter quits and a queen waits to your "
+      "showreel. Updated rating: 19");
   // Footage chosen at the same time takes the place of the scenes in the rating.
   addWork(9, 3, 100);
   const std::vector<std::int64_t> footage = {9};
@@ -254,9 +271,12 @@ TEST_F(Talent, TheGuildTakesInWorkingActorsWhoCanPay) {
   EXPECT_EQ(world.totalCashAvailable, 500);
   EXPECT_EQ(world.isSAG, 1);
   EXPECT_EQ(world.memberSince, 2028);
-  EXPECT_EQ(world.saveAllWeeklyLineItems.back(),
-            (WeeklyLineItem{.category = 1, .title = "AG Monthly Dues", .amount = 20, .year = 2028, .isExpense = true,
-                            .typeOfExpense = 1}));
+  EXPECT_EQ(world.saveAllWeeklyLineItems.back(), (WeeklyLineItem{.category = 1,
+                                                                 .title = "AG Monthly Dues",
+                                                                 .amount = 20,
+                                                                 .year = 2028,
+                                                                 .isExpense = true,
+                                                                 .typeOfExpense = 1}));
   EXPECT_FALSE(joinGuild(game));  // once
   EXPECT_EQ(world.totalCashAvailable, 500);
   EXPECT_EQ(world.saveAllWeeklyLineItems.size(), 1u);

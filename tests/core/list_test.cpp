@@ -208,7 +208,7 @@ TEST_P(ListHistory, WhatIsLoadedIsWhatWasSaved) {
   EXPECT_EQ(std::vector(list.begin(), list.end()), model);
 }
 
-INSTANTIATE_TEST_SUITE_P(Careers, ListHistory, testing::Range(0u, 40u));
+INSTANTIATE_TEST_SUITE_P(Careers, ListHistory, testing::Range(0u, 16u));
 
 }  // namespace
 }  // namespace tb

@@ -49,12 +49,26 @@ TEST(RandomUnit, ReachesBothEndsExactly) {
 
 TEST(ShortMoney, TurnsItsFormAtEachThreshold) {
   const Locale us;
-  const std::pair<double, const char*> cases[] = {
-      {0, "$0.00"},           {99.5, "$99.50"},        {99.999, "$100.00"},    {100, "$100"},
-      {999.4, "$999"},        {1000, "$1.0K"},         {1500, "$1.5K"},        {9999, "$10.0K"},
-      {10000, "$10K"},        {999999, "$1,000K"},     {1e6, "$1.0M"},         {99.94e6, "$99.9M"},
-      {100e6, "$100M"},       {999999999, "$1,000M"},  {1e9, "$1.0B"},         {999.94e9, "$999.9B"},
-      {1e12, ""},             {-0.5, ""},              {-1, ""},               {-1e15, ""}};
+  const std::pair<double, const char*> cases[] = {{0, "$0.00"},
+                                                  {99.5, "$99.50"},
+                                                  {99.999, "$100.00"},
+                                                  {100, "$100"},
+                                                  {999.4, "$999"},
+                                                  {1000, "$1.0K"},
+                                                  {1500, "$1.5K"},
+                                                  {9999, "$10.0K"},
+                                                  {10000, "$10K"},
+                                                  {999999, "$1,000K"},
+                                                  {1e6, "$1.0M"},
+                                                  {99.94e6, "$99.9M"},
+                                                  {100e6, "$100M"},
+                                                  {999999999, "$1,000M"},
+                                                  {1e9, "$1.0B"},
+                                                  {999.94e9, "$999.9B"},
+                                                  {1e12, ""},
+                                                  {-0.5, ""},
+                                                  {-1, ""},
+                                                  {-1e15, ""}};
   for (const auto& [amount, text] : cases) EXPECT_EQ(shortMoney(us, amount), text) << amount;
   EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::quiet_NaN()), "$0");
   EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::infinity()), "$0");
@@ -62,8 +76,9 @@ TEST(ShortMoney, TurnsItsFormAtEachThreshold) {
 
 TEST(ShortCount, TurnsItsFormAtEachThreshold) {
   const std::pair<std::int64_t, const char*> cases[] = {
-      {0, "0"},           {999, "999"},         {1000, "1.0K"},  {999949, "999.9K"}, {1000000, "1.0M"},
-      {1550000000, "1.6B"}, {999940000000, "999.9B"}, {1000000000000, ""}, {-1, ""}};
+      {0, "0"},          {999, "999"},         {1000, "1.0K"},           {999949, "999.9K"},
+      {1000000, "1.0M"}, {1550000000, "1.6B"}, {999940000000, "999.9B"}, {1000000000000, ""},
+      {-1, ""}};
   for (const auto& [count, text] : cases) EXPECT_EQ(shortCount(count), text) << count;
 }
 
@@ -87,9 +102,9 @@ TEST(DateLabel, NamesTheFridayOfAWeekThatBeginsOnSunday) {
     std::int64_t week, year;
     const char *month, *day;
   } cases[] = {
-      {1, 2026, "January", "2, 2026"},    {52, 2026, "December", "25, 2026"}, {1, 2027, "January", "1, 2027"},
+      {1, 2026, "January", "2, 2026"},   {52, 2026, "December", "25, 2026"}, {1, 2027, "January", "1, 2027"},
       {1, 2028, "December", "31, 2027"},  // the first of January is a Saturday: its Friday is in the old year
-      {10, 2028, "March", "3, 2028"},     {53, 2027, "December", "31, 2027"},
+      {10, 2028, "March", "3, 2028"},    {53, 2027, "December", "31, 2027"},
   };
   for (const auto& [week, year, month, day] : cases) {
     const auto label = dateLabel({}, week, year);

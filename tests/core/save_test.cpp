@@ -1,7 +1,9 @@
 #include "core/save.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
 #include "tests/memory_port.h"
 #include "tests/scripted_random.h"

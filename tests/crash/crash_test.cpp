@@ -7,6 +7,7 @@
 // the same actions in memory, and compares the whole dictionaries. The store must hold every action that was
 // said to be done and may hold the one after it, whole.
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>
@@ -14,6 +15,8 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <format>
+#include <memory>
 #include <print>
 #include <random>
 #include <string>
@@ -177,8 +180,8 @@ bool surviveKills(const std::filesystem::path& folder, const char* name, Launch 
 int main(int kills) {
   std::string name = (std::filesystem::temp_directory_path() / "billing-crash-XXXXXX").string();
   const std::filesystem::path folder = mkdtemp(name.data());
-  const bool whole = surviveKills(folder, "books", keepBooks, kills) &&
-                     surviveKills(folder, "game", playGame, kills);
+  const bool whole =
+      surviveKills(folder, "books", keepBooks, kills) && surviveKills(folder, "game", playGame, kills);
   if (!whole) {
     std::println(stderr, "The store is left in {}", folder.string());
     return 1;

@@ -1,8 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <map>
 #include <set>
 #include <string>
@@ -13,8 +12,8 @@ namespace {
 namespace fs = std::filesystem;
 
 // The floors of the house, lowest first. An include goes down or stays on its floor, never up.
-const std::vector<std::string> floors = {"core", "banks",    "social", "film", "career",  "life",
-                                         "platform", "wealth", "week", "screens", "shells"};
+const std::vector<std::string> floors = {"core",     "banks",  "social", "film",    "career", "life",
+                                         "platform", "wealth", "week",   "screens", "shells"};
 
 using Includes = std::map<std::string, std::vector<std::string>>;
 
@@ -48,7 +47,8 @@ TEST(House, IncludesGoDownTheFloors) {
 }
 
 // Finds the files on a circle of includes, if there is one, by following the headers.
-bool reaches(const Includes& includes, const std::string& from, const std::string& wanted, std::set<std::string>& seen) {
+bool reaches(const Includes& includes, const std::string& from, const std::string& wanted,
+             std::set<std::string>& seen) {
   const auto found = includes.find(from);
   if (found == includes.end() || !seen.insert(from).second) return false;
   return std::ranges::any_of(found->second, [&](const std::string& next) {

@@ -55,7 +55,8 @@ TEST(FirstCareer, AStrangerStartsTrainsAndFindsEverythingAsItWas) {
 
   game->player.press("Work");
   game->player.press("Talent");
-  while (game->player.notice().empty()) game->player.press("Train to " + std::to_string(game->app.game().world.talentTraitCost1));
+  while (game->player.notice().empty())
+    game->player.press("Train to " + std::to_string(game->app.game().world.talentTraitCost1));
   EXPECT_EQ(game->player.notice(), "⚡️ Not Enough Energy ⚡️");
   game->player.press("OK");
   game->player.press("Back");

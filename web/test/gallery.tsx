@@ -1,7 +1,9 @@
-// The gallery: shows one page of gallery_pages.ts, named in the address after "#", and keeps what was done to it.
+// The gallery: shows one page of gallery_pages.ts, named in the address after "#", and keeps what was done to
+// it.
 
 import { render } from "preact";
 
+import { pictureArt } from "../src/art/picture_art";
 import { PageView } from "../src/draw/page_view";
 import "../src/style/index.css";
 import type { Page } from "../src/view_types";
@@ -24,20 +26,24 @@ let shown: Page = pages["hub"]!;
 
 function show(page: Page): void {
   shown = page;
-  render(<PageView page={page} actions={actions} banner={null} corner={null} />, document.getElementById("app")!);
+  render(
+    <PageView page={page} actions={actions} banner={null} corner={null} />,
+    document.getElementById("app")!,
+  );
 }
 
 declare global {
   interface Window {
     gallery: {
       readonly pages: typeof pages;
+      readonly pictureArt: typeof pictureArt;
       readonly show: typeof show;
       readonly done: Done[];
       afterTyping: typeof show; // what the game answers; the same page again unless a test says otherwise
     };
   }
 }
-window.gallery = { pages, show, done, afterTyping: show };
+window.gallery = { pages, pictureArt, show, done, afterTyping: show };
 
 const showNamed = (): void => show(pages[location.hash.slice(1)] ?? pages["hub"]!);
 window.addEventListener("hashchange", showNamed);

@@ -60,6 +60,11 @@ test("a new version is offered, not forced, and takes the career along", async (
   await offer.waitFor();
   assert.equal(await versionOf(page), "first");
 
+  // It stands at the hub alone: another screen would be lost.
+  await page.getByRole("button", { name: "Settings" }).click();
+  await offer.waitFor({ state: "detached" });
+  await page.goBack();
+
   await offer.click();
   await page.waitForFunction(() => document.querySelector("meta[name=version]") !== null);
   assert.equal(await versionOf(page), "second0000");

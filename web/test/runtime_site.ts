@@ -94,11 +94,11 @@ export interface Visit {
   end(): Promise<void>;
 }
 
-// One player's browser profile. `script` runs in each page before anything of the page does.
-export async function visit(stage: Stage, script?: () => void): Promise<Visit> {
+// One player's browser profile. The scripts run in each page before anything of the page does.
+export async function visit(stage: Stage, ...scripts: (() => void)[]): Promise<Visit> {
   const context = await stage.browser.newContext({ viewport: phone, acceptDownloads: true });
   const complaints: string[] = [];
-  if (script) await context.addInitScript(script);
+  for (const script of scripts) await context.addInitScript(script);
   await context.addInitScript(() => {
     addEventListener("securitypolicyviolation", (event) => {
       console.error(`policy: ${event.violatedDirective} ${event.blockedURI}`);
@@ -164,4 +164,28 @@ export function fillable(): void {
 
 export async function fill(page: Page, full: boolean): Promise<void> {
   await page.evaluate((given) => Object.assign(globalThis, { full: given }), full);
+}
+
+// For visit(): with `breaks` set, using or starting a game traps in its WebAssembly: it is handed a message that ends early.
+export function breakable(): void {
+  const instantiate = WebAssembly.instantiate as (
+    module: WebAssembly.Module,
+    imports: WebAssembly.Imports,
+  ) => Promise<WebAssembly.Instance>;
+  const breaking = async (module: WebAssembly.Module, imports: WebAssembly.Imports) => {
+    const instance = await instantiate(module, imports);
+    const real = instance.exports as Record<string, (...values: unknown[]) => unknown>;
+    const broken = (name: string) => (...values: unknown[]) => {
+      if (!(globalThis as { breaks?: string }).breaks?.includes(name)) return real[name]?.(...values);
+      real["incoming"]?.(1);
+      return real["open_store"]?.();
+    };
+    return { exports: { ...real, press: broken("press"), start: broken("start") } };
+  };
+  Object.assign(WebAssembly, { instantiate: breaking });
+}
+
+// `names`: the functions that trap from now on; none in an empty text.
+export async function breakFrom(page: Page, names: string): Promise<void> {
+  await page.evaluate((given) => Object.assign(globalThis, { breaks: given }), names);
 }

@@ -5,31 +5,9 @@ import { readFileSync } from "node:fs";
 import { test } from "node:test";
 import type { Page } from "playwright-core";
 
-import { openSaves, stage, startCareer, visit, waitForGame } from "./runtime_site";
+import { breakable, breakFrom, openSaves, stage, startCareer, visit, waitForGame } from "./runtime_site";
 
 const setting = stage();
-
-// With `breaks` set, using or starting a game traps in its WebAssembly: it is handed a message that ends early.
-function breakable(): void {
-  const instantiate = WebAssembly.instantiate as (
-    module: WebAssembly.Module,
-    imports: WebAssembly.Imports,
-  ) => Promise<WebAssembly.Instance>;
-  const breaking = async (module: WebAssembly.Module, imports: WebAssembly.Imports) => {
-    const instance = await instantiate(module, imports);
-    const real = instance.exports as Record<string, (...values: unknown[]) => unknown>;
-    const broken = (name: string) => (...values: unknown[]) => {
-      if (!(globalThis as { breaks?: string }).breaks?.includes(name)) return real[name]?.(...values);
-      real["incoming"]?.(1);
-      return real["open_store"]?.();
-    };
-    return { exports: { ...real, press: broken("press"), start: broken("start") } };
-  };
-  Object.assign(WebAssembly, { instantiate: breaking });
-}
-
-const breakFrom = (page: Page, names: string) =>
-  page.evaluate((given) => Object.assign(globalThis, { breaks: given }), names);
 
 const stopped = (page: Page) => page.getByRole("heading", { name: "Cut!" }).waitFor();
 

@@ -86,12 +86,14 @@ consteval bool describesWholeRecord() {
 #define TB_EXPAND_2(...) TB_EXPAND_3(TB_EXPAND_3(TB_EXPAND_3(TB_EXPAND_3(__VA_ARGS__))))
 #define TB_EXPAND_3(...) __VA_ARGS__
 #define TB_FIELD_LIST(Record, ...) __VA_OPT__(TB_EXPAND(TB_FIELD_STEP(Record, __VA_ARGS__)))
-#define TB_FIELD_STEP(Record, name, ...) \
-  ::tb::RecordField{#name, &Record::name, __builtin_offsetof(Record, name)} __VA_OPT__(, TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
+#define TB_FIELD_STEP(Record, name, ...)                                                \
+  ::tb::RecordField{#name, &Record::name, __builtin_offsetof(Record, name)} __VA_OPT__( \
+      , TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
 #define TB_FIELD_AGAIN() TB_FIELD_STEP
 
 // Stands in namespace tb, right after the struct.
-#define RECORD_FIELDS(Record, ...)                                                            \
-  template <>                                                                                 \
-  inline constexpr auto fieldsOf<Record> = std::tuple{TB_FIELD_LIST(Record, __VA_ARGS__)};    \
-  static_assert(describesWholeRecord<Record>(), #Record " has a field that RECORD_FIELDS misses or misplaces")
+#define RECORD_FIELDS(Record, ...)                                                                   \
+  template <>                                                                                        \
+  inline constexpr auto fieldsOf<Record> = std::tuple{TB_FIELD_LIST(Record, __VA_ARGS__)};           \
+  static_assert(describesWholeRecord<Record>(), #Record " has a field that RECORD_FIELDS misses or " \
+                                                        "misplaces")

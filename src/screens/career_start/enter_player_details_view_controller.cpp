@@ -38,21 +38,22 @@ void EnterPlayerDetailsViewController::load(Stage& stage) {
 }
 
 Choice EnterPlayerDetailsViewController::genders() {
-  return {.label = "Gender",
-          .options = {{.label = "Male", .chosen = form_.isMale, .press = [this](Stage&) { form_.isMale = true; }},
-                      {.label = "Female",
-                       .chosen = !form_.isMale,
-                       .press = [this](Stage&) { form_.isMale = false; }}}};
+  return {
+      .label = "Gender",
+      .options = {
+          {.label = "Male", .chosen = form_.isMale, .press = [this](Stage&) { form_.isMale = true; }},
+          {.label = "Female", .chosen = !form_.isMale, .press = [this](Stage&) { form_.isMale = false; }}}};
 }
 
 Choice EnterPlayerDetailsViewController::headshots(const Game& game) {
   Choice choice{.label = "Headshot"};
   for (int number = 1; number <= headshotsOnOffer; ++number) {
     const std::string name = headshotName(form_.isMale, number);
-    choice.options.push_back({.label = std::format("Headshot {}", number),
-                              .chosen = chosenHeadshot(game.world) == name,
-                              .press = [name](Stage& stage) { chooseHeadshot(stage.game(), headshotImage(name)); },
-                              .picture = {{.kind = PictureKind::avatar, .name = name}}});
+    choice.options.push_back(
+        {.label = std::format("Headshot {}", number),
+         .chosen = chosenHeadshot(game.world) == name,
+         .press = [name](Stage& stage) { chooseHeadshot(stage.game(), headshotImage(name)); },
+         .picture = {{.kind = PictureKind::avatar, .name = name}}});
   }
   return choice;
 }
@@ -64,27 +65,28 @@ void EnterPlayerDetailsViewController::confirm(Stage& stage) {
 }
 
 Page EnterPlayerDetailsViewController::view(const Game& game) {
-  return {.title = "A star is cast",
-          .subtitle = std::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
-          .nodes = {
-              Field{.label = "Stage name",
-                    .value = form_.myName,
-                    .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
-                    .hint = "As it will stand on the poster",
-                    .maximumLength = 40},
-              ageSlider(game),
-              genders(),
-              headshots(game),
-              Field{.label = "Biography",
-                    .value = form_.aboutDescription,
-                    .type = [this](Stage&, const std::string& about) { form_.aboutDescription = trimmed(about); },
-                    .hint = "A line or two about who you are",
-                    .maximumLength = 280,
-                    .severalLines = true},
-              Button{.label = "Start my career",
-                     .press = [this](Stage& stage) { confirm(stage); },
-                     .weight = Button::Weight::primary},
-          }};
+  return {
+      .title = "A star is cast",
+      .subtitle = std::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
+      .nodes = {
+          Field{.label = "Stage name",
+                .value = form_.myName,
+                .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
+                .hint = "As it will stand on the poster",
+                .maximumLength = 40},
+          ageSlider(game),
+          genders(),
+          headshots(game),
+          Field{.label = "Biography",
+                .value = form_.aboutDescription,
+                .type = [this](Stage&, const std::string& about) { form_.aboutDescription = trimmed(about); },
+                .hint = "A line or two about who you are",
+                .maximumLength = 280,
+                .severalLines = true},
+          Button{.label = "Start my career",
+                 .press = [this](Stage& stage) { confirm(stage); },
+                 .weight = Button::Weight::primary},
+      }};
 }
 
 }  // namespace tb

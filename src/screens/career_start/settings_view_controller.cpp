@@ -17,8 +17,9 @@ void restart(Stage& stage) {
 
 void askForRestart(Stage& stage) {
   stage.ask({.title = "Restart?",
-             .message = "Your career ends here and a new one begins. Everything you have built is gone, but for the "
-                        "money in your vault and what you have earned for good."},
+             .message =
+                 "Your career ends here and a new one begins. Everything you have built is gone, but for the "
+                 "money in your vault and what you have earned for good."},
             {{.label = "Keep playing", .weight = Button::Weight::primary},
              {.label = "Restart", .press = restart, .weight = Button::Weight::destructive}});
 }

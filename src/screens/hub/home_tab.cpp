@@ -35,8 +35,8 @@ Card profile(const WorldState& world) {
 Card jobCard(const Game& game) {
   const WorldState& world = game.world;
   return {.title = world.weeklyJobTitle,
-          .subtitle = std::format("{} a week • {} energy a week", shortMoney(game.locale, world.weeklyJobIncome),
-                                  world.weeklyEnergyCost),
+          .subtitle = std::format("{} a week • {} energy a week",
+                                  shortMoney(game.locale, world.weeklyJobIncome), world.weeklyEnergyCost),
           .nodes = {caption(std::format("{} week{} left", world.weeklyJobContractRemaining,
                                         world.weeklyJobContractRemaining == 1 ? "" : "s"))}};
 }
@@ -45,7 +45,8 @@ Card jobCard(const Game& game) {
 bool isDateHeading(const Locale& locale, const std::string& line) {
   for (const std::string& month : locale.months) {
     const std::string start = upperCase(month) + " ";
-    if (line.starts_with(start) && line.find_first_not_of("0123456789, ", start.size()) == std::string::npos) {
+    if (line.starts_with(start) &&
+        line.find_first_not_of("0123456789, ", start.size()) == std::string::npos) {
       return true;
     }
   }
@@ -54,7 +55,8 @@ bool isDateHeading(const Locale& locale, const std::string& line) {
 
 Node activityNode(const Game& game, std::size_t index) {
   const std::string& line = game.world.activityTracker[index];
-  if (isDateHeading(game.locale, line)) return Text{.text = line, .style = Text::Style::large, .tone = Tone::accent};
+  if (isDateHeading(game.locale, line))
+    return Text{.text = line, .style = Text::Style::large, .tone = Tone::accent};
   return Text{.text = line};
 }
 
@@ -62,7 +64,8 @@ PagedList activityLog(const Game& game) {
   return {.key = "activity",
           .size = game.world.activityTracker.size(),
           .nodeAt = [&game](std::size_t index) { return activityNode(game, index); },
-          .whenEmpty = "Your story starts here. Everything that happens in your career is written down in this log."};
+          .whenEmpty =
+              "Your story starts here. Everything that happens in your career is written down in this log."};
 }
 
 }  // namespace

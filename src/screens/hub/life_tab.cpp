@@ -23,12 +23,14 @@ std::vector<view::Node> lifeTab(const Game& game) {
   const WorldState& world = game.world;
   return {
       energyMeter(world),
-      view::Section{.heading = "ENERGY",
-                    .nodes = {view::Row{.label = "Weekly ceiling", .value = std::to_string(world.totalEnergyMax)},
-                              view::Row{.label = "Lost to age", .value = std::to_string(world.saveAgeLoss)}}},
-      view::Section{.heading = "EVERY WEEK TAKES",
-                    .nodes = {drain("Your job", world.weeklyEnergyCost), drain("Acting classes", classEnergy(world)),
-                              drain("In all", weeklyEnergyDrain(world))}},
+      view::Section{
+          .heading = "ENERGY",
+          .nodes = {view::Row{.label = "Weekly ceiling", .value = std::to_string(world.totalEnergyMax)},
+                    view::Row{.label = "Lost to age", .value = std::to_string(world.saveAgeLoss)}}},
+      view::Section{
+          .heading = "EVERY WEEK TAKES",
+          .nodes = {drain("Your job", world.weeklyEnergyCost), drain("Acting classes", classEnergy(world)),
+                    drain("In all", weeklyEnergyDrain(world))}},
   };
 }
 

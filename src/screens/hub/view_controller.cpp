@@ -32,10 +32,9 @@ void ViewController::endWeekButton(Stage& stage) {
 }
 
 view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {
-  return {.label = label,
-          .icon = icon,
-          .current = current_ == which,
-          .press = [this, which](Stage&) { current_ = which; }};
+  return {.label = label, .icon = icon, .current = current_ == which, .press = [this, which](Stage&) {
+            current_ = which;
+          }};
 }
 
 view::Page ViewController::view(const Game& game) {
@@ -53,11 +52,21 @@ view::Page ViewController::view(const Game& game) {
   page.tabs = {tab(Tab::home, "Home", "🏠"), tab(Tab::work, "Work", "🎬"), tab(Tab::social, "Social", "💬"),
                tab(Tab::life, "Life", "⚡️"), tab(Tab::wealth, "Wealth", "💰")};
   switch (current_) {
-    case Tab::home: page.nodes = homeTab(game); break;
-    case Tab::work: page.nodes = workTab(game); break;
-    case Tab::social: page.nodes = socialTab(game); break;
-    case Tab::life: page.nodes = lifeTab(game); break;
-    case Tab::wealth: page.nodes = wealthTab(game); break;
+    case Tab::home:
+      page.nodes = homeTab(game);
+      break;
+    case Tab::work:
+      page.nodes = workTab(game);
+      break;
+    case Tab::social:
+      page.nodes = socialTab(game);
+      break;
+    case Tab::life:
+      page.nodes = lifeTab(game);
+      break;
+    case Tab::wealth:
+      page.nodes = wealthTab(game);
+      break;
   }
   return page;
 }

@@ -5,6 +5,8 @@
 #include "core/number_style.h"
 #include "core/talent_scores.h"
 #include "screens/backstage/casting_network_view_controller.h"
+#include "screens/film/box_office_view_controller.h"
+#include "screens/film/movie_management_view_controller.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
 #include "screens/talent/acting_classes_view_controller.h"
@@ -17,8 +19,8 @@ namespace tb {
 namespace {
 
 std::string classesSummary(const WorldState& world) {
-  const auto running = std::ranges::count_if(world.saveAllCompletedClasses,
-                                             [](const ActingClass& taken) { return taken.weeksRemaining > 0; });
+  const auto running = std::ranges::count_if(
+      world.saveAllCompletedClasses, [](const ActingClass& taken) { return taken.weeksRemaining > 0; });
   return running == 0 ? "Learn the craft at Julien" : std::format("{} running", running);
 }
 
@@ -42,16 +44,23 @@ std::vector<view::Node> workTab(const Game& game) {
   return {
       view::Tiles{{
           {.label = "Talent", .value = std::to_string(overallTalent(world))},
-          {.label = "Experience", .value = plainCount(game.locale, static_cast<std::int64_t>(world.experience))},
+          {.label = "Experience",
+           .value = plainCount(game.locale, static_cast<std::int64_t>(world.experience))},
           {.label = "Showreel", .value = std::to_string(world.showreelScore)},
       }},
-      view::Section{.heading = "WORK",
-                    .nodes = {leadingTo<CastingNetworkViewController>("Casting Network", "Submit for today's roles"),
-                              leadingTo<ActiveAuditionViewController>("Auditions", projectsSummary(world)),
-                              leadingTo<JobBoardViewController>("Job Board", jobSummary(world))}},
-      view::Section{.heading = "CRAFT",
-                    .nodes = {leadingTo<TalentTraitsViewController>("Talent", "Five traits, trained with energy"),
-                              leadingTo<ActingClassesViewController>("Acting Classes", classesSummary(world))}},
+      view::Section{
+          .heading = "WORK",
+          .nodes = {leadingTo<CastingNetworkViewController>("Casting Network", "Submit for today's roles"),
+                    leadingTo<ActiveAuditionViewController>("Auditions", projectsSummary(world)),
+                    leadingTo<JobBoardViewController>("Job Board", jobSummary(world))}},
+      view::Section{.heading = "INDUSTRY",
+                    .nodes = {leadingTo<BoxOfficeViewController>("Box Office", "What the world is watching"),
+                              leadingTo<MovieManagementViewController>(
+                                  "Productions", "Titles with your money behind them")}},
+      view::Section{
+          .heading = "CRAFT",
+          .nodes = {leadingTo<TalentTraitsViewController>("Talent", "Five traits, trained with energy"),
+                    leadingTo<ActingClassesViewController>("Acting Classes", classesSummary(world))}},
   };
 }
 

@@ -44,16 +44,16 @@ void ActingClassesViewController::load(Stage& stage) { options_ = openClasses(st
 void ActingClassesViewController::signUp(Stage& stage, const ClassOption& option) {
   if (Refusal refusal = signUpForClass(stage.game(), option)) return stage.show(std::move(refusal));
   stage.show(Notice{.title = "🎭 Signed Up 🎭",
-                    .message = std::format("\n{} begins this week and runs for {} weeks.", nameOf(*option.offered),
-                                           option.weeks)});
+                    .message = std::format("\n{} begins this week and runs for {} weeks.",
+                                           nameOf(*option.offered), option.weeks)});
   stage.worldChanged();
 }
 
 Card ActingClassesViewController::optionCard(const Game& game, const ClassOption& option) {
   return {.title = nameOf(*option.offered),
           .subtitle = std::format("Level {}", option.offered->classLevel),
-          .nodes = {Text{.text = std::format("{} weeks • -{} energy each week • +{:.0f} experience", option.weeks,
-                                             option.energyCost, option.offered->percentage)},
+          .nodes = {Text{.text = std::format("{} weeks • -{} energy each week • +{:.0f} experience",
+                                             option.weeks, option.energyCost, option.offered->percentage)},
                     Button{.label = "Sign up",
                            .press = [this, option](Stage& stage) { signUp(stage, option); },
                            .price = currency(game.locale, option.cost, 0)}}};

@@ -20,26 +20,28 @@ void join(Stage& stage) {
 
 Card membersCard(const Game& game) {
   const WorldState& world = game.world;
-  return {.title = world.myName,
-          .subtitle = std::format("Member since {}", world.memberSince),
-          .nodes = {Text{.text = "Member in good standing. You contribute 3% of earnings up to $750,000 to the guild, "
-                                 "with access to union-only opportunities."},
-                    Row{.label = "Dues paid on your work",
-                        .value = currency(game.locale, world.workDuesPaidSAG, 0)}}};
+  return {
+      .title = world.myName,
+      .subtitle = std::format("Member since {}", world.memberSince),
+      .nodes = {
+          Text{.text = "Member in good standing. You contribute 3% of earnings up to $750,000 to the guild, "
+                       "with access to union-only opportunities."},
+          Row{.label = "Dues paid on your work", .value = currency(game.locale, world.workDuesPaidSAG, 0)}}};
 }
 
 Section wayIn(const Game& game, std::int64_t eligibility) {
-  return {.heading = "JOIN THE GUILD",
-          .nodes = {Text{.text = "The guild takes in performers with two booked principal roles. Members work on "
-                                 "union productions, with better pay and residuals."},
-                    Meter{.label = "Principal roles booked",
-                          .value = static_cast<double>(eligibility),
-                          .maximum = static_cast<double>(rolesForEligibility),
-                          .text = std::format("{} of {}", eligibility, rolesForEligibility)},
-                    Button{.label = "Join",
-                           .press = join,
-                           .price = currency(game.locale, guildInitiationFee, 0),
-                           .weight = Button::Weight::primary}}};
+  return {
+      .heading = "JOIN THE GUILD",
+      .nodes = {Text{.text = "The guild takes in performers with two booked principal roles. Members work on "
+                             "union productions, with better pay and residuals."},
+                Meter{.label = "Principal roles booked",
+                      .value = static_cast<double>(eligibility),
+                      .maximum = static_cast<double>(rolesForEligibility),
+                      .text = std::format("{} of {}", eligibility, rolesForEligibility)},
+                Button{.label = "Join",
+                       .press = join,
+                       .price = currency(game.locale, guildInitiationFee, 0),
+                       .weight = Button::Weight::primary}}};
 }
 
 }  // namespace

@@ -40,12 +40,12 @@ Page ShowreelFootageViewController::view(const Game& game) {
   Page page{.title = "Existing Footage", .subtitle = "Up to three scenes of your finished work"};
   page.nodes = {scoreMeter("Your showreel", game.world.showreelScore)};
   if (!chosen_->filmIds.empty()) page.nodes.push_back(scoreMeter("This cut", chosen_->preview));
-  page.nodes.push_back(PagedList{.key = "footage",
-                                 .size = footage.size(),
-                                 .nodeAt = [this, &game, footage](std::size_t index) {
-                                   return footageRow(game.world.saveAllAuditionList[footage[index]]);
-                                 },
-                                 .whenEmpty = "There is no footage of you yet. It comes with your first wrap."});
+  page.nodes.push_back(PagedList{
+      .key = "footage",
+      .size = footage.size(),
+      .nodeAt = [this, &game, footage](
+                    std::size_t index) { return footageRow(game.world.saveAllAuditionList[footage[index]]); },
+      .whenEmpty = "There is no footage of you yet. It comes with your first wrap."});
   page.nodes.push_back(Button{.label = "Cut this reel",
                               .press = [this](Stage& stage) { build(stage); },
                               .price = currency(game.locale, footageReelCost, 0),

@@ -11,7 +11,8 @@ namespace tb {
 // Finished work, from which a reel is cut.
 class ShowreelFootageViewController : public Screen {
  public:
-  explicit ShowreelFootageViewController(std::shared_ptr<ChosenFootage> chosen) : chosen_(std::move(chosen)) {}
+  explicit ShowreelFootageViewController(std::shared_ptr<ChosenFootage> chosen)
+      : chosen_(std::move(chosen)) {}
   [[nodiscard]] view::Page view(const Game& game) override;
 
  private:

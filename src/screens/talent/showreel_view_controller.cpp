@@ -39,9 +39,9 @@ void ShowreelViewController::produce(Stage& stage) {
     return stage.show(std::move(refusal));
   }
   scenes_.clear();
-  stage.show(Notice{.title = "🎬 That's a Wrap 🎬",
-                    .message = std::format("\nYour new showreel is rated {}.",
-                                           stage.game().world.showreelScore)});
+  stage.show(
+      Notice{.title = "🎬 That's a Wrap 🎬",
+             .message = std::format("\nYour new showreel is rated {}.", stage.game().world.showreelScore)});
   stage.worldChanged();
 }
 
@@ -59,11 +59,11 @@ Choice ShowreelViewController::packages(const Game& game) {
   Choice choice{.label = "Package"};
   for (std::size_t index = 0; index < scenePackages.size(); ++index) {
     const ScenePackage& package = scenePackages[index];
-    choice.options.push_back({.label = std::format("{} • {} scene{} • {}", package.title, package.scenes,
-                                                   package.scenes == 1 ? "" : "s",
-                                                   currency(game.locale, package.cost, 0)),
-                              .chosen = index == package_,
-                              .press = [this, index](Stage&) { package_ = index; }});
+    choice.options.push_back(
+        {.label = std::format("{} • {} scene{} • {}", package.title, package.scenes,
+                              package.scenes == 1 ? "" : "s", currency(game.locale, package.cost, 0)),
+         .chosen = index == package_,
+         .press = [this, index](Stage&) { package_ = index; }});
   }
   return choice;
 }
@@ -71,16 +71,16 @@ Choice ShowreelViewController::packages(const Game& game) {
 Section ShowreelViewController::newScenes(const Game& game) {
   Section section{.heading = "NEW SCENES", .nodes = {packages(game)}};
   for (std::size_t index = 0; index < scenes_.size(); ++index) {
-    section.nodes.push_back(Row{.label = scenes_[index],
-                                .detail = "Tap to strike it",
-                                .press = [this, index](Stage&) {
-                                  scenes_.erase(scenes_.begin() + static_cast<std::ptrdiff_t>(index));
-                                }});
+    section.nodes.push_back(
+        Row{.label = scenes_[index], .detail = "Tap to strike it", .press = [this, index](Stage&) {
+              scenes_.erase(scenes_.begin() + static_cast<std::ptrdiff_t>(index));
+            }});
   }
-  section.nodes.push_back(Field{.label = "A scene where ...",
-                                .type = [this](Stage& stage, const std::string& text) { addScene(stage, text); },
-                                .hint = "a waiter quits in the middle of a toast",
-                                .maximumLength = 120});
+  section.nodes.push_back(
+      Field{.label = "A scene where ...",
+            .type = [this](Stage& stage, const std::string& text) { addScene(stage, text); },
+            .hint = "a waiter quits in the middle of a toast",
+            .maximumLength = 120});
   section.nodes.push_back(Button{.label = "Hire the production company",
                                  .press = [this](Stage& stage) { produce(stage); },
                                  .price = currency(game.locale, scenePackages[package_].cost, 0),

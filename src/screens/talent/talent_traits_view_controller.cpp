@@ -40,7 +40,8 @@ Card traitCard(const WorldState& world, int k) {
 Page TalentTraitsViewController::view(const Game& game) {
   const WorldState& world = game.world;
   Page page{.title = "Talent", .subtitle = "A weak trait weighs twice: keep them even"};
-  page.nodes = {Tiles{{{.label = "Level", .value = std::to_string(overallTalent(world))}}}, energyMeter(world)};
+  page.nodes = {Tiles{{{.label = "Level", .value = std::to_string(overallTalent(world))}}},
+                energyMeter(world)};
   for (int k = 1; k <= std::ssize(traits); ++k) page.nodes.push_back(traitCard(world, k));
   return page;
 }

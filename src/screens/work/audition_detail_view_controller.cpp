@@ -8,6 +8,7 @@
 #include "core/audition_list.h"
 #include "core/number_style.h"
 #include "core/text.h"
+#include "screens/film/promote_film_view_controller.h"
 #include "screens/parts.h"
 #include "screens/work/project_words.h"
 
@@ -59,11 +60,12 @@ Section thePreparation(const Audition& project) {
 // --- What can be done ---
 
 // A project as its buttons know it: the list may have moved before one of them is pressed.
-void boost(Stage& stage, std::int64_t filmId) {
+void boost(Stage& stage, std::int64_t filmId, BoostKind kind) {
   const auto index = auditionIndex(stage.game().world, filmId);
   if (!index) return;
   if (Refusal refusal = buyBoost(stage.game(), *index)) return stage.show(std::move(refusal));
   stage.worldChanged();
+  if (kind == BoostKind::promote) stage.open(std::make_unique<PromoteFilmViewController>());
 }
 
 void bribe(Stage& stage, std::int64_t filmId) {
@@ -92,9 +94,20 @@ void askToWithdraw(Stage& stage, std::int64_t filmId) {
         .weight = Button::Weight::destructive}});
 }
 
+std::string nameOf(BoostKind kind) {
+  switch (kind) {
+    case BoostKind::rehearse:
+      return "REHEARSE";
+    case BoostKind::performance:
+      return "WORK ON YOUR PERFORMANCE";
+    case BoostKind::promote:
+      return "PROMOTE";
+  }
+}
+
 Button boostButton(const Boost& offered, const Audition& project) {
-  return {.label = offered.kind == BoostKind::rehearse ? "REHEARSE" : "WORK ON YOUR PERFORMANCE",
-          .press = [id = project.filmId](Stage& stage) { boost(stage, id); },
+  return {.label = nameOf(offered.kind),
+          .press = [id = project.filmId, kind = offered.kind](Stage& stage) { boost(stage, id, kind); },
           .price = energyPrice(offered.energyPrice),
           .weight = Button::Weight::primary};
 }

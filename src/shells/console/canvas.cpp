@@ -67,14 +67,8 @@ void Canvas::leader(std::string_view label, std::string_view value, Ink label_in
   nested("  ", [&] { text(value, value_ink); });
 }
 
-void Canvas::flow(const std::vector<Runs>& items, int gap) {
-  Runs row;
-  for (const Runs& item : items) {
-    if (!row.empty() && columnsOf(row) + gap + columnsOf(item) > width()) line(std::exchange(row, {}));
-    if (!row.empty()) row.push_back({repeated(" ", gap)});
-    row.insert(row.end(), item.begin(), item.end());
-  }
-  if (!row.empty()) line(std::move(row));
+void Canvas::flow(const std::vector<Runs>& items) {
+  for (Runs& row : rowsOf(items, flowGap, width())) line(std::move(row));
 }
 
 void Canvas::grid(const std::vector<std::vector<Run>>& stacks, int narrowest) {

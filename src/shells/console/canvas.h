@@ -18,6 +18,9 @@ struct Surface {
   bool blocks = false;  // draws with block and line characters too, else with ASCII alone
 };
 
+// Columns between things that stand side by side.
+inline constexpr int flowGap = 3;
+
 class Canvas {
  public:
   explicit Canvas(const Surface& surface)
@@ -38,7 +41,7 @@ class Canvas {
               std::string margin = "");
 
   // Things that stand side by side, on as many lines as they need.
-  void flow(const std::vector<Runs>& items, int gap = 3);
+  void flow(const std::vector<Runs>& items);
 
   // Columns of equal width, each a small stack of lines.
   void grid(const std::vector<std::vector<Run>>& stacks, int narrowest);

@@ -18,11 +18,10 @@ namespace {
 constexpr std::string_view prompt = "> ";
 constexpr std::string_view firstHint = "Type a number and Enter. ? tells more, q leaves.";
 constexpr std::string_view help =
-    "3       uses what stands under [3]\n"
-    "3 Ada   fills the field [3], or sets the slider [3]: 3 25\n"
-    "Enter   shows the page again, and the rest of a long one\n"
-    "b       goes back        ?  shows this        q  leaves; everything is saved\n"
-    "[-] is off, and the line below it tells why.";
+    "Type 3 to use what stands under [3]. A field takes 3 and its text, a slider 3 and a number.\n"
+    "Enter alone shows the page again, and the rest of a long one.\n"
+    "b goes back, q leaves; all that you did is saved.\n"
+    "What has [-] before it is off, and the line below it tells why.";
 constexpr std::string_view clearWord = "-";
 constexpr double repaintEvery = 1;  // seconds, while a countdown runs in a window
 constexpr int fewestScrolled = 3;   // lines that a window shows of a long page, however low it is
@@ -59,12 +58,18 @@ std::string joined(std::span<const Line> lines, bool colours) {
   return text;
 }
 
+// Tells whether what is scrolled is still the same: a new page, tab or dialog starts at its top.
+std::string scrolledPlace(const view::Page& page, bool dialog_alone) {
+  if (dialog_alone) return page.dialog.front().title;
+  const auto tab = std::ranges::find(page.tabs, true, &view::Tab::current);
+  return tab == page.tabs.end() ? page.title : page.title + "\n" + tab->label;
+}
+
 std::vector<Line> flushLines(std::string_view text, int columns) {
+  if (text.empty()) return {};
   std::vector<Line> lines;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = std::min(text.find('\n', at), text.size());
-    lines.push_back({.runs = {{fitted(text.substr(at, end - at), columns), Ink::quiet}}, .flush = true});
-    at = end + 1;
+  for (std::string& part : wrapped(text, columns)) {
+    lines.push_back({.runs = {{std::move(part), Ink::quiet}}, .flush = true});
   }
   return lines;
 }
@@ -253,8 +258,7 @@ std::string Console::window(const ConsolePort::Shape& shape) {
   const bool over = dialog > 0 && !dialog_alone;
   const std::vector<Line>& scrolled = dialog > 0 && dialog_alone ? page_.dialog : page_.body;
 
-  const view::Page& page = app_.view();
-  const std::string& place = dialog > 0 && dialog_alone ? page.dialog.front().title : page.title;
+  const std::string place = scrolledPlace(app_.view(), dialog > 0 && dialog_alone);
   if (std::exchange(place_, place) != place) first_ = 0;
   length_ = scrolled.size();
   shown_ = static_cast<std::size_t>(over ? room - dialog - 1 : room);

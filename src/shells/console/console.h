@@ -75,7 +75,7 @@ class Console {
   ConsolePort& port_;
   PaintedPage page_;
   std::string hint_;       // one line about the last thing typed, until the next
-  std::string place_;      // the title of the page, or of the dialog, that is scrolled
+  std::string place_;      // what is scrolled: the page and its tab, or the dialog
   std::size_t first_ = 0;  // the first line in view of a page longer than the window
   std::size_t shown_ = 0;  // lines of it that the window shows
   std::size_t length_ = 0;

@@ -93,6 +93,19 @@ int columnsOf(const Runs& runs) {
   return columns;
 }
 
+std::vector<Runs> rowsOf(const std::vector<Runs>& items, int gap, int width) {
+  std::vector<Runs> rows;
+  for (const Runs& item : items) {
+    if (rows.empty() || columnsOf(rows.back()) + gap + columnsOf(item) > width) {
+      rows.push_back(item);
+    } else {
+      rows.back().push_back({repeated(" ", gap)});
+      rows.back().insert(rows.back().end(), item.begin(), item.end());
+    }
+  }
+  return rows;
+}
+
 std::string repeated(std::string_view text, int count) {
   std::string all;
   for (int done = 0; done < count; ++done) all += text;

@@ -41,6 +41,10 @@ using Runs = std::vector<Run>;
 
 [[nodiscard]] int columnsOf(const Runs& runs);
 
+// Things that stand side by side, `gap` columns apart, on as few rows of at most `width` columns as they
+// need. A thing that is wider has a row of its own.
+[[nodiscard]] std::vector<Runs> rowsOf(const std::vector<Runs>& items, int gap, int width);
+
 // The text `count` times over.
 [[nodiscard]] std::string repeated(std::string_view text, int count);
 

@@ -1,12 +1,12 @@
 #include "shells/console/node_painter.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <format>
 #include <type_traits>
 #include <utility>
 
+#include "core/text.h"
 #include "shells/console/chart.h"
 #include "shells/console/text.h"
 
@@ -16,7 +16,6 @@ using namespace view;
 
 namespace {
 
-constexpr std::string_view offMark = "[-]";
 constexpr int narrowestTile = 16;
 constexpr int gaugeLabelWidth = 18;
 constexpr int gaugeWidth = 24;
@@ -46,20 +45,6 @@ Ink inkOf(Band band) {
 
 Band bandOf(double score) {
   return score < 25 ? Band::poor : score < 50 ? Band::fair : score < 80 ? Band::good : Band::great;
-}
-
-Ink inkOf(Button::Weight weight) {
-  switch (weight) {
-    case Button::Weight::normal:
-      return Ink::plain;
-    case Button::Weight::primary:
-      return Ink::strong;
-    case Button::Weight::quiet:
-      return Ink::quiet;
-    case Button::Weight::destructive:
-      return Ink::warning;
-  }
-  std::unreachable();
 }
 
 std::string_view nameOf(PictureKind kind) {
@@ -111,39 +96,6 @@ std::string clock(double seconds) {
 }
 
 }  // namespace
-
-std::string Targets::add(Handle handle, Target target) {
-  if (handle == 0) return "";
-  all.insert_or_assign(handle, std::move(target));
-  return std::format("[{}]", handle);
-}
-
-Runs tabRuns(Targets& targets, const Tab& tab) {
-  const std::string mark = targets.add(tab.handle, {.label = tab.label});
-  Runs runs;
-  if (!mark.empty()) runs.push_back({mark + " ", Ink::accent});
-  const std::string words = tab.icon.empty() ? tab.label : tab.icon + " " + tab.label;
-  runs.push_back(tab.current ? Run{"<" + words + ">", Ink::strong} : Run{words});
-  return runs;
-}
-
-Runs buttonRuns(Targets& targets, const Button& button) {
-  const std::string mark =
-      button.offReason.empty() ? targets.add(button.handle, {.label = button.label}) : std::string(offMark);
-  Runs runs;
-  if (!mark.empty()) runs.push_back({mark + " ", Ink::accent});
-  runs.push_back({button.label, button.offReason.empty() ? inkOf(button.weight) : Ink::quiet});
-  if (!button.price.empty()) runs.push_back({" " + button.price, Ink::strong});
-  if (!button.offReason.empty()) runs.push_back({" (" + button.offReason + ")", Ink::quiet});
-  return runs;
-}
-
-void drawButton(Canvas& canvas, Targets& targets, const Button& button) {
-  const bool off = !button.offReason.empty();
-  const std::string mark = off ? std::string(offMark) : targets.add(button.handle, {.label = button.label});
-  canvas.leader(button.label, button.price, off ? Ink::quiet : inkOf(button.weight), Ink::strong, mark);
-  if (off) canvas.nested("  ", [&] { canvas.text(button.offReason, Ink::quiet); });
-}
 
 void NodePainter::draw(const Node& node) {
   std::visit(
@@ -283,15 +235,24 @@ void NodePainter::kind(const Button& button) { drawButton(canvas_, targets_, but
 // Side by side on one line, else each on its own.
 void NodePainter::kind(const Buttons& buttons) {
   std::vector<Runs> items;
-  int columns = 0;
   bool off = false;
   for (const Button& button : buttons.buttons) {
     items.push_back(buttonRuns(targets_, button));
-    columns += columnsOf(items.back()) + 3;
     off = off || !button.offReason.empty();
   }
-  if (!off && columns - 3 <= canvas_.width()) return canvas_.flow(items);
-  for (const Button& button : buttons.buttons) drawButton(canvas_, targets_, button);
+  std::vector<Runs> rows = rowsOf(items, flowGap, canvas_.width());
+  if (off || rows.size() > 1) {
+    for (const Button& button : buttons.buttons) drawButton(canvas_, targets_, button);
+  } else if (rows.size() == 1) {
+    Runs& row = rows.front();
+    std::string margin;
+    if (buttons.buttons.front().handle != 0) {
+      // The first number hangs where all numbers hang.
+      margin = trimmed(row.front().text);
+      row.erase(row.begin());
+    }
+    canvas_.line(std::move(row), std::move(margin));
+  }
 }
 
 void NodePainter::kind(const Row& row) {
@@ -325,11 +286,9 @@ void NodePainter::kind(const Slider& slider) {
       targets_.add(slider.handle, {.kind = Target::Kind::slider, .label = slider.label, .range = range});
   gauge(slider.label, shareOf(slider.value - slider.minimum, slider.maximum - slider.minimum), slider.text,
         Ink::accent, mark);
-  std::string how = range;
-  if (slider.step != 1 && slider.step > 0) how += std::format(" in steps of {}", number(slider.step));
-  if (slider.handle != 0)
-    how +=
-        std::format("; type \"{} {}\" for {}", slider.handle, number(slider.maximum), number(slider.maximum));
+  std::string how =
+      slider.handle == 0 ? range : std::format("type {} and a number: {}", slider.handle, range);
+  if (slider.step != 1 && slider.step > 0) how += std::format(", in steps of {}", number(slider.step));
   canvas_.nested("  ", [&] { canvas_.text(how, Ink::quiet); });
 }
 

@@ -2,30 +2,14 @@
 
 // How each kind of node looks as text.
 
-#include <map>
 #include <string>
+#include <vector>
 
 #include "screens/view.h"
 #include "shells/console/canvas.h"
-#include "shells/console/painter.h"
+#include "shells/console/targets.h"
 
 namespace tb::console {
-
-// Collects what stands under each number while the page is drawn, so that what the player can use is just
-// what the player sees.
-struct Targets {
-  std::map<view::Handle, Target> all;
-
-  // The mark of the number, "[3]"; empty for handle 0.
-  std::string add(view::Handle handle, Target target);
-};
-
-// A tab or an icon, and a button, as part of a line.
-[[nodiscard]] Runs tabRuns(Targets& targets, const view::Tab& tab);
-[[nodiscard]] Runs buttonRuns(Targets& targets, const view::Button& button);
-
-// A button on a line of its own, with the reason below it when it is off.
-void drawButton(Canvas& canvas, Targets& targets, const view::Button& button);
 
 class NodePainter {
  public:

@@ -12,31 +12,35 @@ namespace {
 
 using namespace view;
 
-// Lines of one page edge: the words at the left, what can be used at the right where there is room.
+constexpr int wayGap = 2;  // columns between the icons
+
+// The title at the left; the icons and the way back at the right, below it where they find no room beside it.
 void drawTitle(Canvas& canvas, Targets& targets, const Page& page) {
-  std::vector<Runs> right;
-  for (const Tab& icon : page.icons) right.push_back(tabRuns(targets, icon));
-  for (const Button& close : page.close) right.push_back(buttonRuns(targets, close));
-  Runs ways;
-  for (const Runs& way : right) {
-    if (!ways.empty()) ways.push_back({"  "});
-    ways.insert(ways.end(), way.begin(), way.end());
-  }
+  std::vector<Runs> ways;
+  for (const Tab& icon : page.icons) ways.push_back(tabRuns(targets, icon));
+  for (const Button& close : page.close) ways.push_back(buttonRuns(targets, close));
+  const std::vector<Runs> rows = rowsOf(ways, wayGap, canvas.columns());
 
   const std::string title = fitted(page.title, canvas.columns());
-  const int between = canvas.columns() - columnsOf(title) - columnsOf(ways);
+  const bool beside =
+      rows.size() == 1 && columnsOf(title) + wayGap + columnsOf(rows.front()) <= canvas.columns();
   Runs line{{title, Ink::strong}};
-  if (between < 2) canvas.flush(std::exchange(line, {}));
-  line.push_back({repeated(" ", line.empty() ? canvas.columns() - columnsOf(ways) : between)});
-  line.insert(line.end(), ways.begin(), ways.end());
-  if (!ways.empty() || between >= 2) canvas.flush(std::move(line));
+  if (!beside) canvas.flush(std::exchange(line, {}));
+  for (const Runs& row : rows) {
+    line.push_back({repeated(" ", canvas.columns() - columnsOf(line) - columnsOf(row))});
+    line.insert(line.end(), row.begin(), row.end());
+    canvas.flush(std::exchange(line, {}));
+  }
 }
 
 std::vector<Line> head(const Page& page, const Surface& surface, Targets& targets) {
   Canvas canvas(surface);
   drawTitle(canvas, targets, page);
   if (!page.subtitle.empty()) {
-    for (std::string& part : wrapped(page.subtitle, surface.columns))
+    // A date on two lines is for a page that has the room.
+    std::string subtitle = page.subtitle;
+    std::ranges::replace(subtitle, '\n', ' ');
+    for (std::string& part : wrapped(subtitle, surface.columns))
       canvas.flush({{std::move(part), Ink::quiet}});
   }
   canvas.rule();
@@ -57,31 +61,18 @@ std::vector<Line> dialog(const Dialog& asked, const Surface& surface, Targets& t
 
 // The tabs on one line; where their icons leave no room for that, without them.
 std::vector<Line> foot(const Page& page, const Surface& surface, Targets& targets) {
-  if (page.tabs.empty()) return {};
-  constexpr int gap = 3;
-  const auto runsOf = [&](bool with_icons) {
+  const auto rowsWith = [&](bool icons) {
     std::vector<Runs> items;
     for (Tab tab : page.tabs) {
-      if (!with_icons) tab.icon.clear();
+      if (!icons) tab.icon.clear();
       items.push_back(tabRuns(targets, tab));
     }
-    return items;
+    return rowsOf(items, flowGap, surface.columns);
   };
-  std::vector<Runs> items = runsOf(true);
-  int columns = -gap;
-  for (const Runs& item : items) columns += gap + columnsOf(item);
-  if (columns > surface.columns) items = runsOf(false);
-
+  std::vector<Runs> rows = rowsWith(true);
+  if (rows.size() > 1) rows = rowsWith(false);
   Canvas canvas(surface);
-  Runs row;
-  for (const Runs& item : items) {
-    if (!row.empty() && columnsOf(row) + gap + columnsOf(item) > surface.columns) {
-      canvas.flush(std::exchange(row, {}));
-    }
-    if (!row.empty()) row.push_back({repeated(" ", gap)});
-    row.insert(row.end(), item.begin(), item.end());
-  }
-  canvas.flush(std::move(row));
+  for (Runs& row : rows) canvas.flush(std::move(row));
   return canvas.take();
 }
 

@@ -3,26 +3,14 @@
 // A laid-out page as lines of text. What can be used has its number before it; the numbers are the handles.
 
 #include <map>
-#include <string>
 #include <vector>
 
 #include "screens/view.h"
 #include "shells/console/canvas.h"
 #include "shells/console/line.h"
+#include "shells/console/targets.h"
 
 namespace tb::console {
-
-// What stands under a number, as far as the player's hand is concerned.
-struct Target {
-  enum class Kind : std::uint8_t { button, field, slider };
-  Kind kind = Kind::button;
-  std::string label;
-  std::string value;          // of a field, as it is now
-  std::string range;          // of a slider, such as "18 to 60"
-  int maximumLength = 0;      // of a field, in characters
-  bool severalLines = false;  // of a field
-  bool operator==(const Target&) const = default;
-};
 
 struct PaintedPage {
   std::vector<Line> head;  // the title, the icons and the way back

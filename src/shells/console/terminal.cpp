@@ -27,8 +27,10 @@ constexpr std::size_t longestLine = 4096;  // bytes; the rest of a longer one is
 
 constexpr std::string_view clearWindow = "\x1b[2J";
 constexpr std::string_view toTheTop = "\x1b[H";
-constexpr std::string_view clearToLineEnd = "\x1b[K\n";
+constexpr std::string_view clearLine = "\x1b[2K";
 constexpr std::string_view clearBelow = "\x1b[J";
+constexpr std::string_view cutLongLines = "\x1b[?7l";
+constexpr std::string_view breakLongLines = "\x1b[?7h";
 
 constexpr char endOfInput = 0x04;  // Ctrl-D
 constexpr char backspace = 0x08;
@@ -119,14 +121,15 @@ void Terminal::show(std::string_view page) {
   // Written over line by line: a window that is cleared first flickers.
   std::string bytes(std::exchange(painted_, true) ? "" : clearWindow);
   bytes += toTheTop;
+  bytes += cutLongLines;
+  bytes += clearLine;
   for (const char byte : page) {
-    if (byte == '\n') {
-      bytes += clearToLineEnd;
-    } else {
-      bytes += byte;
-    }
+    bytes += byte;
+    if (byte == '\n') bytes += clearLine;
   }
-  write(bytes + std::string(clearBelow));
+  bytes += clearBelow;
+  bytes += breakLongLines;
+  write(bytes);
 }
 
 void Terminal::write(std::string_view bytes) {

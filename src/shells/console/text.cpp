@@ -13,6 +13,7 @@ namespace {
 constexpr char32_t replacement = 0xFFFD;
 constexpr char32_t escape = 0x1B;
 constexpr char32_t joiner = 0x200D;
+constexpr char32_t emojiSelector = 0xFE0F;
 
 struct CodePoint {
   char32_t value;
@@ -79,7 +80,7 @@ bool turnsDirection(char32_t value) {
   return (value >= 0x202A && value <= 0x202E) || (value >= 0x2066 && value <= 0x2069);
 }
 
-int columnsOf(char32_t value) {
+int columnsOfCharacter(char32_t value) {
   if (isControl(value) || isIn(unseen, value)) return 0;
   return isIn(wide, value) ? 2 : 1;
 }
@@ -133,9 +134,8 @@ void wrapParagraph(std::string_view text, int width, std::vector<std::string>& l
       lines.push_back(std::move(line));
       line.clear();
     }
-    while (columnsOf(word) > width) {
-      const std::string_view start = startWithin(word, width);
-      if (start.size() == word.size()) break;
+    for (std::string_view start = startWithin(word, width); start.size() < word.size();
+         start = startWithin(word, width)) {
       lines.emplace_back(start);
       word.remove_prefix(start.size());
     }
@@ -150,9 +150,15 @@ void wrapParagraph(std::string_view text, int width, std::vector<std::string>& l
 
 int columnsOf(std::string_view text) {
   int columns = 0;
+  int last = 0;
   for (std::size_t at = 0; at < text.size();) {
     const CodePoint point = codePointAt(text, at);
-    columns += columnsOf(point.value);
+    // Asked to draw a narrow character as an emoji, some terminals take two columns and others one. Counting
+    // two, a line is never longer than the window.
+    const bool widened = point.value == emojiSelector && last == 1;
+    const int own = widened ? 1 : columnsOfCharacter(point.value);
+    columns += own;
+    if (own > 0) last = own;
     at += point.length;
   }
   return columns;

@@ -10,7 +10,7 @@
 namespace tb::console {
 
 // The columns that a text takes on one line: two for emoji and wide East Asian characters, none for
-// combining marks, variation selectors and control characters.
+// combining marks, joiners and control characters. Where terminals differ, the most that one takes.
 [[nodiscard]] int columnsOf(std::string_view text);
 
 // The text without control characters and escape sequences, without marks that turn the direction of

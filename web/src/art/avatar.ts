@@ -1,5 +1,5 @@
-// Faces: the personas of Draftbit. Every trait is chosen here from the name and passed on, so that all moods are ones
-// that a headshot may have. A name with "man", "woman" or the like in it gives a face to match.
+// Faces: the personas of Draftbit. Every trait is chosen here from the name and passed on, so that all moods
+// are ones that a headshot may have. A name with "man", "woman" or the like in it gives a face to match.
 
 import { createAvatar } from "@dicebear/core";
 import * as personas from "@dicebear/personas";
@@ -7,7 +7,17 @@ import * as personas from "@dicebear/personas";
 import { Chance } from "./random";
 import { element, mix } from "./svg";
 
-const longHair = ["long", "bobCut", "curly", "pigtails", "curlyBun", "bobBangs", "straightBun", "extraLong", "sideShave"] as const;
+const longHair = [
+  "long",
+  "bobCut",
+  "curly",
+  "pigtails",
+  "curlyBun",
+  "bobBangs",
+  "straightBun",
+  "extraLong",
+  "sideShave",
+] as const;
 const shortHair = [
   "shortCombover",
   "curlyHighTop",
@@ -26,10 +36,52 @@ const paintedMouths = [...mouths, "lips"] as const;
 const beards = ["beardMustache", "goatee", "shadow", "shadow", "soulPatch", "walrus"] as const;
 const noses = ["mediumRound", "smallRound"] as const;
 const bodies = ["squared", "rounded", "small", "checkered"] as const;
-const hairColours = ["1f1a1c", "2f2226", "46302a", "6b4530", "8d5b34", "b98045", "d9b06a", "a33b2a", "8e8b90", "5b2a3c"];
-const skinColours = ["623d36", "8a5a44", "92594b", "b16a5b", "c98a6b", "d78774", "e5a07e", "e7a391", "eeb4a4"];
-const clothes = ["456dff", "3ba99c", "7555ca", "4f9a49", "d23f4f", "e0a22f", "d94f77", "2d3446", "f2f0ea", "8c2f53"];
-const backdrops = ["#f6c667", "#f2a07b", "#e58ba0", "#b79be6", "#8fb6ee", "#7fcfc0", "#a9d08a", "#e9d8b4", "#c9b3bc"];
+const hairColours = [
+  "1f1a1c",
+  "2f2226",
+  "46302a",
+  "6b4530",
+  "8d5b34",
+  "b98045",
+  "d9b06a",
+  "a33b2a",
+  "8e8b90",
+  "5b2a3c",
+];
+const skinColours = [
+  "623d36",
+  "8a5a44",
+  "92594b",
+  "b16a5b",
+  "c98a6b",
+  "d78774",
+  "e5a07e",
+  "e7a391",
+  "eeb4a4",
+];
+const clothes = [
+  "456dff",
+  "3ba99c",
+  "7555ca",
+  "4f9a49",
+  "d23f4f",
+  "e0a22f",
+  "d94f77",
+  "2d3446",
+  "f2f0ea",
+  "8c2f53",
+];
+const backdrops = [
+  "#f6c667",
+  "#f2a07b",
+  "#e58ba0",
+  "#b79be6",
+  "#8fb6ee",
+  "#7fcfc0",
+  "#a9d08a",
+  "#e9d8b4",
+  "#c9b3bc",
+];
 
 const isFemale = /(^|[^a-z])(woman|women|female|girl|lady|sw|daughter|she)([^a-z]|$)/iu;
 const isMale = /(^|[^a-z])(man|men|male|boy|sm|son|he)([^a-z]|$)/iu;
@@ -57,8 +109,9 @@ export function avatar(name: string): string {
   return withBackdrop(withoutStyles(face), backdrop);
 }
 
-// The page's policy allows no style in markup: what has an attribute becomes one, the rest is a class of ours. The
-// light on the face is a third of what it was: on skin that is less pink than the original's it looks like chalk.
+// The page's policy allows no style in markup: what has an attribute becomes one, the rest is a class of
+// ours. The light on the face is a third of what it was: on skin that is less pink than the original's it
+// looks like chalk.
 function withoutStyles(svg: string): string {
   return svg
     .replace(/style="mask-type:(\w+)"/gu, 'mask-type="$1"')

@@ -1,5 +1,5 @@
-// An alphabet of our own, drawn by the pen: each letter is the way of the pen's point, so that one alphabet gives
-// thin, heavy, round and inlined letters that look the same on every system.
+// An alphabet of our own, drawn by the pen: each letter is the way of the pen's point, so that one alphabet
+// gives thin, heavy, round and inlined letters that look the same on every system.
 
 import { element, group, n } from "./svg";
 import type { Attributes } from "./svg";
@@ -106,7 +106,9 @@ function placed(command: string, narrow: number, right: number): string {
   const letter = command.charAt(0);
   const figures = (command.slice(1).match(/-?(?:\d+\.?\d*|\.\d+)/gu) ?? []).map(Number);
   const isAcross = (index: number): boolean => letter === "H" || (letter !== "V" && index % 2 === 0);
-  return letter + figures.map((figure, index) => n(isAcross(index) ? figure * narrow + right : figure)).join(" ");
+  return (
+    letter + figures.map((figure, index) => n(isAcross(index) ? figure * narrow + right : figure)).join(" ")
+  );
 }
 
 // One line of drawable letters, its top left at 0, 0 and 10 high.
@@ -173,10 +175,19 @@ function setIn(box: Box, words: readonly string[], hand: Hand): Setting {
   return best;
 }
 
-// The text as large as the box allows, centred in it; at its foot where `atFoot` says so. Letters that the alphabet
-// does not have are left to the system's own face.
-export function lettering(text: string, box: Box, hand: Hand, ink: string, ground: string, atFoot = false): string {
-  const words = drawable(text).split(" ").filter((word) => word !== "");
+// The text as large as the box allows, centred in it; at its foot where `atFoot` says so. Letters that the
+// alphabet does not have are left to the system's own face.
+export function lettering(
+  text: string,
+  box: Box,
+  hand: Hand,
+  ink: string,
+  ground: string,
+  atFoot = false,
+): string {
+  const words = drawable(text)
+    .split(" ")
+    .filter((word) => word !== "");
   if (words.length === 0) return systemLettering(text, box, ink);
   const { rows, size } = setIn(box, words, hand);
   const scale = size / 10;

@@ -1,7 +1,8 @@
-// What a picture's name says about it. Names are files or titles: "imbdPearTv.png", "lake_house-3", "Night Train".
+// What a picture's name says about it. Names are files or titles: "imbdPearTv.png", "lake_house-3", "Night
+// Train".
 
-// The words of a name, without ending, numbers and the prefix that files of one kind share: where some words of one
-// piece start with a capital, only these count.
+// The words of a name, without ending, numbers and the prefix that files of one kind share: where some words
+// of one piece start with a capital, only these count.
 export function wordsOf(name: string): string[] {
   const stem = name.replace(/\.\w{2,5}$/u, "");
   const words = stem
@@ -19,6 +20,9 @@ export function isTitle(name: string): boolean {
 }
 
 // The first of the `kinds` whose words the name speaks of.
-export function kindIn<Kind extends string>(name: string, kinds: Readonly<Record<Kind, RegExp>>): Kind | undefined {
+export function kindIn<Kind extends string>(
+  name: string,
+  kinds: Readonly<Record<Kind, RegExp>>,
+): Kind | undefined {
   return (Object.keys(kinds) as Kind[]).find((kind) => kinds[kind].test(name));
 }

@@ -1,4 +1,5 @@
-// A film's poster: a scene or a sign in five colours, the title in letters of its own, and the small print at the foot.
+// A film's poster: a scene or a sign in five colours, the title in letters of its own, and the small print at
+// the foot.
 
 import { hands, lettering } from "./lettering";
 import type { Box, Hand } from "./lettering";

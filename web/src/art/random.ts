@@ -6,7 +6,8 @@ export class Chance {
   constructor(name: string) {
     // FNV-1a over the UTF-16 units, then a few steps so that names of one letter's difference part.
     let hash = 0x811c9dc5;
-    for (let index = 0; index < name.length; ++index) hash = Math.imul(hash ^ name.charCodeAt(index), 0x01000193);
+    for (let index = 0; index < name.length; ++index)
+      hash = Math.imul(hash ^ name.charCodeAt(index), 0x01000193);
     this.state = hash;
     for (let step = 0; step < 4; ++step) this.unit();
   }

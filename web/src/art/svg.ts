@@ -14,24 +14,40 @@ function attributesOf(attributes: Attributes): string {
 }
 
 export function element(name: string, attributes: Attributes, content = ""): string {
-  return content === "" ? `<${name}${attributesOf(attributes)}/>` : `<${name}${attributesOf(attributes)}>${content}</${name}>`;
+  return content === ""
+    ? `<${name}${attributesOf(attributes)}/>`
+    : `<${name}${attributesOf(attributes)}>${content}</${name}>`;
 }
 
-export const path = (d: string, fill: string, more: Attributes = {}): string => element("path", { d, fill, ...more });
+export const path = (d: string, fill: string, more: Attributes = {}): string =>
+  element("path", { d, fill, ...more });
 
 export const stroke = (d: string, colour: string, width: number, more: Attributes = {}): string =>
   element("path", { d, fill: "none", stroke: colour, "stroke-width": width, ...more });
 
-export const rect = (x: number, y: number, width: number, height: number, fill: string, more: Attributes = {}): string =>
-  element("rect", { x, y, width, height, fill, ...more });
+export const rect = (
+  x: number,
+  y: number,
+  width: number,
+  height: number,
+  fill: string,
+  more: Attributes = {},
+): string => element("rect", { x, y, width, height, fill, ...more });
 
 export const circle = (cx: number, cy: number, r: number, fill: string, more: Attributes = {}): string =>
   element("circle", { cx, cy, r, fill, ...more });
 
-export const ellipse = (cx: number, cy: number, rx: number, ry: number, fill: string, more: Attributes = {}): string =>
-  element("ellipse", { cx, cy, rx, ry, fill, ...more });
+export const ellipse = (
+  cx: number,
+  cy: number,
+  rx: number,
+  ry: number,
+  fill: string,
+  more: Attributes = {},
+): string => element("ellipse", { cx, cy, rx, ry, fill, ...more });
 
-export const group = (content: string, attributes: Attributes = {}): string => element("g", attributes, content);
+export const group = (content: string, attributes: Attributes = {}): string =>
+  element("g", attributes, content);
 
 export const moved = (x: number, y: number, content: string): string =>
   group(content, { transform: `translate(${n(x)} ${n(y)})` });
@@ -50,12 +66,21 @@ export const polygon = (points: readonly (readonly [number, number])[]): string 
   `M${points.map(([x, y]) => `${n(x)} ${n(y)}`).join("L")}Z`;
 
 // A gradient downwards, and the paint that uses it. `id` has to be the same for the same colours.
-export function fall(id: string, colours: readonly string[], across = false): { readonly defs: string; readonly paint: string } {
+export function fall(
+  id: string,
+  colours: readonly string[],
+  across = false,
+): { readonly defs: string; readonly paint: string } {
   const stops = colours
-    .map((colour, index) => element("stop", { offset: index / Math.max(colours.length - 1, 1), "stop-color": colour }))
+    .map((colour, index) =>
+      element("stop", { offset: index / Math.max(colours.length - 1, 1), "stop-color": colour }),
+    )
     .join("");
   const direction = across ? { x1: 0, y1: 0, x2: 1, y2: 1 } : { x1: 0, y1: 0, x2: 0, y2: 1 };
-  return { defs: element("defs", {}, element("linearGradient", { id, ...direction }, stops)), paint: `url(#${id})` };
+  return {
+    defs: element("defs", {}, element("linearGradient", { id, ...direction }, stops)),
+    paint: `url(#${id})`,
+  };
 }
 
 export function picture(width: number, height: number, content: string): string {

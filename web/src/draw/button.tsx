@@ -1,4 +1,5 @@
-// Buttons. One with a price is a ticket: the price stands on the stub. One that is off stays in reach and says why.
+// Buttons. One with a price is a ticket: the price stands on the stub. One that is off stays in reach and
+// says why.
 
 import { useId } from "preact/hooks";
 

@@ -1,5 +1,5 @@
-// A ticket: what it is for on top, the rest under the tear. A card that can be pressed is pressed anywhere on it;
-// for the keyboard and the screen reader its title is the button.
+// A ticket: what it is for on top, the rest under the tear. A card that can be pressed is pressed anywhere on
+// it; for the keyboard and the screen reader its title is the button.
 
 import type { ComponentChildren } from "preact";
 

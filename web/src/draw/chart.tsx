@@ -1,5 +1,6 @@
-// Charts. The plot is one picture with the summary for its name. Over it lies a slider without looks: with it the
-// arrow keys, a finger or the mouse go from point to point, and the line over the plot says what stands there.
+// Charts. The plot is one picture with the summary for its name. Over it lies a slider without looks: with it
+// the arrow keys, a finger or the mouse go from point to point, and the line over the plot says what stands
+// there.
 
 import { useId, useState } from "preact/hooks";
 
@@ -72,13 +73,28 @@ function Plotted(chart: View.Chart) {
   );
 }
 
-function Marks({ chart, plot, shown }: { readonly chart: View.Chart; readonly plot: Plot; readonly shown: number }) {
+function Marks({
+  chart,
+  plot,
+  shown,
+}: {
+  readonly chart: View.Chart;
+  readonly plot: Plot;
+  readonly shown: number;
+}) {
   const shade = useId();
   const { kind, points, scale, summary } = chart;
   return (
     <svg class="chart-marks" viewBox="0 0 100 100" preserveAspectRatio="none" role="img" aria-label={summary}>
       {scale.map((tick) => (
-        <line key={tick.value} class="chart-grid" x1="0" x2="100" y1={100 - plot.up(tick.value)} y2={100 - plot.up(tick.value)} />
+        <line
+          key={tick.value}
+          class="chart-grid"
+          x1="0"
+          x2="100"
+          y1={100 - plot.up(tick.value)}
+          y2={100 - plot.up(tick.value)}
+        />
       ))}
       {kind === "line" && (
         <>
@@ -138,7 +154,11 @@ function Scrub({ chart: { kind, title, points }, shown, ask }: ScrubProps) {
     if (event.pointerType !== "mouse") return;
     const box = (event.currentTarget as Element).getBoundingClientRect();
     const share = Math.min(Math.max((event.clientX - box.left) / box.width, 0), 1);
-    ask(kind === "line" ? Math.round(share * (points.length - 1)) : Math.min(Math.floor(share * points.length), points.length - 1));
+    ask(
+      kind === "line"
+        ? Math.round(share * (points.length - 1))
+        : Math.min(Math.floor(share * points.length), points.length - 1),
+    );
   };
   return (
     <input

@@ -1,5 +1,5 @@
-// Where the points of a chart stand, in a square of 100 by 100 with the value axis upwards. The square is stretched
-// to the plot; texts and markers are placed over it in percent.
+// Where the points of a chart stand, in a square of 100 by 100 with the value axis upwards. The square is
+// stretched to the plot; texts and markers are placed over it in percent.
 
 import { area, curveMonotoneX, line, pie, arc } from "d3-shape";
 
@@ -17,7 +17,8 @@ export interface Plot {
   readonly up: (value: number) => number; // 0 at the bottom, 100 at the top
 }
 
-const barGap: Readonly<Record<"bar" | "histogram", number>> = { bar: 0.34, histogram: 0.06 }; // of a bar's place
+// Between two bars, as a share of a bar's place.
+const barGap: Readonly<Record<"bar" | "histogram", number>> = { bar: 0.34, histogram: 0.06 };
 
 function extent(chart: Chart): [number, number] {
   const values = [...chart.points.map((point) => point.value), ...chart.scale.map((tick) => tick.value)];
@@ -42,12 +43,19 @@ export function plotOf(chart: Chart): Plot {
 const round = (figure: number): number => Math.round(figure * 100) / 100;
 
 export function linePath(points: readonly ChartPoint[], plot: Plot): string {
-  const shape = line<ChartPoint>((_, index) => round(plot.across(index)), (point) => round(100 - plot.up(point.value)));
+  const shape = line<ChartPoint>(
+    (_, index) => round(plot.across(index)),
+    (point) => round(100 - plot.up(point.value)),
+  );
   return shape.curve(curveMonotoneX)([...points]) ?? "";
 }
 
 export function areaPath(points: readonly ChartPoint[], plot: Plot): string {
-  const shape = area<ChartPoint>((_, index) => round(plot.across(index)), 100, (point) => round(100 - plot.up(point.value)));
+  const shape = area<ChartPoint>(
+    (_, index) => round(plot.across(index)),
+    100,
+    (point) => round(100 - plot.up(point.value)),
+  );
   return shape.curve(curveMonotoneX)([...points]) ?? "";
 }
 
@@ -69,6 +77,8 @@ export function bars(kind: "bar" | "histogram", points: readonly ChartPoint[], p
 // One path a point, in a square of 100 around the middle; empty for a point without a share.
 export function slices(points: readonly ChartPoint[]): string[] {
   const shape = arc<{ startAngle: number; endAngle: number }>().innerRadius(27).outerRadius(49);
-  const shares = pie<ChartPoint>().sort(null).value((point) => Math.max(point.value, 0))([...points]);
+  const shares = pie<ChartPoint>()
+    .sort(null)
+    .value((point) => Math.max(point.value, 0))([...points]);
   return shares.map((share) => (share.endAngle > share.startAngle ? (shape(share) ?? "") : ""));
 }

@@ -10,8 +10,8 @@ export interface Parts {
   readonly isNarrow: boolean; // nothing on it uses a wide screen
 }
 
-// How high a node stands, roughly, in rows of text. Nodes are never measured, so a page keeps its columns while
-// figures change.
+// How high a node stands, roughly, in rows of text. Nodes are never measured, so a page keeps its columns
+// while figures change.
 function heightOf(node: Node): number {
   switch (node.kind) {
     case "section":
@@ -38,9 +38,16 @@ function heightOf(node: Node): number {
 
 const heightOfAll = (nodes: readonly Node[]): number => nodes.reduce((sum, node) => sum + heightOf(node), 0);
 
-const isAction = (node: Node | undefined): boolean =>
-  (node?.kind === "button" && node.content.weight === "primary") ||
-  (node?.kind === "buttons" && node.content.buttons.some((button) => button.weight === "primary"));
+// What the page is for: the one primary button that stands outside its sections, wherever it stands there. Of
+// several none is the one.
+const isMain = (node: Node): boolean =>
+  (node.kind === "button" && node.content.weight === "primary") ||
+  (node.kind === "buttons" && node.content.buttons.some((button) => button.weight === "primary"));
+
+function actionOf(nodes: readonly Node[]): readonly Node[] {
+  const main = nodes.filter(isMain);
+  return main.length === 1 ? main : [];
+}
 
 // Where to cut the sections so that the higher of the two columns is as low as can be.
 function cutOf(sections: readonly Node[]): number {
@@ -58,7 +65,8 @@ function cutOf(sections: readonly Node[]): number {
 
 // Cards stand side by side where there is room.
 const isWide = (node: Node): boolean =>
-  node.kind === "card" || (node.kind === "listPage" && node.content.nodes.some((listed) => listed.kind === "card"));
+  node.kind === "card" ||
+  (node.kind === "listPage" && node.content.nodes.some((listed) => listed.kind === "card"));
 
 const uprights: ReadonlySet<PictureKind> = new Set(["poster", "card", "avatar", "logo", "icon"]);
 
@@ -67,8 +75,8 @@ const isFront = (first: Node | undefined, second: Node | undefined): boolean =>
   first?.kind === "picture" && uprights.has(first.content.kind) && second !== undefined;
 
 export function partsOf(nodes: readonly Node[]): Parts {
-  const action = isAction(nodes[nodes.length - 1]) ? nodes.slice(-1) : [];
-  const rest = nodes.slice(0, nodes.length - action.length);
+  const action = actionOf(nodes);
+  const rest = nodes.filter((node) => !action.includes(node));
   const first = rest.findIndex((node) => node.kind === "section");
   const sections = first < 0 ? [] : rest.slice(first);
   const hasColumns = sections.filter((node) => node.kind === "section").length >= 2;

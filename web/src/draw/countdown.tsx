@@ -19,7 +19,13 @@ export function Countdown({ label, secondsLeft, secondsInAll }: View.Countdown) 
       <svg class="countdown-ring" viewBox="0 0 100 100" aria-hidden="true">
         <circle class="countdown-track" cx="50" cy="50" r={radius} />
         {share > 0 && (
-          <circle class="countdown-left" cx="50" cy="50" r={radius} stroke-dasharray={`${share * around} ${around}`} />
+          <circle
+            class="countdown-left"
+            cx="50"
+            cy="50"
+            r={radius}
+            stroke-dasharray={`${share * around} ${around}`}
+          />
         )}
       </svg>
       <div class="countdown-words">

@@ -18,8 +18,8 @@ interface Figure {
 const scales: Readonly<Record<string, number>> = { K: 1e3, M: 1e6, B: 1e9 };
 const countingTime = 180; // milliseconds
 
-// The figure in a text such as "$1,250", "-3.5%" or "€ 1,2 Mio"; null when there is none. Three digits after a
-// separator are read as thousands: at worst one frame of the motion shows another figure, never the last.
+// The figure in a text such as "$1,250", "-3.5%" or "€ 1,2 Mio"; null when there is none. Three digits after
+// a separator are read as thousands: at worst one frame of the motion shows another figure, never the last.
 export function parseFigure(text: string): Figure | null {
   const match = /^([^\d]*)(\d[\d.,'\u2019\u00a0\u202f]*)(.*)$/su.exec(text);
   if (match === null) return null;

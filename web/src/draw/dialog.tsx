@@ -1,5 +1,5 @@
-// A message over the page, in a frame of bulbs. The browser's own modal dialog keeps the focus in it and gives it
-// back; all that is to do is to let nothing close it but an answer.
+// A message over the page, in a frame of bulbs. The browser's own modal dialog keeps the focus in it and
+// gives it back; all that is to do is to let nothing close it but an answer.
 
 import { useLayoutEffect, useRef } from "preact/hooks";
 

@@ -1,5 +1,6 @@
-// Text that the player types. It is handed over when the player is done with it: on leaving the field, on Enter,
-// or before anything else is pressed. Until then a page that is drawn again leaves text and caret alone.
+// Text that the player types. It is handed over when the player is done with it: on leaving the field, on
+// Enter, or before anything else is pressed. Until then a page that is drawn again leaves text and caret
+// alone.
 
 import { useId, useLayoutEffect, useRef } from "preact/hooks";
 

@@ -1,5 +1,5 @@
-// What tells the nodes of one run apart when they are drawn again: their kind and the words that name them.
-// A control that keeps its name keeps its element, and with it the focus, wherever it moves among its fellows.
+// What tells the nodes of one run apart when they are drawn again: their kind and the words that name them. A
+// control that keeps its name keeps its element, and with it the focus, wherever it moves among its fellows.
 
 import type { Node } from "../view_types";
 

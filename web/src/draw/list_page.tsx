@@ -15,7 +15,12 @@ export function ListPage({ nodes, position, turns }: View.ListPage) {
     if (shown.current === position) return;
     shown.current = position;
     const top = list.current;
-    if (top === null || top.getBoundingClientRect().top >= 0 || document.querySelector(":focus-visible") !== null) return;
+    if (
+      top === null ||
+      top.getBoundingClientRect().top >= 0 ||
+      document.querySelector(":focus-visible") !== null
+    )
+      return;
     top.scrollIntoView({ block: "start" });
   }, [position]);
 

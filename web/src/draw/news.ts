@@ -1,4 +1,5 @@
-// What a screen reader is told when a screen is drawn again: what is new on it, in the words that stand there.
+// What a screen reader is told when a screen is drawn again: what is new on it, in the words that stand
+// there.
 
 import type { Node, Page } from "../view_types";
 import { screenOf } from "./places";

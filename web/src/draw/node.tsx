@@ -23,7 +23,8 @@ import { Text } from "./text";
 import { Tiles } from "./tiles";
 import { Timeline, TimelineEntry } from "./timeline";
 
-// A kind that the vocabulary has and this switch has not does not compile: the function would end without a value.
+// A kind that the vocabulary has and this switch has not does not compile: the function would end without a
+// value.
 function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
   switch (node.kind) {
     case "text":

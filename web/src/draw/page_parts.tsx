@@ -48,7 +48,8 @@ export function Bar({ page }: { readonly page: View.Page }) {
   );
 }
 
-// The heading takes the focus when a screen opens, so that its name is read and the keyboard starts from its top.
+// The heading takes the focus when a screen opens, so that its name is read and the keyboard starts from its
+// top.
 export function Masthead({ title, subtitle }: Pick<View.Page, "title" | "subtitle">) {
   return (
     <div class="masthead">

@@ -1,8 +1,8 @@
 // Draws a page: the one way in for whoever holds it.
 //
-// A page is drawn over the one before. On the same screen everything keeps its place: the scroll, the focus, a text
-// that is being typed. Another screen starts at its top, with the focus on its heading; one that is come back to is
-// found where it was left.
+// A page is drawn over the one before. On the same screen everything keeps its place: the scroll, the focus,
+// a text that is being typed. Another screen starts at its top, with the focus on its heading; one that is
+// come back to is found where it was left.
 
 import { Component, createRef } from "preact";
 

@@ -13,7 +13,9 @@ export function Pie({ points, summary }: View.Chart) {
     <div class="pie">
       <svg class="pie-plot" viewBox="-50 -50 100 100" role="img" aria-label={summary}>
         <circle class="pie-empty" r="38" />
-        {slices(points).map((path, index) => path !== "" && <path key={index} class={colourOf(index)} d={path} />)}
+        {slices(points).map(
+          (path, index) => path !== "" && <path key={index} class={colourOf(index)} d={path} />,
+        )}
       </svg>
       <ul class="legend" role="list">
         {points.map((point, index) => (

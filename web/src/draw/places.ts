@@ -1,23 +1,24 @@
-// Where the player was: how far a page was scrolled and which control had the focus, kept when the page is drawn
-// again, and found again when a screen is come back to.
+// Where the player was: how far a page was scrolled and which control had the focus, kept when the page is
+// drawn again, and found again when a screen is come back to.
 
 import type { Page } from "../view_types";
 
 // A screen that nothing leads back from: the hub behind its tabs.
 export const isRoot = (page: Page): boolean => page.close.length === 0;
 
-// What tells one screen from another. Tabs may share the title of their hub, and a detail that of what it is about.
+// What tells one screen from another. Tabs may share the title of their hub, and a detail that of what it is
+// about.
 export function screenOf(page: Page): string {
   const tab = page.tabs.find((tab) => tab.current)?.label ?? "";
   return [page.title, tab, isRoot(page) ? "root" : ""].join("\n");
 }
 
-const controls = "button, input, textarea, a[href]";
+const controls = "button, input, textarea";
 
 // What a control is called, so that it is found when its element is gone.
 function nameOf(control: Element): string {
-  const label = (control as HTMLInputElement).labels?.[0];
-  return `${control.tagName} ${control.getAttribute("aria-label") ?? label?.textContent ?? control.textContent ?? ""}`;
+  const label = (control as HTMLInputElement).labels?.[0] ?? control;
+  return `${control.tagName} ${control.getAttribute("aria-label") ?? label.textContent}`;
 }
 
 function findByName(root: ParentNode, name: string): HTMLElement | undefined {
@@ -34,19 +35,21 @@ export function focusNow(root: Element): Focus | null {
   const control = document.activeElement;
   if (control === null || !root.contains(control) || control.closest("dialog") !== null) return null;
   const around: Element[] = [];
-  for (let part = control.parentElement; part !== null && part !== root; part = part.parentElement) around.push(part);
+  for (let part = control.parentElement; part !== null && part !== root; part = part.parentElement)
+    around.push(part);
   return { name: nameOf(control), around };
 }
 
-// After drawing the same screen again. A control that is gone gives the focus to the heading of its part, never to
-// another control: the next press of Enter must not do what the player did not mean.
+// After drawing the same screen again. A control that is gone gives the focus to the heading of its part,
+// never to another control: the next press of Enter must not do what the player did not mean.
 export function keepFocus(root: Element, before: Focus | null): void {
   const now = document.activeElement;
   if (now !== null && now !== document.body) return;
   const same = before === null ? undefined : findByName(root, before.name);
   if (same !== undefined) return same.focus({ preventScroll: true });
   const part = before?.around.find((candidate) => candidate.isConnected && candidate.matches(".section"));
-  const heading = part?.querySelector<HTMLElement>(".section-heading") ?? root.querySelector<HTMLElement>("h1");
+  const heading =
+    part?.querySelector<HTMLElement>(".section-heading") ?? root.querySelector<HTMLElement>("h1");
   heading?.setAttribute("tabindex", "-1");
   heading?.focus({ preventScroll: true });
 }
@@ -63,17 +66,23 @@ export class Places {
 
   // As a screen is left.
   leave(page: Page, focus: Focus | null): void {
-    this.places.set(screenOf(page), { scroll: window.scrollY, focus: focus?.name ?? "", isRoot: isRoot(page) });
+    this.places.set(screenOf(page), {
+      scroll: window.scrollY,
+      focus: focus?.name ?? "",
+      isRoot: isRoot(page),
+    });
   }
 
-  // As a screen opens: at its top, or where it was left when the player comes back to it. Under a dialog nothing
-  // can take the focus; it goes to the heading when the dialog is answered.
+  // As a screen opens: at its top, or where it was left when the player comes back to it. Under a dialog
+  // nothing can take the focus; it goes to the heading when the dialog is answered.
   enter(root: Element, page: Page): void {
     const screen = screenOf(page);
     const place = this.places.get(screen);
     this.places.delete(screen);
     // Back on a tab, what was opened from it is over: opened again, it starts at its top.
-    if (isRoot(page)) for (const [other, { isRoot }] of this.places) if (!isRoot) this.places.delete(other);
+    if (isRoot(page)) {
+      for (const [other, { isRoot }] of this.places) if (!isRoot) this.places.delete(other);
+    }
     window.scrollTo(0, place?.scroll ?? 0);
     if (root.querySelector("dialog[open]") !== null) return;
     const control = place === undefined || place.focus === "" ? undefined : findByName(root, place.focus);

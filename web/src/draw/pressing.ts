@@ -1,8 +1,9 @@
 // Pressing and typing, and the order of the two.
 //
-// A text that is still being typed is handed over before anything is pressed. On a touch screen a button does not
-// take the focus from a field, so the field would otherwise never hear that the player is done. Handing it over
-// draws the page again and numbers its controls anew: the press waits for that and then reads the control's handle.
+// A text that is still being typed is handed over before anything is pressed. On a touch screen a button does
+// not take the focus from a field, so the field would otherwise never hear that the player is done. Handing
+// it over draws the page again and numbers its controls anew: the press waits for that and then reads the
+// control's handle.
 
 import { useScreen } from "./screen_context";
 

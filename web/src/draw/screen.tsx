@@ -13,8 +13,8 @@ import { Bar, Masthead, Tabs } from "./page_parts";
 import { screenOf } from "./places";
 import { ScreenContext } from "./screen_context";
 
-// While a message is up, nothing under it can be used and its controls have no handles. The page then stays as it
-// was before the message came, and what has changed shows when the player has read why.
+// While a message is up, nothing under it can be used and its controls have no handles. The page then stays
+// as it was before the message came, and what has changed shows when the player has read why.
 function usePageUnderDialog(page: Page): Page {
   const open = useRef(page);
   if (page.dialog.length === 0 || screenOf(page) !== screenOf(open.current)) open.current = page;
@@ -54,15 +54,19 @@ function Content({ front, lead, columns, action }: Parts) {
 function useScrolledTitle(root: RefObject<HTMLDivElement | null>): void {
   useEffect(() => {
     const screen = root.current!;
-    const watch = new IntersectionObserver(([title]) => screen.toggleAttribute("data-scrolled", !title!.isIntersecting), {
-      rootMargin: "-56px 0px 0px", // under the bar is out of sight
-    });
+    const watch = new IntersectionObserver(
+      ([title]) => screen.toggleAttribute("data-scrolled", !title!.isIntersecting),
+      {
+        rootMargin: "-56px 0px 0px", // under the bar is out of sight
+      },
+    );
     watch.observe(screen.querySelector("h1")!);
     return () => watch.disconnect();
   }, []);
 }
 
-// Tells the style how high the tabs stand, which large text may break into two lines: what sticks does so above them.
+// Tells the style how high the tabs stand, which large text may break into two lines: what sticks does so
+// above them.
 function useTabsHeight(root: RefObject<HTMLDivElement | null>, count: number): void {
   useEffect(() => {
     const tabs = root.current!.querySelector<HTMLElement>(".tabs");
@@ -91,9 +95,9 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
     <ScreenContext.Provider value={context}>
       <div class={looks.filter(Boolean).join(" ")} ref={root}>
         {under.tabs.length > 0 && (
-          <a class="skip" href="#tabs">
+          <button type="button" class="skip" onClick={() => document.getElementById("tabs")?.focus()}>
             Skip to the tabs
-          </a>
+          </button>
         )}
         <Bar page={under} />
         <main class="main">

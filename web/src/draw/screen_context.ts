@@ -1,4 +1,5 @@
-// What every component of one screen knows: its title, its way to the owner, and how deep headings are nested.
+// What every component of one screen knows: its title, its way to the owner, and how deep headings are
+// nested.
 
 import { createContext } from "preact";
 import { useContext } from "preact/hooks";

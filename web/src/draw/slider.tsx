@@ -1,4 +1,5 @@
-// A value between two ends. Sliding is told at most once a frame, and the page that answers says where the thumb is.
+// A value between two ends. Sliding is told at most once a frame, and the page that answers says where the
+// thumb is.
 
 import { useEffect, useId, useLayoutEffect, useRef } from "preact/hooks";
 
@@ -16,7 +17,8 @@ export function Slider({ label, value, minimum, maximum, step, text, handle }: V
 
   useLayoutEffect(() => {
     const slider = control.current;
-    if (slider !== null && frame.current === 0 && slider.valueAsNumber !== value) slider.value = String(value);
+    if (slider !== null && frame.current === 0 && slider.valueAsNumber !== value)
+      slider.value = String(value);
   });
   useEffect(() => () => cancelAnimationFrame(frame.current), []);
 

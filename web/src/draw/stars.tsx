@@ -1,8 +1,8 @@
 import type * as View from "../view_types";
 import { Words } from "./words";
 
-const star =
-  "M12 1.8l3.1 6.5 7.1 1-5.2 4.9 1.3 7.1L12 17.9l-6.3 3.4 1.3-7.1L1.8 9.3l7.1-1z"; // in a square of 24
+// In a square of 24.
+const star = "M12 1.8l3.1 6.5 7.1 1-5.2 4.9 1.3 7.1L12 17.9l-6.3 3.4 1.3-7.1L1.8 9.3l7.1-1z";
 
 const figure = new Intl.NumberFormat(undefined, { maximumFractionDigits: 1 });
 
@@ -22,7 +22,11 @@ export function Stars({ label, value, outOf }: View.Stars) {
           <svg key={index} viewBox="0 0 24 24" class="star" aria-hidden="true">
             <path class="star-unlit" d={star} />
             {filled > index && (
-              <path class="star-lit" d={star} style={filled - index < 1 ? { clipPath: "inset(0 50% 0 0)" } : {}} />
+              <path
+                class="star-lit"
+                d={star}
+                style={filled - index < 1 ? { clipPath: "inset(0 50% 0 0)" } : {}}
+              />
             )}
           </svg>
         ))}

@@ -38,7 +38,9 @@ function usePushing() {
     shown.style.setProperty("--to-right", String(Math.min(Math.max(moved / decided, 0), 1)));
   };
   const buttonOf = (side: Side) =>
-    card.current?.parentElement?.querySelector<HTMLButtonElement>(`.swipe-${side} .button:not([aria-disabled])`);
+    card.current?.parentElement?.querySelector<HTMLButtonElement>(
+      `.swipe-${side} .button:not([aria-disabled])`,
+    );
 
   const answer = (side: Side) => {
     const shown = card.current;
@@ -61,7 +63,13 @@ function usePushing() {
     ref: card,
     onPointerDown: (event: PointerEvent) => {
       if (!event.isPrimary || event.button !== 0 || leaving.current !== 0) return;
-      push.current = { pointer: event.pointerId, startX: event.clientX, startY: event.clientY, moved: 0, isPush: false };
+      push.current = {
+        pointer: event.pointerId,
+        startX: event.clientX,
+        startY: event.clientY,
+        moved: 0,
+        isPush: false,
+      };
     },
     onPointerMove: (event: PointerEvent) => {
       const now = push.current;

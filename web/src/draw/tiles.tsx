@@ -14,7 +14,8 @@ function Tile({ label, value, detail, tone }: View.StatTile) {
   const { title } = useScreen();
   const figure = useRef<HTMLElement>(null);
   useCounting(figure, `${title}|${label}`, value);
-  const size = value.length > 2 * longFigure ? " figure-words" : value.length > longFigure ? " figure-long" : "";
+  const size =
+    value.length > 2 * longFigure ? " figure-words" : value.length > longFigure ? " figure-long" : "";
   return (
     <div class={`tile tone-${tone}`}>
       <dt class="tile-label">

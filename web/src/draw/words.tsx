@@ -2,15 +2,17 @@
 
 import type { ComponentChild } from "preact";
 
-const emoji =
-  /(?:\p{Regional_Indicator}{2}|[#*0-9]\ufe0f?\u20e3|(?:\p{Emoji_Presentation}|\p{Extended_Pictographic})(?:\ufe0f|\p{Emoji_Modifier})?(?:\u200d\p{Extended_Pictographic}(?:\ufe0f|\p{Emoji_Modifier})?)*)+/gu;
+// A flag, a keycap, or a pictograph with what can follow it; joined, they are one sign.
+const picture = String.raw`(?:\p{Emoji_Presentation}|\p{Extended_Pictographic})(?:\ufe0f|\p{Emoji_Modifier})?`;
+const sign = String.raw`\p{Regional_Indicator}{2}|[#*0-9]\ufe0f?\u20e3|${picture}(?:\u200d${picture})*`;
+const emoji = new RegExp(`(?:${sign})+`, "gu");
 
-// Signs that have been text for longer than there are emoji, and stay it.
+// Signs that were text before there were emoji, and stay it.
 const plain = /^[©®™]+$/u;
 
 export function Words({ text }: { readonly text: string }) {
-  // Most text is Latin: anything that could be an emoji lies above it, but for the keycaps' enclosing sign.
-  if (!/[\u00a9\u00ae\u2000-\uffff]/u.test(text) && !/[\u{10000}-\u{10ffff}]/u.test(text)) return <>{text}</>;
+  // Most text is Latin, and every emoji has a sign above that.
+  if (!/[\u2000-\u{10ffff}]/u.test(text)) return <>{text}</>;
   const parts: ComponentChild[] = [];
   let end = 0;
   for (const match of text.matchAll(emoji)) {

@@ -162,7 +162,7 @@ export class Shell {
 
   private loadModule(): Promise<WebAssembly.Module> {
     if (!this.module) {
-      this.module = WebAssembly.compileStreaming(fetch(WASM_FILE));
+      this.module = fetchProgram();
       // A failure is tried again the next time it is wanted.
       this.module.catch(() => {
         this.module = undefined;
@@ -193,4 +193,12 @@ export class Shell {
     this.current = { ...this.current, ...changes };
     this.listener?.(this.current);
   }
+}
+
+async function fetchProgram(): Promise<WebAssembly.Module> {
+  const answer = await fetch(WASM_FILE);
+  if (!answer.ok) throw new Error(`The game's program: ${answer.status} ${answer.statusText}`);
+  // Compiling while it arrives is faster, but insists on a type that not every host knows.
+  const streams = answer.headers.get("Content-Type")?.startsWith("application/wasm") ?? false;
+  return streams ? WebAssembly.compileStreaming(answer) : WebAssembly.compile(await answer.arrayBuffer());
 }

@@ -3,6 +3,7 @@
 import { type JSX } from "preact";
 import { useEffect, useState } from "preact/hooks";
 
+import { Bar, Masthead } from "../draw/page_parts";
 import { PageView } from "../draw/page_view";
 import { SavesCorner } from "./saves_corner";
 import type { Shell, ShellState } from "./shell";
@@ -20,7 +21,7 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
       return <PageView page={showing.page} actions={shell.actions} banner={banner} corner={corner} />;
     case "loading":
       return (
-        <Standing title="Top Billing">
+        <Standing title="Places, please">
           <p role="status">The house lights go down…</p>
         </Standing>
       );
@@ -63,17 +64,23 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
   }
 }
 
+// A page of the shell's own, in the same house as the game's.
 function Standing({ title, corner, children }: {
   title: string;
   corner?: JSX.Element;
   children: JSX.Element | JSX.Element[];
 }): JSX.Element {
   return (
-    <main class="shell-standing">
-      <h1>{title}</h1>
-      {children}
-      {corner}
-    </main>
+    <div class="screen">
+      <Bar page={{ title, subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [] }} />
+      <main class="main main-narrow">
+        <Masthead title={title} subtitle="" />
+        <div class="content shell-content">
+          {children}
+          {corner}
+        </div>
+      </main>
+    </div>
   );
 }
 
@@ -86,6 +93,12 @@ const refusals: Record<Refusal, string> = {
     "page again may help.",
 };
 
+// The new version starts at the hub, so it is offered there and not on a screen over it. Without a save it would
+// end the career.
+function mayUpdate({ showing, updateReady, refusal }: ShellState): boolean {
+  return updateReady && !refusal && showing.kind === "playing" && showing.page.close.length === 0;
+}
+
 function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Element {
   return (
     <div class="shell-notices" role="status">
@@ -93,8 +106,7 @@ function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Ele
       {state.failing && (
         <p class="shell-warning">Not saved: {state.failing} You can play on; it tries again after each thing you do.</p>
       )}
-      {/* Without a save, loading the new version would end the career. */}
-      {state.updateReady && !state.refusal && (
+      {mayUpdate(state) && (
         <p>
           A new version is ready.{" "}
           <button type="button" class="shell-button" onClick={() => void shell.update()}>

@@ -2,8 +2,8 @@
 //
 // All that one action of the player wrote goes into one transaction, which is opened and committed in the
 // same turn of the event loop: a page that is closed or killed right after loses nothing, and never keeps
-// half an action. The default durability is right here: it survives the end of the browser, and a phone that
-// loses its power in the next moments goes back by a week at most.
+// half an action. The browser's default durability is right here: it survives the end of the browser, and a phone
+// that loses its power in the next moments goes back by an action or two, whole.
 //
 // The browser says only later whether a transaction was kept. Until then its changes wait, and the next
 // action's transaction carries them once more: whichever is refused, what is stored is always the state after

@@ -3,36 +3,73 @@
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
 
-import { openGallery } from "./draw_browser.mjs";
+import type { Page } from "playwright-core";
 
-let gallery;
+import type * as View from "../src/view_types";
+import { Gallery, type Looks } from "./draw_browser";
+
+let gallery: Gallery;
 before(async () => {
-  gallery = await openGallery();
+  gallery = await Gallery.start();
 });
-after(() => gallery.close());
+after(() => gallery.stop());
 
 // A page with these nodes, drawn by hand; later ones of the same title are drawn over it.
-async function drawn(nodes, rest = {}, options = {}) {
-  const page = await gallery.open("hub", options);
+async function drawn(
+  nodes: readonly View.Node[],
+  rest: Partial<View.Page> = {},
+  looks: Looks = {},
+): Promise<Page> {
+  const page = await gallery.open("hub", looks);
   await again(page, nodes, rest);
   return page;
 }
 
-const again = (page, nodes, rest = {}) =>
-  page.evaluate(
-    ([nodes, rest]) => window.gallery.show({ title: "Test", subtitle: "", icons: [], nodes, tabs: [], close: [], dialog: [], ...rest }),
-    [nodes, rest],
-  );
-const done = (page) => page.evaluate(() => window.gallery.done);
-const focused = (page) => page.evaluate(() => document.activeElement.textContent || document.activeElement.value || document.activeElement.tagName);
+const again = (page: Page, nodes: readonly View.Node[], rest: Partial<View.Page> = {}): Promise<void> =>
+  page.evaluate((shown) => window.gallery.show(shown), {
+    title: "Test",
+    subtitle: "",
+    icons: [],
+    nodes,
+    tabs: [],
+    close: [],
+    dialog: [],
+    ...rest,
+  });
+const done = (page: Page) => page.evaluate(() => window.gallery.done);
+const focused = (page: Page) => page.evaluate(() => document.activeElement?.textContent ?? "");
+const scrolled = (page: Page) => page.evaluate(() => window.scrollY);
+const scrollTo = (page: Page, y: number) => page.evaluate((to) => window.scrollTo(0, to), y);
 
-const node = (kind, content) => ({ kind, content });
-const press = (label, handle, rest = {}) => ({ label, price: "", offReason: "", weight: "normal", handle, ...rest });
-const button = (label, handle, rest) => node("button", press(label, handle, rest));
-const field = (handle, value, rest = {}) => node("field", { label: "Name", value, hint: "", maximumLength: 30, severalLines: false, handle, ...rest });
-const text = (text) => node("text", { text, style: "body", tone: "plain" });
-const row = (label, handle) => node("row", { label, value: "", detail: "", picture: [], tone: "plain", handle });
-const section = (heading, ...nodes) => node("section", { heading, nodes });
+const press = (label: string, handle: number, rest: Partial<View.Button> = {}): View.Button => ({
+  label,
+  price: "",
+  offReason: "",
+  weight: "normal",
+  handle,
+  ...rest,
+});
+const button = (label: string, handle: number, rest: Partial<View.Button> = {}): View.Node => ({
+  kind: "button",
+  content: press(label, handle, rest),
+});
+const field = (handle: number, value: string): View.Node => ({
+  kind: "field",
+  content: { label: "Name", value, hint: "", maximumLength: 30, severalLines: false, handle },
+});
+const text = (text: string): View.Node => ({ kind: "text", content: { text, style: "body", tone: "plain" } });
+const row = (label: string, handle: number): View.Node => ({
+  kind: "row",
+  content: { label, value: "", detail: "", picture: [], tone: "plain", handle },
+});
+const cash = (value: string): View.Node => ({
+  kind: "tiles",
+  content: { tiles: [{ label: "Cash", value, detail: "", tone: "plain" }] },
+});
+const section = (heading: string, ...nodes: View.Node[]): View.Node => ({
+  kind: "section",
+  content: { heading, nodes },
+});
 const tall = Array.from({ length: 40 }, (_, index) => text(`Line ${index}`));
 
 test("a press is told by its handle, and one that is off says why and does nothing", async () => {
@@ -42,7 +79,10 @@ test("a press is told by its handle, and one that is off says why and does nothi
   assert.deepEqual(await done(page), [["press", 7]]);
   const off = page.getByRole("button", { name: /Buy/ });
   assert.equal(await off.getAttribute("aria-disabled"), "true");
-  assert.equal(await page.locator(`#${await off.getAttribute("aria-describedby")}`).textContent(), "No cash.");
+  assert.equal(
+    await page.locator(`#${await off.getAttribute("aria-describedby")}`).textContent(),
+    "No cash.",
+  );
 });
 
 test("what is still being typed is handed over before a press, which takes the handle of the page after it", async () => {
@@ -54,8 +94,11 @@ test("what is still being typed is handed over before a press, which takes the h
   }, after);
   await page.fill("input", "Mara");
   // As on a touch screen, where the field keeps the focus.
-  await page.evaluate(() => document.querySelector(".button").click());
-  assert.deepEqual(await done(page), [["type", 1, "Mara"], ["press", 12]]);
+  await page.evaluate(() => document.querySelector<HTMLElement>(".button")!.click());
+  assert.deepEqual(await done(page), [
+    ["type", 1, "Mara"],
+    ["press", 12],
+  ]);
 });
 
 test("typing is not disturbed when the page is drawn again, and is handed over once", async () => {
@@ -80,7 +123,9 @@ test("a text that the game refuses goes back to what it holds", async () => {
 });
 
 test("a slider takes the keyboard and shows where the game puts it", async () => {
-  const slider = (value, text) => [node("slider", { label: "Age", value, minimum: 18, maximum: 60, step: 1, text, handle: 3 })];
+  const slider = (value: number, text: string): View.Node[] => [
+    { kind: "slider", content: { label: "Age", value, minimum: 18, maximum: 60, step: 1, text, handle: 3 } },
+  ];
   const page = await drawn(slider(24, "24 years"));
   assert.equal(await page.locator("input").getAttribute("aria-valuetext"), "24 years");
   await page.focus("input");
@@ -92,8 +137,9 @@ test("a slider takes the keyboard and shows where the game puts it", async () =>
 });
 
 test("an option is chosen when the game says so, not when it is pressed", async () => {
-  const option = (label, chosen, handle) => ({ label, chosen, picture: [], handle });
-  const page = await drawn([node("choice", { label: "Type", options: [option("A", true, 1), option("B", false, 2)], several: false })]);
+  const option = (label: string, chosen: boolean, handle: number) => ({ label, chosen, picture: [], handle });
+  const options = [option("A", true, 1), option("B", false, 2)];
+  const page = await drawn([{ kind: "choice", content: { label: "Type", options, several: false } }]);
   await page.getByRole("radio", { name: "B" }).click();
   assert.deepEqual(await done(page), [["press", 2]]);
   assert.ok(await page.getByRole("radio", { name: "A" }).isChecked());
@@ -106,19 +152,22 @@ test("the points of a chart are read with the arrow keys", async () => {
   await points.focus();
   await page.keyboard.press("ArrowRight");
   assert.equal(await points.getAttribute("aria-valuetext"), "UK: $7M");
-  assert.match(await page.locator(".chart-bar .chart-readout").textContent(), /\$7MUK/);
+  assert.match((await page.locator(".chart-bar .chart-readout").textContent()) ?? "", /\$7MUK/);
 });
 
 test("the same screen drawn again keeps in place what is read, and the focus, wherever the control has moved", async () => {
   const page = await drawn([section("Roles", row("Iris", 1), row("Hush", 2)), ...tall]);
   await page.getByRole("button", { name: "Hush" }).focus();
-  await page.evaluate(() => window.scrollTo(0, 300));
-  const top = async () => (await page.getByText("Line 8", { exact: true }).boundingBox()).y;
+  await scrollTo(page, 300);
+  const top = async () => (await page.getByText("Line 8", { exact: true }).boundingBox())?.y;
   const read = await top();
-  await again(page, [section("Roles", row("Kin", 1), row("Static", 2), row("Iris", 3), row("Hush", 4)), ...tall]);
+  await again(page, [
+    section("Roles", row("Kin", 1), row("Static", 2), row("Iris", 3), row("Hush", 4)),
+    ...tall,
+  ]);
   assert.equal(await focused(page), "Hush");
   assert.equal(await top(), read);
-  assert.equal(await page.evaluate(() => document.activeElement.dataset.handle), "4");
+  assert.equal(await page.evaluate(() => document.activeElement?.getAttribute("data-handle")), "4");
 });
 
 test("a control that is gone leaves the focus to its heading, not to the next control", async () => {
@@ -128,25 +177,38 @@ test("a control that is gone leaves the focus to its heading, not to the next co
   assert.equal(await focused(page), "Roles");
 });
 
+test("the one main button of a page stays in reach; of two, each stays where it is", async () => {
+  const end = button("End Week", 1, { weight: "primary" });
+  const reach = async (page: Page) =>
+    (await page.getByRole("button", { name: "End Week" }).boundingBox())!.y + 24 < 844;
+  const page = await drawn([text("Cash"), end, section("Log", ...tall)]);
+  assert.ok(await reach(page));
+  await scrollTo(page, 10_000);
+  assert.ok(await reach(page));
+  await again(page, [...tall, end, button("Other", 2, { weight: "primary" })]);
+  await scrollTo(page, 0);
+  assert.ok(!(await reach(page)));
+});
+
 test("another screen starts at its top with its heading; the one come back to is where it was left", async () => {
   const page = await drawn([...tall, row("Film", 1)], { title: "Hub" });
   await page.getByRole("button", { name: "Film" }).focus();
-  const left = await page.evaluate(() => window.scrollY);
+  const left = await scrolled(page);
   assert.ok(left > 0);
   const film = { title: "Film", close: [press("Back", 1)] };
   await again(page, [...tall, row("Actor", 2)], film);
-  assert.equal(await page.evaluate(() => window.scrollY), 0);
+  assert.equal(await scrolled(page), 0);
   assert.equal(await focused(page), "Film");
-  await page.evaluate(() => window.scrollTo(0, 200));
+  await scrollTo(page, 200);
   await again(page, [...tall, row("Film", 1)], { title: "Hub" });
-  assert.equal(await page.evaluate(() => window.scrollY), left);
+  assert.equal(await scrolled(page), left);
   assert.equal(await focused(page), "Film");
   assert.equal(await page.title(), "Hub · Top Billing");
   await again(page, [...tall, row("Actor", 2)], film);
-  assert.equal(await page.evaluate(() => window.scrollY), 0, "a screen that was left and opened anew starts at its top");
+  assert.equal(await scrolled(page), 0, "a screen that was left and opened anew starts at its top");
 });
 
-const notice = (...answers) => [{ title: "Sure?", message: "Think.", answers }];
+const notice = (...answers: View.Button[]) => [{ title: "Sure?", message: "Think.", answers }];
 
 test("a notice takes the focus, closes by Escape and gives the focus back", async () => {
   const nodes = [button("Before", 1), button("Ask", 2)];
@@ -171,27 +233,35 @@ test("a question is answered by its buttons alone", async () => {
 });
 
 test("the page under a message changes when the message has been read", async () => {
-  const cash = (value) => [node("tiles", { tiles: [{ label: "Cash", value, detail: "", tone: "plain" }] })];
-  const page = await drawn(cash("$100"));
-  await again(page, cash("$50"), { dialog: notice(press("OK", 1)) });
+  const page = await drawn([cash("$100")]);
+  await again(page, [cash("$50")], { dialog: notice(press("OK", 1)) });
   assert.equal(await page.locator(".figure").textContent(), "$100");
-  await again(page, cash("$50"));
+  await again(page, [cash("$50")]);
   assert.equal(await page.locator(".figure").textContent(), "$50");
 });
 
 test("a screen that opens with a message starts at its top, and its heading has the focus after it", async () => {
   const page = await drawn(tall, { title: "Hub" });
-  await page.evaluate(() => window.scrollTo(0, 400));
+  await scrollTo(page, 400);
   await again(page, tall, { title: "Summary", dialog: notice(press("OK", 1)) });
-  assert.equal(await page.evaluate(() => window.scrollY), 0);
+  assert.equal(await scrolled(page), 0);
   await again(page, tall, { title: "Summary" });
   assert.equal(await focused(page), "Summary");
 });
 
-const swipe = [node("swipeCard", { card: { title: "Robin", subtitle: "", picture: [], nodes: [text("Hi.")], handle: 0 }, left: press("Pass", 1), right: press("Like", 2) })];
+const swipe = (right: View.Button): View.Node[] => [
+  {
+    kind: "swipeCard",
+    content: {
+      card: { title: "Robin", subtitle: "", picture: [], nodes: [text("Hi.")], handle: 0 },
+      left: press("Pass", 1),
+      right,
+    },
+  },
+];
 
-async function push(page, pixels) {
-  const box = await page.locator(".swipe-card").boundingBox();
+async function push(page: Page, pixels: number): Promise<void> {
+  const box = (await page.locator(".swipe-card").boundingBox())!;
   const [x, y] = [box.x + box.width / 2, box.y + box.height / 2];
   await page.mouse.move(x, y);
   await page.mouse.down();
@@ -202,44 +272,58 @@ async function push(page, pixels) {
 
 for (const still of [false, true]) {
   test(`a card pushed aside is answered, ${still ? "without" : "with"} motion; one that is let go early is not`, async () => {
-    const page = await drawn(swipe, {}, { still });
+    const page = await drawn(swipe(press("Like", 2)), {}, { still });
     await push(page, 40);
     await push(page, 160);
     await page.waitForFunction(() => window.gallery.done.length === 1);
     await push(page, -160);
     await page.waitForFunction(() => window.gallery.done.length === 2);
-    assert.deepEqual(await done(page), [["press", 2], ["press", 1]]);
+    assert.deepEqual(await done(page), [
+      ["press", 2],
+      ["press", 1],
+    ]);
   });
 }
 
 test("a card cannot be pushed to an answer that is off", async () => {
-  const [{ content }] = swipe;
-  const page = await drawn([node("swipeCard", { ...content, right: press("Like", 0, { offReason: "Tired." }) })]);
+  const page = await drawn(swipe(press("Like", 0, { offReason: "Tired." })));
   await push(page, 160);
   assert.deepEqual(await done(page), []);
 });
 
 test("a screen reader hears what changed, and nothing of what did not", async () => {
-  const tile = (value) => node("tiles", { tiles: [{ label: "Cash", value, detail: "", tone: "plain" }] });
-  const page = await drawn([tile("$100"), text("Old news.")]);
-  await again(page, [tile("$50"), text("Old news."), text("You bought a hat.")]);
+  const page = await drawn([cash("$100"), text("Old news.")]);
+  await again(page, [cash("$50"), text("Old news."), text("You bought a hat.")]);
   assert.equal(await page.locator("[data-news]").textContent(), "You bought a hat. Cash: $50.");
 });
 
 test("figures count to where they belong", async () => {
-  const cash = (value) => [node("tiles", { tiles: [{ label: "Cash", value, detail: "", tone: "plain" }] })];
-  const page = await drawn(cash("$1,250"), {}, { still: false });
-  const seen = await page.evaluate(async (next) => {
-    const figure = document.querySelector(".figure");
-    const frames = new Set();
-    const watch = new MutationObserver(() => frames.add(figure.textContent));
-    watch.observe(figure, { characterData: true, subtree: true, childList: true });
-    window.gallery.show({ title: "Test", subtitle: "", icons: [], nodes: next, tabs: [], close: [], dialog: [] });
-    await new Promise((wait) => setTimeout(wait, 400));
-    return [...frames];
-  }, cash("$2,400"));
+  const page = await drawn([cash("$1,250")], {}, { still: false });
+  const seen = await page.evaluate(
+    async (next) => {
+      const figure = document.querySelector(".figure")!;
+      const frames = new Set<string>();
+      const watch = new MutationObserver(() => frames.add(figure.textContent ?? ""));
+      watch.observe(figure, { characterData: true, subtree: true, childList: true });
+      window.gallery.show({
+        title: "Test",
+        subtitle: "",
+        icons: [],
+        nodes: next,
+        tabs: [],
+        close: [],
+        dialog: [],
+      });
+      await new Promise((wait) => setTimeout(wait, 400));
+      return [...frames];
+    },
+    [cash("$2,400")],
+  );
   assert.ok(seen.length > 2, `${seen}`);
-  assert.ok(seen.every((frame) => /^\$\d,\d{3}$/.test(frame)), `${seen}`);
+  assert.ok(
+    seen.every((frame) => /^\$\d,\d{3}$/.test(frame)),
+    `${seen}`,
+  );
   assert.equal(await page.locator(".figure").textContent(), "$2,400");
 });
 
@@ -248,38 +332,53 @@ test("nothing moves for longer than 200 milliseconds, and nothing at all where t
     for (const name of ["hub", "latch", "form", "question", "auction"]) {
       const page = await gallery.open(name, { still });
       const longest = await page.evaluate(() => {
-        const seconds = (list) => Math.max(...list.split(",").map((time) => parseFloat(time) * (/ms/.test(time) ? 0.001 : 1)));
-        return Math.max(...[...document.querySelectorAll("#app *")].map((element) => {
-          const style = getComputedStyle(element);
-          return Math.max(seconds(style.transitionDuration) + seconds(style.transitionDelay), style.animationName === "none" ? 0 : seconds(style.animationDuration));
-        }));
+        const seconds = (list: string) =>
+          Math.max(...list.split(",").map((time) => parseFloat(time) * (/ms/.test(time) ? 0.001 : 1)));
+        return Math.max(
+          ...[...document.querySelectorAll("#app *")].map((element) => {
+            const style = getComputedStyle(element);
+            return Math.max(
+              seconds(style.transitionDuration) + seconds(style.transitionDelay),
+              style.animationName === "none" ? 0 : seconds(style.animationDuration),
+            );
+          }),
+        );
       });
       assert.ok(longest <= (still ? 0 : 0.2), `${name}: ${longest} s`);
-      await page.context().close();
+      await page.close();
     }
   }
 });
 
-// The least of several medians: what the page takes when nothing else on the machine is in its way.
+// The processor's time, so that a busy machine gives the same answer.
+async function processorTime(page: Page): Promise<() => Promise<number>> {
+  const session = await page.context().newCDPSession(page);
+  await session.send("Performance.enable", { timeDomain: "threadTicks" });
+  return async () => {
+    const { metrics } = await session.send("Performance.getMetrics");
+    return metrics.find(({ name }) => name === "ThreadTime")!.value * 1000;
+  };
+}
+
 test("a page of 160 rows with pictures is drawn again within a frame", async () => {
   const page = await gallery.open("large", { still: false });
-  const [size, ...medians] = await page.evaluate(() => {
-    const { large } = window.gallery.pages;
-    const redraw = (run) => {
-      const next = JSON.parse(JSON.stringify(large));
-      next.nodes[0].content.tiles[0].value = `1.${run}M`;
-      next.nodes[1 + (run % 8)].content.nodes[3].content.value = `${run} ♥`;
-      const start = performance.now();
-      window.gallery.show(next);
-      document.body.getBoundingClientRect(); // with its layout
-      return performance.now() - start;
-    };
-    const median = () => Array.from({ length: 15 }, (_, run) => redraw(run)).sort((a, b) => a - b)[7];
-    return [document.querySelectorAll("#app *").length, ...Array.from({ length: 5 }, median)];
-  });
-  const least = Math.min(...medians);
-  console.log(`redraw of ${size} elements: ${medians.map((time) => time.toFixed(1)).join(", ")} ms`);
-  assert.ok(least <= 16, `${least} ms`);
+  const milliseconds = await processorTime(page);
+  const redraw = (times: number) =>
+    page.evaluate((runs) => {
+      const large = JSON.stringify(window.gallery.pages["large"]);
+      for (let run = 0; run < runs; ++run) {
+        window.gallery.show(JSON.parse(large.replace("1.2M", `1.${run}M`).replace("0 ♥", `${run} ♥`)));
+        document.body.getBoundingClientRect(); // with its layout
+      }
+    }, times);
+  await redraw(10); // the browser compiles what it runs often
+  const before = await milliseconds();
+  await redraw(40);
+  const each = ((await milliseconds()) - before) / 40;
+  console.log(
+    `redraw of ${await page.evaluate(() => document.querySelectorAll("#app *").length)} elements: ${each.toFixed(1)} ms`,
+  );
+  assert.ok(each <= 16, `${each} ms`);
 });
 
 test("the page's policy holds, and the console has nothing to say", () => {

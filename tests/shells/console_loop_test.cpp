@@ -1,0 +1,250 @@
+#include <algorithm>
+#include <deque>
+#include <format>
+#include <gtest/gtest.h>
+
+#include "shells/console/console.h"
+#include "shells/console/text.h"
+#include "tests/shells/console_pages.h"
+
+namespace tb::console {
+
+namespace {
+
+// What a player types, and all that was shown.
+class ScriptedPort : public ConsolePort {
+ public:
+  [[nodiscard]] Shape shape() const override { return shape_; }
+  void show(std::string_view page) override { pages.emplace_back(page); }
+  Input read(std::string_view prompt, std::optional<double> wait) override {
+    prompts.emplace_back(prompt);
+    waits.push_back(wait);
+    if (inputs_.empty()) return {};
+    Input input = inputs_.front();
+    inputs_.pop_front();
+    return input;
+  }
+
+  ScriptedPort& types(std::string line, double seconds = 0) {
+    inputs_.push_back({.what = Input::What::line, .line = std::move(line), .seconds = seconds});
+    return *this;
+  }
+  ScriptedPort& waitsFor(double seconds) {
+    inputs_.push_back({.what = Input::What::nothing, .seconds = seconds});
+    return *this;
+  }
+  void window(int rows) { shape_.rows = rows; }
+  [[nodiscard]] std::size_t unread() const { return inputs_.size(); }
+  [[nodiscard]] const std::string& last() const { return pages.back(); }
+
+  std::vector<std::string> pages;
+  std::vector<std::string> prompts;
+  std::vector<std::optional<double>> waits;
+
+ private:
+  Shape shape_;
+  std::deque<Input> inputs_;
+};
+
+// What happened on the screen that the tests use.
+struct Seen {
+  int presses = 0;
+  std::string name = "Ada";
+  std::vector<double> slid;
+  int lines = 3;
+  double secondsLeft = 0;
+  std::string bid = "Bid";
+};
+
+class DeskScreen : public Screen {
+ public:
+  explicit DeskScreen(Seen& seen) : seen_(seen) {}
+
+  void tick(Stage&, double seconds) override {
+    seen_.secondsLeft -= seconds;
+    if (seen_.secondsLeft < 20) seen_.bid = "Bid more";
+  }
+
+  [[nodiscard]] view::Page view(const Game&) override {
+    const auto write = [this](Stage&, const std::string& text) { seen_.name = text; };
+    view::Page page{
+        .title = "Desk",
+        .nodes = {view::Button{.label = seen_.bid, .press = [this](Stage&) { seen_.presses += 1; }},
+                  view::Field{.label = "Name", .value = seen_.name, .type = write, .maximumLength = 10},
+                  view::Slider{.label = "Age",
+                               .minimum = 18,
+                               .maximum = 60,
+                               .slide = [this](Stage&, double value) { seen_.slid.push_back(value); }},
+                  view::Field{.label = "Story", .type = write, .maximumLength = 40, .severalLines = true},
+                  view::Button{.label = "Ask",
+                               .press = [](Stage& stage) { stage.show(Notice{"Sure?", "Really?"}); }},
+                  view::Button{
+                      .label = "Open",
+                      .press = [](Stage& stage) { stage.open(std::make_unique<test::BlankScreen>()); }}},
+        .tabs = {{.label = "Home", .current = true, .press = test::nothing}}};
+    if (seen_.secondsLeft > 0) {
+      page.nodes.push_back(
+          view::Countdown{.label = "Closing", .secondsLeft = seen_.secondsLeft, .secondsInAll = 60});
+    }
+    for (int line = 1; line <= seen_.lines; ++line)
+      page.nodes.push_back(view::Text{.text = std::format("Line {}.", line)});
+    return page;
+  }
+
+ private:
+  Seen& seen_;
+};
+
+class ConsoleLoop : public testing::Test {
+ protected:
+  void play() {
+    test::ScratchGame scratch;
+    App app(scratch.store, scratch.random, {}, std::make_unique<DeskScreen>(seen));
+    Console(app, port).play();
+  }
+  // The page that came after the n-th line that the player typed; 0 is the first page.
+  [[nodiscard]] const std::string& pageAfter(std::size_t n) const { return port.pages.at(n); }
+
+  Seen seen;
+  ScriptedPort port;
+};
+
+bool shows(const std::string& page, std::string_view text) { return page.contains(text); }
+
+}  // namespace
+
+TEST_F(ConsoleLoop, ANumberUsesWhatStandsUnderIt) {
+  port.types("1").types("  1  ").types("2 Zoë Lark").types("3 25").types("3 -7.5").types("q").types("1");
+  play();
+  EXPECT_EQ(seen.presses, 2);
+  EXPECT_EQ(seen.name, "Zoë Lark");
+  EXPECT_EQ(seen.slid, (std::vector{25.0, -7.5})) << "what is out of range is the screen's to mend";
+  EXPECT_EQ(port.unread(), 1) << "q leaves at once";
+}
+
+TEST_F(ConsoleLoop, AFieldAndASliderAskForWhatWasNotSaid) {
+  port.types("2").types("Bo").types("3").types("40").types("2").types("").types("3").types("");
+  play();
+  EXPECT_EQ(seen.name, "Bo") << "Enter keeps it";
+  EXPECT_EQ(seen.slid, std::vector{40.0});
+  EXPECT_TRUE(shows(port.prompts[1], "Name"));
+  EXPECT_TRUE(shows(port.prompts[3], "Age (18 to 60)"));
+}
+
+TEST_F(ConsoleLoop, AFieldIsClearedAndALongOneTakesSeveralLines) {
+  port.types("2").types("-");
+  play();
+  EXPECT_EQ(seen.name, "");
+  port.types("4").types("Born.").types("Acted.").types("");
+  play();
+  EXPECT_EQ(seen.name, "Born.\nActed.");
+}
+
+TEST_F(ConsoleLoop, TheInputMayEndAnywhere) {
+  port.types("2");
+  play();
+  EXPECT_EQ(seen.name, "Ada");
+  port.types("4").types("Half a story");
+  play();
+  EXPECT_EQ(seen.name, "Ada") << "what was not finished is not taken";
+}
+
+TEST_F(ConsoleLoop, WhatCannotBeDoneIsToldInOneLine) {
+  port.types("77").types("1 now").types("3 old").types("3 1e9").types("3 nan").types("b").types("sell").types(
+      "999999999999");
+  play();
+  EXPECT_TRUE(shows(pageAfter(1), "There is no [77]"));
+  EXPECT_TRUE(shows(pageAfter(2), "[1] takes no text"));
+  for (const std::size_t page : {3u, 4u, 5u})
+    EXPECT_TRUE(shows(pageAfter(page), "Age takes a number: 18 to 60"));
+  EXPECT_TRUE(shows(pageAfter(6), "no way back"));
+  EXPECT_TRUE(shows(pageAfter(7), "That is none of it."));
+  EXPECT_TRUE(shows(pageAfter(8), "That is none of it."));
+  EXPECT_EQ(seen.presses, 0);
+  EXPECT_TRUE(seen.slid.empty());
+}
+
+TEST_F(ConsoleLoop, ADialogIsAnsweredBeforeAnythingElse) {
+  port.types("5").types("b").types("2 Eve").types("1").types("6").types("b").types("");
+  play();
+  EXPECT_TRUE(shows(pageAfter(1), "Really?"));
+  EXPECT_TRUE(shows(pageAfter(2), "answered first"));
+  EXPECT_TRUE(shows(pageAfter(3), "There is no [2]"));
+  EXPECT_FALSE(shows(pageAfter(4), "Really?"));
+  EXPECT_TRUE(shows(pageAfter(5), "[1] Back"));
+  EXPECT_TRUE(shows(pageAfter(6), "Desk"));
+  EXPECT_EQ(seen.name, "Ada");
+}
+
+TEST_F(ConsoleLoop, AbsurdInputReachesTheGameAsCleanTextOfTheRightLength) {
+  port.types("2 \x1b[31mEvil\x1b[0m\x07\t" + std::string(1, '\0') + "\xff\xc3name" +
+             std::string(100'000, 'x'));
+  play();
+  EXPECT_EQ(seen.name, "Evil \uFFFD\uFFFDnam");
+  EXPECT_TRUE(shows(port.last(), "Cut to 10 characters."));
+}
+
+TEST_F(ConsoleLoop, TimeRunsOnlyWhileThePageCountsDown) {
+  port.types("", 30);
+  play();
+  EXPECT_EQ(seen.secondsLeft, 0);
+
+  seen.secondsLeft = 60;
+  port.window(24);
+  port.waitsFor(1).waitsFor(1).types("1", 0.5);
+  play();
+  EXPECT_EQ(seen.secondsLeft, 57.5);
+  EXPECT_EQ(seen.presses, 1);
+  EXPECT_EQ(port.waits.back(), 1.0) << "a window is painted again every second";
+}
+
+TEST_F(ConsoleLoop, ANumberNeverUsesWhatCameInItsPlaceMeanwhile) {
+  seen.secondsLeft = 60;
+  port.types("1", 45);
+  play();
+  EXPECT_EQ(seen.presses, 0);
+  EXPECT_TRUE(shows(port.last(), "Bid more"));
+  EXPECT_TRUE(shows(port.last(), "moved on"));
+}
+
+TEST_F(ConsoleLoop, AWindowShowsALongPageInPartsWithTheTabsAlwaysInView) {
+  seen.lines = 60;
+  port.window(24);
+  port.types("").types("").types("").types("").types("").types("");
+  play();
+  std::string seen_lines;
+  for (const std::string& page : port.pages) {
+    EXPECT_LE(std::ranges::count(page, '\n'), 23) << "the prompt has a line too";
+    EXPECT_TRUE(shows(page, "Desk"));
+    EXPECT_TRUE(shows(page, "<Home>"));
+    seen_lines += page;
+  }
+  for (int line = 1; line <= 60; ++line)
+    EXPECT_TRUE(shows(seen_lines, std::format("Line {}.", line))) << line;
+  EXPECT_TRUE(shows(pageAfter(0), "Enter for more"));
+  EXPECT_TRUE(std::ranges::any_of(port.pages,
+                                  [](const std::string& page) { return shows(page, "Enter for the top"); }));
+}
+
+TEST_F(ConsoleLoop, AnActionKeepsThePlaceInALongPageAndADialogIsSeenWhole) {
+  seen.lines = 60;
+  port.window(24);
+  port.types("").types("1").types("5").types("1").types("6");
+  play();
+  EXPECT_TRUE(shows(pageAfter(1), "Line 20."));
+  EXPECT_TRUE(shows(pageAfter(2), "Line 20."));
+  EXPECT_TRUE(shows(pageAfter(3), "Really?"));
+  EXPECT_TRUE(shows(pageAfter(3), "[1] | OK"));
+  EXPECT_TRUE(shows(pageAfter(4), "Line 20."));
+  EXPECT_FALSE(shows(pageAfter(5), "Line"));
+}
+
+TEST_F(ConsoleLoop, HelpIsOneQuestionMarkAway) {
+  port.types("?").types("");
+  play();
+  EXPECT_TRUE(shows(pageAfter(0), "? tells more, q leaves."));
+  EXPECT_TRUE(shows(pageAfter(1), "b goes back"));
+  EXPECT_FALSE(shows(pageAfter(2), "b goes back"));
+}
+
+}  // namespace tb::console

@@ -1,0 +1,141 @@
+#include "tests/shells/console_pages.h"
+
+#include <cmath>
+#include <format>
+
+namespace tb::test {
+
+using namespace view;
+
+namespace {
+
+Section figures() {
+  return {
+      .heading = "FIGURES",
+      .nodes = {
+          Text{.text = "Week 12", .style = view::Text::Style::large},
+          Text{.text = "You are the toast of the town, and the town knows it: three offers came in before "
+                       "breakfast.\n\nOne of them pays."},
+          Text{.text = "A voice like warm gravel.", .style = view::Text::Style::quotation},
+          Tiles{{{.label = "Cash", .value = "$1,234,567", .detail = "+$300 this week"},
+                 {.label = "Fans", .value = "12.3K"},
+                 {.label = "Talent", .value = "38"},
+                 {.label = "Age", .value = "21"},
+                 {.label = "Earned this year", .value = "$80K", .tone = Tone::good}}},
+          Meter{.label = "Energy", .value = 72, .maximum = 100, .text = "72 of 100"},
+          Meter{.label = "Voice", .value = 140, .maximum = 100, .text = "140", .isScore = true},
+          Stars{.label = "Critics", .value = 3.5, .outOf = 5},
+          Countdown{.label = "Closing", .secondsLeft = 64.2, .secondsInAll = 120}}};
+}
+
+Section uses() {
+  return {
+      .heading = "TO DO",
+      .nodes = {Button{.label = "Sign up", .press = nothing, .price = "$1,200"},
+                Button{.label = "Buy the theatre",
+                       .press = nothing,
+                       .price = "$4,000,000",
+                       .offReason = "You need more cash."},
+                Buttons{{{.label = "Accept", .press = nothing}, {.label = "Decline", .press = nothing}}},
+                Buttons{{{.label = "Fly", .press = nothing, .offReason = "The airport is closed."},
+                         {.label = "Drive", .press = nothing, .price = "⚡️ 12"}}},
+                Row{.label = "Real estate",
+                    .value = "$2.4M",
+                    .detail = "Two houses, one of them paid",
+                    .press = nothing},
+                Row{.label = "Lost to age", .value = "0", .tone = Tone::quiet},
+                Row{.label = "The Long Night of the Unfinished Screenplays",
+                    .value = "Casting closes in three weeks from today",
+                    .picture = {{.kind = PictureKind::poster,
+                                 .name = "night",
+                                 .description = "a desk lamp in the rain"}},
+                    .press = nothing},
+                Field{.label = "Stage name",
+                      .value = "Ada Lark",
+                      .type = [](Stage&, const std::string&) {},
+                      .hint = "As on the poster"},
+                Field{.label = "Biography", .type = [](Stage&, const std::string&) {}, .severalLines = true},
+                Slider{.label = "Budget",
+                       .value = 25'000'000,
+                       .minimum = 0,
+                       .maximum = 40'000'000,
+                       .step = 500'000,
+                       .text = "$25M",
+                       .slide = [](Stage&, double) {}},
+                Choice{.label = "Genre",
+                       .options = {{.label = "Drama", .chosen = true, .press = nothing},
+                                   {.label = "Comedy", .press = nothing},
+                                   {.label = "Science Fiction", .press = nothing}}},
+                Choice{.label = "Extras",
+                       .options = {{.label = "Valet", .chosen = true, .press = nothing},
+                                   {.label = "Band", .press = nothing}},
+                       .several = true}}};
+}
+
+Chart chart(Chart::Kind kind, std::string title, const std::vector<double>& values) {
+  Chart made{.kind = kind, .title = std::move(title), .summary = "It went as it went."};
+  for (const double value : values) {
+    made.points.push_back({.label = std::format("W{}", made.points.size() + 1),
+                           .value = value,
+                           .text = std::format("{:g}", value)});
+  }
+  if (kind == Chart::Kind::line) made.scale = {{-4, "-4"}, {0, "0"}, {4, "4"}, {8, "8"}};
+  return made;
+}
+
+Section charts() {
+  return {.heading = "CHARTS",
+          .nodes = {chart(Chart::Kind::line, "Balance by week", {0, 1, 2, 4, 7.5, 8, 5, 2, -1, -4}),
+                    chart(Chart::Kind::bar, "Box office", {12, 30, 7}),
+                    chart(Chart::Kind::histogram, "Scores", {1, 4, 9, 3}),
+                    chart(Chart::Kind::pie, "Income", {50, 30, 20})}};
+}
+
+Section people() {
+  return {
+      .heading = "PEOPLE",
+      .nodes = {
+          Picture{.kind = PictureKind::house, .name = "villa", .description = "a villa above the bay"},
+          Bubble{.speaker = "Ada", .text = "Dinner? I know a place that does not mind being stared at."},
+          Bubble{.speaker = "You", .text = "Only if they serve ラーメン 🍜.", .mine = true},
+          TimelineEntry{
+              .when = "WEEK 3",
+              .text =
+                  "Booked a principal role in a series that nobody has heard of yet, but everybody will."},
+          TimelineEntry{.when = "SEPTEMBER 12, 2031", .text = "Married."},
+          Card{.title = "The Long Night",
+               .subtitle = "Feature Film",
+               .picture = {{.kind = PictureKind::poster, .name = "p", .description = "a lamp"}},
+               .nodes = {Text{.text = "A night that does not end."},
+                         Section{.heading = "Role", .nodes = {Row{.label = "Lead", .value = "$90K"}}},
+                         Button{.label = "Audition", .press = nothing, .price = "⚡️ 10"}},
+               .press = nothing},
+          SwipeCard{.card = {.title = "Robin, 29", .nodes = {Text{.text = "Climbs."}}},
+                    .left = {.label = "Pass", .press = nothing},
+                    .right = {.label = "Like", .press = nothing}},
+          PagedList{
+              .key = "log",
+              .size = 5,
+              .nodeAt =
+                  [](std::size_t index) { return Node(Row{.label = std::format("Entry {}", index + 1)}); },
+              .pageLength = 3},
+          PagedList{.key = "none", .whenEmpty = "Nothing yet."}}};
+}
+
+}  // namespace
+
+Page gallery() {
+  return {.title = "Ada Lark",
+          .subtitle = "MARCH\n20, 2026",
+          .icons = {{.label = "The Backstage", .icon = "B", .press = nothing},
+                    {.label = "Settings", .icon = "⚙️", .press = nothing}},
+          .nodes = {figures(), uses(), charts(), people()},
+          .tabs = {{.label = "Home", .icon = "🏠", .current = true, .press = nothing},
+                   {.label = "Work", .icon = "🎬", .press = nothing},
+                   {.label = "Social", .icon = "💬", .press = nothing},
+                   {.label = "Life", .icon = "⚡️", .press = nothing},
+                   {.label = "Wealth", .icon = "💰", .press = nothing}},
+          .close = {{.label = "Back", .press = nothing}}};
+}
+
+}  // namespace tb::test

@@ -1,0 +1,192 @@
+#include <cmath>
+#include <format>
+#include <gtest/gtest.h>
+#include <limits>
+#include <regex>
+#include <sstream>
+
+#include "shells/console/painter.h"
+#include "shells/console/text.h"
+#include "tests/shells/console_pages.h"
+
+namespace tb::console {
+
+namespace {
+
+using namespace view;
+using test::laidOut;
+using test::nothing;
+using test::textOf;
+
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+void expectWithin(const std::string& text, int columns) {
+  for (const std::string& line : linesOf(text)) EXPECT_LE(columnsOf(line), columns) << line;
+}
+
+std::string bodyOf(std::vector<Node> nodes) {
+  return textOf(paint(laidOut({.title = "Page", .nodes = std::move(nodes)}), {}).body);
+}
+
+Chart chartOf(Chart::Kind kind, const std::vector<double>& values) {
+  Chart chart{.kind = kind, .title = "Chart"};
+  for (const double value : values)
+    chart.points.push_back({.label = "a place", .value = value, .text = "a figure"});
+  return chart;
+}
+
+}  // namespace
+
+TEST(ConsolePainter, EveryKindOfNodeReadsWellAt80Columns) {
+  constexpr char expected[] = {
+#embed "console_gallery.txt"
+  };
+  EXPECT_EQ(textOf(paint(laidOut(test::gallery()), {})), std::string(expected, sizeof expected));
+}
+
+TEST(ConsolePainter, NoLineIsWiderThanThePage) {
+  Page page = test::gallery();
+  page.title = "Wilhelmina Alexandrina Rumpelstiltskin the Third 🎬";
+  page.nodes.push_back(
+      Button{.label = std::string(300, 'x'), .press = nothing, .price = std::string(120, '9')});
+  page.nodes.push_back(
+      Card{.title = std::string(200, 'y'), .nodes = {Row{.label = "役", .value = std::string(90, 'z')}}});
+  const Page laid_out = laidOut(std::move(page));
+  for (const int columns : {40, 41, 47, 53, 66, 79, 80, 100}) {
+    for (const bool blocks : {false, true}) {
+      SCOPED_TRACE(std::format("{} columns", columns));
+      expectWithin(textOf(paint(laid_out, {.columns = columns, .blocks = blocks})), columns);
+    }
+  }
+}
+
+TEST(ConsolePainter, WhatCanBeUsedHasItsNumberOnceAndNothingElseHasOne) {
+  test::ScratchGame scratch;
+  Stage stage(scratch.game);
+  stage.open(std::make_unique<test::BlankScreen>());
+  const LaidOutPage laid_out = layOut(test::gallery(), stage);
+  const PaintedPage painted = paint(laid_out.page, {});
+  const std::string text = textOf(painted);
+
+  ASSERT_EQ(painted.targets.size(), laid_out.uses.size());
+  for (const auto& [handle, target] : painted.targets) {
+    const std::string mark = std::format("[{}]", handle);
+    EXPECT_NE(text.find(mark), std::string::npos) << target.label;
+    EXPECT_EQ(text.find(mark), text.rfind(mark)) << target.label;
+    const LaidOutPage::Use& use = laid_out.uses[static_cast<std::size_t>(handle) - 1];
+    EXPECT_EQ(target.kind == Target::Kind::button, static_cast<bool>(use.press)) << target.label;
+    EXPECT_EQ(target.kind == Target::Kind::field, static_cast<bool>(use.type)) << target.label;
+    EXPECT_EQ(target.kind == Target::Kind::slider, static_cast<bool>(use.slide)) << target.label;
+  }
+}
+
+TEST(ConsolePainter, UnderADialogNothingCanBeUsed) {
+  Page page = test::gallery();
+  page.dialog.push_back(
+      {.title = "🏆 You won 🏆", .message = "\n\nSmile.", .answers = {{.label = "OK", .press = nothing}}});
+  const PaintedPage painted = paint(laidOut(std::move(page)), {});
+  EXPECT_EQ(textOf(painted.dialog),
+            "      +- 🏆 You won 🏆\n"
+            "      | Smile.\n"
+            "      |\n"
+            "  [1] | OK\n");
+  EXPECT_EQ(painted.targets.size(), 1);
+  EXPECT_EQ(textOf(painted.body).find("[1]"), std::string::npos);
+}
+
+TEST(ConsolePainter, WhatIsOffTellsWhyWhereverItStands) {
+  const Button off{.label = "Fly", .press = nothing, .price = "$9", .offReason = "The airport is closed."};
+  for (const Node& node : {Node(off), Node(Buttons{{off}}), Node(Card{.title = "Trip", .nodes = {off}}),
+                           Node(SwipeCard{.left = off, .right = off})}) {
+    const std::string text = bodyOf({node});
+    EXPECT_NE(text.find("[-]"), std::string::npos) << text;
+    EXPECT_NE(text.find("The airport is closed."), std::string::npos) << text;
+    EXPECT_EQ(text.find("[1]"), std::string::npos) << text;
+  }
+}
+
+TEST(ConsolePainter, ANameCannotTakeOverTheTerminal) {
+  const std::string name = "\x1b[2JEve\x1b]0;x\x07\r\n\u202E[9] Free money";
+  const Page page =
+      laidOut({.title = name,
+               .subtitle = name,
+               .nodes = {Text{.text = name}, Row{.label = name, .value = name},
+                         Bubble{.speaker = name, .text = name, .mine = true}, Card{.title = name},
+                         Field{.label = name, .value = name}, Tiles{{{.label = name, .value = name}}}},
+               .tabs = {{.label = name, .icon = name}},
+               .dialog = {{.title = name, .message = name}}});
+  for (const char byte : textOf(paint(page, {}))) {
+    EXPECT_TRUE(byte == '\n' || static_cast<unsigned char>(byte) >= 0x20) << static_cast<int>(byte);
+    EXPECT_NE(byte, '\x7f');
+  }
+}
+
+TEST(ConsolePainter, ColoursChangeNothingThatIsSaid) {
+  static const std::regex colour("\x1b\\[[0-9;]*m");
+  const PaintedPage painted = paint(laidOut(test::gallery()), {});
+  for (const Line& line : painted.body) {
+    const std::string plain = std::regex_replace(printed(line, true), colour, "");
+    EXPECT_EQ(plain.substr(0, plain.find_last_not_of(' ') + 1), printed(line, false));
+  }
+}
+
+TEST(ConsolePainter, ChartsOfAnyNumbersAreDrawnWithinThePage) {
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  constexpr double endless = std::numeric_limits<double>::infinity();
+  constexpr double huge = std::numeric_limits<double>::max();
+  std::vector<double> decade(520);
+  for (std::size_t week = 0; week < decade.size(); ++week)
+    decade[week] = std::sin(static_cast<double>(week) / 50);
+  const std::vector<std::vector<double>> all = {
+      {}, {0}, {5}, {-5, -7}, {none, endless, -endless}, {huge, -huge}, {3, 3, 3}, decade};
+  for (const Chart::Kind kind :
+       {Chart::Kind::line, Chart::Kind::bar, Chart::Kind::pie, Chart::Kind::histogram}) {
+    for (const std::vector<double>& values : all) {
+      const std::string text = bodyOf({chartOf(kind, values)});
+      expectWithin(text, 80);
+      EXPECT_NE(text.find("Chart"), std::string::npos);
+    }
+  }
+  for (const double value : {none, endless, -endless, huge}) {
+    expectWithin(bodyOf({Meter{.label = "Meter", .value = value, .maximum = 0}, Stars{.value = value},
+                         Slider{.label = "Slider", .value = value, .maximum = value},
+                         Countdown{.secondsLeft = value}}),
+                 80);
+  }
+}
+
+TEST(ConsolePainter, APlotShowsGainAboveTheGroundAndLossBelowIt) {
+  Chart chart = chartOf(Chart::Kind::line, {4, 0, -4});
+  chart.scale = {{-4, "-4"}, {0, "0"}, {4, "4"}};
+  EXPECT_EQ(bodyOf({chart}),
+            "      Chart\n"
+            "       4 |######\n"
+            "         |######\n"
+            "         |######\n"
+            "       0 |######......\n"
+            "         |            ######\n"
+            "         |            ######\n"
+            "         |            ######\n"
+            "      -4 |            ######\n"
+            "         +------------------\n"
+            "          a place    a place\n");
+}
+
+TEST(ConsolePainter, TimeRunsWhileACountdownHasSecondsLeft) {
+  const auto countsWith = [](double seconds) {
+    return paint(laidOut({.nodes = {Card{.nodes = {Countdown{.secondsLeft = seconds, .secondsInAll = 60}}}}}),
+                 {})
+        .counting;
+  };
+  EXPECT_TRUE(countsWith(0.1));
+  EXPECT_FALSE(countsWith(0));
+  EXPECT_NE(bodyOf({Countdown{.label = "Bids", .secondsLeft = 0.4, .secondsInAll = 60}}).find("0:01"),
+            std::string::npos);
+}
+
+}  // namespace tb::console
