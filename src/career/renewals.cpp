@@ -57,9 +57,11 @@ Verdict judge(Game& game, const Audition& project) {
   return verdictOn(game, world.saveAllFilmList[film].imbdRating);
 }
 
+// A feature film goes on only as part of a saga.
 bool isUndecided(const Audition& project, std::int64_t typeOfFilm) {
+  const bool can_go_on = typeOfFilm == filmType::series || project.franchiseId != outsideSagas;
   return project.funnelStage >= stage::wrapped && project.isContinued == 0 &&
-         project.typeOfFilm == typeOfFilm;
+         project.typeOfFilm == typeOfFilm && can_go_on;
 }
 
 // --- The next instalment ---
@@ -206,22 +208,16 @@ template <class CarryOn>
 void decide(Game& game, std::int64_t typeOfFilm, Bank endBank, CarryOn carryOn) {
   WorldState& world = game.world;
   const std::size_t records = world.saveAllAuditionList.size();
+  bool decided = false;
   for (std::size_t index = 0; index < records; ++index) {
     if (!isUndecided(world.saveAllAuditionList[index], typeOfFilm)) continue;
-    switch (judge(game, world.saveAllAuditionList[index])) {
-      case Verdict::wait:
-        break;
-      case Verdict::retire:
-        world.saveAllAuditionList.edit(index).isContinued = endedForGood;
-        break;
-      case Verdict::end:
-        end(game, index, endBank);
-        break;
-      case Verdict::carryOn:
-        carryOn(index);
-        break;
-    }
+    const Verdict verdict = judge(game, world.saveAllAuditionList[index]);
+    if (verdict == Verdict::retire) world.saveAllAuditionList.edit(index).isContinued = endedForGood;
+    if (verdict == Verdict::end) end(game, index, endBank);
+    if (verdict == Verdict::carryOn) carryOn(index);
+    decided = decided || verdict != Verdict::wait;
   }
+  if (!decided) return;
   save<&WorldState::saveAllAuditionList, &WorldState::filmId, &WorldState::activityTracker>(game);
 }
 

@@ -8,7 +8,7 @@
 namespace tb {
 
 // Looks at every released series of the performer's that may still be renewed. A new season is a project of
-// its own and already booked. Writes the list, `filmId` and the log.
+// its own and already booked. Writes the list, `filmId` and the log when one was decided.
 void renewSeries(Game& game);
 
 // The same for the films of a saga, which ends when its catalogue has no further entry.

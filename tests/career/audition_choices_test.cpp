@@ -70,8 +70,8 @@ TEST_F(AuditionChoices, ThePerformanceIsBuiltUpUntilTheWrap) {
 }
 
 TEST_F(AuditionChoices, PromotionIsForPrincipalsOfFilmsAndSeriesBeforeTheRelease) {
-  Audition& project =
-      add({.typeOfFilm = filmType::series, .isPrincipal = 1, .weekReleased = 11, .funnelStage = stage::wrapped});
+  Audition& project = add(
+      {.typeOfFilm = filmType::series, .isPrincipal = 1, .weekReleased = 11, .funnelStage = stage::wrapped});
   EXPECT_EQ(boostOf(world, project)->kind, BoostKind::promote);
   EXPECT_EQ(boostOf(world, project)->energyPrice, 25);
   EXPECT_FALSE(buyBoost(game, 0));
@@ -117,9 +117,10 @@ TEST_F(AuditionChoices, TheBribeDoublesItsPriceAndSpeaksByItsStrength) {
     random.range(90, roll);
     const std::size_t index = world.saveAllAuditionList.size() - 1;
     EXPECT_EQ(bribeCastingDirector(game, index),
-              (Notice{"🤝 BRIBED 🤝", std::string("You bribed the Casting Director and ") + phrase +
-                                          ".\n\nThis does not mean you automatically earn the role, just the chance "
-                                          "to audition."}));
+              (Notice{"🤝 BRIBED 🤝",
+                      std::string("You bribed the Casting Director and ") + phrase +
+                          ".\n\nThis does not mean you automatically earn the role, just the chance "
+                          "to audition."}));
     EXPECT_EQ(project.didBribe, roll + 10);
     EXPECT_FALSE(isBribeOffered(project));
     price *= 2;
@@ -145,8 +146,9 @@ TEST_F(AuditionChoices, WithdrawingCostsUpToAHundredthOfTheFansAtAnyStage) {
   EXPECT_EQ(world.saveAllAuditionList.size(), 2u);
   EXPECT_EQ(world.totalFans, 1089);
   EXPECT_EQ(world.trackFans, (IntList{1089}));
-  EXPECT_EQ(world.activityTracker, (TextList{"You withdrew from \"Saltwater\" after booking the role, and fans are not "
-                                             "taking it well — 10 fans lost."}));
+  EXPECT_EQ(world.activityTracker,
+            (TextList{"You withdrew from \"Saltwater\" after booking the role, and fans are not "
+                      "taking it well — 10 fans lost."}));
   EXPECT_TRUE(world.WeekFeed.empty());
   EXPECT_EQ(store.value("totalFans"), plist::Value{std::int64_t{1089}});
   EXPECT_TRUE(store.contains("trackFans"));

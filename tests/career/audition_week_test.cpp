@@ -223,8 +223,9 @@ TEST_F(AuditionWeek, TheBestRehearsalStillHasTheDieToWin) {
   chance(25).range(26, 25);
   die(win);
   EXPECT_EQ(live(invited()).funnelStage, stage::booked);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You auditioned for Saltwater and the cast director offered you the role. "
-                                      "Shooting begins in 9 week(s)."}));
+  EXPECT_EQ(world.WeekFeed,
+            (TextList{"You auditioned for Saltwater and the cast director offered you the role. "
+                      "Shooting begins in 9 week(s)."}));
   EXPECT_TRUE(world.activityTracker.empty());
   EXPECT_DOUBLE_EQ(world.experience, 30.9 / 3);
   EXPECT_EQ(agentsMood(), 5);
@@ -232,7 +233,8 @@ TEST_F(AuditionWeek, TheBestRehearsalStillHasTheDieToWin) {
   chance(25).range(26, 25);
   die(breakFace);
   EXPECT_EQ(live(invited()).funnelStage, stage::invited);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You auditioned for Saltwater but you were not selected for the role."}));
+  EXPECT_EQ(world.WeekFeed,
+            (TextList{"You auditioned for Saltwater but you were not selected for the role."}));
   EXPECT_EQ(world.experience, 0);
   EXPECT_EQ(agentsMood(), -2.5);
   EXPECT_TRUE(world.activityTracker.empty());
@@ -261,13 +263,15 @@ TEST_F(AuditionWeek, ACommercialIsNeverSpokenOfByItsTitle) {
   commercial.didAct = 0;
   chance(30).range(26, 0);
   EXPECT_EQ(live(commercial).funnelStage, stage::booked);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You auditioned for a commercial and the cast director offered you the role. "
-                                      "Shooting begins in 9 week(s)."}));
+  EXPECT_EQ(world.WeekFeed,
+            (TextList{"You auditioned for a commercial and the cast director offered you the role. "
+                      "Shooting begins in 9 week(s)."}));
   EXPECT_DOUBLE_EQ(world.experience, 30.9 / 3);
   commercial.didAct = 1;
   chance(30).range(26, 0).range(30, 29);
   live(commercial);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You auditioned for a commercial but you were not selected for the role."}));
+  EXPECT_EQ(world.WeekFeed,
+            (TextList{"You auditioned for a commercial but you were not selected for the role."}));
 }
 
 TEST_F(AuditionWeek, WithoutThePerformerAProjectIsOfferedWithoutAWord) {
@@ -328,8 +332,9 @@ TEST_F(AuditionWeek, AnOwnProductionIsPitchedUnlessItIsAFeature) {
   own.typeOfFilm = filmType::series;
   random.any(3);
   live(own);
-  EXPECT_EQ(world.WeekFeed, (TextList{"Filming wrapped for Saltwater, a TV-Series you directed and produced. Pitch it "
-                                      "to networks prior to release."}));
+  EXPECT_EQ(world.WeekFeed,
+            (TextList{"Filming wrapped for Saltwater, a TV-Series you directed and produced. Pitch it "
+                      "to networks prior to release."}));
   EXPECT_TRUE(world.activityTracker.empty());
   EXPECT_EQ(world.experience, 0);
 }
@@ -341,7 +346,8 @@ TEST_F(AuditionWeek, AnInvestmentThatWrapsStandsInBothLists) {
   random.range(21, 0).range(25, 0);
   live(financed);
   const TextList line = {
-      "Wrap! Filming has officially completed on Saltwater, and your 35% of it moves on to the editing room."};
+      "Wrap! Filming has officially completed on Saltwater, and your 35% of it moves on to the editing "
+      "room."};
   EXPECT_EQ(world.WeekFeed, line);
   EXPECT_EQ(world.activityTracker, line);
   EXPECT_EQ(world.experience, 0);
@@ -402,8 +408,8 @@ TEST_F(AuditionWeek, AReleaseBringsItsFansInTheSameWeek) {
   project.weekReleased = 10;
   project.budget = 400'000;
   world.saveAllFilmList.push_back({.filmId = 1, .typeOfFilm = filmType::shortFilm});
-  // By a director of 0: scores and a review that are rolled anew, to a rating of 1 and the top of R(5, 10), and
-  // how many gave them; then the fans at their top.
+  // By a director of 0: scores and a review that are rolled anew, to a rating of 1 and the top of R(5, 10),
+  // and how many gave them; then the fans at their top.
   random.any(5).unit(0).range(6, 5).any(2).unit(1);
   live(project);
   EXPECT_EQ(world.saveAllFilmList[0].imbdRating, 1);

@@ -1,7 +1,6 @@
 #include "career/casting_board.h"
 
 #include <gtest/gtest.h>
-
 #include <set>
 
 #include "career/casting_terms.h"
@@ -17,7 +16,8 @@ struct Casting : testing::Test, test::ScratchGame {
   const TvRole recurring = {.label = "Recurring", .fewestEpisodes = 2, .mostEpisodes = 4};
   Movie movie;
 
-  CastingListing terms(std::int64_t type, std::int64_t isPrincipal, std::int64_t isUnion, const TvRole& tvRole) {
+  CastingListing terms(std::int64_t type, std::int64_t isPrincipal, std::int64_t isUnion,
+                       const TvRole& tvRole) {
     movie.type = type;
     CastingListing listing{.movie = &movie, .role = "drawn", .isPrincipal = isPrincipal, .isUnion = isUnion};
     drawTerms(game, listing, tvRole);
@@ -120,8 +120,9 @@ TEST_F(Casting, ShortFilmsHaveFourScales) {
 }
 
 TEST_F(Casting, DirectorsLeapByTheirBands) {
-  const std::pair<int, int> leaps[] = {{0, 2},   {50, 2},  {51, 4},  {65, 4},  {66, 6},  {75, 6},  {76, 8},  {80, 8},
-                                       {81, 10}, {82, 10}, {83, 12}, {84, 12}, {85, 15}, {86, -2}, {100, -2}};
+  const std::pair<int, int> leaps[] = {{0, 2},   {50, 2},  {51, 4},  {65, 4},  {66, 6},
+                                       {75, 6},  {76, 8},  {80, 8},  {81, 10}, {82, 10},
+                                       {83, 12}, {84, 12}, {85, 15}, {86, -2}, {100, -2}};
   for (const auto& [roll, points] : leaps) {
     random.range(31, 20).range(101, roll);  // the level is 1: 1 + 20 - 15
     EXPECT_EQ(drawDirectorRating(game), 6 + points) << roll;
@@ -138,8 +139,8 @@ TEST_F(Casting, DirectorsLeapByTheirBands) {
   EXPECT_EQ(drawWriterRating(game), 1);
 }
 
-// The draws of a listing but for its terms: part, television role, title, role, guild, character ... director,
-// schedule.
+// The draws of a listing but for its terms: part, television role, title, role, guild, character ...
+// director, schedule.
 struct CastingNetwork : Casting {
   std::int64_t rows = std::ssize(movies());
   std::int64_t placeOfType(std::int64_t type, int nth = 0) {

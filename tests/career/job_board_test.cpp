@@ -25,8 +25,9 @@ TEST_F(JobBoard, ShowsOneJobTwiceWithTheSamePayAndContractsOfItsOwn) {
   const auto board = openJobBoard(game);
   ASSERT_EQ(board.size(), 3u);
   EXPECT_EQ(board[0].job.jobTitle, "Background Extra");
-  EXPECT_EQ(board[0].job.jobDescription,
-            "Appears in crowd scenes or background shots for films and TV shows, following on-set direction.");
+  EXPECT_EQ(
+      board[0].job.jobDescription,
+      "Appears in crowd scenes or background shots for films and TV shows, following on-set direction.");
   EXPECT_EQ(board[0].job.energyCost, 14);
   EXPECT_EQ(board[0].job.jobPay, 400);
   EXPECT_EQ(board[0].contractWeeks, 4);
@@ -40,7 +41,8 @@ TEST_F(JobBoard, ShowsOneJobTwiceWithTheSamePayAndContractsOfItsOwn) {
 
 TEST_F(JobBoard, HiresWithoutAskingForEnergyAndOnlyOnce) {
   world.totalEnergyAvailable = 0;
-  const JobOffer runner = {.job = {.jobTitle = "Set Runner", .energyCost = 20, .jobPay = 410}, .contractWeeks = 5};
+  const JobOffer runner = {.job = {.jobTitle = "Set Runner", .energyCost = 20, .jobPay = 410},
+                           .contractWeeks = 5};
   EXPECT_FALSE(acceptJob(game, runner));
   EXPECT_EQ(world.weeklyJobTitle, "Set Runner");
   EXPECT_EQ(world.weeklyJobIncome, 410);

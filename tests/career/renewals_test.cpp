@@ -56,8 +56,8 @@ struct Renewals : testing::Test, test::ScratchGame {
   }
   std::int64_t continued() const { return world.saveAllAuditionList[0].isContinued; }
 
-  // The schedule, the preparation and the hype of the next instalment: audition in 15 weeks, 20 more to the wrap,
-  // 15 to the release.
+  // The schedule, the preparation and the hype of the next instalment: audition in 15 weeks, 20 more to the
+  // wrap, 15 to the release.
   void scriptInstalment() {
     random.range(14, 13).range(17, 16).range(8, 7);
     random.unit(0).unit(1).unit(0.5).range(31, 20).range(101, 0).range(4, 0);
@@ -215,18 +215,18 @@ TEST_F(Renewals, PayGoesByTheBandsOfSuccessAndByATenthBetweenThem) {
     double royalty;
   };
   const Case cases[] = {
-      {4.1, 19, 1.05, 1.01},   // 2.55
-      {5, 19, 1.05, 1.01},     // 3
-      {5.015, 19, 1.1, 1.1},   // 3.0075: between the bands
+      {4.1, 19, 1.05, 1.01},    // 2.55
+      {5, 19, 1.05, 1.01},      // 3
+      {5.015, 19, 1.1, 1.1},    // 3.0075: between the bands
       {5.02, 19, 1.175, 1.03},  // 3.01
-      {8, 29, 1.175, 1.03},    // 5
-      {8.01, 29, 1.1, 1.1},    // 5.005
-      {8.02, 29, 1.5, 1.05},   // 5.01
-      {8, 60, 1.5, 1.05},      // 7
-      {8.03, 60, 1.75, 1.07},  // 7.015
-      {8, 90, 1.75, 1.07},     // 8.5
-      {8.001, 90, 1.1, 1.1},   // 8.5005
-      {9, 100, 2, 1.1},        // 9.5
+      {8, 29, 1.175, 1.03},     // 5
+      {8.01, 29, 1.1, 1.1},     // 5.005
+      {8.02, 29, 1.5, 1.05},    // 5.01
+      {8, 60, 1.5, 1.05},       // 7
+      {8.03, 60, 1.75, 1.07},   // 7.015
+      {8, 90, 1.75, 1.07},      // 8.5
+      {8.001, 90, 1.1, 1.1},    // 8.5005
+      {9, 100, 2, 1.1},         // 9.5
   };
   for (const Case& each : cases) {
     give(series(), each.rating, each.metascore);
@@ -277,7 +277,8 @@ TEST_F(Sagas, GoOnWithTheNextEntryOfTheSameSaga) {
   EXPECT_EQ(next.numberOfEpisodesActed, 0);
   EXPECT_EQ(next.funnelStage, stage::booked);
   EXPECT_EQ(next.isContinued, 0);
-  const TextList line = {first.title + " was only the beginning. You have been booked for " + second.title + "."};
+  const TextList line = {first.title + " was only the beginning. You have been booked for " + second.title +
+                         "."};
   EXPECT_EQ(world.activityTracker, line);
   EXPECT_EQ(world.WeekFeed, line);
 }

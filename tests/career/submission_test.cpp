@@ -116,9 +116,10 @@ TEST_F(Submission, OutsideSeriesNothingContinuesAndTheCounterOnlyRises) {
 TEST_F(Submission, RefusesInItsOrderAndTakesNothing) {
   world.totalEnergyAvailable = 19;
   EXPECT_EQ(submitToCastingListing(game, listing)->title, "🎞 Actor's Guild 🎞");
-  EXPECT_TRUE(submitToCastingListing(game, listing)
-                  ->message.starts_with("\nBecome a member of the Actor's Guild to gain access to better pay, "
-                                        "residuals, royalties and feature films."));
+  EXPECT_TRUE(
+      submitToCastingListing(game, listing)
+          ->message.starts_with("\nBecome a member of the Actor's Guild to gain access to better pay, "
+                                "residuals, royalties and feature films."));
   listing.isUnion = 0;
   EXPECT_EQ(submitToCastingListing(game, listing),
             (Notice{"⚡️ Not Enough Energy! ⚡️", "\nYou don't have the energy to submit for this role."}));
@@ -136,7 +137,12 @@ TEST_F(Submission, RefusesInItsOrderAndTakesNothing) {
 TEST_F(Submission, DifficultyAddsItsTerms) {
   Audition project = {.typeOfFilm = 3, .isPrincipal = 0, .isUnion = 0, .payment = 999.9, .budget = 99'999};
   EXPECT_EQ(auditionDifficulty(project, false), 5 + 0 + 0 + 0 + 5 + 1);
-  project = {.typeOfFilm = 0, .isPrincipal = 1, .isUnion = 1, .payment = 100'999, .residual = 0.015, .budget = 10'099'999};
+  project = {.typeOfFilm = 0,
+             .isPrincipal = 1,
+             .isUnion = 1,
+             .payment = 100'999,
+             .residual = 0.015,
+             .budget = 10'099'999};
   EXPECT_DOUBLE_EQ(auditionDifficulty(project, false), 20 + 100 + 100 + 1.5 + 40 + 25);
   project.payment = 5e6;
   project.budget = 3e9;
@@ -145,7 +151,8 @@ TEST_F(Submission, DifficultyAddsItsTerms) {
   EXPECT_EQ(auditionDifficulty(project, true), 5 + 2 + 1 + 5 + 5);
   const std::pair<int, int> episodes[] = {{1, 15}, {2, 25}, {4, 25}, {5, 35}, {12, 35}};
   for (const auto& [count, points] : episodes) {
-    EXPECT_EQ(auditionDifficulty({.typeOfFilm = 1, .numberOfEpisodesActed = count}, true), 5 + 5 + points) << count;
+    EXPECT_EQ(auditionDifficulty({.typeOfFilm = 1, .numberOfEpisodesActed = count}, true), 5 + 5 + points)
+        << count;
   }
 }
 
