@@ -2,10 +2,9 @@
 
 // Chance, scripted: a test says what the next draws give, and sees when a rule draws more or fewer.
 
-#include <gtest/gtest.h>
-
 #include <cstdint>
 #include <deque>
+#include <gtest/gtest.h>
 
 #include "core/random.h"
 
@@ -16,12 +15,14 @@ class ScriptedRandom : public RandomSource {
   // The next RandomRange(n) gives `value`.
   ScriptedRandom& range(std::int64_t n, std::int64_t value) {
     // The middle of the words that RandomRange maps to `value`, so that none is drawn again.
-    const auto numerator = (static_cast<unsigned __int128>(value) << 64) + (static_cast<unsigned __int128>(1) << 63);
+    const auto numerator =
+        (static_cast<unsigned __int128>(value) << 64) + (static_cast<unsigned __int128>(1) << 63);
     words_.push_back(static_cast<std::uint64_t>(numerator / static_cast<unsigned __int128>(n)));
     return *this;
   }
 
-  // The next RandomUnit(a, b) gives a + share · (b - a), to the resolution of the draw; share 1 gives exactly b.
+  // The next RandomUnit(a, b) gives a + share · (b - a), to the resolution of the draw; share 1 gives exactly
+  // b.
   ScriptedRandom& unit(double share) {
     constexpr std::int64_t steps = (std::int64_t{1} << 53) + 1;
     return range(steps, share >= 1 ? steps - 1 : static_cast<std::int64_t>(share * 0x1p53));
@@ -29,14 +30,14 @@ class ScriptedRandom : public RandomSource {
 
   // The next `count` draws are of no interest: they give the low end.
   ScriptedRandom& any(int count) {
-    words_.insert(words_.end(), static_cast<std::size_t>(count), std::uint64_t{1} << 32);
+    words_.insert(words_.end(), static_cast<std::size_t>(count), lowWord);
     return *this;
   }
 
   std::uint64_t next() override {
     if (words_.empty()) {
       ADD_FAILURE() << "a draw that the test did not script";
-      return std::uint64_t{1} << 62;
+      return quarterWord;
     }
     const std::uint64_t word = words_.front();
     words_.pop_front();
@@ -46,6 +47,10 @@ class ScriptedRandom : public RandomSource {
   [[nodiscard]] std::size_t left() const { return words_.size(); }
 
  private:
+  // Near 0 and near a quarter of every range; odd, so that no range draws them again.
+  static constexpr std::uint64_t lowWord = (std::uint64_t{1} << 32) + 1;
+  static constexpr std::uint64_t quarterWord = (std::uint64_t{1} << 62) + 1;
+
   std::deque<std::uint64_t> words_;
 };
 

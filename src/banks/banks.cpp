@@ -15,10 +15,50 @@ constexpr char weekFile[] = {
 constexpr char talentFile[] = {
 #embed "banks/talent.txt"
 };
+constexpr char namesFile[] = {
+#embed "banks/names.txt"
+};
+constexpr char titlesFile[] = {
+#embed "banks/titles.txt"
+};
+constexpr char jobsFile[] = {
+#embed "banks/jobs.txt"
+};
+constexpr char auditionFile[] = {
+#embed "banks/audition.txt"
+};
+constexpr char filmFile[] = {
+#embed "banks/film.txt"
+};
+constexpr char boxOfficeFile[] = {
+#embed "banks/box_office.txt"
+};
+constexpr char earningsFile[] = {
+#embed "banks/earnings.txt"
+};
+constexpr char criticsFile[] = {
+#embed "banks/critics.txt"
+};
+constexpr char allTimeFile[] = {
+#embed "banks/all_time.txt"
+};
+constexpr char bankableFile[] = {
+#embed "banks/bankable.txt"
+};
 
-constexpr std::array<std::string_view, 2> bankFiles = {{
+constexpr std::array<std::string_view, 12> bankFiles = {{
     {weekFile, sizeof weekFile},
     {talentFile, sizeof talentFile},
+    {namesFile, sizeof namesFile},
+    {titlesFile, sizeof titlesFile},
+    {jobsFile, sizeof jobsFile},
+    {auditionFile, sizeof auditionFile},
+    {filmFile, sizeof filmFile},
+    {boxOfficeFile, sizeof boxOfficeFile},
+    {earningsFile, sizeof earningsFile},
+    {criticsFile, sizeof criticsFile},
+    {allTimeFile, sizeof allTimeFile},
+    {bankableFile, sizeof bankableFile},
 }};
 
 using BankRows = std::vector<std::string>;

@@ -1,9 +1,15 @@
 #include "week/end_week.h"
 
+#include <utility>
+
 #include "career/audition_cleanup.h"
+#include "career/audition_week.h"
 #include "career/classes.h"
 #include "career/job_contract.h"
+#include "career/renewals.h"
 #include "core/save.h"
+#include "film/box_office.h"
+#include "film/new_releases.h"
 #include "life/energy.h"
 #include "wealth/best_figures.h"
 #include "wealth/market_index.h"
@@ -25,7 +31,8 @@ void advanceClock(Game& game) {
   game.world.weekNumber += 1;
   game.world.weekNumberForTracking += 1;
   game.world.saveLastWeekTrackerCount = game.world.lastWeekTrackerCount;
-  save<&WorldState::saveLastWeekTrackerCount, &WorldState::weekNumber, &WorldState::weekNumberForTracking>(game);
+  save<&WorldState::saveLastWeekTrackerCount, &WorldState::weekNumber, &WorldState::weekNumberForTracking>(
+      game);
 }
 
 void rollYearOver(WorldState& world) {
@@ -51,6 +58,7 @@ void putBestFiguresForward(Game& game, HubRefresh reason) {
 
 void endWeek(Game& game) {
   forgetLastWeek(game.world);
+  resolveAuditionsForWeek(game);
   refillEnergy(game);
   advanceJobContract(game);
   advanceClock(game);
@@ -60,8 +68,13 @@ WeekSummary openSummary(Game& game) {
   game.world.releaseOffered = false;
   const EndedWeek ended = endedWeek(game.world);
   WeekSummary summary{.week = ended.week, .year = ended.year};
+  renewSeries(game);
+  renewSaga(game);
+  closeBoxOffice(game);
   advanceClasses(game);
+  offerRelease(game.world);
   showFeed(game, summary);
+  summary.offersRelease = std::exchange(game.world.releaseOffered, false);
   cleanUpAuditions(game);
   return summary;
 }
@@ -75,8 +88,9 @@ void closeSummary(Game& game) {
 
 void refreshHub(Game& game, HubRefresh reason) {
   if (game.world.weekNumber >= weekAfterTheLast) rollYearOver(game.world);
-  save<&WorldState::ageCount, &WorldState::saveAgeLoss, &WorldState::yearNumber, &WorldState::yearToDatePaycheck,
-       &WorldState::saveLastYTDPaycheck, &WorldState::weekNumber, &WorldState::totalEnergyMax>(game);
+  save<&WorldState::ageCount, &WorldState::saveAgeLoss, &WorldState::yearNumber,
+       &WorldState::yearToDatePaycheck, &WorldState::saveLastYTDPaycheck, &WorldState::weekNumber,
+       &WorldState::totalEnergyMax>(game);
   putBestFiguresForward(game, reason);
 }
 

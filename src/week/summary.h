@@ -15,6 +15,7 @@ struct WeekSummary {
   std::int64_t year = 0;
   bool hasNews = false;   // false: nothing happened, and the one line is a tip
   std::vector<std::string> feed;
+  bool offersRelease = false;  // a title came out, and its screen was not opened yet
 };
 
 // The week that just ended, seen from the summary, when the clock already shows the new one. In the last

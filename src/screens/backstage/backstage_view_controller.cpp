@@ -2,6 +2,7 @@
 
 #include <format>
 
+#include "screens/backstage/casting_network_view_controller.h"
 #include "screens/parts.h"
 #include "screens/talent/actors_guild_view_controller.h"
 #include "screens/talent/showreel_view_controller.h"
@@ -12,11 +13,13 @@ view::Page BackstageViewController::view(const Game& game) {
   const WorldState& world = game.world;
   return {.title = "The Backstage",
           .subtitle = "What casting knows about you",
-          .nodes = {leadingTo<ShowreelViewController>("Showreel", "The first thing that casting sees",
+          .nodes = {leadingTo<CastingNetworkViewController>("Casting Network",
+                                                            "Today's roles, and yours to submit for"),
+                    leadingTo<ShowreelViewController>("Showreel", "The first thing that casting sees",
                                                       std::to_string(world.showreelScore)),
-                    leadingTo<ActorsGuildViewController>("Actors Guild",
-                                                         world.isSAG == 1 ? "Member in good standing"
-                                                                          : "Union work for working actors")}};
+                    leadingTo<ActorsGuildViewController>(
+                        "Actors Guild",
+                        world.isSAG == 1 ? "Member in good standing" : "Union work for working actors")}};
 }
 
 }  // namespace tb

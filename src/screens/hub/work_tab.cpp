@@ -4,19 +4,37 @@
 #include "career/classes.h"
 #include "core/number_style.h"
 #include "core/talent_scores.h"
+#include "screens/backstage/casting_network_view_controller.h"
+#include "screens/film/box_office_view_controller.h"
+#include "screens/film/movie_management_view_controller.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
 #include "screens/talent/acting_classes_view_controller.h"
 #include "screens/talent/talent_traits_view_controller.h"
+#include "screens/work/active_audition_view_controller.h"
+#include "screens/work/job_board_view_controller.h"
 
 namespace tb {
 
 namespace {
 
 std::string classesSummary(const WorldState& world) {
-  const auto running = std::ranges::count_if(world.saveAllCompletedClasses,
-                                             [](const ActingClass& taken) { return taken.weeksRemaining > 0; });
+  const auto running = std::ranges::count_if(
+      world.saveAllCompletedClasses, [](const ActingClass& taken) { return taken.weeksRemaining > 0; });
   return running == 0 ? "Learn the craft at Julien" : std::format("{} running", running);
+}
+
+std::string projectsSummary(const WorldState& world) {
+  const auto at = [&](std::int64_t funnelStage) {
+    return std::ranges::count_if(world.saveAllAuditionList, [&](const Audition& project) {
+      return project.funnelStage == funnelStage && project.didAct == 1;
+    });
+  };
+  return std::format("{} submitted • {} booked", at(stage::submitted), at(stage::booked));
+}
+
+std::string jobSummary(const WorldState& world) {
+  return world.weeklyJobTitle.empty() ? "Weekly pay for weekly energy" : world.weeklyJobTitle;
 }
 
 }  // namespace
@@ -26,12 +44,23 @@ std::vector<view::Node> workTab(const Game& game) {
   return {
       view::Tiles{{
           {.label = "Talent", .value = std::to_string(overallTalent(world))},
-          {.label = "Experience", .value = plainCount(game.locale, static_cast<std::int64_t>(world.experience))},
+          {.label = "Experience",
+           .value = plainCount(game.locale, static_cast<std::int64_t>(world.experience))},
           {.label = "Showreel", .value = std::to_string(world.showreelScore)},
       }},
-      view::Section{.heading = "CRAFT",
-                    .nodes = {leadingTo<TalentTraitsViewController>("Talent", "Five traits, trained with energy"),
-                              leadingTo<ActingClassesViewController>("Acting Classes", classesSummary(world))}},
+      view::Section{
+          .heading = "WORK",
+          .nodes = {leadingTo<CastingNetworkViewController>("Casting Network", "Submit for today's roles"),
+                    leadingTo<ActiveAuditionViewController>("Auditions", projectsSummary(world)),
+                    leadingTo<JobBoardViewController>("Job Board", jobSummary(world))}},
+      view::Section{.heading = "INDUSTRY",
+                    .nodes = {leadingTo<BoxOfficeViewController>("Box Office", "What the world is watching"),
+                              leadingTo<MovieManagementViewController>(
+                                  "Productions", "Titles with your money behind them")}},
+      view::Section{
+          .heading = "CRAFT",
+          .nodes = {leadingTo<TalentTraitsViewController>("Talent", "Five traits, trained with energy"),
+                    leadingTo<ActingClassesViewController>("Acting Classes", classesSummary(world))}},
   };
 }
 

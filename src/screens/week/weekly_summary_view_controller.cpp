@@ -4,6 +4,7 @@
 
 #include "core/number_style.h"
 #include "core/text.h"
+#include "screens/film/new_release_view_controller.h"
 #include "screens/parts.h"
 #include "week/end_week.h"
 
@@ -14,9 +15,10 @@ using namespace view;
 namespace {
 
 StatTile balanceTile(const Game& game, const Analytics& item) {
-  return {.label = upperCase(item.title),
-          .value = item.isCurrency == 1 ? shortMoney(game.locale, item.moneyEarned) : shortCount(item.unitsSold),
-          .detail = item.subtitle};
+  return {
+      .label = upperCase(item.title),
+      .value = item.isCurrency == 1 ? shortMoney(game.locale, item.moneyEarned) : shortCount(item.unitsSold),
+      .detail = item.subtitle};
 }
 
 Section balance(const Game& game) {
@@ -37,10 +39,21 @@ void WeeklySummaryViewController::load(Stage& stage) { summary_ = openSummary(st
 
 void WeeklySummaryViewController::leave(Stage& stage) { closeSummary(stage.game()); }
 
+Button WeeklySummaryViewController::releaseButton() {
+  return {.label = "New Release",
+          .press =
+              [this](Stage& stage) {
+                summary_.offersRelease = false;
+                stage.open(std::make_unique<NewReleaseViewController>());
+              },
+          .weight = Button::Weight::primary};
+}
+
 Page WeeklySummaryViewController::view(const Game& game) {
   Page page{.title = "REVIEW", .subtitle = std::format("Week {} of {}", summary_.week, summary_.year)};
   if (!game.world.weekBalanceItems.empty()) page.nodes.push_back(balance(game));
   page.nodes.push_back(energyMeter(game.world));
+  if (summary_.offersRelease) page.nodes.push_back(releaseButton());
   page.nodes.push_back(feed(summary_));
   return page;
 }

@@ -15,6 +15,8 @@ class WeeklySummaryViewController : public Screen {
   [[nodiscard]] std::string closeLabel() const override { return "Close"; }
 
  private:
+  [[nodiscard]] view::Button releaseButton();
+
   WeekSummary summary_;
 };
 

@@ -1,0 +1,232 @@
+#include "career/audition_week.h"
+
+#include <format>
+#include <string>
+
+#include "banks/banks.h"
+#include "core/log.h"
+#include "core/save.h"
+#include "core/signed_agent.h"
+#include "film/box_office.h"
+#include "film/film_record.h"
+#include "film/released_project.h"
+
+namespace tb {
+
+namespace {
+
+// How the agent takes what becomes of a project from the agency, in points of the relationship.
+namespace agentTakes {
+constexpr double silence = -1;
+constexpr double invitation = 2;
+constexpr double rejection = -2.5;
+constexpr double offer = 5;
+constexpr double wrap = 3;
+}  // namespace agentTakes
+
+constexpr double experienceOfInvitation = 0.25;  // of the difficulty
+constexpr double experienceOfOffer = 1.0 / 3;
+constexpr double mostExperienceOfShoot = 8;  // points
+constexpr double mostExperienceOfCommercial = 2;
+constexpr std::int64_t bribeThatSkipsTheDie = 51;
+
+// One pass over the list.
+struct Pass {
+  Game& game;
+  WorldState& world = game.world;
+  double agentRelationshipDelta = 0;
+
+  [[nodiscard]] std::int64_t week() const { return world.weekNumberForTracking; }
+  [[nodiscard]] const Audition& project(std::size_t index) const { return world.saveAllAuditionList[index]; }
+  void moveTo(std::size_t index, std::int64_t funnelStage) {
+    world.saveAllAuditionList.edit(index).funnelStage = funnelStage;
+  }
+  void tellAgent(std::size_t index, double points) {
+    if (project(index).sourceId > 0) agentRelationshipDelta += points;
+  }
+};
+
+// A commercial is never spoken of by its title.
+std::string nameOf(const Audition& project) {
+  return project.typeOfFilm == filmType::commercial ? "a commercial" : project.title;
+}
+
+// What the performer only directs or pays for is cast without a word to the performer; commercials excepted.
+bool isHeardOf(const Audition& project) {
+  return project.didAct >= 1 || project.typeOfFilm == filmType::commercial;
+}
+
+// One face of three wins. A stranger to the guild who tries for a principal role is given a second one.
+bool winsTheDie(Pass& pass, const Audition& project) {
+  const bool is_given_a_break = project.isPrincipal == rolePart::principal && pass.world.isSAG == 0;
+  const std::int64_t face = RandomBetween(pass.game.random, 1, 3);
+  return face == 2 || (face == 3 && is_given_a_break);
+}
+
+// A score that meets the chance has the die still to win, however high it is. One that falls short of it may
+// be let through to the die, the likelier the closer it came.
+bool prevails(Pass& pass, const Audition& project, std::int64_t score, std::int64_t chance) {
+  if (score < chance && RandomBetween(pass.game.random, 1, chance) >= score) return false;
+  return winsTheDie(pass, project);
+}
+
+std::int64_t drawChance(Pass& pass, const Audition& project) {
+  return RandomBetween(pass.game.random, 0, static_cast<std::int64_t>(project.auditionDifficulty));
+}
+
+// --- Submitted ---
+
+void invite(Pass& pass, std::size_t index) {
+  const Audition& project = pass.project(index);
+  if (project.isPrincipal <= rolePart::principal) {
+    pass.moveTo(index, stage::invited);
+    if (isHeardOf(project)) {
+      const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
+      pass.world.WeekFeed.push_back(
+          std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
+      logActivity(pass.world, fill(drawRow(pass.game.random, Bank::invitation),
+                                   {{"title", project.title}, {"n", weeks}}));
+      pass.world.experience += project.auditionDifficulty * experienceOfInvitation;
+    }
+  }
+  pass.tellAgent(index, agentTakes::invitation);
+}
+
+// Two weeks in three the application stays in the pile and is looked at again.
+void leaveUnanswered(Pass& pass, std::size_t index) {
+  if (RandomRange(pass.game.random, 3) != 1) return;
+  const Audition& project = pass.project(index);
+  pass.moveTo(index, stage::closed);
+  pass.world.WeekFeed.push_back(std::format("You never heard back after applying for {}.", nameOf(project)));
+  logActivity(pass.world, fill(drawRow(pass.game.random, Bank::silence), {{"title", project.title}}));
+  pass.tellAgent(index, agentTakes::silence);
+}
+
+bool isInvited(Pass& pass, const Audition& project) {
+  const std::int64_t chance = drawChance(pass, project);
+  if (project.didAct < 1) return true;
+  const std::int64_t score = RandomBetween(pass.game.random, 0, pass.world.showreelScore) + project.didBribe;
+  const bool prevailed = prevails(pass, project, score, chance);
+  return prevailed || (score >= chance && project.didBribe >= bribeThatSkipsTheDie);
+}
+
+void answerSubmission(Pass& pass, std::size_t index) {
+  if (pass.week() >= pass.project(index).weekAudition) return pass.moveTo(index, stage::closed);
+  if (isInvited(pass, pass.project(index))) return invite(pass, index);
+  leaveUnanswered(pass, index);
+}
+
+// --- Invited ---
+
+void offerRole(Pass& pass, std::size_t index) {
+  const Audition& project = pass.project(index);
+  pass.moveTo(index, stage::booked);
+  if (isHeardOf(project)) {
+    pass.world.WeekFeed.push_back(std::format(
+        "You auditioned for {} and the cast director offered you the role. Shooting begins in {} week(s).",
+        nameOf(project), project.weekToWork - pass.week() - 1));
+    pass.world.experience += project.auditionDifficulty * experienceOfOffer;
+  }
+  pass.tellAgent(index, agentTakes::offer);
+}
+
+// The record stays among the invited: its week lies in the past, so it is never auditioned for again.
+void reject(Pass& pass, std::size_t index) {
+  pass.world.WeekFeed.push_back(std::format("You auditioned for {} but you were not selected for the role.",
+                                            nameOf(pass.project(index))));
+  pass.tellAgent(index, agentTakes::rejection);
+}
+
+void audition(Pass& pass, std::size_t index) {
+  const Audition& project = pass.project(index);
+  if (pass.week() != project.weekAudition) return;
+  const std::int64_t chance = drawChance(pass, project);
+  const std::int64_t rating =
+      RandomBetween(pass.game.random, 0, static_cast<std::int64_t>(project.rehearsalRating));
+  if (project.didAct < 1 || prevails(pass, project, rating, chance)) return offerRole(pass, index);
+  reject(pass, index);
+}
+
+// --- Booked ---
+
+void tellOfShoot(Pass& pass, const Audition& project) {
+  const bool commercial = project.typeOfFilm == filmType::commercial;
+  const std::string season = project.seasonNumber >= 2 ? std::format(" Season {}", project.seasonNumber) : "";
+  pass.world.WeekFeed.push_back(commercial
+                                    ? "You wrapped filming for a commercial."
+                                    : std::format("You wrapped filming for {}{}.", project.title, season));
+  pass.world.experience +=
+      RandomUnit(pass.game.random, 0, commercial ? mostExperienceOfCommercial : mostExperienceOfShoot);
+}
+
+void tellOfOwnProduction(Pass& pass, const Audition& project) {
+  pass.world.WeekFeed.push_back(
+      project.typeOfFilm == filmType::feature
+          ? std::format("Filming wrapped for {}, a film you directed and produced.", project.title)
+          : std::format(
+                "Filming wrapped for {}, a TV-Series you directed and produced. Pitch it to networks prior "
+                "to release.",
+                project.title));
+}
+
+void tellOfInvestment(Pass& pass, const Audition& project) {
+  const std::string stake = std::format("{:.0f}%", project.equityPercentage);
+  logLine(pass.world, fill(drawRow(pass.game.random, Bank::investmentWrap),
+                           {{"title", project.title}, {"stake", stake}}));
+}
+
+void wrap(Pass& pass, std::size_t index) {
+  const Audition& project = pass.project(index);
+  if (pass.week() != project.weekToWork) return;
+  makeFilm(pass.game, project);
+  if (isHeardOf(project)) {
+    tellOfShoot(pass, project);
+  } else if (project.isPrincipal == rolePart::ownProduction) {
+    tellOfOwnProduction(pass, project);
+  } else {
+    tellOfInvestment(pass, project);
+  }
+  pass.tellAgent(index, agentTakes::wrap);
+  pass.moveTo(index, stage::wrapped);
+}
+
+// --- The pass ---
+
+void liveWeek(Pass& pass, std::size_t index) {
+  switch (pass.project(index).funnelStage) {
+    case stage::submitted:
+      return answerSubmission(pass, index);
+    case stage::invited:
+      return audition(pass, index);
+    case stage::booked:
+      return wrap(pass, index);
+    case stage::wrapped:
+      return advanceReleasedProject(pass.game, index);
+    default:
+      return;  // closed
+  }
+}
+
+void changeAgentsMood(Pass& pass) {
+  const auto agent = signedAgent(pass.world);
+  if (pass.agentRelationshipDelta == 0 || !agent) return;
+  pass.world.saveAllTalentAgents.edit(*agent).relationship += pass.agentRelationshipDelta;
+  save<&WorldState::saveAllTalentAgents>(pass.game);
+}
+
+}  // namespace
+
+void resolveAuditionsForWeek(Game& game) {
+  Pass pass{.game = game};
+  const std::size_t records = game.world.saveAllAuditionList.size();
+  for (std::size_t index = 0; index < records; ++index) liveWeek(pass, index);
+  save<&WorldState::saveAllAuditionList, &WorldState::saveAllFilmList>(game);
+  changeAgentsMood(pass);
+
+  // The carry is paid, not spent: what a title brought comes in every week until the game is closed.
+  if (records > 0) game.world.totalFans += game.world.fanGainCarry;
+  save<&WorldState::totalFans, &WorldState::experience, &WorldState::activityTracker>(game);
+  postBoxOfficeChirp(game);
+}
+
+}  // namespace tb

@@ -1,0 +1,81 @@
+#include "career/boosts.h"
+
+#include "core/house_notices.h"
+#include "core/save.h"
+#include "film/promotion.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t mostBoosts = 9;  // of each kind
+constexpr double fullRating = 100;
+constexpr double pointsOfBoost = 1.5;
+
+// Each one is dearer than the last, in energy: 4 to 16 for rehearsals, 17 to 31 on set.
+std::int64_t priceOf(std::int64_t bought, std::int64_t firstStep, double factor) {
+  return static_cast<std::int64_t>(static_cast<double>(bought + firstStep) * factor);
+}
+std::int64_t rehearsalPrice(std::int64_t bought) { return priceOf(bought, 3, 1.5); }
+std::int64_t performancePrice(std::int64_t bought) { return priceOf(bought, 10, 1.75); }
+
+bool canRehearse(const Audition& project, std::int64_t now) {
+  return project.rehearsalBoostCount < mostBoosts && project.rehearsalRating < fullRating &&
+         now <= project.weekAudition;
+}
+
+bool canPerform(const Audition& project, std::int64_t now) {
+  return project.performanceBoostCount < mostBoosts && project.performanceRating < fullRating &&
+         now <= project.weekToWork;
+}
+
+bool canPromote(const Audition& project, std::int64_t now) {
+  return project.typeOfFilm <= filmType::series && project.promoteHypeCount == 0 &&
+         project.isPrincipal == rolePart::principal && now < project.weekReleased;
+}
+
+}  // namespace
+
+std::optional<Boost> boostOf(const WorldState& world, const Audition& project) {
+  const std::int64_t now = world.weekNumberForTracking;
+  if (project.funnelStage == stage::invited && canRehearse(project, now)) {
+    return Boost{.kind = BoostKind::rehearse, .energyPrice = rehearsalPrice(project.rehearsalBoostCount)};
+  }
+  if (project.funnelStage == stage::booked && canPerform(project, now)) {
+    return Boost{.kind = BoostKind::performance,
+                 .energyPrice = performancePrice(project.performanceBoostCount)};
+  }
+  if (project.funnelStage == stage::wrapped && canPromote(project, now)) {
+    return Boost{.kind = BoostKind::promote, .energyPrice = promotionEnergy};
+  }
+  return std::nullopt;
+}
+
+Refusal buyBoost(Game& game, std::size_t auditionIndex) {
+  WorldState& world = game.world;
+  const auto boost = boostOf(world, world.saveAllAuditionList[auditionIndex]);
+  if (!boost) return {};
+  if (world.totalEnergyAvailable < boost->energyPrice) {
+    return notEnoughEnergy("\nYou don't have the energy for this right now.");
+  }
+
+  world.totalEnergyAvailable -= boost->energyPrice;
+  Audition& project = world.saveAllAuditionList.edit(auditionIndex);
+  switch (boost->kind) {
+    case BoostKind::rehearse:
+      project.rehearsalRating += pointsOfBoost;
+      project.rehearsalBoostCount += 1;
+      break;
+    case BoostKind::performance:
+      project.performanceRating += pointsOfBoost;
+      project.performanceBoostCount += 1;
+      break;
+    case BoostKind::promote:
+      world.selectedAuditionIndex = static_cast<std::int64_t>(auditionIndex);
+      break;
+  }
+  save<&WorldState::totalEnergyAvailable, &WorldState::saveAllAuditionList>(game);
+  return {};
+}
+
+}  // namespace tb

@@ -1,0 +1,55 @@
+#include "career/bribe.h"
+
+#include <format>
+#include <string_view>
+
+#include "core/bands.h"
+#include "core/house_notices.h"
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t weakestBribe = 10;
+constexpr std::int64_t strengths = 90;
+
+// How the strength above the weakest is put. The stop at the end of each phrase is followed by the sentence's
+// own.
+struct PhraseBand {
+  std::int64_t upTo;
+  std::string_view phrase;
+};
+constexpr std::array<PhraseBand, 4> phrases = {{
+    {.upTo = 10, .phrase = "you’ve got a small boost in your corner."},
+    {.upTo = 40, .phrase = "you’ve moved up the list in a meaningful way."},
+    {.upTo = 60, .phrase = "you’re looking like a strong contender now."},
+    {.upTo = strengths - 1, .phrase = "at this point, the audition is basically locked in."},
+}};
+
+}  // namespace
+
+bool isBribeOffered(const Audition& project) {
+  return project.funnelStage == stage::submitted && project.didBribe == 0;
+}
+
+Notice bribeCastingDirector(Game& game, std::size_t auditionIndex) {
+  WorldState& world = game.world;
+  const double price = static_cast<double>(world.saveBribePrice);
+  if (world.totalCashAvailable < price) {
+    return notEnoughCash("You don't have enough cash to bribe the Casting Director.");
+  }
+
+  world.totalCashAvailable -= price;
+  world.saveBribePrice *= 2;
+  const std::int64_t strength = RandomRange(game.random, strengths);
+  world.saveAllAuditionList.edit(auditionIndex).didBribe = strength + weakestBribe;
+  save<&WorldState::totalCashAvailable, &WorldState::saveBribePrice, &WorldState::saveAllAuditionList>(game);
+  return {.title = "🤝 BRIBED 🤝",
+          .message =
+              std::format("You bribed the Casting Director and {}.\n\nThis does not mean you automatically "
+                          "earn the role, just the chance to audition.",
+                          bandOf(phrases, strength)->phrase)};
+}
+
+}  // namespace tb

@@ -1,0 +1,71 @@
+#include "career/casting_board.h"
+
+#include <algorithm>
+#include <array>
+
+#include "banks/names.h"
+#include "career/casting_terms.h"
+#include "career/colleagues.h"
+#include "career/schedule.h"
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::array<TvRole, 2> typesOfPrincipalForTV = {{
+    {.label = "Co-Star", .fewestEpisodes = 1, .mostEpisodes = 1},
+    {.label = "Recurring", .fewestEpisodes = 2, .mostEpisodes = 4},
+}};
+
+constexpr std::int64_t fewestListings = 5;
+constexpr std::int64_t mostListings = 8;
+constexpr int mostRedraws = 10;  // of a title that is on the board already; then it stands there twice
+
+const Movie& drawMovie(Game& game, const CastingBoard& board) {
+  const Movie* movie = &RandomElement(game.random, movies());
+  const auto is_taken = [&] {
+    return std::ranges::any_of(
+        board, [&](const CastingListing& taken) { return taken.movie->title == movie->title; });
+  };
+  for (int redraw = 0; redraw < mostRedraws && is_taken(); ++redraw)
+    movie = &RandomElement(game.random, movies());
+  return *movie;
+}
+
+// Three listings in four are for performers of the same standing with the guild.
+std::int64_t drawUnionFlag(Game& game) {
+  const bool flipped = RandomRange(game.random, 4) == 3;
+  return flipped ? 1 - game.world.isSAG : game.world.isSAG;
+}
+
+CastingListing drawListing(Game& game, const CastingBoard& board, std::int64_t filmId) {
+  CastingListing listing{.filmId = filmId, .isPrincipal = RandomRange(game.random, 2)};
+  const TvRole& tv_role = RandomElement<TvRole>(game.random, typesOfPrincipalForTV);
+  listing.movie = &drawMovie(game, board);
+  listing.role = drawRole(game, listing.isPrincipal);
+  listing.isUnion = drawUnionFlag(game);
+  listing.characterName = inventedName(game.random, game.world.isMale);
+  drawTerms(game, listing, tv_role);
+  listing.directorRating = drawDirectorRating(game);
+  listing.directorName = inventedName(game.random);
+  const Schedule schedule = drawSchedule(game);
+  listing.weekAudition = schedule.weekAudition;
+  listing.weekToWork = schedule.weekToWork;
+  return listing;
+}
+
+}  // namespace
+
+CastingBoard openCastingNetwork(Game& game) {
+  game.world.filmId += 1;
+  save<&WorldState::filmId>(game);
+  const std::int64_t listings = RandomBetween(game.random, fewestListings, mostListings);
+  CastingBoard board;
+  for (std::int64_t place = 1; place <= listings; ++place) {
+    board.push_back(drawListing(game, board, game.world.filmId + place));
+  }
+  return board;
+}
+
+}  // namespace tb

@@ -1,0 +1,41 @@
+#pragma once
+
+// The casting network: a board of roles to submit for, made afresh each time it is opened. Nothing of it is
+// saved until the performer submits.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/game.h"
+#include "film/catalogue.h"
+
+namespace tb {
+
+// A role on the board. Fields that the project's record shares are told there (Audition,
+// core/records/career.h).
+struct CastingListing {
+  std::int64_t filmId = 0;
+  const Movie* movie = nullptr;  // of the catalogue
+  std::string role;
+  std::int64_t isPrincipal = 0;  // rolePart::background or rolePart::principal
+  std::int64_t isUnion = 0;
+  double payment = 0;
+  double buyout = 0;
+  double budget = 0;
+  std::int64_t weekAudition = 0;
+  std::int64_t weekToWork = 0;
+  double residual = 0;
+  std::int64_t numberOfEpisodesActed = 0;
+  std::int64_t directorRating = 0;
+  std::string directorName;
+  std::string characterName;
+};
+
+using CastingBoard = std::vector<CastingListing>;
+
+// Draws a board of five to eight roles. Raises `filmId` by 1 and writes it; the listings take the numbers
+// that follow it, so that each is a project of its own.
+[[nodiscard]] CastingBoard openCastingNetwork(Game& game);
+
+}  // namespace tb

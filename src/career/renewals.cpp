@@ -1,0 +1,243 @@
+#include "career/renewals.h"
+
+#include <algorithm>
+#include <string>
+
+#include "banks/banks.h"
+#include "career/colleagues.h"
+#include "career/preparation.h"
+#include "career/schedule.h"
+#include "core/bands.h"
+#include "core/log.h"
+#include "core/save.h"
+#include "film/catalogue.h"
+#include "film/film_record.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t weeksUntilVerdict = 11;  // after the release
+constexpr std::int64_t endedForGood = -1;       // Audition::isContinued
+constexpr std::int64_t outsideSagas = -1;       // Audition::franchise and franchiseId
+
+// --- The verdict ---
+
+enum class Verdict : std::uint8_t {
+  wait,    // asked again next week
+  retire,  // no next one, and no word about it
+  end,     // no next one, and the player hears of it
+  carryOn,
+};
+
+// A rating that falls between the two rows stays undecided.
+struct RatingBand {
+  double from;
+  double upTo;
+  bool hasAChance;
+};
+constexpr std::array<RatingBand, 2> ratingBands = {{
+    {.from = 0, .upTo = 4, .hasAChance = false},
+    {.from = 4.01, .upTo = 300, .hasAChance = true},
+}};
+
+Verdict verdictOn(Game& game, double rating) {
+  const RatingBand* const band = bandOf(ratingBands, rating);
+  if (band == nullptr) return Verdict::wait;
+  if (!band->hasAChance) return Verdict::end;
+  return rating > static_cast<double>(RandomBetween(game.random, 1, 12)) ? Verdict::carryOn : Verdict::end;
+}
+
+Verdict judge(Game& game, const Audition& project) {
+  const WorldState& world = game.world;
+  if (project.isPrincipal != rolePart::principal) return Verdict::retire;
+  if (world.weekNumberForTracking - project.weekReleased < weeksUntilVerdict) return Verdict::wait;
+  const std::size_t film = filmIndex(world, project.filmId);
+  if (film == world.saveAllFilmList.size()) return Verdict::retire;
+  return verdictOn(game, world.saveAllFilmList[film].imbdRating);
+}
+
+bool isUndecided(const Audition& project, std::int64_t typeOfFilm) {
+  return project.funnelStage >= stage::wrapped && project.isContinued == 0 &&
+         project.typeOfFilm == typeOfFilm;
+}
+
+// --- The next instalment ---
+
+struct Factors {
+  double low;
+  double high;
+};
+
+// What success is worth, by half the sum of the viewers' rating and the critics' score in whole tens.
+struct SuccessBand {
+  double from;
+  double upTo;
+  Factors pay;
+  Factors royalty;
+};
+constexpr std::array<SuccessBand, 5> successBands = {{
+    {.from = 0, .upTo = 3, .pay = {1, 1.1}, .royalty = {1, 1.02}},
+    {.from = 3.01, .upTo = 5, .pay = {1.1, 1.25}, .royalty = {1.02, 1.04}},
+    {.from = 5.01, .upTo = 7, .pay = {1.25, 1.75}, .royalty = {1.04, 1.06}},
+    {.from = 7.01, .upTo = 8.5, .pay = {1.5, 2}, .royalty = {1.06, 1.08}},
+    {.from = 8.501, .upTo = 250, .pay = {1.75, 2.25}, .royalty = {1.08, 1.12}},
+}};
+constexpr SuccessBand betweenBands = {.pay = {1.1, 1.1}, .royalty = {1.1, 1.1}};
+
+constexpr double biggestBudget = 3e9;  // dollars
+
+double drawFactor(Game& game, Factors factors) { return RandomUnit(game.random, factors.low, factors.high); }
+
+const SuccessBand& successOf(const Film& film) {
+  const double success = (film.imbdRating + static_cast<double>(film.imbdMetascore / 10)) * 0.5;
+  const SuccessBand* const band = bandOf(successBands, success);
+  return band == nullptr ? betweenBands : *band;
+}
+
+void setTerms(Game& game, Audition& next, const SuccessBand& success) {
+  const double factor = drawFactor(game, success.pay);
+  next.budget = std::min(factor * next.budget, biggestBudget);
+  next.payment *= (factor + RandomUnit(game.random, 0.5, 1.5)) * 0.5;
+  if (next.royalty > 0) next.royalty *= drawFactor(game, success.royalty);
+  next.buyout = 0;
+}
+
+void setSchedule(Game& game, Audition& next) {
+  const Schedule schedule = drawSchedule(game);
+  next.weekSubmitted = game.world.weekNumberForTracking;
+  next.weekAudition = schedule.weekAudition;
+  next.weekToWork = schedule.weekToWork;
+  next.weekReleased = drawReleaseWeek(game, next.weekToWork);
+  next.workYear = yearOfWork(game.world, next.weekToWork);
+}
+
+// The performer starts anew. What is not set here goes on as it was: the cast and crew, the agency, the
+// residual, and the one interview that a title is given.
+void setPreparation(Game& game, Audition& next) {
+  next.rehearsalRating = drawRehearsalRating(game);
+  next.performanceRating = drawPerformanceRating(game, next.rehearsalRating);
+  next.rehearsalBoostCount = 0;
+  next.performanceBoostCount = 0;
+  next.didBribe = 0;
+  next.didNegotiate = 0;
+  next.didAct = 1;
+  next.equityPercentage = 0;
+  next.equityDollarsInvested = 0;
+  // The hype speaks of a director as one would be found today; the director is the same as before.
+  next.hypeRating = static_cast<double>(drawHypeRating(game, drawDirectorForm(game)));
+}
+
+// The performer is in 8, 10 or 12 episodes, as far as the season has them.
+void setEpisodes(Game& game, Audition& next) {
+  const std::int64_t episodes = 8 + 2 * RandomRange(game.random, 3);
+  next.numberOfEpisodesActed = std::min(next.numberOfEpisodesTotal, episodes);
+}
+
+// The project after `project`, booked. Saga and episodes are its own to set.
+Audition nextInstalment(Game& game, const Audition& project) {
+  WorldState& world = game.world;
+  world.filmId += 1;
+  Audition next = project;
+  next.filmId = world.filmId;
+  if (project.seasonNumber < 2) next.parentSeriesFilmId = project.filmId;
+  next.seasonNumber += 1;
+  next.isContinued = 0;
+  next.funnelStage = stage::booked;
+  next.franchise = outsideSagas;
+  next.franchiseId = outsideSagas;
+  setSchedule(game, next);
+  setPreparation(game, next);
+  setTerms(game, next, successOf(world.saveAllFilmList[filmIndex(world, project.filmId)]));
+  return next;
+}
+
+void renew(WorldState& world, std::size_t index, Audition next) {
+  world.saveAllAuditionList.edit(index).isContinued += 1;
+  world.saveAllAuditionList.push_back(std::move(next));
+}
+
+void end(Game& game, std::size_t index, Bank bank) {
+  Audition& project = game.world.saveAllAuditionList.edit(index);
+  project.isContinued = endedForGood;
+  logLine(game.world, fill(drawRow(game.random, bank), {{"title", project.title}}));
+}
+
+// --- Series ---
+
+void orderSeason(Game& game, std::size_t index) {
+  WorldState& world = game.world;
+  Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
+  setEpisodes(game, next);
+  logLine(world, fill(drawRow(game.random, Bank::seriesRenewal),
+                      {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
+  renew(world, index, std::move(next));
+}
+
+// --- Sagas ---
+
+const MovieFranchise* nextEntry(const Audition& project) {
+  const auto entries = movieFranchises();
+  const auto next = std::ranges::find_if(entries, [&](const MovieFranchise& entry) {
+    return entry.id == project.franchiseId && entry.movieNumber > project.franchise;
+  });
+  return next == entries.end() ? nullptr : &*next;
+}
+
+void orderFilm(Game& game, std::size_t index, const MovieFranchise& entry) {
+  WorldState& world = game.world;
+  Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
+  next.title = entry.title;
+  next.description = entry.shortSummary;
+  next.roleDescription = fill(entry.longSummaryTemplate, {{"name", next.characterName}});
+  next.imageString = entry.imageString;
+  next.genres = entry.genre;
+  next.franchise = entry.movieNumber;
+  next.franchiseId = entry.id;
+  logLine(world, fill(drawRow(game.random, Bank::sagaRenewal),
+                      {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
+  renew(world, index, std::move(next));
+}
+
+// --- The passes ---
+
+// Judges what was there when the pass began; what it adds is booked and its turn comes with its own release.
+template <class CarryOn>
+void decide(Game& game, std::int64_t typeOfFilm, Bank endBank, CarryOn carryOn) {
+  WorldState& world = game.world;
+  const std::size_t records = world.saveAllAuditionList.size();
+  for (std::size_t index = 0; index < records; ++index) {
+    if (!isUndecided(world.saveAllAuditionList[index], typeOfFilm)) continue;
+    switch (judge(game, world.saveAllAuditionList[index])) {
+      case Verdict::wait:
+        break;
+      case Verdict::retire:
+        world.saveAllAuditionList.edit(index).isContinued = endedForGood;
+        break;
+      case Verdict::end:
+        end(game, index, endBank);
+        break;
+      case Verdict::carryOn:
+        carryOn(index);
+        break;
+    }
+  }
+  save<&WorldState::saveAllAuditionList, &WorldState::filmId, &WorldState::activityTracker>(game);
+}
+
+}  // namespace
+
+void renewSeries(Game& game) {
+  decide(game, filmType::series, Bank::seriesCancellation,
+         [&](std::size_t index) { orderSeason(game, index); });
+}
+
+void renewSaga(Game& game) {
+  decide(game, filmType::feature, Bank::sagaEnding, [&](std::size_t index) {
+    const MovieFranchise* const entry = nextEntry(game.world.saveAllAuditionList[index]);
+    if (entry == nullptr) return end(game, index, Bank::sagaEnding);
+    orderFilm(game, index, *entry);
+  });
+}
+
+}  // namespace tb

@@ -1,0 +1,33 @@
+#include "career/withdrawal.h"
+
+#include <algorithm>
+#include <string>
+
+#include "banks/banks.h"
+#include "core/audition_list.h"
+#include "core/log.h"
+#include "core/save.h"
+
+namespace tb {
+
+bool isWithdrawalOffered(const Audition& project) { return project.funnelStage <= stage::booked; }
+
+void withdrawFromRole(Game& game, std::int64_t filmId) {
+  WorldState& world = game.world;
+  const auto index = auditionIndex(world, filmId);
+  if (!index || !isWithdrawalOffered(world.saveAllAuditionList[*index])) return;
+
+  constexpr double mostOfFans = 0.01;
+  const std::string title = world.saveAllAuditionList[*index].title;
+  world.saveAllAuditionList.erase_at(*index);
+  const auto most = static_cast<std::int64_t>(static_cast<double>(world.totalFans) * mostOfFans);
+  const std::int64_t lost = RandomBetween(game.random, 0, std::max<std::int64_t>(most, 0));
+  world.totalFans -= lost;
+  world.trackFans.push_back(world.totalFans);
+  logActivity(world,
+              fill(drawRow(game.random, Bank::withdrawal), {{"title", title}, {"n", std::to_string(lost)}}));
+  save<&WorldState::saveAllAuditionList, &WorldState::totalFans, &WorldState::trackFans,
+       &WorldState::activityTracker>(game);
+}
+
+}  // namespace tb

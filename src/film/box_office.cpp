@@ -1,0 +1,137 @@
+#include "film/box_office.h"
+
+#include <cmath>
+
+#include "banks/banks.h"
+#include "core/log.h"
+#include "core/number_style.h"
+#include "core/save.h"
+#include "film/box_office_payouts.h"
+#include "film/fan_gain.h"
+#include "film/film_record.h"
+#include "film/markets.h"
+#include "social/chirps.h"
+
+namespace tb {
+
+namespace {
+
+constexpr double worthOpening = 5'000;  // dollars; below, no cinema abroad takes the film
+constexpr std::int64_t lastWeekOfRun = 7;
+constexpr std::int64_t weekOfClose = 8;
+
+BoxOffice recordOf(const WorldState& world, const Audition& project, const Market& market, double opening) {
+  return {.filmId = project.filmId,
+          .countryId = market.countryId,
+          .countryName = std::string(market.name),
+          .title = project.title,
+          .year = world.yearNumber,
+          .weekNumberForTracking = world.weekNumberForTracking,
+          .openingWeekend = opening,
+          .totalGross = opening};
+}
+
+bool opensIn(const Market& market, double share, double gross) {
+  return share > 0 && (gross > worthOpening || market.countryId == domesticMarket);
+}
+
+// The post takes the place of that of any other film that opened this week.
+void keepOpeningPost(Game& game, const Audition& project, double domesticGross) {
+  game.world.chirpId += 1;
+  const std::string amount = shortMoney(game.locale, domesticGross);
+  const std::string text =
+      fill(drawRow(game.random, Bank::openingWeekend), {{"title", project.title}, {"amount", amount}});
+  Chirp post = industryChirp(game.world, "Box Office Jojo", "boxOfficeJojo.png", text + " ");
+  post.filmId = project.filmId;
+  game.world.openingChirp = {std::move(post)};
+}
+
+void takeWeek(const WorldState& world, const Film& film, std::int64_t weeksSinceRelease, BoxOffice& market) {
+  const double talk = std::pow(2, film.currentPopularity / 100) - 1;
+  const double freshness = static_cast<double>(lastWeekOfRun - weeksSinceRelease) / 10;
+  const double takings = market.openingWeekend * (talk + freshness) * 0.5;
+  market.boxOfficeWeeklyEarnings.push_back(takings);
+  market.weeksTracked.push_back(world.weekNumberForTracking);
+  market.totalGross += takings;
+}
+
+// Says what the film took so far.
+double takeWeekInAllMarkets(WorldState& world, const Film& film, std::int64_t weeksSinceRelease) {
+  double gross = 0;
+  for (std::size_t index = 0; index < world.saveAllBoxOfficeList.size(); ++index) {
+    if (world.saveAllBoxOfficeList[index].filmId != film.filmId) continue;
+    BoxOffice& market = world.saveAllBoxOfficeList.edit(index);
+    takeWeek(world, film, weeksSinceRelease, market);
+    gross += market.totalGross;
+    if (market.countryId == domesticMarket) world.chirpId += 1;  // a number goes by, though nothing is posted
+  }
+  return gross;
+}
+
+bool isDueToClose(const WorldState& world, const Film& film) {
+  return film.typeOfFilm == filmType::feature && film.boxOfficeGross == 0 &&
+         world.weekNumberForTracking - film.weekReleased >= weekOfClose;
+}
+
+void closeRun(Game& game, std::size_t filmAt) {
+  const auto gross = grossOf(game.world, game.world.saveAllFilmList[filmAt].filmId);
+  if (!gross) return;
+  Film& film = game.world.saveAllFilmList.edit(filmAt);
+  film.boxOfficeGross = *gross;
+  const std::string amount = shortMoney(game.locale, *gross);
+  logActivity(game.world,
+              fill(drawRow(game.random, Bank::closing), {{"title", film.title}, {"amount", amount}}));
+}
+
+}  // namespace
+
+void openBoxOffice(Game& game, const Audition& project) {
+  const double anticipation = std::pow(3, project.hypeRating / 100);
+  const double base = anticipation * project.budget * RandomUnit(game.random, 0.03, 0.11);
+  for (const Market& market : markets) {
+    const double share = market.share + RandomUnit(game.random, -0.02, 0.04);
+    const double gross = base * share;
+    if (opensIn(market, share, gross)) {
+      game.world.saveAllBoxOfficeList.push_back(recordOf(game.world, project, market, gross));
+    }
+    if (market.countryId == domesticMarket) keepOpeningPost(game, project, gross);
+  }
+  save<&WorldState::saveAllBoxOfficeList, &WorldState::chirpId>(game);
+}
+
+void advanceBoxOffice(Game& game, const Audition& project, std::int64_t weeksSinceRelease) {
+  const std::size_t at = filmIndex(game.world, project.filmId);
+  if (at == game.world.saveAllFilmList.size()) return;
+  const Film& film = game.world.saveAllFilmList[at];
+  const double freshness = static_cast<double>(lastWeekOfRun - weeksSinceRelease) / 10;
+  gainFansOfTitle(game, project, qualityOf(film), freshness);
+  const double gross = takeWeekInAllMarkets(game.world, film, weeksSinceRelease);
+  if (weeksSinceRelease == lastWeekOfRun) payStakes(game, film, gross);
+  save<&WorldState::saveAllBoxOfficeList, &WorldState::chirpId>(game);
+}
+
+void postBoxOfficeChirp(Game& game) {
+  if (game.world.openingChirp.empty()) return;
+  Chirp post = game.world.openingChirp.front();
+  game.world.openingChirp.clear();
+  drawCrowdReach(game.random, post);
+  game.world.saveAllChirpList.push_back(std::move(post));
+  save<&WorldState::saveAllChirpList>(game);
+}
+
+void closeBoxOffice(Game& game) {
+  for (std::size_t index = 0; index < game.world.saveAllFilmList.size(); ++index) {
+    if (isDueToClose(game.world, game.world.saveAllFilmList[index])) closeRun(game, index);
+  }
+  save<&WorldState::saveAllFilmList, &WorldState::saveAllBoxOfficeList, &WorldState::activityTracker>(game);
+}
+
+std::optional<double> grossOf(const WorldState& world, std::int64_t filmId) {
+  std::optional<double> gross;
+  for (const BoxOffice& market : world.saveAllBoxOfficeList) {
+    if (market.filmId == filmId) gross = gross.value_or(0) + market.totalGross;
+  }
+  return gross;
+}
+
+}  // namespace tb

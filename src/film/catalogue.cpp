@@ -1,0 +1,168 @@
+#include "film/catalogue.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+
+#include "banks/banks.h"
+#include "core/stop.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t lowestStarRating = 10;
+constexpr std::int64_t lowestStarRatingLastWeek = 50;
+constexpr std::int64_t highestStarRating = 100;
+
+// The columns of a row, taken one after the other.
+class Columns {
+ public:
+  explicit Columns(std::string_view row) : rest_(row) {}
+
+  std::string text() { return std::string(take(" | ")); }
+
+  std::int64_t number() { return numberIn(take(" | ")); }
+
+  // A figure with one digit after the point, such as 9.6.
+  double decimal() {
+    std::string digits = text();
+    std::erase(digits, '.');
+    return static_cast<double>(numberIn(digits)) / 10;
+  }
+
+  std::vector<std::string> names() {
+    Columns listed(take(" | "));
+    std::vector<std::string> found;
+    while (!listed.rest_.empty()) found.emplace_back(listed.take(", "));
+    return found;
+  }
+
+ private:
+  static std::int64_t numberIn(std::string_view column) {
+    std::int64_t value = 0;
+    const auto read = std::from_chars(column.data(), column.data() + column.size(), value);
+    if (read.ec != std::errc{}) stopTheGame("a column of a table is no number");
+    return value;
+  }
+
+  std::string_view take(std::string_view separator) {
+    const std::size_t end = std::min(rest_.find(separator), rest_.size());
+    const std::string_view column = rest_.substr(0, end);
+    rest_.remove_prefix(std::min(end + separator.size(), rest_.size()));
+    return column;
+  }
+
+  std::string_view rest_;
+};
+
+// A table of the bank, built once.
+template <class Row>
+std::vector<Row> table(Bank bank, Row (*rowOf)(Columns&)) {
+  std::vector<Row> rows;
+  for (const std::string& row : rowsOf(bank)) {
+    Columns columns(row);
+    rows.push_back(rowOf(columns));
+  }
+  return rows;
+}
+
+// Columns are taken in the order of the initialisers.
+Movie movieOf(Columns& columns) {
+  return {.title = columns.text(),
+          .shortSummary = columns.text(),
+          .type = columns.number(),
+          .genre = columns.names(),
+          .longSummaryTemplate = columns.text(),
+          .imageString = columns.text()};
+}
+
+MovieFranchise franchiseOf(Columns& columns) {
+  return {.id = columns.number(),
+          .movieNumber = columns.number(),
+          .title = columns.text(),
+          .shortSummary = columns.text(),
+          .type = columns.number(),
+          .genre = columns.names(),
+          .longSummaryTemplate = columns.text(),
+          .imageString = columns.text()};
+}
+
+MovieRecord movieRecordOf(Columns& columns) {
+  return {.title = columns.text(),
+          .year = columns.number(),
+          .worldwide = static_cast<double>(columns.number()),
+          .domestic = static_cast<double>(columns.number())};
+}
+
+TVRecord tvRecordOf(Columns& columns) {
+  return {.title = columns.text(), .imdbRating = columns.decimal(), .imdbId = columns.text()};
+}
+
+Bankable bankableOf(Columns& columns) {
+  Bankable star{.name = columns.text(),
+                .totalGross = static_cast<double>(columns.number()),
+                .totalMovies = columns.number(),
+                .relationship = columns.number(),
+                .roles = columns.number()};
+  star.average = star.totalGross / static_cast<double>(star.totalMovies);
+  return star;
+}
+
+std::vector<TVRecord> rankedSeries() {
+  std::vector<TVRecord> rows = table(Bank::tvRecords, tvRecordOf);
+  for (std::size_t index = 0; index < rows.size(); ++index)
+    rows[index].rank = static_cast<std::int64_t>(index + 1);
+  return rows;
+}
+
+std::vector<Bankable> numberedStars() {
+  std::vector<Bankable> rows = table(Bank::bankables, bankableOf);
+  for (std::size_t index = 0; index < rows.size(); ++index)
+    rows[index].id = static_cast<std::int64_t>(index + 1);
+  return rows;
+}
+
+}  // namespace
+
+std::span<const Movie> movies() {
+  static const std::vector<Movie> rows = table(Bank::movies, movieOf);
+  return rows;
+}
+
+std::span<const Movie> royaltyMovies() {
+  static const std::vector<Movie> rows = table(Bank::royaltyMovies, movieOf);
+  return rows;
+}
+
+std::span<const Movie> investmentMovies() {
+  static const std::vector<Movie> rows = table(Bank::investmentMovies, movieOf);
+  return rows;
+}
+
+std::span<const MovieFranchise> movieFranchises() {
+  static const std::vector<MovieFranchise> rows = table(Bank::movieFranchises, franchiseOf);
+  return rows;
+}
+
+std::span<const MovieRecord> movieRecords() {
+  static const std::vector<MovieRecord> rows = table(Bank::movieRecords, movieRecordOf);
+  return rows;
+}
+
+std::span<const TVRecord> tvRecords() {
+  static const std::vector<TVRecord> rows = rankedSeries();
+  return rows;
+}
+
+std::vector<Bankable> bankables(RandomSource& random) {
+  static const std::vector<Bankable> rows = numberedStars();
+  std::vector<Bankable> stars = rows;
+  for (Bankable& star : stars) {
+    star.rating = RandomBetween(random, lowestStarRating, highestStarRating);
+    star.lastWeekRating = RandomBetween(random, lowestStarRatingLastWeek, highestStarRating);
+  }
+  return stars;
+}
+
+}  // namespace tb

@@ -1,0 +1,120 @@
+#include "film/film_record.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string_view>
+
+namespace tb {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> cinemaRatings = {"PG", "PG-13", "R"};
+constexpr std::array<std::string_view, 3> televisionRatings = {"TV-PG", "TV-14", "TV-MA"};
+
+// What a title of some type comes out as. Lengths in steps of `stepMinutes`.
+struct Format {
+  std::int64_t typeOfFilm;
+  std::int64_t stepMinutes;
+  std::int64_t fewestSteps;
+  std::int64_t mostSteps;
+  std::span<const std::string_view> ageRatings;
+};
+
+// Commercials are not here: their length is not worth a minute.
+constexpr std::array<Format, 4> formats = {{
+    {filmType::feature, 1, 65, 200, cinemaRatings},
+    {filmType::series, 5, 6, 12, televisionRatings},
+    {filmType::studentFilm, 1, 5, 60, {}},
+    {filmType::shortFilm, 1, 20, 40, {}},
+}};
+
+struct Network {
+  std::string_view name;
+  std::string_view logo;
+};
+
+// The odd ending of one logo is that of the picture that it names.
+constexpr std::array<Network, 7> networks = {{
+    {"Metflix", "imbdMetflix.png"},
+    {"HPO Max", "imbdHpoMax.png"},
+    {"Bisney", "imbdBisney.ong"},
+    {"Fulu", "imbdFulu.png"},
+    {"Pryme Video", "imbdPrymeVideo.png"},
+    {"Pear TV", "imbdPear.png"},
+    {"Panamount", "imbdPanamount.png"},
+}};
+
+void drawFormat(Game& game, Film& film) {
+  const auto* const format = std::ranges::find(formats, film.typeOfFilm, &Format::typeOfFilm);
+  if (format == formats.end()) return;
+  film.lengthMinutes =
+      format->stepMinutes * RandomBetween(game.random, format->fewestSteps, format->mostSteps);
+  if (!format->ageRatings.empty()) film.ageRating = RandomElement(game.random, format->ageRatings);
+}
+
+void drawNetwork(Game& game, Film& film) {
+  if (film.typeOfFilm != filmType::series) return;
+  const Network& network = RandomElement<Network>(game.random, networks);
+  film.debutNetwork = network.name;
+  film.debutImageString = network.logo;
+}
+
+bool isSequel(const Audition& project) {
+  return project.typeOfFilm == filmType::feature && project.seasonNumber >= 2 &&
+         project.parentSeriesFilmId >= 1;
+}
+
+Film filmOf(const WorldState& world, const Audition& project) {
+  return {.filmId = project.filmId,
+          .imageString = project.imageString,
+          .typeOfFilm = project.typeOfFilm,
+          .role = project.role,
+          .isPrincipal = project.isPrincipal,
+          .title = project.title,
+          .movieDescription = project.description,
+          .cast = {world.myName},
+          .genres = project.genres,
+          .characterName = project.characterName,
+          .numberOfEpisodes = project.numberOfEpisodesActed,
+          .parentSeriesId = project.parentSeriesFilmId,
+          .directorName = project.directorName,
+          .writerName = project.writerName,
+          .yearReleased = world.yearNumber,
+          .weekReleased = project.weekReleased,
+          .budget = project.budget,
+          .currentPopularity = project.hypeRating,
+          .lastWeekPopularity = project.hypeRating,
+          .payment = project.payment,
+          .residualRate = project.residual,
+          .royaltyRate = project.royalty,
+          .sourceId = project.sourceId,
+          .parentId = project.parentSeriesFilmId,
+          .seasonNumber = project.seasonNumber,
+          .sequelNumber = isSequel(project) ? project.seasonNumber : 0,
+          .didAct = project.didAct,
+          .equityPercentage = project.equityPercentage,
+          .equityDollarsInvested = project.equityDollarsInvested,
+          .franchise = project.franchise,
+          .franchiseId = project.franchiseId};
+}
+
+}  // namespace
+
+void makeFilm(Game& game, const Audition& project) {
+  Film film = filmOf(game.world, project);
+  drawFormat(game, film);
+  drawNetwork(game, film);
+  game.world.saveAllFilmList.push_front(std::move(film));
+}
+
+std::size_t filmIndex(const WorldState& world, std::int64_t filmId) {
+  const List<Film>& films = world.saveAllFilmList;
+  return static_cast<std::size_t>(std::ranges::find(films, filmId, &Film::filmId) - films.begin());
+}
+
+double qualityOf(const Film& film) {
+  return (film.imbdRating * 10 + static_cast<double>(film.imbdMetascore)) * 0.5;
+}
+
+}  // namespace tb

@@ -1,0 +1,19 @@
+#pragma once
+
+// A film comes into being when its project wraps.
+
+#include "core/game.h"
+
+namespace tb {
+
+// The wrap: draws running time, age rating and, for a series, the network of its debut, and puts the film of
+// the project at the front of `saveAllFilmList`. Writes nothing: the weekly step saves the list.
+void makeFilm(Game& game, const Audition& project);
+
+// Where the film of a project stands in `saveAllFilmList`, or the length of the list when it is not there.
+[[nodiscard]] std::size_t filmIndex(const WorldState& world, std::int64_t filmId);
+
+// What a film is worth after its release, 0 to 100: the mean of the two scores.
+[[nodiscard]] double qualityOf(const Film& film);
+
+}  // namespace tb

@@ -1,0 +1,89 @@
+#include "film/new_releases.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "banks/banks.h"
+#include "core/bands.h"
+
+namespace tb {
+
+namespace {
+
+struct StarBand {
+  double from;
+  double upTo;
+  Bank review;
+  std::string_view stars;
+};
+
+// By the mean of both scores, 0 to 10. In the hairline gaps between the bands a critic is lost for words.
+constexpr std::array<StarBand, 5> starBands = {{
+    {.from = 0, .upTo = 1.99, .review = Bank::longReviewBank1, .stars = "★"},
+    {.from = 2, .upTo = 3.99, .review = Bank::longReviewBank2, .stars = "★★"},
+    {.from = 4, .upTo = 5.99, .review = Bank::longReviewBank3, .stars = "★★★"},
+    {.from = 6, .upTo = 7.99, .review = Bank::longReviewBank4, .stars = "★★★★"},
+    {.from = 8, .upTo = 20, .review = Bank::longReviewBank5, .stars = "★★★★★"},
+}};
+
+std::string reviewerName(RandomSource& random) {
+  const bool woman = RandomRange(random, 2) == 1;
+  const std::string first = drawRow(random, woman ? Bank::femaleFirstNames : Bank::maleFirstNames);
+  return first + " " + drawRow(random, Bank::lastNames);
+}
+
+std::string reviewOf(Game& game, const StarBand& band, const Film& film) {
+  const std::string genre = film.genres.empty() ? "" : film.genres.front();
+  return fill(drawRow(game.random, band.review), {{"title", film.title},
+                                                  {"director", film.directorName},
+                                                  {"name", game.world.myName},
+                                                  {"genre", genre}});
+}
+
+MetReview cardOf(Game& game, const Film& film) {
+  MetReview card{.id = 100 + RandomRange(game.random, 9'999'900),
+                 .filmTitle = film.title,
+                 .score = film.imbdMetascore,
+                 .starString = "★",
+                 .filmType = film.typeOfFilm == filmType::series ? "TV" : "Movie",
+                 .description = film.movieDescription,
+                 .imageString = film.imageString,
+                 .season = film.seasonNumber};
+  card.reviewerName = reviewerName(game.random);
+  card.reviewerCompany = drawRow(game.random, Bank::reviewerCompanies);
+  const double score = (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
+  if (const StarBand* const band = bandOf(starBands, score)) {
+    card.starString = band->stars;
+    card.reviewString = reviewOf(game, *band, film);
+  }
+  return card;
+}
+
+}  // namespace
+
+void offerRelease(WorldState& world) {
+  world.releaseOffered = std::ranges::any_of(world.saveAllAuditionList, [&](const Audition& project) {
+    return project.funnelStage == stage::wrapped && project.typeOfFilm != filmType::commercial &&
+           project.weekReleased == world.weekNumberForTracking - 1;
+  });
+}
+
+std::vector<std::size_t> newReleases(const WorldState& world) {
+  std::vector<std::size_t> found;
+  for (std::size_t index = 0; index < world.saveAllFilmList.size(); ++index) {
+    const Film& film = world.saveAllFilmList[index];
+    if (film.typeOfFilm == filmType::commercial) continue;
+    if (film.weekReleased == world.weekNumberForTracking - 1) found.push_back(index);
+  }
+  return found;
+}
+
+void writeReleaseReviews(Game& game) {
+  game.world.newReleaseReviews.clear();
+  for (const std::size_t index : newReleases(game.world)) {
+    game.world.newReleaseReviews.push_back(cardOf(game, game.world.saveAllFilmList[index]));
+  }
+}
+
+}  // namespace tb

@@ -1,0 +1,86 @@
+#include "film/promotion.h"
+
+#include <array>
+
+#include "banks/banks.h"
+#include "core/bands.h"
+#include "core/save.h"
+#include "social/chirps.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t interviewAnswer = 1;  // Chirp::filmResponse of what is said on a talk show
+
+// The more people listen, the more a word is worth.
+struct AudienceBand {
+  std::int64_t upTo;  // fans
+  std::int64_t least;
+  std::int64_t spread;  // the hype is least + RandomRange(spread)
+};
+
+constexpr std::array<AudienceBand, 7> audienceBands = {{
+    {.upTo = 999, .least = 0, .spread = 5},
+    {.upTo = 9'999, .least = 3, .spread = 5},
+    {.upTo = 99'999, .least = 5, .spread = 5},
+    {.upTo = 999'999, .least = 7, .spread = 7},
+    {.upTo = 9'999'999, .least = 12, .spread = 7},
+    {.upTo = 99'999'999, .least = 16, .spread = 15},
+    {.upTo = 9'999'999'999, .least = 20, .spread = 16},
+}};
+
+// With more fans than there are people, nobody is left to be told.
+std::int64_t hypeOfInterview(Game& game) {
+  const AudienceBand* const band = bandOf(audienceBands, game.world.totalFans);
+  return band == nullptr ? 0 : band->least + RandomRange(game.random, band->spread);
+}
+
+void keepQuote(WorldState& world, const Audition& project, const Interview& interview,
+               const std::string& answer) {
+  world.saveAllQuotes.push_back({.filmId = project.filmId,
+                                 .filmName = project.title,
+                                 .character = project.characterName,
+                                 .quote = answer,
+                                 .question = interview.question});
+}
+
+void postAnswer(Game& game, const Audition& project, const std::string& answer) {
+  Chirp post = playerChirp(game, "[on " + project.title + "] " + answer);
+  post.filmResponse = interviewAnswer;
+  post.filmId = project.filmId;
+  game.world.saveAllChirpList.push_back(std::move(post));
+}
+
+}  // namespace
+
+Interview openInterview(Game& game, const Audition& project) {
+  Interview interview{.talkShow = drawRow(game.random, Bank::talkShows)};
+  interview.question = fill(drawRow(game.random, Bank::promotionQuestions), {{"title", project.title}});
+  interview.totalHype = hypeOfInterview(game);
+  return interview;
+}
+
+std::string suggestedAnswer(Game& game) { return drawRow(game.random, Bank::promotionAnswers); }
+
+Refusal promoteFilm(Game& game, std::size_t auditionIndex, const Interview& interview,
+                    const std::string& answer) {
+  const std::string said = trimmed(answer);
+  if (said.empty()) {
+    return Notice{.title = "🎤 Say Something 🎤", .message = "\nThe host is waiting for your answer."};
+  }
+  Audition& project = game.world.saveAllAuditionList.edit(auditionIndex);
+  if (project.promoteHypeCount != 0) {
+    return Notice{.title = "🎤 Already Promoted 🎤",
+                  .message = "\nYou have given your interview for this title."};
+  }
+  postAnswer(game, project, said);
+  keepQuote(game.world, project, interview, said);
+  project.promoteHypeCount = 1;
+  project.hypeRating += static_cast<double>(interview.totalHype);
+  save<&WorldState::saveAllAuditionList, &WorldState::saveAllQuotes, &WorldState::saveAllChirpList,
+       &WorldState::chirpId>(game);
+  return {};
+}
+
+}  // namespace tb

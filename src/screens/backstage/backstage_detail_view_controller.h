@@ -1,0 +1,20 @@
+#pragma once
+
+#include <utility>
+
+#include "career/casting_board.h"
+#include "screens/stage.h"
+
+namespace tb {
+
+// One listing of the casting network in full.
+class BackstageDetailViewController : public Screen {
+ public:
+  explicit BackstageDetailViewController(CastingListing listing) : listing_(std::move(listing)) {}
+  [[nodiscard]] view::Page view(const Game& game) override;
+
+ private:
+  CastingListing listing_;
+};
+
+}  // namespace tb

@@ -1,0 +1,76 @@
+#include "screens/film/movie_management_view_controller.h"
+
+#include <format>
+
+#include "core/number_style.h"
+#include "film/box_office.h"
+#include "screens/film/box_office_parts.h"
+#include "screens/film/imbd_box_office_detail_view_controller.h"
+#include "screens/parts.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+// Where in the list of projects they stand, the latest first.
+std::vector<std::size_t> productions(const WorldState& world) {
+  std::vector<std::size_t> found;
+  for (std::size_t index = world.saveAllAuditionList.size(); index-- > 0;) {
+    const Audition& project = world.saveAllAuditionList[index];
+    if (project.isPrincipal == rolePart::ownProduction || project.didAct == 0) found.push_back(index);
+  }
+  return found;
+}
+
+std::string inWeeks(std::string_view what, std::int64_t weeks) {
+  return std::format("{} in {} week{}", what, weeks, weeks == 1 ? "" : "s");
+}
+
+std::string progressOf(const WorldState& world, const Audition& project) {
+  const std::int64_t now = world.weekNumberForTracking;
+  if (project.funnelStage == stage::closed) return "Shelved";
+  if (project.funnelStage < stage::wrapped) return inWeeks("Wraps", project.weekToWork - now);
+  if (project.weekReleased >= now) return inWeeks("Opens", project.weekReleased - now);
+  return "Released";
+}
+
+Card productionCard(const Game& game, const Audition& project) {
+  const bool own = project.isPrincipal == rolePart::ownProduction;
+  Card card{
+      .title = project.title,
+      .subtitle = std::format("{} • {}", own ? "Directed and produced by you" : "Financed by you",
+                              progressOf(game.world, project)),
+      .picture = {{.kind = PictureKind::poster, .name = project.imageString}},
+      .nodes = {
+          caption(project.description),
+          Tiles{{{.label = "Budget", .value = shownMoney(game.locale, project.budget)},
+                 {.label = "Your money", .value = shownMoney(game.locale, project.equityDollarsInvested)},
+                 {.label = "Your stake", .value = std::format("{:.1f}%", project.equityPercentage)}}}}};
+  if (const auto gross = grossOf(game.world, project.filmId)) {
+    card.nodes.push_back(
+        Row{.label = "Box office of " + project.title,
+            .value = shownMoney(game.locale, *gross),
+            .detail = returnText(*gross, project.budget),
+            .press = [id = project.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }});
+  }
+  return card;
+}
+
+}  // namespace
+
+Page MovieManagementViewController::view(const Game& game) {
+  const std::vector<std::size_t> rows = productions(game.world);
+  return {.title = "Productions",
+          .subtitle = "Films with your money or your name behind them",
+          .nodes = {PagedList{.key = "productions",
+                              .size = rows.size(),
+                              .nodeAt =
+                                  [&game, rows](std::size_t index) {
+                                    return productionCard(game, game.world.saveAllAuditionList[rows[index]]);
+                                  },
+                              .whenEmpty = "You have not financed or produced a title yet."}}};
+}
+
+}  // namespace tb

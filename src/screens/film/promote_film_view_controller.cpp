@@ -1,0 +1,50 @@
+#include "screens/film/promote_film_view_controller.h"
+
+#include <format>
+
+#include "screens/parts.h"
+
+namespace tb {
+
+using namespace view;
+
+void PromoteFilmViewController::load(Stage& stage) {
+  const WorldState& world = stage.game().world;
+  audition_ = static_cast<std::size_t>(world.selectedAuditionIndex);
+  interview_ = openInterview(stage.game(), world.saveAllAuditionList[audition_]);
+}
+
+void PromoteFilmViewController::post(Stage& stage) {
+  if (Refusal refusal = promoteFilm(stage.game(), audition_, interview_, answer_)) {
+    return stage.show(std::move(refusal));
+  }
+  stage.show(Notice{
+      .title = "🎤 That's a Take 🎤",
+      .message = std::format("\nYour interview on {} added {} to the hype for {}.", interview_.talkShow,
+                             interview_.totalHype, stage.game().world.saveAllAuditionList[audition_].title)});
+  stage.worldChanged();
+  stage.close();
+}
+
+Page PromoteFilmViewController::view(const Game& game) {
+  const Audition& project = game.world.saveAllAuditionList[audition_];
+  return {.title = interview_.talkShow,
+          .subtitle = "Promoting " + project.title,
+          .nodes = {
+              Picture{.kind = PictureKind::poster, .name = project.imageString, .description = project.title},
+              Bubble{.speaker = interview_.talkShow, .text = interview_.question},
+              Field{.label = "Your answer",
+                    .value = answer_,
+                    .type = [this](Stage&, const std::string& text) { answer_ = text; },
+                    .hint = "Everything you say will be quoted",
+                    .maximumLength = 280,
+                    .severalLines = true},
+              Buttons{{{.label = "Suggest an answer",
+                        .press = [this](Stage& stage) { answer_ = suggestedAnswer(stage.game()); },
+                        .weight = Button::Weight::quiet},
+                       {.label = "Post",
+                        .press = [this](Stage& stage) { post(stage); },
+                        .weight = Button::Weight::primary}}}}};
+}
+
+}  // namespace tb

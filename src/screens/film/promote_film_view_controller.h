@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "film/promotion.h"
+#include "screens/stage.h"
+
+namespace tb {
+
+// The talk show: one question about the title of `selectedAuditionIndex`, one answer. The energy is already
+// paid when it opens.
+class PromoteFilmViewController : public Screen {
+ public:
+  void load(Stage& stage) override;
+  [[nodiscard]] view::Page view(const Game& game) override;
+
+ private:
+  void post(Stage& stage);
+
+  std::size_t audition_ = 0;
+  Interview interview_;
+  std::string answer_;
+};
+
+}  // namespace tb

@@ -1,0 +1,149 @@
+#include "screens/work/audition_detail_view_controller.h"
+
+#include <format>
+
+#include "career/boosts.h"
+#include "career/bribe.h"
+#include "career/withdrawal.h"
+#include "core/audition_list.h"
+#include "core/number_style.h"
+#include "core/text.h"
+#include "screens/film/promote_film_view_controller.h"
+#include "screens/parts.h"
+#include "screens/work/project_words.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+// --- What it is ---
+
+Section theRole(const Audition& project) {
+  Section section{.heading = "YOUR ROLE",
+                  .nodes = {Row{.label = project.characterName, .value = project.role},
+                            Text{.text = project.roleDescription}}};
+  if (project.numberOfEpisodesActed > 0) {
+    section.nodes.push_back(
+        Row{.label = "Episodes",
+            .value = std::format("{} of {}", project.numberOfEpisodesActed, project.numberOfEpisodesTotal)});
+  }
+  return section;
+}
+
+Section theProject(const Game& game, const Audition& project) {
+  return {.heading = "THE PROJECT",
+          .nodes = {Row{.label = "Director", .value = project.directorName},
+                    Row{.label = "Writer", .value = project.writerName},
+                    Row{.label = "Genre", .value = joinedWithAnd(project.genres)},
+                    Row{.label = "Budget", .value = shortMoney(game.locale, project.budget)},
+                    Row{.label = "Pay",
+                        .value = payWords(game.locale, project.payment, project.buyout, project.residual)},
+                    Row{.label = "Through", .value = project.source}}};
+}
+
+Section theRoad(const WorldState& world, const Audition& project) {
+  return {.heading = "THE ROAD",
+          .nodes = {Row{.label = "Submitted", .value = whenIs(world, project.weekSubmitted)},
+                    Row{.label = "Audition", .value = whenIs(world, project.weekAudition)},
+                    Row{.label = "Wrap", .value = whenIs(world, project.weekToWork)},
+                    Row{.label = "Release", .value = whenIs(world, project.weekReleased)}}};
+}
+
+Section thePreparation(const Audition& project) {
+  return {.heading = "YOUR PREPARATION",
+          .nodes = {scoreMeter("Audition", static_cast<std::int64_t>(project.rehearsalRating)),
+                    scoreMeter("Performance", static_cast<std::int64_t>(project.performanceRating))}};
+}
+
+// --- What can be done ---
+
+// A project as its buttons know it: the list may have moved before one of them is pressed.
+void boost(Stage& stage, std::int64_t filmId, BoostKind kind) {
+  const auto index = auditionIndex(stage.game().world, filmId);
+  if (!index) return;
+  if (Refusal refusal = buyBoost(stage.game(), *index)) return stage.show(std::move(refusal));
+  stage.worldChanged();
+  if (kind == BoostKind::promote) stage.open(std::make_unique<PromoteFilmViewController>());
+}
+
+void bribe(Stage& stage, std::int64_t filmId) {
+  const auto index = auditionIndex(stage.game().world, filmId);
+  if (!index) return;
+  stage.show(bribeCastingDirector(stage.game(), *index));
+  stage.worldChanged();
+}
+
+void withdraw(Stage& stage, std::int64_t filmId) {
+  withdrawFromRole(stage.game(), filmId);
+  stage.worldChanged();
+  stage.close();
+}
+
+void askToWithdraw(Stage& stage, std::int64_t filmId) {
+  stage.ask(
+      Notice{.title = "😭 Withdraw? 😭",
+             .message =
+                 "Are you sure you want to withdraw from this role?\n\nIf you’re juggling roles, stepping "
+                 "back early can reduce stress—but if it’s already booked and announced, you might "
+                 "disappoint fans who were excited to see you."},
+      {{.label = "Keep", .weight = Button::Weight::primary},
+       {.label = "Yes, withdraw",
+        .press = [filmId](Stage& asked) { withdraw(asked, filmId); },
+        .weight = Button::Weight::destructive}});
+}
+
+std::string nameOf(BoostKind kind) {
+  switch (kind) {
+    case BoostKind::rehearse:
+      return "REHEARSE";
+    case BoostKind::performance:
+      return "WORK ON YOUR PERFORMANCE";
+    case BoostKind::promote:
+      return "PROMOTE";
+  }
+}
+
+Button boostButton(const Boost& offered, const Audition& project) {
+  return {.label = nameOf(offered.kind),
+          .press = [id = project.filmId, kind = offered.kind](Stage& stage) { boost(stage, id, kind); },
+          .price = energyPrice(offered.energyPrice),
+          .weight = Button::Weight::primary};
+}
+
+std::vector<Node> actions(const Game& game, const Audition& project) {
+  std::vector<Node> nodes = {energyMeter(game.world)};
+  if (const auto offered = boostOf(game.world, project)) nodes.push_back(boostButton(*offered, project));
+  if (isBribeOffered(project)) {
+    const double price = static_cast<double>(game.world.saveBribePrice);
+    nodes.push_back(Button{.label = currency(game.locale, price, 0) + " | BRIBE",
+                           .press = [id = project.filmId](Stage& stage) { bribe(stage, id); }});
+  }
+  if (isWithdrawalOffered(project)) {
+    nodes.push_back(Button{.label = "Withdraw",
+                           .press = [id = project.filmId](Stage& stage) { askToWithdraw(stage, id); },
+                           .weight = Button::Weight::destructive});
+  }
+  return nodes;
+}
+
+}  // namespace
+
+Page AuditionDetailViewController::view(const Game& game) {
+  const auto index = auditionIndex(game.world, filmId_);
+  if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list any more.")}};
+  const Audition& project = game.world.saveAllAuditionList[*index];
+  Page page{.title = titleWithSeason(project),
+            .subtitle = std::format("{} • {}", typeName(project.typeOfFilm), guildWords(project.isUnion))};
+  page.nodes = {
+      posterOf(project.imageString),
+      Text{.text = progressWords(game.world, project), .style = Text::Style::large, .tone = Tone::accent},
+      thePreparation(project)};
+  page.nodes.append_range(actions(game, project));
+  page.nodes.append_range(std::vector<Node>{Text{.text = project.description}, theRole(project),
+                                            theProject(game, project), theRoad(game.world, project)});
+  return page;
+}
+
+}  // namespace tb

@@ -1,0 +1,64 @@
+#include "screens/work/job_board_view_controller.h"
+
+#include <format>
+
+#include "core/number_style.h"
+#include "screens/parts.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+Section presentJob(const Game& game) {
+  const WorldState& world = game.world;
+  return {.heading = "YOUR JOB",
+          .nodes = {Row{.label = world.weeklyJobTitle,
+                        .value = std::format("{} a week", currency(game.locale, world.weeklyJobIncome, 0)),
+                        .detail = std::format(
+                            "{} more week{} • -{} energy each week", world.weeklyJobContractRemaining,
+                            world.weeklyJobContractRemaining == 1 ? "" : "s", world.weeklyEnergyCost)}}};
+}
+
+}  // namespace
+
+void JobBoardViewController::load(Stage& stage) { board_ = openJobBoard(stage.game()); }
+
+void JobBoardViewController::accept(Stage& stage, const JobOffer& offer) {
+  if (Refusal refusal = acceptJob(stage.game(), offer)) return stage.show(std::move(refusal));
+  stage.worldChanged();
+}
+
+Card JobBoardViewController::offerCard(const Game& game, const JobOffer& offer) {
+  return {.title = std::string(offer.job.jobTitle),
+          .subtitle = std::format("{} Week Contract", offer.contractWeeks),
+          .nodes = {Text{.text = std::string(offer.job.jobDescription)},
+                    Row{.label = "Pay", .value = currency(game.locale, offer.job.jobPay, 0) + " a week"},
+                    Row{.label = "Energy", .value = std::format("-{} each week", offer.job.energyCost)},
+                    Button{.label = "Accept",
+                           .press = [this, offer](Stage& stage) { accept(stage, offer); },
+                           .weight = Button::Weight::primary}}};
+}
+
+Section JobBoardViewController::board(const Game& game) {
+  if (board_.empty()) {
+    return {
+        .heading = "NO OFFERS",
+        .nodes = {Text{.text = "NO JOBS AVAILABLE"}, caption("Another day, another board. Look in again.")}};
+  }
+  Section section{.heading = "OFFERS"};
+  for (const JobOffer& offer : board_) section.nodes.push_back(offerCard(game, offer));
+  return section;
+}
+
+Page JobBoardViewController::view(const Game& game) {
+  Page page{.title = "Job Board", .subtitle = "Work that pays while you wait for the call"};
+  page.nodes = {Tiles{{{.label = "Cash", .value = cash(game.locale, game.world.totalCashAvailable)}}},
+                energyMeter(game.world)};
+  if (!game.world.weeklyJobTitle.empty()) page.nodes.push_back(presentJob(game));
+  page.nodes.push_back(board(game));
+  return page;
+}
+
+}  // namespace tb

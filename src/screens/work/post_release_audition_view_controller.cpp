@@ -1,0 +1,79 @@
+#include "screens/work/post_release_audition_view_controller.h"
+
+#include <format>
+
+#include "core/audition_list.h"
+#include "film/film_record.h"
+#include "screens/parts.h"
+#include "screens/work/project_words.h"
+#include "screens/work/release_figures.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+Section reception(const WorldState& world, const Audition& project) {
+  Section section{.heading = "RECEPTION"};
+  const std::size_t index = filmIndex(world, project.filmId);
+  if (index == world.saveAllFilmList.size()) return section;
+  const Film& film = world.saveAllFilmList[index];
+  constexpr int starsOfRating = 10;
+  section.nodes = {Stars{.label = std::format("Viewers: {:.1f} of 10", film.imbdRating),
+                         .value = film.imbdRating,
+                         .outOf = starsOfRating},
+                   scoreMeter("Critics", film.imbdMetascore)};
+  for (const std::string& review : film.featuredReviews) {
+    if (!review.empty()) section.nodes.push_back(Text{.text = review, .style = Text::Style::quotation});
+  }
+  return section;
+}
+
+// Seasons of one series share the film id of the first, and so do the films of a saga.
+bool cameBefore(const Audition& earlier, const Audition& project) {
+  const bool same = earlier.filmId == project.parentSeriesFilmId ||
+                    earlier.parentSeriesFilmId == project.parentSeriesFilmId;
+  return project.parentSeriesFilmId != -1 && same && earlier.seasonNumber < project.seasonNumber;
+}
+
+Section whatCameBefore(const WorldState& world, const Audition& project) {
+  Section section{.heading = "WHAT CAME BEFORE"};
+  for (const Audition& earlier : world.saveAllAuditionList) {
+    if (!cameBefore(earlier, project)) continue;
+    section.nodes.push_back(Row{.label = titleWithSeason(earlier),
+                                .value = progressWords(world, earlier),
+                                .picture = {posterOf(earlier.imageString)},
+                                .press = [id = earlier.filmId](Stage& stage) {
+                                  stage.open(std::make_unique<PostReleaseAuditionViewController>(id));
+                                }});
+  }
+  return section;
+}
+
+bool hasFigures(const Audition& project) {
+  return project.typeOfFilm == filmType::feature || project.typeOfFilm == filmType::series;
+}
+
+}  // namespace
+
+Page PostReleaseAuditionViewController::view(const Game& game) {
+  const auto index = auditionIndex(game.world, filmId_);
+  if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list any more.")}};
+  const Audition& project = game.world.saveAllAuditionList[*index];
+  Page page{.title = titleWithSeason(project),
+            .subtitle = std::format("{} • {} • {}", typeName(project.typeOfFilm), project.role,
+                                    progressWords(game.world, project))};
+  page.nodes = {posterOf(project.imageString)};
+  if (hasFigures(project)) {
+    const ReleaseFigures figures = figuresOf(game.world, project);
+    page.nodes.push_back(figureTiles(game, project, figures));
+    page.nodes.push_back(figureChart(game, project, figures));
+  }
+  page.nodes.push_back(reception(game.world, project));
+  Section before = whatCameBefore(game.world, project);
+  if (!before.nodes.empty()) page.nodes.push_back(std::move(before));
+  return page;
+}
+
+}  // namespace tb

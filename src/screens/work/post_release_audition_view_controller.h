@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+#include "screens/stage.h"
+
+namespace tb {
+
+// A project after its release: what it took, week by week, and the seasons or films that came before it.
+class PostReleaseAuditionViewController : public Screen {
+ public:
+  explicit PostReleaseAuditionViewController(std::int64_t filmId) : filmId_(filmId) {}
+  [[nodiscard]] view::Page view(const Game& game) override;
+
+ private:
+  std::int64_t filmId_;
+};
+
+}  // namespace tb

@@ -1,0 +1,36 @@
+#pragma once
+
+// How a project is spoken of on the screens of the trade.
+
+#include <cstdint>
+#include <string>
+
+#include "core/game.h"
+#include "screens/view.h"
+
+namespace tb {
+
+// "Feature Film", "TV-Series", ...
+[[nodiscard]] std::string typeName(std::int64_t typeOfFilm);
+
+// The title, from the second season of a series on with its number.
+[[nodiscard]] std::string titleWithSeason(const Audition& project);
+
+// "Union" or "Non-union".
+[[nodiscard]] std::string guildWords(std::int64_t isUnion);
+
+// "this week", "in 3 weeks", "2 weeks ago", for a week of `weekNumberForTracking`.
+[[nodiscard]] std::string whenIs(const WorldState& world, std::int64_t week);
+
+// How far the project has come, in a few words: "Audition in 3 weeks", "Never heard back".
+[[nodiscard]] std::string progressWords(const WorldState& world, const Audition& project);
+
+// True from the week after the release on, when scores and money are there to be seen.
+[[nodiscard]] bool isReleased(const WorldState& world, const Audition& project);
+
+[[nodiscard]] view::Picture posterOf(const std::string& imageString);
+
+// "$1,200", and what is offered beside the fee: "$1,200 • $720 buyout • 1.4% residual".
+[[nodiscard]] std::string payWords(const Locale& locale, double payment, double buyout, double residual);
+
+}  // namespace tb

@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include "career/boosts.h"
+#include "career/bribe.h"
+#include "career/withdrawal.h"
+#include "tests/scratch_game.h"
+
+namespace tb {
+namespace {
+
+struct AuditionChoices : testing::Test, test::ScratchGame {
+  WorldState& world = game.world;
+
+  AuditionChoices() { world.weekNumberForTracking = 10; }
+  ~AuditionChoices() override { EXPECT_EQ(random.left(), 0u) << "draws that no rule took"; }
+
+  Audition& add(Audition project) {
+    world.saveAllAuditionList.push_back(std::move(project));
+    return world.saveAllAuditionList.edit(world.saveAllAuditionList.size() - 1);
+  }
+};
+
+TEST_F(AuditionChoices, RehearsalsGetDearerAndEndWithTheNinth) {
+  Audition& project = add({.weekAudition = 10, .funnelStage = stage::invited, .rehearsalRating = 20});
+  const std::int64_t prices[] = {4, 6, 7, 9, 10, 12, 13, 15, 16};
+  world.totalEnergyAvailable = 4 + 6 + 7 + 9 + 10 + 12 + 13 + 15 + 16;
+  for (const std::int64_t price : prices) {
+    ASSERT_TRUE(boostOf(world, project));
+    EXPECT_EQ(boostOf(world, project)->energyPrice, price);
+    EXPECT_FALSE(buyBoost(game, 0));
+  }
+  EXPECT_EQ(world.totalEnergyAvailable, 0);
+  EXPECT_EQ(project.rehearsalRating, 20 + 9 * 1.5);
+  EXPECT_EQ(project.rehearsalBoostCount, 9);
+  EXPECT_FALSE(boostOf(world, project));
+  EXPECT_FALSE(buyBoost(game, 0));
+  EXPECT_EQ(project.rehearsalBoostCount, 9);
+  EXPECT_TRUE(store.contains("saveAllAuditionList"));
+}
+
+TEST_F(AuditionChoices, RehearsalEndsAtAFullRatingAndAfterItsWeek) {
+  Audition& project = add({.weekAudition = 10, .funnelStage = stage::invited, .rehearsalRating = 99.9});
+  EXPECT_TRUE(boostOf(world, project));
+  project.rehearsalRating = 100;
+  EXPECT_FALSE(boostOf(world, project));
+  project.rehearsalRating = 5;
+  world.weekNumberForTracking = 11;  // rejected: the week is past
+  EXPECT_FALSE(boostOf(world, project));
+}
+
+TEST_F(AuditionChoices, ThePerformanceIsBuiltUpUntilTheWrap) {
+  Audition& project = add({.weekToWork = 10, .funnelStage = stage::booked, .performanceRating = 30});
+  EXPECT_EQ(boostOf(world, project)->kind, BoostKind::performance);
+  EXPECT_EQ(boostOf(world, project)->energyPrice, 17);
+  world.totalEnergyAvailable = 16;
+  EXPECT_EQ(buyBoost(game, 0)->title, "⚡️ Not Enough Energy ⚡️");
+  EXPECT_EQ(project.performanceRating, 30);
+  world.totalEnergyAvailable = 17;
+  EXPECT_FALSE(buyBoost(game, 0));
+  EXPECT_EQ(project.performanceRating, 31.5);
+  EXPECT_EQ(project.rehearsalBoostCount, 0);
+  EXPECT_EQ(boostOf(world, project)->energyPrice, 19);
+  project.performanceBoostCount = 8;
+  EXPECT_EQ(boostOf(world, project)->energyPrice, 31);
+  project.performanceBoostCount = 9;
+  EXPECT_FALSE(boostOf(world, project));
+  project.performanceBoostCount = 0;
+  world.weekNumberForTracking = 11;
+  EXPECT_FALSE(boostOf(world, project));
+}
+
+TEST_F(AuditionChoices, PromotionIsForPrincipalsOfFilmsAndSeriesBeforeTheRelease) {
+  Audition& project =
+      add({.typeOfFilm = filmType::series, .isPrincipal = 1, .weekReleased = 11, .funnelStage = stage::wrapped});
+  EXPECT_EQ(boostOf(world, project)->kind, BoostKind::promote);
+  EXPECT_EQ(boostOf(world, project)->energyPrice, 25);
+  EXPECT_FALSE(buyBoost(game, 0));
+  EXPECT_EQ(world.selectedAuditionIndex, 0);
+  EXPECT_EQ(world.totalEnergyAvailable, 75);
+  EXPECT_EQ(project.promoteHypeCount, 0);  // counted when the interview is given
+  project.promoteHypeCount = 1;
+  EXPECT_FALSE(boostOf(world, project));
+  project.promoteHypeCount = 0;
+  project.isPrincipal = 0;
+  EXPECT_FALSE(boostOf(world, project));
+  project.isPrincipal = 2;
+  EXPECT_FALSE(boostOf(world, project));
+  project.isPrincipal = 1;
+  project.typeOfFilm = filmType::commercial;
+  EXPECT_FALSE(boostOf(world, project));
+  project.typeOfFilm = filmType::feature;
+  project.weekReleased = 10;
+  EXPECT_FALSE(boostOf(world, project));
+}
+
+TEST_F(AuditionChoices, NothingIsBoostedWhileTheSubmissionWaits) {
+  EXPECT_FALSE(boostOf(world, add({.weekAudition = 20, .funnelStage = stage::submitted})));
+  EXPECT_FALSE(boostOf(world, add({.weekAudition = 20, .funnelStage = stage::closed})));
+}
+
+TEST_F(AuditionChoices, TheBribeDoublesItsPriceAndSpeaksByItsStrength) {
+  world.totalCashAvailable = 500 * 255;
+  const std::pair<int, const char*> phrases[] = {
+      {0, "you’ve got a small boost in your corner."},
+      {10, "you’ve got a small boost in your corner."},
+      {11, "you’ve moved up the list in a meaningful way."},
+      {40, "you’ve moved up the list in a meaningful way."},
+      {41, "you’re looking like a strong contender now."},
+      {60, "you’re looking like a strong contender now."},
+      {61, "at this point, the audition is basically locked in."},
+      {89, "at this point, the audition is basically locked in."},
+  };
+  std::int64_t price = 500;
+  for (const auto& [roll, phrase] : phrases) {
+    Audition& project = add({});
+    EXPECT_TRUE(isBribeOffered(project));
+    random.range(90, roll);
+    const std::size_t index = world.saveAllAuditionList.size() - 1;
+    EXPECT_EQ(bribeCastingDirector(game, index),
+              (Notice{"🤝 BRIBED 🤝", std::string("You bribed the Casting Director and ") + phrase +
+                                          ".\n\nThis does not mean you automatically earn the role, just the chance "
+                                          "to audition."}));
+    EXPECT_EQ(project.didBribe, roll + 10);
+    EXPECT_FALSE(isBribeOffered(project));
+    price *= 2;
+    EXPECT_EQ(world.saveBribePrice, price);
+  }
+  EXPECT_EQ(world.totalCashAvailable, 0);
+  Audition& unlucky = add({});
+  EXPECT_EQ(bribeCastingDirector(game, 8),
+            (Notice{"💰 Not Enough Cash 💰", "You don't have enough cash to bribe the Casting Director."}));
+  EXPECT_EQ(unlucky.didBribe, 0);
+  EXPECT_EQ(world.saveBribePrice, price);
+  unlucky.funnelStage = stage::invited;
+  EXPECT_FALSE(isBribeOffered(unlucky));
+}
+
+TEST_F(AuditionChoices, WithdrawingCostsUpToAHundredthOfTheFansAtAnyStage) {
+  world.totalFans = 1099;
+  add({.filmId = 1});
+  add({.filmId = 2, .title = "Saltwater", .funnelStage = stage::booked});
+  add({.filmId = 3, .funnelStage = stage::wrapped});
+  random.range(11, 10).range(50, 0);
+  withdrawFromRole(game, 2);
+  EXPECT_EQ(world.saveAllAuditionList.size(), 2u);
+  EXPECT_EQ(world.totalFans, 1089);
+  EXPECT_EQ(world.trackFans, (IntList{1089}));
+  EXPECT_EQ(world.activityTracker, (TextList{"You withdrew from \"Saltwater\" after booking the role, and fans are not "
+                                             "taking it well — 10 fans lost."}));
+  EXPECT_TRUE(world.WeekFeed.empty());
+  EXPECT_EQ(store.value("totalFans"), plist::Value{std::int64_t{1089}});
+  EXPECT_TRUE(store.contains("trackFans"));
+  withdrawFromRole(game, 3);  // wrapped: too late
+  withdrawFromRole(game, 2);  // gone
+  EXPECT_EQ(world.saveAllAuditionList.size(), 2u);
+
+  world.totalFans = 50;  // nobody to disappoint, and told all the same
+  random.range(1, 0).any(1);
+  withdrawFromRole(game, 1);
+  EXPECT_EQ(world.trackFans, (IntList{1089, 50}));
+}
+
+}  // namespace
+}  // namespace tb

@@ -1,0 +1,309 @@
+#include "career/renewals.h"
+
+#include <gtest/gtest.h>
+
+#include "film/catalogue.h"
+#include "tests/scratch_game.h"
+
+namespace tb {
+namespace {
+
+struct Renewals : testing::Test, test::ScratchGame {
+  WorldState& world = game.world;
+
+  Renewals() {
+    world.weekNumberForTracking = 61;
+    world.weekNumber = 9;
+    world.yearNumber = 2027;
+    world.filmId = 500;
+  }
+  ~Renewals() override { EXPECT_EQ(random.left(), 0u) << "draws that no rule took"; }
+
+  Audition series() {
+    return {.filmId = 7,
+            .typeOfFilm = filmType::series,
+            .isPrincipal = 1,
+            .title = "Saltwater",
+            .characterName = "Aaron Abbott",
+            .numberOfEpisodesActed = 2,
+            .numberOfEpisodesTotal = 9,
+            .isContinued = 0,
+            .seasonNumber = 1,
+            .submittedYear = 2025,
+            .weekReleased = 50,
+            .payment = 1000,
+            .buyout = 300,
+            .residual = 0.015,
+            .royalty = 2,
+            .budget = 400'000,
+            .source = "The Agency",
+            .sourceId = 77,
+            .funnelStage = stage::wrapped,
+            .didBribe = 30,
+            .rehearsalBoostCount = 4,
+            .performanceBoostCount = 5,
+            .promoteHypeCount = 1,
+            .auditionDifficulty = 44,
+            .directorRating = 31,
+            .didNegotiate = 1};
+  }
+  void give(const Audition& project, double rating, std::int64_t metascore = 55) {
+    world.saveAllAuditionList.assign(std::vector{project});
+    world.saveAllFilmList.assign(
+        std::vector<Film>{{.filmId = project.filmId, .imbdRating = rating, .imbdMetascore = metascore}});
+    world.WeekFeed.clear();
+    world.activityTracker.clear();
+  }
+  std::int64_t continued() const { return world.saveAllAuditionList[0].isContinued; }
+
+  // The schedule, the preparation and the hype of the next instalment: audition in 15 weeks, 20 more to the wrap,
+  // 15 to the release.
+  void scriptInstalment() {
+    random.range(14, 13).range(17, 16).range(8, 7);
+    random.unit(0).unit(1).unit(0.5).range(31, 20).range(101, 0).range(4, 0);
+  }
+};
+
+TEST_F(Renewals, OnlyAReleasedSeriesOfAPrincipalIsJudgedFromTheEleventhWeek) {
+  Audition project = series();
+  project.funnelStage = stage::booked;
+  give(project, 9);
+  renewSeries(game);
+  EXPECT_EQ(continued(), 0);
+
+  project = series();
+  project.weekReleased = 51;
+  give(project, 9);
+  renewSeries(game);
+  EXPECT_EQ(continued(), 0);
+
+  project.isPrincipal = 0;  // retired at once, without a word
+  give(project, 9);
+  renewSeries(game);
+  EXPECT_EQ(continued(), -1);
+  EXPECT_TRUE(world.activityTracker.empty());
+
+  give(series(), 9);
+  world.saveAllFilmList.clear();
+  renewSeries(game);
+  EXPECT_EQ(continued(), -1);
+  EXPECT_TRUE(world.activityTracker.empty());
+
+  for (const std::int64_t done : {-1, 1, 2}) {
+    project = series();
+    project.isContinued = done;
+    give(project, 9);
+    renewSeries(game);
+    EXPECT_EQ(continued(), done);
+  }
+  project = series();
+  project.typeOfFilm = filmType::studentFilm;
+  give(project, 9);
+  renewSeries(game);
+  renewSaga(game);
+  EXPECT_EQ(continued(), 0);
+}
+
+TEST_F(Renewals, ARatingUpToFourEndsTheSeriesAndMoreGivesItAChance) {
+  for (const double rating : {1.0, 4.0}) {
+    give(series(), rating);
+    random.range(49, 0);
+    renewSeries(game);
+    EXPECT_EQ(continued(), -1);
+    const TextList line = {
+        "Saltwater has been canceled. The network thanked everyone involved in alphabetical order."};
+    EXPECT_EQ(world.activityTracker, line);
+    EXPECT_EQ(world.WeekFeed, line);
+  }
+  give(series(), 4.005);  // between the bands: asked again next week
+  renewSeries(game);
+  EXPECT_EQ(continued(), 0);
+  give(series(), 8);
+  random.range(12, 7).range(49, 0);  // 8 is not above 8
+  renewSeries(game);
+  EXPECT_EQ(continued(), -1);
+  give(series(), 8.1);
+  random.range(12, 7);
+  scriptInstalment();
+  random.any(5);
+  renewSeries(game);
+  EXPECT_EQ(continued(), 1);
+}
+
+TEST_F(Renewals, ANewSeasonIsBookedOnNewTerms) {
+  world.experience = 100;
+  give(series(), 8, 69);  // (8 + 6) / 2 = 7: pay 1.25 to 1.75, royalty 1.04 to 1.06
+  random.range(12, 6);
+  scriptInstalment();
+  random.unit(0.5).unit(1).unit(0.5).range(3, 2).range(49, 0);
+  renewSeries(game);
+  ASSERT_EQ(world.saveAllAuditionList.size(), 2u);
+  EXPECT_EQ(continued(), 1);
+
+  Audition expected = series();
+  expected.filmId = 501;
+  expected.numberOfEpisodesActed = 9;  // 12, but the season has 9
+  expected.parentSeriesFilmId = 7;
+  expected.seasonNumber = 2;
+  expected.weekSubmitted = 61;
+  expected.weekAudition = 76;
+  expected.weekToWork = 96;
+  expected.weekReleased = 111;
+  expected.payment = (1.5 + 1.5) * 0.5 * 1000;
+  expected.buyout = 0;
+  expected.royalty = 2 * 1.05;
+  expected.budget = 600'000;
+  expected.funnelStage = stage::booked;
+  expected.didBribe = 0;
+  expected.rehearsalRating = 0.69;
+  expected.rehearsalBoostCount = 0;
+  expected.performanceRating = 0.69 * 0.75;
+  expected.performanceBoostCount = 0;
+  expected.hypeRating = 3;  // director 1 + 20 - 15 + 2 = 8, level 1: (9 + 1) / 3
+  expected.didNegotiate = 0;
+  expected.workYear = 2027;  // week 96 is the 44th of the year
+  Audition season = world.saveAllAuditionList[1];
+  EXPECT_DOUBLE_EQ(season.performanceRating, expected.performanceRating);
+  EXPECT_DOUBLE_EQ(season.royalty, expected.royalty);
+  season.performanceRating = expected.performanceRating;
+  season.royalty = expected.royalty;
+  EXPECT_EQ(season, expected);
+  const TextList line = {"Saltwater has been renewed for season 2!"};
+  EXPECT_EQ(world.activityTracker, line);
+  EXPECT_EQ(world.WeekFeed, line);
+  EXPECT_EQ(store.value("filmId"), plist::Value{std::int64_t{501}});
+
+  renewSeries(game);  // decided once
+  EXPECT_EQ(world.saveAllAuditionList.size(), 2u);
+}
+
+TEST_F(Renewals, LaterSeasonsKeepTheFirstAsTheirParentAndWhatIsNotTheirsIsCleared) {
+  Audition second = series();
+  second.filmId = 90;
+  second.parentSeriesFilmId = 7;
+  second.seasonNumber = 2;
+  second.royalty = 0;
+  second.budget = 2.9e9;
+  second.didAct = 0;
+  second.equityPercentage = 10;
+  second.equityDollarsInvested = 5000;
+  second.franchise = 3;
+  second.franchiseId = 4;
+  give(second, 8, 69);
+  random.range(12, 0);
+  scriptInstalment();
+  random.unit(0.5).unit(0).range(3, 0).range(49, 0);  // no draw for a royalty that is not there
+  renewSeries(game);
+  const Audition& third = world.saveAllAuditionList[1];
+  EXPECT_EQ(third.seasonNumber, 3);
+  EXPECT_EQ(third.parentSeriesFilmId, 7);
+  EXPECT_EQ(third.numberOfEpisodesActed, 8);
+  EXPECT_EQ(third.royalty, 0);
+  EXPECT_EQ(third.budget, 3e9);
+  EXPECT_EQ(third.didAct, 1);
+  EXPECT_EQ(third.equityPercentage, 0);
+  EXPECT_EQ(third.equityDollarsInvested, 0);
+  EXPECT_EQ(third.franchise, -1);
+  EXPECT_EQ(third.franchiseId, -1);
+}
+
+TEST_F(Renewals, PayGoesByTheBandsOfSuccessAndByATenthBetweenThem) {
+  struct Case {
+    double rating;
+    std::int64_t metascore;
+    double pay;
+    double royalty;
+  };
+  const Case cases[] = {
+      {4.1, 19, 1.05, 1.01},   // 2.55
+      {5, 19, 1.05, 1.01},     // 3
+      {5.015, 19, 1.1, 1.1},   // 3.0075: between the bands
+      {5.02, 19, 1.175, 1.03},  // 3.01
+      {8, 29, 1.175, 1.03},    // 5
+      {8.01, 29, 1.1, 1.1},    // 5.005
+      {8.02, 29, 1.5, 1.05},   // 5.01
+      {8, 60, 1.5, 1.05},      // 7
+      {8.03, 60, 1.75, 1.07},  // 7.015
+      {8, 90, 1.75, 1.07},     // 8.5
+      {8.001, 90, 1.1, 1.1},   // 8.5005
+      {9, 100, 2, 1.1},        // 9.5
+  };
+  for (const Case& each : cases) {
+    give(series(), each.rating, each.metascore);
+    random.range(12, 0);
+    scriptInstalment();
+    random.unit(0.5).unit(0.5).unit(0.5).any(2);
+    renewSeries(game);
+    const Audition& season = world.saveAllAuditionList[1];
+    EXPECT_NEAR(season.budget, each.pay * 400'000, 1e-6) << each.rating;
+    EXPECT_NEAR(season.payment, (each.pay + 1) * 0.5 * 1000, 1e-9) << each.rating;
+    EXPECT_NEAR(season.royalty, each.royalty * 2, 1e-9) << each.rating;
+  }
+}
+
+struct Sagas : Renewals {
+  const MovieFranchise& first = movieFranchises()[0];
+  const MovieFranchise& second = movieFranchises()[1];
+
+  Audition film() {
+    Audition project = series();
+    project.typeOfFilm = filmType::feature;
+    project.title = first.title;
+    project.numberOfEpisodesActed = 0;
+    project.franchise = first.movieNumber;
+    project.franchiseId = first.id;
+    return project;
+  }
+};
+
+TEST_F(Sagas, GoOnWithTheNextEntryOfTheSameSaga) {
+  give(film(), 8);
+  renewSeries(game);  // no series
+  random.range(12, 0);
+  scriptInstalment();
+  random.any(3).range(25, 0);
+  renewSaga(game);
+  ASSERT_EQ(world.saveAllAuditionList.size(), 2u);
+  const Audition& next = world.saveAllAuditionList[1];
+  EXPECT_EQ(next.title, second.title);
+  EXPECT_EQ(next.description, second.shortSummary);
+  EXPECT_EQ(next.imageString, second.imageString);
+  EXPECT_EQ(next.genres, second.genre);
+  EXPECT_TRUE(next.roleDescription.contains("Aaron Abbott"));
+  EXPECT_EQ(next.franchise, second.movieNumber);
+  EXPECT_EQ(next.franchiseId, first.id);
+  EXPECT_EQ(next.seasonNumber, 2);
+  EXPECT_EQ(next.parentSeriesFilmId, 7);
+  EXPECT_EQ(next.numberOfEpisodesActed, 0);
+  EXPECT_EQ(next.funnelStage, stage::booked);
+  EXPECT_EQ(next.isContinued, 0);
+  const TextList line = {first.title + " was only the beginning. You have been booked for " + second.title + "."};
+  EXPECT_EQ(world.activityTracker, line);
+  EXPECT_EQ(world.WeekFeed, line);
+}
+
+TEST_F(Sagas, EndWithTheirLastEntryOrABadRating) {
+  Audition last = film();
+  last.franchise = 99;
+  give(last, 10);
+  random.range(12, 0).range(25, 0);
+  renewSaga(game);
+  EXPECT_EQ(continued(), -1);
+  EXPECT_EQ(world.WeekFeed, (TextList{"The saga is over. " + first.title + " was its last word."}));
+  EXPECT_EQ(world.activityTracker.size(), 1u);
+  give(film(), 3);
+  random.range(25, 0);
+  renewSaga(game);
+  EXPECT_EQ(continued(), -1);
+  EXPECT_EQ(world.saveAllAuditionList.size(), 1u);
+
+  Audition alone = film();  // not of a saga: nothing to go on with, and nothing to say
+  alone.franchiseId = -1;
+  give(alone, 10);
+  renewSaga(game);
+  EXPECT_EQ(continued(), 0);
+  EXPECT_TRUE(world.WeekFeed.empty());
+}
+
+}  // namespace
+}  // namespace tb

@@ -1,0 +1,137 @@
+// The interview before a release: what it is worth, what it leaves behind.
+
+#include "film/promotion.h"
+
+#include <gtest/gtest.h>
+
+#include "film/catalogue.h"
+#include "tests/film/wrapped_project.h"
+
+namespace tb {
+namespace {
+
+using test::ReleasedGame;
+using test::ScratchGame;
+
+TEST(Promotion, TheMoreFansListenTheMoreHypeItBrings) {
+  struct Case {
+    std::int64_t fans;
+    std::int64_t least;
+    std::int64_t spread;
+  };
+  const Case cases[] = {{0, 0, 5},
+                        {999, 0, 5},
+                        {1'000, 3, 5},
+                        {9'999, 3, 5},
+                        {10'000, 5, 5},
+                        {100'000, 7, 7},
+                        {1'000'000, 12, 7},
+                        {10'000'000, 16, 15},
+                        {100'000'000, 20, 16},
+                        {9'999'999'999, 20, 16}};
+  for (const auto& [fans, least, spread] : cases) {
+    ScratchGame scratch;
+    scratch.game.world.totalFans = fans;
+    scratch.random.range(20, 1).range(30, 0).range(spread, spread - 1);
+    const Interview interview = openInterview(scratch.game, test::projectOf(filmType::feature));
+    EXPECT_EQ(interview.totalHype, least + spread - 1) << fans;
+    EXPECT_EQ(interview.question, "What surprised you most about yourself while working on Salt Road");
+    EXPECT_EQ(interview.talkShow, "Up Late with Barney Quill");
+  }
+  ScratchGame beyond;
+  beyond.game.world.totalFans = 10'000'000'000;
+  beyond.random.any(2);
+  EXPECT_EQ(openInterview(beyond.game, test::projectOf(filmType::feature)).totalHype, 0);
+}
+
+TEST(Promotion, TheAnswerIsPostedAndQuotedAndTheHypeRisesOnce) {
+  ReleasedGame released(test::projectOf(filmType::feature));
+  released.project().hypeRating = 40;
+  released.project().characterName = "June Abara";
+  released.world().totalFans = 1'000;
+  const Interview interview{.talkShow = "A", .question = "Why?", .totalHype = 7};
+  released.random.range(1'001, 1'000).unit(1).unit(1).unit(0);
+  EXPECT_FALSE(promoteFilm(released.game, 0, interview, "  Because.  "));
+  EXPECT_EQ(released.random.left(), 0U);
+  EXPECT_EQ(released.project().hypeRating, 47);
+  EXPECT_EQ(released.project().promoteHypeCount, 1);
+  const Quote quote{.filmId = 7,
+                    .filmName = "Salt Road",
+                    .character = "June Abara",
+                    .quote = "Because.",
+                    .question = "Why?"};
+  EXPECT_EQ(released.world().saveAllQuotes.front(), quote);
+  ASSERT_EQ(released.world().saveAllChirpList.size(), 1U);
+  const Chirp& post = released.world().saveAllChirpList.front();
+  EXPECT_EQ(post.message, "[on Salt Road] Because.");
+  EXPECT_EQ(post.artistId, 0);
+  EXPECT_EQ(post.id, 1);
+  EXPECT_EQ(post.filmId, 7);
+  EXPECT_EQ(post.likeCount, 20);
+  EXPECT_EQ(post.commentCount, 4);
+  EXPECT_EQ(post.reChirpCount, 1);
+
+  EXPECT_TRUE(promoteFilm(released.game, 0, interview, "Again."));
+  EXPECT_EQ(released.project().hypeRating, 47);
+  EXPECT_EQ(released.world().saveAllQuotes.size(), 1U);
+}
+
+TEST(Promotion, NothingIsPostedWithoutAnAnswer) {
+  ReleasedGame released(test::projectOf(filmType::feature));
+  EXPECT_TRUE(promoteFilm(released.game, 0, {.totalHype = 7}, " \n "));
+  EXPECT_EQ(released.project().promoteHypeCount, 0);
+  EXPECT_TRUE(released.world().saveAllChirpList.empty());
+  EXPECT_TRUE(released.world().saveAllQuotes.empty());
+}
+
+TEST(Catalogue, EveryRowCanBeCast) {
+  for (const auto& [rows, count] :
+       {std::pair{movies(), 145}, {royaltyMovies(), 23}, {investmentMovies(), 36}}) {
+    EXPECT_EQ(std::ssize(rows), count);
+    for (const Movie& row : rows) {
+      EXPECT_FALSE(row.title.empty() || row.shortSummary.empty() || row.imageString.empty());
+      EXPECT_TRUE(row.type >= filmType::feature && row.type <= filmType::shortFilm) << row.title;
+      EXPECT_FALSE(row.genre.empty()) << row.title;
+      EXPECT_NE(row.longSummaryTemplate.find("{name}"), std::string::npos) << row.title;
+      EXPECT_TRUE(row.imageString.ends_with(".png")) << row.title;
+    }
+  }
+  EXPECT_EQ(movies().front().title, "Neon Horizon");
+  EXPECT_EQ(movies().front().genre, (std::vector<std::string>{"Sci-Fi", "Thriller"}));
+}
+
+TEST(Catalogue, ASagaGoesOnByNumbersWithoutAGap) {
+  const MovieFranchise* before = nullptr;
+  ASSERT_EQ(movieFranchises().size(), 22U);
+  for (const MovieFranchise& entry : movieFranchises()) {
+    const bool goes_on = before != nullptr && before->id == entry.id;
+    EXPECT_EQ(entry.movieNumber, goes_on ? before->movieNumber + 1 : 1) << entry.title;
+    EXPECT_EQ(entry.type, filmType::feature) << entry.title;
+    EXPECT_TRUE(entry.imageString.ends_with(".png")) << entry.title;
+    before = &entry;
+  }
+}
+
+TEST(Catalogue, TheTablesOfAllTimeAreRankedAndAddUp) {
+  EXPECT_TRUE(std::ranges::is_sorted(movieRecords(), std::greater{}, &MovieRecord::worldwide));
+  for (const MovieRecord& row : movieRecords()) EXPECT_LT(row.domestic, row.worldwide) << row.title;
+  EXPECT_TRUE(std::ranges::is_sorted(tvRecords(), std::greater{}, &TVRecord::imdbRating));
+  EXPECT_EQ(tvRecords().front().imdbRating, 9.6);
+  EXPECT_EQ(tvRecords().back().rank, 250);
+}
+
+TEST(Catalogue, TheStarsRatingsAreDrawnAnewEachTime) {
+  ScratchGame scratch;
+  for (int star = 0; star < 100; ++star) scratch.random.range(91, 90).range(51, 0);
+  const std::vector<Bankable> stars = bankables(scratch.random);
+  ASSERT_EQ(stars.size(), 100U);
+  EXPECT_EQ(stars.back().id, 100);
+  EXPECT_EQ(stars.back().rating, 100);
+  EXPECT_EQ(stars.back().lastWeekRating, 50);
+  EXPECT_EQ(stars.front().name, "Clementine Roark");
+  EXPECT_EQ(stars.front().average, stars.front().totalGross / 51);
+  EXPECT_EQ(stars.front().roles, 40);
+}
+
+}  // namespace
+}  // namespace tb
