@@ -119,5 +119,33 @@ class ForeignReaders(unittest.TestCase):
                 self.run_program(TOOL, "records", path, ours)
                 self.assert_opens_everywhere(ours, RECORDS)
 
+    def test_a_whole_career_goes_both_ways(self):
+        saved = self.file("career.plist")
+        self.run_program(TOOL, "career", saved)
+        store = plistlib.loads(saved.read_bytes())
+        as_xml = self.through_plistutil(saved, "xml")
+        self.assertEqual(list(listing(plistlib.loads(as_xml.read_bytes()))), list(listing(store)))
+
+        kinds = {"weekNumber": int, "totalCashAvailable": float, "isMale": bool, "myName": str, "headshotImage": bytes,
+                 "saveWeeklyEarnings": list, "activityTracker": list, "saveAllWeeklyLineItems": bytes}
+        self.assertEqual({key: type(store[key]) for key in kinds}, kinds)
+        self.assertEqual((store["myName"], store["weekNumber"], store["enterPlayerDetails"]), ("Zoë 🎬", 6, 1))
+        self.assertEqual({type(net) for net in store["saveWeeklyEarnings"]}, {float})
+        self.assertEqual(plistlib.loads(store["saveAllWeeklyLineItems"]), [{
+            "category": 0, "title": "Basic Needs", "amount": 50.0, "year": 2026, "isExpense": True,
+            "typeOfExpense": -1, "energyBoost": 0}])
+
+        # Somebody leaves the performer some money, with another program: the game takes it for a class.
+        store["totalCashAvailable"] = 20000.0
+        for writer, path in self.theirs(store).items():
+            with self.subTest(writer):
+                later = self.file("later.plist")
+                self.run_program(TOOL, "class", path, later)
+                after = plistlib.loads(later.read_bytes())
+                [taken] = plistlib.loads(after["saveAllCompletedClasses"])
+                self.assertEqual(taken["weeksRemaining"], taken["weeksTotal"])
+                self.assertEqual(after["totalCashAvailable"], 20000 - taken["cost"])
+                self.assertEqual(after["activityTracker"][1:], store["activityTracker"])
+
 
 unittest.main()

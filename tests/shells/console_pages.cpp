@@ -110,6 +110,7 @@ Section people() {
                          Section{.heading = "Role", .nodes = {Row{.label = "Lead", .value = "$90K"}}},
                          Button{.label = "Audition", .press = nothing, .price = "⚡️ 10"}},
                .press = nothing},
+          Card{.title = "18 years old", .picture = {{.kind = PictureKind::avatar, .name = "ada"}}},
           SwipeCard{.card = {.title = "Robin, 29", .nodes = {Text{.text = "Climbs."}}},
                     .left = {.label = "Pass", .press = nothing},
                     .right = {.label = "Like", .press = nothing}},

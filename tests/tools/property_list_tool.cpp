@@ -3,6 +3,9 @@
 //   property_list_tool show FILE         every value of the file, one a line: its path, its kind, its bits
 //   property_list_tool copy FILE NEW     reads the file and writes what it holds
 //   property_list_tool records FILE NEW  the same with a list of sample records, through the record codec
+//   property_list_tool career NEW        the whole store of a career that was begun and lived for some weeks
+//   property_list_tool class FILE NEW    the store of FILE, brought into the game, after signing up for a
+//   class
 
 #include <bit>
 #include <cstdio>
@@ -16,6 +19,9 @@
 #include "core/property_list.h"
 #include "core/record_codec.h"
 #include "tests/core/sample_record.h"
+#include "tests/memory_port.h"
+#include "tests/player.h"
+#include "tests/seeded_random.h"
 
 namespace tb {
 namespace {
@@ -88,12 +94,50 @@ int copyRecords(const Bytes& file, const char* to) {
   return writeFile(to, encoded) ? 0 : fail("The records could not be written.");
 }
 
+// Plays on the store with the steps given, and writes the whole store to the file.
+template <class Play>
+int playAndWrite(const plist::Dictionary& before, const char* to, Play play) {
+  test::MemoryPort port;
+  SaveStore store(port);
+  store.replace(before);
+  test::SeededRandom random(1);
+  App app(store, random);
+  test::Player player(app);
+  play(player);
+  return writeFile(to, plist::write({store.dictionary()})) ? 0 : fail("The store could not be written.");
+}
+
+int career(const char* to) {
+  return playAndWrite({}, to, [](test::Player& player) {
+    player.type("Stage name", "Zoë 🎬");
+    player.press("Headshot 1");
+    player.press("Start my career");
+    for (int week = 0; week < 5; ++week) {
+      player.press("End Week");
+      player.press("Close");
+    }
+  });
+}
+
+int signUpForAClass(const Bytes& file, const char* to) {
+  const auto value = plist::read(file);
+  if (!value || value->as<plist::Dictionary>() == nullptr) return fail("The file is no store.");
+  return playAndWrite(*value->as<plist::Dictionary>(), to, [](test::Player& player) {
+    player.press("Work");
+    player.press("Acting Classes");
+    player.press("Sign up");
+  });
+}
+
 int run(int count, char** arguments) {
   const std::string_view task = count > 1 ? arguments[1] : "";
   if (task == "show" && count == 3) return show(contentOf(arguments[2]));
   if (task == "copy" && count == 4) return copy(contentOf(arguments[2]), arguments[3]);
   if (task == "records" && count == 4) return copyRecords(contentOf(arguments[2]), arguments[3]);
-  return fail("property_list_tool show FILE | copy FILE NEW | records FILE NEW");
+  if (task == "career" && count == 3) return career(arguments[2]);
+  if (task == "class" && count == 4) return signUpForAClass(contentOf(arguments[2]), arguments[3]);
+  return fail(
+      "property_list_tool show FILE | copy FILE NEW | records FILE NEW | career NEW | class FILE NEW");
 }
 
 }  // namespace

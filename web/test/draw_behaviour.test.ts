@@ -320,10 +320,8 @@ test("figures count to where they belong", async () => {
     [cash("$2,400")],
   );
   assert.ok(seen.length > 2, `${seen}`);
-  assert.ok(
-    seen.every((frame) => /^\$\d,\d{3}$/.test(frame)),
-    `${seen}`,
-  );
+  const figures = seen.map((frame) => Number(/^\$(\d),(\d{3})$/.exec(frame)?.slice(1).join("")));
+  figures.forEach((figure, index) => assert.ok(figure >= (figures[index - 1] ?? 1250), `${seen}`));
   assert.equal(await page.locator(".figure").textContent(), "$2,400");
 });
 

@@ -33,7 +33,7 @@ test("a career starts, lives ten weeks, and is found again after a reload", asyn
 
   await hubTab(page, "Work");
   await inspect(page, "work");
-  await press(page, "Talent");
+  await page.getByRole("button", { name: /^Talent/ }).click();
   await heading(page, "Talent");
   await page.getByRole("button", { name: /^Train to 2/ }).first().click();
   await inspect(page, "talent");

@@ -17,7 +17,7 @@ using namespace view;
 namespace {
 
 constexpr int narrowestTile = 16;
-constexpr int gaugeLabelWidth = 18;
+constexpr int gaugeLabelWidth = 24;
 constexpr int gaugeWidth = 24;
 constexpr int whenWidth = 14;                 // of a timeline entry's "when"
 constexpr int bubbleShare = 3;                // a bubble is at most 3 quarters of the page wide
@@ -143,25 +143,27 @@ void NodePainter::kind(const Tiles& tiles) {
   canvas_.grid(stacks, narrowestTile);
 }
 
-// "label     [######------]  text", the bar of one width on the whole page so that bars can be compared.
+// The label, and beside it what is drawn: at one column on the whole page, so that bars can be compared. On
+// lines of their own where that is too wide.
+void NodePainter::labelled(const std::string& label, Runs drawn, std::string margin) {
+  const bool beside =
+      columnsOf(label) < gaugeLabelWidth && gaugeLabelWidth + columnsOf(drawn) <= canvas_.width();
+  if (!beside && !label.empty()) {
+    canvas_.text(label, Ink::plain, std::exchange(margin, ""), 2);
+  } else if (!label.empty()) {
+    drawn.insert(drawn.begin(), {label + repeated(" ", gaugeLabelWidth - columnsOf(label))});
+  }
+  canvas_.line(std::move(drawn), std::move(margin));
+}
+
 void NodePainter::gauge(const std::string& label, double share, const std::string& text, Ink ink,
                         std::string margin) {
   const int width = std::min(gaugeWidth, canvas_.width() / 3);
-  const int beside = canvas_.width() - gaugeLabelWidth - width - 4;
-  Runs runs{{"["}, {bar(canvas_.glyphs(), share, width), ink}, {"]  " + text}};
-  if (columnsOf(label) < gaugeLabelWidth && columnsOf(text) <= beside) {
-    runs.insert(runs.begin(), {label + repeated(" ", gaugeLabelWidth - columnsOf(label))});
-    return canvas_.line(std::move(runs), std::move(margin));
-  }
-  canvas_.text(label, Ink::plain, std::move(margin), 2);
-  if (columnsOf(text) > canvas_.width() - width - 4) {
-    runs.pop_back();
-    runs.push_back({"]"});
-    canvas_.line(std::move(runs));
-    canvas_.text(text, Ink::plain);
-  } else {
-    canvas_.line(std::move(runs));
-  }
+  Runs drawn{{"["}, {bar(canvas_.glyphs(), share, width), ink}, {"]"}};
+  const bool short_text = width + 4 + columnsOf(text) <= canvas_.width();
+  if (short_text && !text.empty()) drawn.push_back({"  " + text});
+  labelled(label, std::move(drawn), std::move(margin));
+  if (!short_text) canvas_.text(text, Ink::plain);
 }
 
 void NodePainter::kind(const Meter& meter) {
@@ -175,9 +177,7 @@ void NodePainter::kind(const Stars& stars) {
   const Glyphs& glyphs = canvas_.glyphs();
   const std::string drawn = repeated(glyphs.star, halves / 2) + repeated(glyphs.halfStar, halves % 2) +
                             repeated(glyphs.noStar, of - halves / 2 - halves % 2);
-  const std::string figure = std::format("{}  {:g} of {}", drawn, halves / 2.0, of);
-  const int pad = stars.label.empty() ? 0 : std::max(1, gaugeLabelWidth - columnsOf(stars.label));
-  canvas_.flow({{{stars.label + repeated(" ", pad)}, {figure}}});
+  labelled(stars.label, {{drawn}, {std::format("  {:g} of {}", halves / 2.0, of)}}, "");
 }
 
 void NodePainter::kind(const Chart& chart) { drawChart(canvas_, chart); }
@@ -325,6 +325,10 @@ void NodePainter::kind(const Section& section) {
 
 void NodePainter::kind(const Card& card) {
   const std::string mark = targets_.add(card.handle, {.label = card.title});
+  if (card.subtitle.empty() && inWords(card.picture).empty() && card.nodes.empty()) {
+    // Nothing to frame: what else is on the card is there to be looked at.
+    return canvas_.text(card.title, Ink::strong, mark);
+  }
   canvas_.framed(card.title, mark, [&] {
     if (!card.subtitle.empty()) canvas_.text(card.subtitle, Ink::quiet);
     if (const std::string words = inWords(card.picture); !words.empty()) canvas_.text(words, Ink::quiet);

@@ -43,6 +43,7 @@ class NodePainter {
   void kind(const view::PagedList& list);
   void kind(const view::ListPage& list);
 
+  void labelled(const std::string& label, Runs drawn, std::string margin);
   void gauge(const std::string& label, double share, const std::string& text, Ink ink, std::string margin);
   void several(const std::vector<view::Node>& nodes);
 

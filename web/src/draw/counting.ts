@@ -67,7 +67,8 @@ export function useCounting(figure: RefObject<HTMLElement | null>, key: string, 
     const start = performance.now();
     let frame = 0;
     const step = (now: number) => {
-      const part = Math.min(1, (now - start) / countingTime);
+      // A frame's time may lie before the start: the frame had begun when the figure changed.
+      const part = Math.min(Math.max((now - start) / countingTime, 0), 1);
       const eased = 1 - (1 - part) ** 3;
       node.data = part < 1 ? formatLike(to, from.value + (to.value - from.value) * eased) : text;
       if (part < 1) frame = requestAnimationFrame(step);

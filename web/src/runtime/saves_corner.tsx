@@ -3,6 +3,7 @@
 import { type JSX } from "preact";
 import { useRef, useState } from "preact/hooks";
 
+import { artCredit } from "../art/credits";
 import type { ReadSave } from "./saves";
 import type { Shell } from "./shell";
 
@@ -93,6 +94,9 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
         <button type="button" class="shell-button" onClick={() => dialog.current?.close()}>
           Close
         </button>
+        <p>
+          <a href={artCredit.work}>{artCredit.text}</a>, <a href={artCredit.licence}>{artCredit.licenceName}</a>.
+        </p>
       </dialog>
     </div>
   );

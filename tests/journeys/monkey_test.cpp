@@ -1,0 +1,119 @@
+#include <algorithm>
+#include <cmath>
+#include <format>
+#include <gtest/gtest.h>
+
+#include "tests/memory_port.h"
+#include "tests/player.h"
+#include "tests/seeded_random.h"
+
+namespace tb {
+namespace {
+
+using test::Player;
+
+// A player who presses anything, again and again, and whose chance is another one than the game's.
+class Monkey {
+ public:
+  explicit Monkey(std::uint64_t seed) : whim_(seed) {}
+
+  void act(App& app, const Player& player) {
+    const std::vector<Player::Usable> all = player.usable();
+    ASSERT_FALSE(all.empty()) << "nothing can be done on " << player.title();
+    const Player::Usable& chosen = choose(all);
+    switch (chosen.kind) {
+      case Player::Usable::Kind::press:
+        return app.press(chosen.handle);
+      case Player::Usable::Kind::type:
+        return app.type(chosen.handle, std::format("words {}", RandomRange(whim_, 1000)));
+      case Player::Usable::Kind::slide:
+        return app.slide(chosen.handle, RandomUnit(whim_, chosen.minimum, chosen.maximum));
+    }
+  }
+
+ private:
+  // Weeks are ended and messages answered more often than chance would, so that a career gets somewhere; and
+  // one is rarely thrown away.
+  const Player::Usable& choose(const std::vector<Player::Usable>& all) {
+    constexpr std::int64_t favoured = 3;  // in 10
+    if (RandomRange(whim_, 10) < favoured) {
+      for (const char* label : {"Start my career", "OK", "End Week", "Close"}) {
+        const auto found = std::ranges::find(all, label, &Player::Usable::label);
+        if (found != all.end()) return *found;
+      }
+    }
+    const auto& any = all[static_cast<std::size_t>(RandomRange(whim_, std::ssize(all)))];
+    return any.label == "Restart" && RandomRange(whim_, 10) > 0 ? all.front() : any;
+  }
+
+  test::SeededRandom whim_;
+};
+
+void expectSoundPage(const Player& player) {
+  for (const std::string& line : player.words()) {
+    EXPECT_EQ(line.find('{'), std::string::npos) << "unfilled: " << line;
+    EXPECT_EQ(line.find("nan"), std::string::npos) << line;
+  }
+}
+
+void expectSoundWorld(const WorldState& world) {
+  EXPECT_TRUE(std::isfinite(world.totalCashAvailable) && std::isfinite(world.experience));
+  EXPECT_GE(world.totalEnergyAvailable, 0);
+  EXPECT_GE(world.totalEnergyMax, 25);
+  EXPECT_GE(world.totalFans, 0);
+  EXPECT_TRUE(world.weekNumber >= 1 && world.weekNumber <= 53);
+  EXPECT_LE(world.trackRealEstateIndex.size(), 48u);
+}
+
+// What a film took in a market is its opening and its weeks, week by week in step.
+void expectSoundBoxOffice(const WorldState& world) {
+  for (const BoxOffice& market : world.saveAllBoxOfficeList) {
+    double sum = market.openingWeekend;
+    for (const double week : market.boxOfficeWeeklyEarnings) sum += week;
+    ASSERT_NEAR(market.totalGross, sum, 1e-9 * std::abs(sum) + 1e-6) << market.title;
+    ASSERT_EQ(market.boxOfficeWeeklyEarnings.size(), market.weeksTracked.size());
+    ASSERT_LE(market.weeksTracked.size(), 7u);
+  }
+  for (const Ratings& series : world.saveAllRatings) {
+    ASSERT_EQ(series.premiereViews.size(), series.weeksTracked.size());
+  }
+}
+
+// Every project that wrapped has its film, and no other project has one.
+void expectFilmsInStep(const WorldState& world) {
+  for (const Film& film : world.saveAllFilmList) {
+    const auto project = std::ranges::find(world.saveAllAuditionList, film.filmId, &Audition::filmId);
+    ASSERT_NE(project, world.saveAllAuditionList.end()) << film.title;
+    ASSERT_EQ(project->funnelStage, stage::wrapped) << film.title;
+  }
+}
+
+TEST(Monkey, PressesAnythingForTwoThousandWeeks) {
+  test::MemoryPort port;
+  SaveStore store(port);
+  test::SeededRandom chance(7);
+  App app(store, chance);
+  const Player player(app);
+  Monkey monkey(11);
+
+  std::int64_t weeks = 0;
+  std::int64_t week = app.game().world.weekNumberForTracking;
+  for (int action = 0; weeks < 2000 && !testing::Test::HasFailure(); ++action) {
+    monkey.act(app, player);
+    expectSoundPage(player);
+    expectSoundWorld(app.game().world);
+    const std::int64_t now = app.game().world.weekNumberForTracking;
+    if (now == week) continue;
+    week = now;
+    weeks += 1;
+    if (weeks % 50 != 0) continue;
+    expectSoundBoxOffice(app.game().world);
+    expectFilmsInStep(app.game().world);
+    EXPECT_EQ(SaveStore(port).dictionary(), store.dictionary());
+    ASSERT_LT(action, 400'000);
+  }
+  EXPECT_GT(app.game().world.saveAllFilmList.size() + app.game().world.saveAllAuditionList.size(), 0u);
+}
+
+}  // namespace
+}  // namespace tb
