@@ -46,7 +46,7 @@ constexpr std::array<Network, 7> networks = {{
 }};
 
 void drawFormat(Game& game, Film& film) {
-  const auto* const format = std::ranges::find(formats, film.typeOfFilm, &Format::typeOfFilm);
+  const auto format = std::ranges::find(formats, film.typeOfFilm, &Format::typeOfFilm);
   if (format == formats.end()) return;
   film.lengthMinutes =
       format->stepMinutes * RandomBetween(game.random, format->fewestSteps, format->mostSteps);
