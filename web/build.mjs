@@ -9,6 +9,7 @@ import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } f
 import { dirname, join } from "node:path";
 import { fileURLToPath } from "node:url";
 import { parseArgs } from "node:util";
+import { brotliCompressSync, constants } from "node:zlib";
 import { build } from "esbuild";
 
 const here = dirname(fileURLToPath(import.meta.url));
@@ -82,3 +83,10 @@ const worker = await build({
   define: { VERSION: JSON.stringify(version), FILES: JSON.stringify(files) },
 });
 put("service-worker.js", worker.outputFiles[0].contents);
+
+// Pressed as small as it gets, for servers that hand out what is compressed already: that takes seconds, too
+// long to do while somebody waits.
+for (const name of [wasm, script, style]) {
+  const content = readFileSync(join(options.out, name));
+  put(`${name}.br`, brotliCompressSync(content, { params: { [constants.BROTLI_PARAM_QUALITY]: constants.BROTLI_MAX_QUALITY } }));
+}

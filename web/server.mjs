@@ -85,9 +85,15 @@ class Site {
 
   #compress(encoding, file, changed) {
     const name = `${encoding} ${changed} ${file}`;
-    if (!this.#compressed.has(name)) this.#compressed.set(name, readFile(file).then(encoders[encoding]));
+    if (!this.#compressed.has(name)) this.#compressed.set(name, compressed(encoding, file));
     return this.#compressed.get(name);
   }
+}
+
+// As the build left it beside the file, or made now.
+async function compressed(encoding, file) {
+  const made = () => readFile(file).then(encoders[encoding]);
+  return encoding === "br" ? readFile(`${file}.br`).catch(made) : made();
 }
 
 function wantedEncoding(request) {

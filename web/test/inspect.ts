@@ -10,6 +10,9 @@ import type { Page } from "playwright-core";
 const checker = readFileSync(createRequire(join(process.cwd(), "package.json")).resolve("axe-core/axe.min.js"), "utf8");
 const pictures = process.env["SCREENSHOTS"];
 
+const phone = { width: 390, height: 844 };
+if (pictures) mkdirSync(pictures, { recursive: true });
+
 interface Violation {
   id: string;
   nodes: { html: string }[];
@@ -19,6 +22,9 @@ interface Violation {
 export async function inspect(page: Page, name: string): Promise<void> {
   for (const theme of ["light", "dark"] as const) {
     await page.emulateMedia({ colorScheme: theme, reducedMotion: "reduce" });
+    // As high as the page is: a button that stays in reach of the thumb would cover a part of what is below it.
+    const height = await page.evaluate(() => document.documentElement.scrollHeight);
+    await page.setViewportSize({ width: phone.width, height: Math.max(height, phone.height) });
     // The page's policy lets no script in but its own; the checker comes in by the debugger.
     await page.evaluate(checker);
     const violations = await page.evaluate<Violation[]>(
@@ -27,12 +33,10 @@ export async function inspect(page: Page, name: string): Promise<void> {
     assert.deepEqual(violations.map(({ id, nodes }) => `${id}: ${nodes[0]?.html}`), [], `${name}, ${theme}`);
     const sideways = await page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
     assert(sideways <= 0, `${name} is ${sideways} px too wide`);
-    if (!pictures) continue;
-    mkdirSync(pictures, { recursive: true });
-    for (const [width, height] of [[390, 844], [1280, 800]] as const) {
-      await page.setViewportSize({ width, height });
-      await page.screenshot({ path: join(pictures, `${name}-${width}-${theme}.png`) });
+    for (const size of pictures ? [{ width: 1280, height: 800 }, phone] : []) {
+      await page.setViewportSize(size);
+      await page.screenshot({ path: join(pictures ?? "", `${name}-${size.width}-${theme}.png`) });
     }
-    await page.setViewportSize({ width: 390, height: 844 });
+    await page.setViewportSize(phone);
   }
 }

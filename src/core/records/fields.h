@@ -92,8 +92,9 @@ consteval bool describesWholeRecord() {
 #define TB_FIELD_AGAIN() TB_FIELD_STEP
 
 // Stands in namespace tb, right after the struct.
-#define RECORD_FIELDS(Record, ...)                                                                   \
-  template <>                                                                                        \
-  inline constexpr auto fieldsOf<Record> = std::tuple{TB_FIELD_LIST(Record, __VA_ARGS__)};           \
-  static_assert(describesWholeRecord<Record>(), #Record " has a field that RECORD_FIELDS misses or " \
-                                                        "misplaces")
+#define RECORD_FIELDS(Record, ...)                                                         \
+  template <>                                                                              \
+  inline constexpr auto fieldsOf<Record> = std::tuple{TB_FIELD_LIST(Record, __VA_ARGS__)}; \
+  static_assert(describesWholeRecord<Record>(), #Record                                    \
+                " has a field that RECORD_FIELDS misses or "                               \
+                "misplaces")
