@@ -42,12 +42,12 @@ void Canvas::line(Runs runs, std::string margin) {
 
 void Canvas::flush(Runs runs) { add({.runs = std::move(runs), .flush = true}); }
 
-void Canvas::text(std::string_view text, Ink ink, std::string margin, int hang) {
+void Canvas::text(std::string_view text, Ink ink, const std::string& margin, int hang) {
   bool first = true;
   for (std::string& part : wrapped(text, width() - hang)) {
     const bool hangs = !first && hang > 0;
     line(hangs ? Runs{{repeated(" ", hang)}, {std::move(part), ink}} : Runs{{std::move(part), ink}},
-         first ? std::move(margin) : "");
+         first ? margin : "");
     first = false;
   }
 }

@@ -34,7 +34,7 @@ class Canvas {
   void line(Runs runs, std::string margin = "");
 
   // Text on as many lines as it needs, the lines after the first `hang` columns further in.
-  void text(std::string_view text, Ink ink, std::string margin = "", int hang = 0);
+  void text(std::string_view text, Ink ink, const std::string& margin = "", int hang = 0);
 
   // "label ........ value", on two lines or more when they do not fit one.
   void leader(std::string_view label, std::string_view value, Ink label_ink, Ink value_ink,
