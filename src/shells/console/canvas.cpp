@@ -54,7 +54,7 @@ void Canvas::text(std::string_view text, Ink ink, const std::string& margin, int
 
 void Canvas::leader(std::string_view label, std::string_view value, Ink label_ink, Ink value_ink,
                     std::string margin) {
-  if (value.empty()) return text(label, label_ink, std::move(margin), 2);
+  if (value.empty()) return text(label, label_ink, margin, 2);
   const bool single = value.find('\n') == std::string_view::npos;
   const int dots = width() - columnsOf(label) - columnsOf(value) - 2;
   if (single && dots >= shortestLeader && label.find('\n') == std::string_view::npos) {
@@ -63,7 +63,7 @@ void Canvas::leader(std::string_view label, std::string_view value, Ink label_in
                  {std::string(value), value_ink}},
                 std::move(margin));
   }
-  text(label, label_ink, std::move(margin), 2);
+  text(label, label_ink, margin, 2);
   nested("  ", [&] { text(value, value_ink); });
 }
 
