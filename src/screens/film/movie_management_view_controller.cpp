@@ -25,6 +25,7 @@ std::vector<std::size_t> productions(const WorldState& world) {
 }
 
 std::string inWeeks(std::string_view what, std::int64_t weeks) {
+  if (weeks == 0) return std::format("{} this week", what);
   return std::format("{} in {} week{}", what, weeks, weeks == 1 ? "" : "s");
 }
 
