@@ -7,6 +7,7 @@
 #include "screens/film/box_office_parts.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
+#include "screens/work/project_words.h"
 
 namespace tb {
 
@@ -24,17 +25,10 @@ std::vector<std::size_t> productions(const WorldState& world) {
   return found;
 }
 
-std::string inWeeks(std::string_view what, std::int64_t weeks) {
-  if (weeks == 0) return std::format("{} this week", what);
-  return std::format("{} in {} week{}", what, weeks, weeks == 1 ? "" : "s");
-}
-
 std::string progressOf(const WorldState& world, const Audition& project) {
-  const std::int64_t now = world.weekNumberForTracking;
   if (project.funnelStage == stage::closed) return "Shelved";
-  if (project.funnelStage < stage::wrapped) return inWeeks("Wraps", project.weekToWork - now);
-  if (project.weekReleased >= now) return inWeeks("Opens", project.weekReleased - now);
-  return "Released";
+  if (project.funnelStage < stage::wrapped) return "Wraps " + whenIs(world, project.weekToWork);
+  return isReleased(world, project) ? "Released" : "Opens " + whenIs(world, project.weekReleased);
 }
 
 Card productionCard(const Game& game, const Audition& project) {
