@@ -150,6 +150,12 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
     }
     if (week == 6) EXPECT_TRUE(game->player.sees("RESIDUALS"));
     game->player.press("Close");
+    if (week > 1) continue;
+    game->open("Wealth", "Finances");
+    EXPECT_TRUE(game->player.sees("Weeks left"));
+    EXPECT_TRUE(game->player.sees("Pay this year"));
+    EXPECT_FALSE(game->player.sees("against last year"));
+    game->player.press("Back");
   }
 
   const WorldState& world = game->world();
@@ -189,6 +195,16 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
   EXPECT_TRUE(game->player.sees("Fizz"));
   EXPECT_FALSE(game->player.sees("Salt Road"));
   EXPECT_TRUE(game->player.sees("Week 50 • Residual"));
+  game->player.press("Back");
+
+  game->takeAJob();
+  game->player.press("Home");
+  game->player.press("End Week");
+  game->player.press("Close");
+  game->open("Wealth", "Finances");
+  EXPECT_TRUE(game->player.sees("Pay last year"));
+  const double change = (world.yearToDatePaycheck - world.saveLastYTDPaycheck) / world.saveLastYTDPaycheck;
+  EXPECT_TRUE(game->player.sees(std::format("{:.1f}% against last year", change * 100)));
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ std::string changeOfYear(const WorldState& world) {
   if (world.saveLastYTDPaycheck == 0) return "";
   const double change =
       (world.yearToDatePaycheck - world.saveLastYTDPaycheck) / world.saveLastYTDPaycheck * 100;
-  return std::format("{:.1f}%", change);
+  return std::format("{:.1f}% against last year", change);
 }
 
 Section paycheck(const Game& game) {
@@ -81,8 +81,8 @@ Section FinancialManagementViewController::income(const Game& game) const {
   }
   return {.heading = "INCOME",
           .nodes = {netIncome(game),
-                    moneyPie(game, std::format("Where the money of {} comes from", game.world.yearNumber),
-                             kinds, "Nothing has come in this year yet."),
+                    moneyPie(game, std::format("What your work paid in {}", game.world.yearNumber), kinds,
+                             "No work has paid anything this year yet."),
                     moneyBars(game, "Paid by your titles, year by year", titles, "")}};
 }
 
