@@ -36,6 +36,9 @@ constexpr char boxOfficeFile[] = {
 constexpr char earningsFile[] = {
 #embed "banks/earnings.txt"
 };
+constexpr char syndicationFile[] = {
+#embed "banks/syndication.txt"
+};
 constexpr char criticsFile[] = {
 #embed "banks/critics.txt"
 };
@@ -46,7 +49,7 @@ constexpr char bankableFile[] = {
 #embed "banks/bankable.txt"
 };
 
-constexpr std::array<std::string_view, 12> bankFiles = {{
+constexpr std::array<std::string_view, 13> bankFiles = {{
     {weekFile, sizeof weekFile},
     {talentFile, sizeof talentFile},
     {namesFile, sizeof namesFile},
@@ -56,6 +59,7 @@ constexpr std::array<std::string_view, 12> bankFiles = {{
     {filmFile, sizeof filmFile},
     {boxOfficeFile, sizeof boxOfficeFile},
     {earningsFile, sizeof earningsFile},
+    {syndicationFile, sizeof syndicationFile},
     {criticsFile, sizeof criticsFile},
     {allTimeFile, sizeof allTimeFile},
     {bankableFile, sizeof bankableFile},
