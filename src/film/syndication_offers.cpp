@@ -97,7 +97,7 @@ std::int64_t priceOf(Game& game, double worth) {
   if (worth > highestPrice) {
     worth = static_cast<double>(leastMillions + RandomRange(game.random, spreadOfMillions)) * million;
   }
-  debugLog(std::format("Syndication offer == {}", worth));
+  debugLog(std::format("Syndication offer == {:.2f}", worth));
   return static_cast<std::int64_t>(worth);
 }
 
