@@ -2,6 +2,7 @@
 
 #include <array>
 #include <format>
+#include <vector>
 
 #include "core/number_style.h"
 
@@ -63,11 +64,30 @@ view::Picture posterOf(const std::string& imageString) {
   return {.kind = view::PictureKind::poster, .name = imageString};
 }
 
-std::string payWords(const Locale& locale, double payment, double buyout, double residual) {
-  std::string words = payment > 0 ? currency(locale, payment, 0) : "Unpaid";
-  if (buyout > 0) words += " • " + currency(locale, buyout, 0) + " buyout";
-  if (residual > 0) words += std::format(" • {:.1f}% residual", residual * 100);
-  return words;
+view::Section roleSection(const Audition& project) {
+  view::Section section{.heading = "YOUR ROLE",
+                        .nodes = {view::Row{.label = project.characterName, .value = project.role},
+                                  view::Text{.text = project.roleDescription}}};
+  if (project.numberOfEpisodesActed > 0) {
+    // The length of the season is known once the role is taken.
+    const std::string season =
+        project.numberOfEpisodesTotal > 0 ? std::format(" of {}", project.numberOfEpisodesTotal) : "";
+    section.nodes.push_back(
+        view::Row{.label = "Episodes", .value = std::format("{}{}", project.numberOfEpisodesActed, season)});
+  }
+  return section;
+}
+
+std::string payWords(const Locale& locale, const Terms& terms) {
+  std::vector<std::string> words;
+  if (terms.fee > 0) words.push_back(currency(locale, terms.fee, 0));
+  if (terms.buyout > 0) words.push_back(currency(locale, terms.buyout, 0) + " buyout");
+  if (terms.royalty > 0) words.push_back(std::format("{:.2f}% royalty", terms.royalty));
+  if (words.empty()) words.emplace_back("Unpaid");
+  if (terms.residual > 0) words.push_back(std::format("{:.1f}% residual", terms.residual * 100));
+  std::string joined = words.front();
+  for (std::size_t index = 1; index < words.size(); ++index) joined += " • " + words[index];
+  return joined;
 }
 
 }  // namespace tb
