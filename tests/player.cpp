@@ -44,6 +44,7 @@ class Walk {
     for (const StatTile& tile : tiles.tiles) text_(tile.label + ": " + tile.value + " " + tile.detail);
   }
   void node(const Meter& meter) { text_(meter.label + ": " + meter.text); }
+  void node(const Balance& balance) { text_(balance.income + " | " + balance.expenses); }
   void node(const Stars& stars) { text_(stars.label); }
   void node(const Button& button) {
     press(button.label, button.handle);

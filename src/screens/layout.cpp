@@ -92,6 +92,7 @@ class Layout {
   // These say something and do nothing.
   void visit(Text&) {}
   void visit(Tiles&) {}
+  void visit(Balance&) {}
   void visit(Meter&) {}
   void visit(Stars&) {}
   void visit(Chart&) {}

@@ -4,12 +4,18 @@
 #include <cmath>
 #include <format>
 
+#include "core/number_style.h"
+
 namespace tb {
 
 using namespace view;
 
 Text caption(std::string text) {
   return {.text = std::move(text), .style = Text::Style::caption, .tone = Tone::quiet};
+}
+
+std::string shownMoney(const Locale& locale, double amount) {
+  return amount < 0 ? currency(locale, amount, 0) : shortMoney(locale, amount);
 }
 
 Meter energyMeter(const WorldState& world) {

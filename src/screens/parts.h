@@ -27,6 +27,10 @@ template <class Opened>
 
 [[nodiscard]] view::Text caption(std::string text);
 
+// Short money. A run can lose money and a balance can be negative; such an amount is written in full, since
+// the short form has no words for it.
+[[nodiscard]] std::string shownMoney(const Locale& locale, double amount);
+
 // The energy that is left of the week.
 [[nodiscard]] view::Meter energyMeter(const WorldState& world);
 

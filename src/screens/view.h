@@ -70,6 +70,12 @@ struct Tiles {
   std::vector<StatTile> tiles;
 };
 
+// What came in and what went out, in one line: "$450 | $50". The expenses stand in the warning colour.
+struct Balance {
+  std::string income;  // formatted, as are the expenses
+  std::string expenses;
+};
+
 // How much of something is there: energy, progress, a score.
 struct Meter {
   std::string label;
@@ -223,8 +229,8 @@ struct ListPage {
 };
 
 struct Node {
-  std::variant<Text, Tiles, Meter, Stars, Button, Buttons, Row, Field, Slider, Choice, Chart, Picture, Bubble,
-               TimelineEntry, Countdown, Section, Card, SwipeCard, PagedList, ListPage>
+  std::variant<Text, Tiles, Balance, Meter, Stars, Button, Buttons, Row, Field, Slider, Choice, Chart,
+               Picture, Bubble, TimelineEntry, Countdown, Section, Card, SwipeCard, PagedList, ListPage>
       node;
   template <class T>
   Node(T kind) : node(std::move(kind)) {}

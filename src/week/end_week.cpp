@@ -9,7 +9,6 @@
 #include "career/renewals.h"
 #include "core/save.h"
 #include "film/box_office.h"
-#include "film/new_releases.h"
 #include "film/syndication_deals.h"
 #include "film/syndication_offers.h"
 #include "life/energy.h"
@@ -76,7 +75,7 @@ WeekSummary openSummary(Game& game) {
   renewSaga(game);
   closeBoxOffice(game);
   advanceClasses(game);
-  offerRelease(game.world);
+  summary.balance = balanceWeek(game);
   showFeed(game, summary);
   summary.offersRelease = std::exchange(game.world.releaseOffered, false);
   cleanUpAuditions(game);

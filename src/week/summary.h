@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "core/game.h"
+#include "wealth/weekly_balance.h"
 
 namespace tb {
 
 struct WeekSummary {
   std::int64_t week = 0;  // the week that ended
   std::int64_t year = 0;
+  WeekBalance balance;
   bool hasNews = false;  // false: nothing happened, and the one line is a tip
   std::vector<std::string> feed;
   bool offersRelease = false;  // a title came out, and its screen was not opened yet

@@ -22,6 +22,7 @@ Section figures() {
                  {.label = "Talent", .value = "38"},
                  {.label = "Age", .value = "21"},
                  {.label = "Earned this year", .value = "$80K", .tone = Tone::good}}},
+          Balance{.income = "$1,450", .expenses = "$70"},
           Meter{.label = "Energy", .value = 72, .maximum = 100, .text = "72 of 100"},
           Meter{.label = "Voice", .value = 140, .maximum = 100, .text = "140", .isScore = true},
           Stars{.label = "Critics", .value = 3.5, .outOf = 5},

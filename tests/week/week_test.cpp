@@ -104,8 +104,14 @@ TEST_F(Week, AJobOfOneWeekPaysOnceMoreBeforeItIsCleared) {
   endWeek(game);
   EXPECT_EQ(world.weeklyJobContractRemaining, 0);
   EXPECT_EQ(world.weeklyJobTitle, "Set Runner");
-  EXPECT_EQ(openSummary(game).feed, std::vector<std::string>{"The contract for your job has ended"});
+  const WeekSummary last_week = openSummary(game);
+  EXPECT_EQ(last_week.feed, std::vector<std::string>{"The contract for your job has ended"});
+  EXPECT_EQ(last_week.balance.income, 400);
+  EXPECT_EQ(world.totalCashAvailable, 400);
   endWeek(game);
+  random.any(1);
+  EXPECT_EQ(openSummary(game).balance.income, 0);
+  EXPECT_EQ(world.totalCashAvailable, 400);
   EXPECT_EQ(world.weeklyJobTitle, "");
   EXPECT_EQ(world.weeklyJobIncome, 0);
   EXPECT_EQ(world.totalEnergyAvailable, 88);  // the last refill still pays for it

@@ -54,6 +54,11 @@ export interface Tiles {
   readonly tiles: readonly StatTile[];
 }
 
+export interface Balance {
+  readonly income: string;
+  readonly expenses: string;
+}
+
 export interface Meter {
   readonly label: string;
   readonly value: number;
@@ -187,6 +192,7 @@ export interface ListPage {
 export type Node =
   | { readonly kind: "text"; readonly content: Text }
   | { readonly kind: "tiles"; readonly content: Tiles }
+  | { readonly kind: "balance"; readonly content: Balance }
   | { readonly kind: "meter"; readonly content: Meter }
   | { readonly kind: "stars"; readonly content: Stars }
   | { readonly kind: "button"; readonly content: Button }

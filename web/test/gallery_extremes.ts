@@ -2,6 +2,7 @@
 
 import {
   back,
+  balance,
   bubble,
   button,
   buttons,
@@ -45,6 +46,7 @@ export const extreme = page(longWord, {
     tiles(tile(longWord, "$123,456,789,012,345.67", longText, "good"), tile("", "0"), tile("None", "")),
     tiles(tile("Alone", "$999,999,999")),
     tiles(),
+    balance("-$123,456,789,012,345", "$999,999,999,999,999"),
     meter(longWord, 1e12, { maximum: 100, text: "1,000,000,000,000 of 100" }),
     meter("Nothing", 0, { maximum: 0, text: "0 of 0" }),
     stars(longWord, 7.3, 10),

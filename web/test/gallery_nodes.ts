@@ -25,6 +25,11 @@ export const tile = (
 });
 export const tiles = (...all: View.StatTile[]): View.Node => ({ kind: "tiles", content: { tiles: all } });
 
+export const balance = (income: string, expenses: string): View.Node => ({
+  kind: "balance",
+  content: { income, expenses },
+});
+
 export const meter = (label: string, value: number, rest: Rest<View.Meter> = {}): View.Node => ({
   kind: "meter",
   content: {

@@ -4,6 +4,7 @@ import type { Page } from "../src/view_types";
 import { extreme, large } from "./gallery_extremes";
 import {
   back,
+  balance,
   bubble,
   button,
   buttons,
@@ -47,6 +48,7 @@ const hub = page("Dana Wells", {
       tile("Star meter", "48,210"),
       tile("Weekly", "-$340", "rent, classes", "warning"),
     ),
+    balance("$450", "$70"),
     meter("Energy", 72),
     section(
       "Now playing",

@@ -3,6 +3,13 @@
 #include "core/number_style.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
+#include "screens/wealth/balance_sheet_view_controller.h"
+#include "screens/wealth/financial_management_view_controller.h"
+#include "screens/wealth/money_parts.h"
+#include "screens/wealth/payment_transactions_view_controller.h"
+#include "screens/wealth/weekly_expense_list_view_controller.h"
+#include "wealth/line_items.h"
+#include "wealth/net_worth.h"
 
 namespace tb {
 
@@ -10,19 +17,15 @@ namespace {
 
 using namespace view;
 
-Node lineItem(const Game& game, const WeeklyLineItem& item) {
-  return Row{.label = item.title,
-             .value = currency(game.locale, item.isExpense ? -item.amount : item.amount, 0),
-             .detail = std::format("since {}", item.year),
-             .tone = item.isExpense ? Tone::warning : Tone::good};
-}
-
-PagedList lineItems(const Game& game) {
-  const List<WeeklyLineItem>& items = game.world.saveAllWeeklyLineItems;
-  return {.key = "line items",
-          .size = items.size(),
-          .nodeAt = [&](std::size_t index) { return lineItem(game, items[index]); },
-          .whenEmpty = "No standing income or expenses."};
+Section books(const Game& game) {
+  return {
+      .heading = "MONEY",
+      .nodes = {
+          leadingTo<FinancialManagementViewController>("Finances", "Job, pay and income"),
+          leadingTo<BalanceSheetViewController>("Balance Sheet", "What you own, at today's prices"),
+          leadingTo<WeeklyExpenseListViewController>("Weekly Expenses", "What every week takes",
+                                                     shownMoney(game.locale, standingExpenses(game.world))),
+          leadingTo<PaymentTransactionsViewController>("Payments", "What your titles have paid you")}};
 }
 
 Chart indexChart(const char* title, const RealList& history) {
@@ -35,11 +38,9 @@ Chart indexChart(const char* title, const RealList& history) {
 std::vector<Node> wealthTab(const Game& game) {
   const WorldState& world = game.world;
   return {
-      Tiles{{{.label = "Cash",
-              .value = cash(game.locale, world.totalCashAvailable),
-              .tone = world.totalCashAvailable < 0 ? Tone::warning : Tone::plain},
-             {.label = "Earned this year", .value = cash(game.locale, world.yearToDatePaycheck)}}},
-      Section{.heading = "EVERY WEEK", .nodes = {lineItems(game)}},
+      Tiles{{moneyTile(game, "Cash", world.totalCashAvailable),
+             moneyTile(game, "Net worth", netWorth(world).total())}},
+      books(game),
       Section{.heading = "MARKETS",
               .nodes = {indexChart("Real estate index", world.trackRealEstateIndex),
                         indexChart("Card index", world.trackCardIndex)}},

@@ -21,10 +21,14 @@ StatTile balanceTile(const Game& game, const Analytics& item) {
       .detail = item.subtitle};
 }
 
-Section balance(const Game& game) {
+Section balance(const Game& game, const WeekBalance& balance) {
+  Section section{.heading = "INCOME • EXPENSES",
+                  .nodes = {Balance{.income = currency(game.locale, balance.income, 0),
+                                    .expenses = currency(game.locale, balance.expenses, 0)}}};
   Tiles tiles;
   for (const Analytics& item : game.world.weekBalanceItems) tiles.tiles.push_back(balanceTile(game, item));
-  return {.heading = "INCOME • EXPENSES", .nodes = {std::move(tiles)}};
+  if (!tiles.tiles.empty()) section.nodes.push_back(std::move(tiles));
+  return section;
 }
 
 Section feed(const WeekSummary& summary) {
@@ -51,7 +55,7 @@ Button WeeklySummaryViewController::releaseButton() {
 
 Page WeeklySummaryViewController::view(const Game& game) {
   Page page{.title = "REVIEW", .subtitle = std::format("Week {} of {}", summary_.week, summary_.year)};
-  if (!game.world.weekBalanceItems.empty()) page.nodes.push_back(balance(game));
+  page.nodes.push_back(balance(game, summary_.balance));
   page.nodes.push_back(energyMeter(game.world));
   if (summary_.offersRelease) page.nodes.push_back(releaseButton());
   page.nodes.push_back(feed(summary_));

@@ -143,6 +143,10 @@ void NodePainter::kind(const Tiles& tiles) {
   canvas_.grid(stacks, narrowestTile);
 }
 
+void NodePainter::kind(const Balance& balance) {
+  canvas_.line({{balance.income, Ink::strong}, {" | "}, {balance.expenses, inkOf(Tone::warning)}});
+}
+
 // The label, and beside it what is drawn: at one column on the whole page, so that bars can be compared. On
 // lines of their own where that is too wide.
 void NodePainter::labelled(const std::string& label, Runs drawn, std::string margin) {

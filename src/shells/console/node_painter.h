@@ -24,6 +24,7 @@ class NodePainter {
   // One for each kind: a new kind does not compile until it is drawn.
   void kind(const view::Text& text);
   void kind(const view::Tiles& tiles);
+  void kind(const view::Balance& balance);
   void kind(const view::Meter& meter);
   void kind(const view::Stars& stars);
   void kind(const view::Button& button);

@@ -75,6 +75,7 @@ VIEW_STRUCT(Picture, kind, name, description);
 VIEW_STRUCT(Text, text, style, tone);
 VIEW_STRUCT(StatTile, label, value, detail, tone);
 VIEW_STRUCT(Tiles, tiles);
+VIEW_STRUCT(Balance, income, expenses);
 VIEW_STRUCT(Meter, label, value, maximum, text, isScore);
 VIEW_STRUCT(Stars, label, value, outOf);
 VIEW_STRUCT(Button, label, press, price, offReason, weight, handle);

@@ -31,6 +31,7 @@ function nameOf(node: Node): string {
       return `${node.content.when} ${node.content.text}`;
     case "text":
     case "tiles":
+    case "balance":
     case "listPage":
       return "";
   }

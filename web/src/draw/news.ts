@@ -19,6 +19,10 @@ function listen(nodes: readonly Node[], said: Said): void {
       case "tiles":
         for (const tile of node.content.tiles) said.figures.set(tile.label, tile.value);
         break;
+      case "balance":
+        said.figures.set("Income", node.content.income);
+        said.figures.set("Expenses", node.content.expenses);
+        break;
       case "meter":
         said.figures.set(node.content.label, node.content.text);
         break;

@@ -3,6 +3,7 @@
 import type { ComponentChild, FunctionComponent } from "preact";
 
 import type { Node } from "../view_types";
+import { Balance } from "./balance";
 import { Bubble, Chat } from "./bubble";
 import { Buttons, PressButton } from "./button";
 import { Card, Cards } from "./card";
@@ -31,6 +32,8 @@ function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
       return <Text {...node.content} />;
     case "tiles":
       return <Tiles {...node.content} />;
+    case "balance":
+      return <Balance {...node.content} />;
     case "meter":
       return <Meter {...node.content} />;
     case "stars":

@@ -1,0 +1,97 @@
+#include "screens/wealth/financial_management_view_controller.h"
+
+#include <algorithm>
+#include <format>
+
+#include "core/number_style.h"
+#include "screens/parts.h"
+#include "screens/wealth/money_parts.h"
+#include "screens/work/job_board_view_controller.h"
+#include "wealth/net_worth.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+constexpr std::size_t yearsOnChart = 10;
+
+std::string changeOfYear(const WorldState& world) {
+  if (world.saveLastYTDPaycheck == 0) return "";
+  const double change =
+      (world.yearToDatePaycheck - world.saveLastYTDPaycheck) / world.saveLastYTDPaycheck * 100;
+  return std::format("{:.1f}% against last year", change);
+}
+
+Section paycheck(const Game& game) {
+  const WorldState& world = game.world;
+  Section section{.heading = "PAYCHECK"};
+  if (world.yearToDatePaycheck == 0) {
+    section.nodes = {Text{.text = "You have not earned any income this year."}};
+  } else {
+    section.nodes = {
+        Tiles{{moneyTile(game, "Pay this year", world.yearToDatePaycheck, changeOfYear(world))}}};
+  }
+  if (world.saveLastYTDPaycheck != 0) {
+    section.nodes.push_back(
+        Row{.label = "Pay last year", .value = cash(game.locale, world.saveLastYTDPaycheck)});
+  }
+  return section;
+}
+
+Section job(const Game& game) {
+  const WorldState& world = game.world;
+  if (world.weeklyJobTitle.empty()) {
+    return {
+        .heading = "JOB",
+        .nodes = {Text{.text = "You do not have a job right now. Find a temp job to start paying your bills"},
+                  leadingTo<JobBoardViewController>("Job Board", "Weekly pay for weekly energy")}};
+  }
+  return {.heading = "JOB",
+          .nodes = {Text{.text = world.weeklyJobTitle, .style = Text::Style::large},
+                    Row{.label = "Pay per week", .value = cash(game.locale, world.weeklyJobIncome)},
+                    Row{.label = "Weeks left", .value = std::to_string(world.weeklyJobContractRemaining)},
+                    Row{.label = "Energy per week", .value = energyPrice(world.weeklyEnergyCost)}}};
+}
+
+Chart netIncome(const Game& game) {
+  const std::vector<double> weeks(game.world.saveWeeklyEarnings.begin(), game.world.saveWeeklyEarnings.end());
+  return weeklyChart("Net income by week", weeks,
+                     [&game](double amount) { return shownMoney(game.locale, amount); });
+}
+
+}  // namespace
+
+void FinancialManagementViewController::appear(Stage& stage) {
+  keepNetWorth(stage.game());
+  const WorldState& world = stage.game().world;
+  years_ = paymentsByYear(paymentHistory(world), world.yearNumber);
+}
+
+// By kind in the running year, and by year of late.
+Section FinancialManagementViewController::income(const Game& game) const {
+  std::vector<MoneyPart> kinds = {{"Jobs", game.world.yearToDatePaycheck}};
+  for (const PaymentKind kind : paymentKinds)
+    kinds.push_back({wordsFor(kind).several, years_.back().of(kind)});
+  std::vector<MoneyPart> titles;
+  const std::size_t first = years_.size() - std::min(years_.size(), yearsOnChart);
+  for (std::size_t index = first; index < years_.size(); ++index) {
+    titles.push_back({std::to_string(years_[index].year), years_[index].total()});
+  }
+  return {.heading = "INCOME",
+          .nodes = {netIncome(game),
+                    moneyPie(game, std::format("What your work paid in {}", game.world.yearNumber), kinds,
+                             "No work has paid anything this year yet."),
+                    moneyBars(game, "Paid by your titles, year by year", titles, "")}};
+}
+
+Page FinancialManagementViewController::view(const Game& game) {
+  const WorldState& world = game.world;
+  return {.title = "Finances",
+          .nodes = {Tiles{{moneyTile(game, "Net worth", world.saveNetworth),
+                           moneyTile(game, "Cash", world.totalCashAvailable)}},
+                    job(game), paycheck(game), income(game)}};
+}
+
+}  // namespace tb

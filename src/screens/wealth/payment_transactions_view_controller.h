@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "screens/stage.h"
+#include "wealth/payment_history.h"
+
+namespace tb {
+
+// What titles have paid, by kind and year, the newest first. Nothing is changed here.
+class PaymentTransactionsViewController : public Screen {
+ public:
+  void load(Stage& stage) override;
+  [[nodiscard]] view::Page view(const Game& game) override;
+
+ private:
+  [[nodiscard]] double paidIn(const YearOfPayments& year) const;
+  [[nodiscard]] view::Choice kindChoice();
+  [[nodiscard]] view::Chart chart(const Game& game) const;
+  [[nodiscard]] view::Section yearSection(const Game& game);
+
+  std::vector<Payment> history_;
+  std::vector<YearOfPayments> years_;
+  std::size_t year_ = 0;             // on show: a place in years_
+  std::optional<PaymentKind> kind_;  // nothing shows all kinds
+};
+
+}  // namespace tb

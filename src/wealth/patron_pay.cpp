@@ -1,0 +1,61 @@
+#include "wealth/patron_pay.h"
+
+#include <algorithm>
+
+#include "core/log.h"
+#include "core/number_style.h"
+#include "core/save.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::size_t reviewsNeeded = 10;
+constexpr double weeksOfInterest = 200;
+constexpr double subscribersPerFan = 0.0005;  // at full fame
+constexpr double subscription = 5;            // dollars a week
+constexpr double fullFame = 100;
+constexpr double mostAWeek = 10'000;  // dollars, while the interest is fresh
+constexpr double worthATile = 1;
+constexpr std::size_t weeksOfHistory = 104;
+
+// 1 in the week of the newest review, and less by the week until nobody remembers it.
+double interest(const WorldState& world) {
+  const std::int64_t newest = world.saveAllMovieReviews.front().weekNumberForTracking;
+  const auto weeks = static_cast<double>(world.weekNumberForTracking - newest);
+  return std::max(weeksOfInterest - weeks, 0.0) / weeksOfInterest;
+}
+
+double subscriptions(const WorldState& world) {
+  const double fading = interest(world);
+  const double fame = static_cast<double>(world.saveFameLevel) / fullFame;
+  const double payment =
+      static_cast<double>(world.totalFans) * subscribersPerFan * fame * subscription * fading;
+  return payment <= mostAWeek ? payment : mostAWeek * fading;
+}
+
+}  // namespace
+
+double payPatron(Game& game) {
+  WorldState& world = game.world;
+  if (world.saveAllMovieReviews.size() < reviewsNeeded) return 0;
+  const double payment = subscriptions(world);
+  if (world.trackPatronEarnings.empty()) {
+    logLine(world,
+            "You received your first weekly payment from Patron - " + shortMoney(game.locale, payment));
+  }
+  world.totalPatronEarnings += payment;
+  world.trackPatronEarnings.push_back(payment);
+  if (world.trackPatronEarnings.size() > weeksOfHistory) world.trackPatronEarnings.pop_front();
+  if (payment >= worthATile) {
+    world.weekBalanceItems.push_back({.isCurrency = 1,
+                                      .title = "PATRON",
+                                      .moneyEarned = payment,
+                                      .subtitle = "Subscription income from your film reviews"});
+  }
+  save<&WorldState::totalPatronEarnings, &WorldState::trackPatronEarnings, &WorldState::activityTracker>(
+      game);
+  return payment;
+}
+
+}  // namespace tb

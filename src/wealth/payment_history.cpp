@@ -1,0 +1,96 @@
+#include "wealth/payment_history.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <numeric>
+#include <utility>
+
+#include "film/film_record.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t weeksOfAYear = 52;
+
+struct Dated {
+  std::int64_t week;  // weekNumberForTracking
+  Payment payment;
+};
+
+// A summary counts what is dated in the week after the one that it speaks of.
+std::int64_t summaryWeek(std::int64_t tracked) { return (tracked + weeksOfAYear - 2) % weeksOfAYear + 1; }
+
+class History {
+ public:
+  void add(PaymentKind kind, const std::string& title, std::int64_t year, std::int64_t tracked, double amount,
+           std::string_view source = {}) {
+    if (amount == 0) return;
+    payments_.push_back({tracked,
+                         {.kind = kind,
+                          .title = title,
+                          .year = year,
+                          .week = summaryWeek(tracked),
+                          .amount = amount,
+                          .source = source}});
+  }
+
+  std::vector<Payment> newestFirst() && {
+    std::ranges::stable_sort(payments_, std::ranges::greater{}, &Dated::week);
+    std::vector<Payment> history;
+    history.reserve(payments_.size());
+    for (Dated& dated : payments_) history.push_back(std::move(dated.payment));
+    return history;
+  }
+
+ private:
+  std::vector<Dated> payments_;
+};
+
+std::string_view sourceOf(std::int64_t typeOfPayment) {
+  return typeOfPayment == payoutSource::syndication ? "syndication" : "box office";
+}
+
+std::string titleOf(const WorldState& world, std::int64_t filmId) {
+  const std::size_t index = filmIndex(world, filmId);
+  return index == world.saveAllFilmList.size() ? "An investment" : world.saveAllFilmList[index].title;
+}
+
+}  // namespace
+
+std::vector<Payment> paymentHistory(const WorldState& world) {
+  using enum PaymentKind;
+  History history;
+  for (const WeeklyEarnings& line : world.saveAllWeeklyEarnings) {
+    const std::int64_t week = line.weekNumberForTracking;
+    history.add(session, line.filmTitle, line.yearNumber, week, line.sessionEarned);
+    history.add(buyout, line.filmTitle, line.yearNumber, week, line.buyoutEarned);
+    history.add(residual, line.filmTitle, line.yearNumber, week, line.residualsEarned);
+  }
+  for (const RoyaltyPayout& line : world.saveAllRoyaltyPayouts) {
+    history.add(royalty, line.title, line.yearNumber, line.weekNumberForTracking, line.payout,
+                sourceOf(line.typeOfPayment));
+  }
+  for (const EquityPayout& line : world.saveAllEquityPayouts) {
+    history.add(equity, titleOf(world, line.filmId), line.yearNumber, line.weekNumberForTracking, line.payOut,
+                sourceOf(line.typeOfPayment));
+  }
+  return std::move(history).newestFirst();
+}
+
+double YearOfPayments::total() const { return std::accumulate(byKind.begin(), byKind.end(), 0.0); }
+
+std::vector<YearOfPayments> paymentsByYear(const std::vector<Payment>& history, std::int64_t thisYear) {
+  std::map<std::int64_t, YearOfPayments> years = {{thisYear, {.year = thisYear}}};
+  for (const Payment& payment : history) {
+    YearOfPayments& sums = years[payment.year];
+    sums.year = payment.year;
+    sums.byKind[static_cast<std::size_t>(payment.kind)] += payment.amount;
+  }
+  std::vector<YearOfPayments> oldest_first;
+  for (const auto& [year, sums] : years) oldest_first.push_back(sums);
+  return oldest_first;
+}
+
+}  // namespace tb

@@ -1,0 +1,124 @@
+#include "wealth/weekly_balance.h"
+
+#include <array>
+#include <string_view>
+
+#include "core/log.h"
+#include "core/number_style.h"
+#include "core/save.h"
+#include "film/new_releases.h"
+#include "wealth/filming_pay.h"
+#include "wealth/line_items.h"
+#include "wealth/patron_pay.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t weeksOfSalary = 52;
+
+// What the week's records hold, by kind, in dollars.
+struct Earned {
+  double sessions = 0;
+  double buyouts = 0;
+  double residuals = 0;
+  double shares = 0;  // kept for the save file: no rule fills that column
+  double royalties = 0;
+  double equity = 0;
+  double cameos = 0;
+};
+
+// The homes that are let. Each keeps count of what it brought.
+double collectRent(Game& game) {
+  List<Property>& properties = game.world.saveAllPropertyList;
+  double rent = 0;
+  for (std::size_t index = 0; index < properties.size(); ++index) {
+    if (properties[index].isPrimary == 1) continue;
+    Property& let = properties.edit(index);
+    let.rentEarned += let.weeklyRent;
+    rent += let.weeklyRent;
+  }
+  save<&WorldState::saveAllPropertyList>(game);
+  return rent;
+}
+
+template <class Record>
+double sumOfWeek(const List<Record>& records, std::int64_t week, double Record::* amount) {
+  double sum = 0;
+  for (const Record& record : records) {
+    if (record.weekNumberForTracking == week) sum += record.*amount;
+  }
+  return sum;
+}
+
+Earned earnedThisWeek(const WorldState& world) {
+  const std::int64_t week = world.weekNumberForTracking;
+  const List<WeeklyEarnings>& earnings = world.saveAllWeeklyEarnings;
+  return {.sessions = sumOfWeek(earnings, week, &WeeklyEarnings::sessionEarned),
+          .buyouts = sumOfWeek(earnings, week, &WeeklyEarnings::buyoutEarned),
+          .residuals = sumOfWeek(earnings, week, &WeeklyEarnings::residualsEarned),
+          .shares = sumOfWeek(earnings, week, &WeeklyEarnings::royaltyEarned),
+          .royalties = sumOfWeek(world.saveAllRoyaltyPayouts, week, &RoyaltyPayout::payout),
+          .equity = sumOfWeek(world.saveAllEquityPayouts, week, &EquityPayout::payOut),
+          .cameos = sumOfWeek(world.saveAllCameos, week, &Cameos::totalPriceEarned)};
+}
+
+// The company pays whole dollars.
+double platformPay(const WorldState& world) {
+  const std::int64_t salary = world.platformSalary / weeksOfSalary;
+  return salary < 1 ? 0 : static_cast<double>(salary);
+}
+
+struct Tile {
+  std::string_view title;
+  double Earned::* amount;
+  std::string_view subtitle;
+};
+
+constexpr std::array<Tile, 4> tiles = {{
+    {"SESSIONS", &Earned::sessions, "Session payments upon completed filming"},
+    {"RESIDUALS", &Earned::residuals, "Residuals paid from syndicated media"},
+    {"ROYALTY", &Earned::royalties, "Royalties from media where you took a stake rather than payment"},
+    {"INVEST", &Earned::equity, "Payouts from investments in film productions"},
+}};
+
+void addTiles(WorldState& world, const Earned& earned) {
+  for (const Tile& tile : tiles) {
+    if (earned.*tile.amount <= 0) continue;
+    world.weekBalanceItems.push_back({.isCurrency = 1,
+                                      .title = std::string(tile.title),
+                                      .moneyEarned = earned.*tile.amount,
+                                      .subtitle = std::string(tile.subtitle)});
+  }
+}
+
+void tellOfResiduals(Game& game, double residuals) {
+  if (residuals <= 0) return;
+  logActivity(game.world, "You received a residual check for " + shortMoney(game.locale, residuals));
+}
+
+}  // namespace
+
+WeekBalance balanceWeek(Game& game) {
+  WorldState& world = game.world;
+  WeekBalance balance{.expenses = standingExpenses(world)};
+  double recurring = standingIncome(world);
+  offerRelease(world);
+  payFilming(game);
+  recurring += payPatron(game);
+  const double rent = collectRent(game);
+  const Earned earned = earnedThisWeek(world);
+  addTiles(world, earned);
+
+  const double net = recurring + earned.equity + earned.cameos + platformPay(world) + earned.sessions +
+                     earned.buyouts + earned.shares + rent + earned.royalties;
+  balance.income = net + earned.residuals + world.weekNetIncome + world.weeklyJobIncome;
+  world.weekNetIncome += net + world.weeklyJobIncome;
+  world.yearToDatePaycheck += world.weeklyJobIncome;
+  tellOfResiduals(game, earned.residuals);
+  world.totalCashAvailable += balance.income - balance.expenses;
+  save<&WorldState::totalCashAvailable, &WorldState::yearToDatePaycheck, &WorldState::activityTracker>(game);
+  return balance;
+}
+
+}  // namespace tb
