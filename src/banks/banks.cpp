@@ -39,6 +39,15 @@ constexpr char earningsFile[] = {
 constexpr char criticsFile[] = {
 #embed "banks/critics.txt"
 };
+constexpr char userReviewsFile[] = {
+#embed "banks/user_reviews.txt"
+};
+constexpr char reviewSummaryFile[] = {
+#embed "banks/review_summary.txt"
+};
+constexpr char rateMoviesFile[] = {
+#embed "banks/rate_movies.txt"
+};
 constexpr char allTimeFile[] = {
 #embed "banks/all_time.txt"
 };
@@ -46,7 +55,7 @@ constexpr char bankableFile[] = {
 #embed "banks/bankable.txt"
 };
 
-constexpr std::array<std::string_view, 12> bankFiles = {{
+constexpr std::array<std::string_view, 15> bankFiles = {{
     {weekFile, sizeof weekFile},
     {talentFile, sizeof talentFile},
     {namesFile, sizeof namesFile},
@@ -57,6 +66,9 @@ constexpr std::array<std::string_view, 12> bankFiles = {{
     {boxOfficeFile, sizeof boxOfficeFile},
     {earningsFile, sizeof earningsFile},
     {criticsFile, sizeof criticsFile},
+    {userReviewsFile, sizeof userReviewsFile},
+    {reviewSummaryFile, sizeof reviewSummaryFile},
+    {rateMoviesFile, sizeof rateMoviesFile},
     {allTimeFile, sizeof allTimeFile},
     {bankableFile, sizeof bankableFile},
 }};

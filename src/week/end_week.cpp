@@ -10,6 +10,7 @@
 #include "core/save.h"
 #include "film/box_office.h"
 #include "film/new_releases.h"
+#include "film/popularity_drift.h"
 #include "life/energy.h"
 #include "wealth/best_figures.h"
 #include "wealth/market_index.h"
@@ -68,6 +69,7 @@ WeekSummary openSummary(Game& game) {
   game.world.releaseOffered = false;
   const EndedWeek ended = endedWeek(game.world);
   WeekSummary summary{.week = ended.week, .year = ended.year};
+  driftPopularity(game);
   renewSeries(game);
   renewSaga(game);
   closeBoxOffice(game);
