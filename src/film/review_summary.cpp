@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <format>
+#include <functional>
 #include <limits>
 #include <string_view>
 #include <vector>

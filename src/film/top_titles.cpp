@@ -1,6 +1,7 @@
 #include "film/top_titles.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "film/catalogue.h"
 

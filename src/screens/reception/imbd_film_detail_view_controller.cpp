@@ -7,6 +7,7 @@
 
 #include "core/number_style.h"
 #include "core/text.h"
+#include "film/cast_list.h"
 #include "film/film_record.h"
 #include "film/movie_reviews.h"
 #include "film/review_summary.h"
@@ -78,9 +79,7 @@ void askForRating(Stage& stage, const std::string& title, std::int64_t filmId) {
 
 Node ownRating(const Film& film) {
   if (film.myRating > 0) {
-    return Stars{.label = std::format("Your rating: {:.0f} of 10", film.myRating),
-                 .value = film.myRating,
-                 .outOf = static_cast<int>(mostStars)};
+    return Stars{.label = "Your rating", .value = film.myRating, .outOf = static_cast<int>(mostStars)};
   }
   return Button{.label = "Rate this title",
                 .press = [title = titleWithSeason(film), id = film.filmId](Stage& stage) {
@@ -105,14 +104,13 @@ Chart starChart(const StarHistogram& histogram) {
     chart.scale.push_back({mark, std::format("{:.0f}%", mark)});
   }
   const auto most = std::ranges::max_element(histogram);
-  chart.summary = std::format("Most viewers give it {} of 10.", most - histogram.begin() + 1);
+  chart.summary = std::format("The rating given most is {} of 10.", most - histogram.begin() + 1);
   return chart;
 }
 
 Card userReview(const Reviews& review) {
   return {.title = review.snippet,
-          .subtitle = review.username,
-          .nodes = {Stars{.label = std::format("{} of 10", review.rating),
+          .nodes = {Stars{.label = review.username,
                           .value = static_cast<double>(review.rating),
                           .outOf = static_cast<int>(mostStars)},
                     Text{.text = review.review}}};
@@ -126,9 +124,11 @@ Section storyline(const Film& film) {
       .nodes = {Text{.text = film.movieDescription}, Row{.label = "Director", .value = film.directorName},
                 Row{.label = "Writer", .value = film.writerName},
                 Row{.label = "Genre", .value = joinedWithAnd(film.genres)}}};
-  for (const std::string& actor : film.cast) {
-    section.nodes.push_back(Row{.label = actor, .value = film.characterName, .detail = film.role});
+  if (film.didAct == 1) {
+    section.nodes.push_back(
+        Row{.label = "Your part", .value = film.characterName, .detail = film.role, .tone = Tone::accent});
   }
+  section.nodes.push_back(Row{.label = "Cast", .detail = joinedWithAnd(castList(film))});
   if (!film.debutNetwork.empty()) {
     section.nodes.push_back(Row{.label = "Network",
                                 .value = film.debutNetwork,

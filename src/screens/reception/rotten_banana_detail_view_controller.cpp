@@ -33,21 +33,18 @@ Card scoreCard(const std::string& who, double score, std::string_view badge, con
   const auto known = std::ranges::find(badges, badge, &Badge::image);
   return {
       .title = std::string(known->name),
-      .subtitle = who,
       .picture = {{.kind = PictureKind::icon, .name = std::string(badge)}},
       .nodes = {Tiles{{{.label = who, .value = std::format("{}%", wholePercent(score)), .detail = count}}}}};
 }
 
-std::string written(const DateLabel& date) { return date.month + " " + date.dayAndYear; }
+std::string dated(const DateLabel& date) { return date.month + " " + date.dayAndYear; }
 
 Card criticCard(const Review& review) {
   constexpr int starsOfCritics = 4;
   Card card{.title = review.name,
-            .subtitle = std::format("{} • {}", review.newsOutlet, written(review.date)),
+            .subtitle = dated(review.date),
             .picture = {{.kind = PictureKind::avatar, .name = review.image}},
-            .nodes = {Stars{.label = std::format("{:.1f} of {}", review.stars, starsOfCritics),
-                            .value = review.stars,
-                            .outOf = starsOfCritics}}};
+            .nodes = {Stars{.label = review.newsOutlet, .value = review.stars, .outOf = starsOfCritics}}};
   if (!review.review.empty()) {
     card.nodes.push_back(Text{.text = review.review, .style = Text::Style::quotation});
   }
@@ -56,16 +53,14 @@ Card criticCard(const Review& review) {
 
 Card audienceCard(const AudienceReview& review) {
   return {.title = review.name,
-          .subtitle = written(review.date),
-          .nodes = {Stars{.label = std::format("{} of 5", review.stars),
-                          .value = static_cast<double>(review.stars)},
+          .nodes = {Stars{.label = dated(review.date), .value = static_cast<double>(review.stars)},
                     Text{.text = review.review}}};
 }
 
-template <class Card, class Draw>
-Section cards(std::string heading, const std::vector<Card>& reviews, Draw draw) {
+template <class Written, class Draw>
+Section cards(std::string heading, const std::vector<Written>& reviews, Draw draw) {
   Section section{.heading = std::move(heading)};
-  for (const Card& review : reviews) section.nodes.push_back(draw(review));
+  for (const Written& review : reviews) section.nodes.push_back(draw(review));
   return section;
 }
 
