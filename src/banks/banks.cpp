@@ -42,6 +42,15 @@ constexpr char syndicationFile[] = {
 constexpr char criticsFile[] = {
 #embed "banks/critics.txt"
 };
+constexpr char userReviewsFile[] = {
+#embed "banks/user_reviews.txt"
+};
+constexpr char reviewSummaryFile[] = {
+#embed "banks/review_summary.txt"
+};
+constexpr char rateMoviesFile[] = {
+#embed "banks/rate_movies.txt"
+};
 constexpr char allTimeFile[] = {
 #embed "banks/all_time.txt"
 };
@@ -49,7 +58,7 @@ constexpr char bankableFile[] = {
 #embed "banks/bankable.txt"
 };
 
-constexpr std::array<std::string_view, 13> bankFiles = {{
+constexpr std::array<std::string_view, 16> bankFiles = {{
     {weekFile, sizeof weekFile},
     {talentFile, sizeof talentFile},
     {namesFile, sizeof namesFile},
@@ -61,6 +70,9 @@ constexpr std::array<std::string_view, 13> bankFiles = {{
     {earningsFile, sizeof earningsFile},
     {syndicationFile, sizeof syndicationFile},
     {criticsFile, sizeof criticsFile},
+    {userReviewsFile, sizeof userReviewsFile},
+    {reviewSummaryFile, sizeof reviewSummaryFile},
+    {rateMoviesFile, sizeof rateMoviesFile},
     {allTimeFile, sizeof allTimeFile},
     {bankableFile, sizeof bankableFile},
 }};

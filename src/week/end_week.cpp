@@ -9,6 +9,7 @@
 #include "career/renewals.h"
 #include "core/save.h"
 #include "film/box_office.h"
+#include "film/popularity_drift.h"
 #include "film/syndication_deals.h"
 #include "film/syndication_offers.h"
 #include "life/energy.h"
@@ -71,6 +72,7 @@ WeekSummary openSummary(Game& game) {
   WeekSummary summary{.week = ended.week, .year = ended.year};
   takeSyndicationBids(game);
   advanceSyndicationDeals(game);
+  driftPopularity(game);
   renewSeries(game);
   renewSaga(game);
   closeBoxOffice(game);

@@ -5,6 +5,7 @@
 #include "core/audition_list.h"
 #include "film/film_record.h"
 #include "screens/parts.h"
+#include "screens/reception/imbd_film_detail_view_controller.h"
 #include "screens/work/project_words.h"
 #include "screens/work/release_figures.h"
 
@@ -27,6 +28,9 @@ Section reception(const WorldState& world, const Audition& project) {
   for (const std::string& review : film.featuredReviews) {
     if (!review.empty()) section.nodes.push_back(Text{.text = review, .style = Text::Style::quotation});
   }
+  section.nodes.push_back(Row{.label = "Imbd page",
+                              .detail = "Ratings, reviews and all that is known of it",
+                              .press = [id = film.filmId](Stage& stage) { openTitlePage(stage, id); }});
   return section;
 }
 

@@ -24,14 +24,18 @@ std::string wrappedWords(const WorldState& world, const Audition& project) {
   return (isReleased(world, project) ? "Released " : "Release ") + whenIs(world, project.weekReleased);
 }
 
+template <class Titled>
+std::string withSeason(const Titled& work) {
+  if (work.typeOfFilm != filmType::series || work.seasonNumber < 2) return work.title;
+  return std::format("{} Season {}", work.title, work.seasonNumber);
+}
+
 }  // namespace
 
 std::string typeName(std::int64_t typeOfFilm) { return typeNames[static_cast<std::size_t>(typeOfFilm)]; }
 
-std::string titleWithSeason(const Audition& project) {
-  if (project.typeOfFilm != filmType::series || project.seasonNumber < 2) return project.title;
-  return std::format("{} Season {}", project.title, project.seasonNumber);
-}
+std::string titleWithSeason(const Audition& project) { return withSeason(project); }
+std::string titleWithSeason(const Film& film) { return withSeason(film); }
 
 std::string guildWords(std::int64_t isUnion) { return isUnion == 1 ? "Union" : "Non-union"; }
 

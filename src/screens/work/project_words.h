@@ -15,6 +15,7 @@ namespace tb {
 
 // The title, from the second season of a series on with its number.
 [[nodiscard]] std::string titleWithSeason(const Audition& project);
+[[nodiscard]] std::string titleWithSeason(const Film& film);
 
 // "Union" or "Non-union".
 [[nodiscard]] std::string guildWords(std::int64_t isUnion);
