@@ -175,6 +175,18 @@ void isSettledAtTheBoxOffice(Story& story) {
   story.player().press("Close");
 }
 
+// The title's own page tells of its dealings with networks.
+void isToldOnItsPage(Story& story, const std::string& network, const std::string& words) {
+  story.player().press("Work");
+  story.player().press("Auditions");
+  story.player().press("Releases");
+  story.player().press("Salt Road");
+  EXPECT_TRUE(story.player().sees(network));
+  EXPECT_TRUE(story.player().sees(words));
+  story.player().press("Back");
+  story.player().press("Back");
+}
+
 void isSoldToANetwork(Story& story, const Struck& deal) {
   const WorldState& world = story.world();
   EXPECT_EQ(deal.week, story.now());
@@ -189,6 +201,7 @@ void isSoldToANetwork(Story& story, const Struck& deal) {
   EXPECT_EQ(share->syndicationYears, deal.years);
   EXPECT_NEAR(share->payout, deal.price * 0.02 * (1 - commission), 1e-3);
   story.player().press("Close");
+  isToldOnItsPage(story, deal.network, std::format("On the air, {} weeks left", deal.years * 52 - 1));
 }
 
 // A check every twelfth week of the term, each by a rate that lost a tenth a year.
@@ -212,6 +225,7 @@ void paysResidualsToTheEndOfTheTerm(Story& story, const Struck& deal) {
   }
   EXPECT_EQ(next, checks.size());
   story.player().press("Close");
+  isToldOnItsPage(story, deal.network, std::format("Ran for {} year", deal.years));
 }
 
 TEST(ReceptionAndMoney, ATitlePaysForTheWorkForTheStakeAndForYearsOnTheNetworks) {

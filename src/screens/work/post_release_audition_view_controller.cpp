@@ -8,6 +8,7 @@
 #include "screens/reception/imbd_film_detail_view_controller.h"
 #include "screens/work/project_words.h"
 #include "screens/work/release_figures.h"
+#include "screens/work/syndication_section.h"
 
 namespace tb {
 
@@ -75,6 +76,9 @@ Page PostReleaseAuditionViewController::view(const Game& game) {
     page.nodes.push_back(figureChart(game, project, figures));
   }
   page.nodes.push_back(reception(game.world, project));
+  if (auto syndication = syndicationSection(game, project.filmId)) {
+    page.nodes.push_back(*std::move(syndication));
+  }
   Section before = whatCameBefore(game.world, project);
   if (!before.nodes.empty()) page.nodes.push_back(std::move(before));
   return page;
