@@ -36,8 +36,20 @@ constexpr char boxOfficeFile[] = {
 constexpr char earningsFile[] = {
 #embed "banks/earnings.txt"
 };
+constexpr char syndicationFile[] = {
+#embed "banks/syndication.txt"
+};
 constexpr char criticsFile[] = {
 #embed "banks/critics.txt"
+};
+constexpr char userReviewsFile[] = {
+#embed "banks/user_reviews.txt"
+};
+constexpr char reviewSummaryFile[] = {
+#embed "banks/review_summary.txt"
+};
+constexpr char rateMoviesFile[] = {
+#embed "banks/rate_movies.txt"
 };
 constexpr char allTimeFile[] = {
 #embed "banks/all_time.txt"
@@ -46,7 +58,7 @@ constexpr char bankableFile[] = {
 #embed "banks/bankable.txt"
 };
 
-constexpr std::array<std::string_view, 12> bankFiles = {{
+constexpr std::array<std::string_view, 16> bankFiles = {{
     {weekFile, sizeof weekFile},
     {talentFile, sizeof talentFile},
     {namesFile, sizeof namesFile},
@@ -56,7 +68,11 @@ constexpr std::array<std::string_view, 12> bankFiles = {{
     {filmFile, sizeof filmFile},
     {boxOfficeFile, sizeof boxOfficeFile},
     {earningsFile, sizeof earningsFile},
+    {syndicationFile, sizeof syndicationFile},
     {criticsFile, sizeof criticsFile},
+    {userReviewsFile, sizeof userReviewsFile},
+    {reviewSummaryFile, sizeof reviewSummaryFile},
+    {rateMoviesFile, sizeof rateMoviesFile},
     {allTimeFile, sizeof allTimeFile},
     {bankableFile, sizeof bankableFile},
 }};

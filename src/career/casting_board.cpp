@@ -1,22 +1,13 @@
 #include "career/casting_board.h"
 
 #include <algorithm>
-#include <array>
 
-#include "banks/names.h"
 #include "career/casting_terms.h"
-#include "career/colleagues.h"
-#include "career/schedule.h"
 #include "core/save.h"
 
 namespace tb {
 
 namespace {
-
-constexpr std::array<TvRole, 2> typesOfPrincipalForTV = {{
-    {.label = "Co-Star", .fewestEpisodes = 1, .mostEpisodes = 1},
-    {.label = "Recurring", .fewestEpisodes = 2, .mostEpisodes = 4},
-}};
 
 constexpr std::int64_t fewestListings = 5;
 constexpr std::int64_t mostListings = 8;
@@ -41,17 +32,11 @@ std::int64_t drawUnionFlag(Game& game) {
 
 CastingListing drawListing(Game& game, const CastingBoard& board, std::int64_t filmId) {
   CastingListing listing{.filmId = filmId, .isPrincipal = RandomRange(game.random, 2)};
-  const TvRole& tv_role = RandomElement<TvRole>(game.random, typesOfPrincipalForTV);
+  const TvRole& tv_role = drawTvRole(game);
   listing.movie = &drawMovie(game, board);
   listing.role = drawRole(game, listing.isPrincipal);
   listing.isUnion = drawUnionFlag(game);
-  listing.characterName = inventedName(game.random, game.world.isMale);
-  drawTerms(game, listing, tv_role);
-  listing.directorRating = drawDirectorRating(game);
-  listing.directorName = inventedName(game.random);
-  const Schedule schedule = drawSchedule(game);
-  listing.weekAudition = schedule.weekAudition;
-  listing.weekToWork = schedule.weekToWork;
+  completeListing(game, listing, tv_role);
   return listing;
 }
 

@@ -3,12 +3,21 @@
 #include <algorithm>
 #include <array>
 
+#include "banks/names.h"
+#include "career/colleagues.h"
+#include "career/schedule.h"
+
 namespace tb {
 
 namespace {
 
 constexpr std::array<std::string_view, 4> typesOfBackground = {"Extra", "Stand-In", "Double", "Background"};
 constexpr std::array<std::string_view, 2> typesOfPrincipals = {"Support", "Lead"};
+
+constexpr std::array<TvRole, 2> typesOfPrincipalForTV = {{
+    {.label = "Co-Star", .fewestEpisodes = 1, .mostEpisodes = 1},
+    {.label = "Recurring", .fewestEpisodes = 2, .mostEpisodes = 4},
+}};
 
 double dollars(std::int64_t amount) { return static_cast<double>(amount); }
 
@@ -108,6 +117,18 @@ std::string drawRole(Game& game, std::int64_t isPrincipal) {
   const bool principal = isPrincipal == rolePart::principal;
   return std::string(principal ? RandomElement<std::string_view>(game.random, typesOfPrincipals)
                                : RandomElement<std::string_view>(game.random, typesOfBackground));
+}
+
+const TvRole& drawTvRole(Game& game) { return RandomElement<TvRole>(game.random, typesOfPrincipalForTV); }
+
+void completeListing(Game& game, CastingListing& listing, const TvRole& tvRole) {
+  listing.characterName = inventedName(game.random, game.world.isMale);
+  drawTerms(game, listing, tvRole);
+  listing.directorRating = drawDirectorRating(game);
+  listing.directorName = inventedName(game.random);
+  const Schedule schedule = drawSchedule(game);
+  listing.weekAudition = schedule.weekAudition;
+  listing.weekToWork = schedule.weekToWork;
 }
 
 }  // namespace tb

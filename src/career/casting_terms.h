@@ -22,4 +22,11 @@ void drawTerms(Game& game, CastingListing& listing, const TvRole& tvRole);
 // A role label for a part in anything but a series.
 [[nodiscard]] std::string drawRole(Game& game, std::int64_t isPrincipal);
 
+// One of the two roles that a series has for a principal.
+[[nodiscard]] const TvRole& drawTvRole(Game& game);
+
+// Draws all of a listing that is not decided yet: the project, the part, the role and the union flag stand in
+// it.
+void completeListing(Game& game, CastingListing& listing, const TvRole& tvRole);
+
 }  // namespace tb

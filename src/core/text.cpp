@@ -45,6 +45,14 @@ std::string upperCase(std::string_view text) {
   return upper;
 }
 
+std::string lowerCase(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return lower;
+}
+
 std::string trimmed(std::string_view text) {
   constexpr std::string_view blanks = " \t\r\n";
   const std::size_t first = text.find_first_not_of(blanks);

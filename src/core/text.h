@@ -12,6 +12,9 @@ namespace tb {
 // Latin letters in capitals, those with accents included; other scripts and emoji as they are.
 [[nodiscard]] std::string upperCase(std::string_view text);
 
+// The letters A to Z in lower case, everything else as it is: for looking up words, not for showing them.
+[[nodiscard]] std::string lowerCase(std::string_view text);
+
 // Without the white space at both ends.
 [[nodiscard]] std::string trimmed(std::string_view text);
 

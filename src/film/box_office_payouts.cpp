@@ -1,16 +1,16 @@
 #include "film/box_office_payouts.h"
 
+#include <utility>
+
 #include "banks/banks.h"
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "core/signed_agent.h"
+#include "film/stakes.h"
 
 namespace tb {
 
 namespace {
-
-constexpr std::int64_t payoutIdOffset = 100;  // a payout's id above its film's
 
 // The marks of an own production in its equity record.
 constexpr std::int64_t ownProductionSource = 3;
@@ -28,49 +28,43 @@ void announceEquity(Game& game, const Film& film, double payout, double gross) {
   }
 }
 
-void payEquity(Game& game, const Film& film, double gross) {
-  const bool own = film.isPrincipal == rolePart::ownProduction;
-  const double payout = gross * film.equityPercentage / 100;
-  announceEquity(game, film, payout, gross);
-  game.world.saveAllEquityPayouts.push_back({.id = film.filmId + payoutIdOffset,
-                                             .filmId = film.filmId,
-                                             .yearNumber = game.world.yearNumber,
-                                             .weekNumberForTracking = game.world.weekNumberForTracking + 1,
-                                             .payOut = payout,
-                                             .typeOfPayment = payoutSource::boxOffice,
-                                             .sourceId = own ? ownProductionSource : 0,
-                                             .managerEarnings = own ? ownProductionManager : 0});
-  save<&WorldState::saveAllEquityPayouts>(game);
+Proceeds boxOfficeOf(const WorldState& world, double gross) {
+  return {.gross = gross,
+          .typeOfPayment = payoutSource::boxOffice,
+          .weekNumberForTracking = world.weekNumberForTracking + 1};
 }
 
-void payRoyalty(Game& game, const Film& film, double gross) {
-  WorldState& world = game.world;
-  const double royalty = gross * film.royaltyRate / 100;
-  RoyaltyPayout record{.id = film.filmId + payoutIdOffset,
-                       .filmId = film.filmId,
-                       .title = film.title,
-                       .yearNumber = world.yearNumber,
-                       .weekNumberForTracking = world.weekNumberForTracking + 1,
-                       .typeOfPayment = payoutSource::boxOffice,
-                       .totalDealGross = gross};
-  if (const auto agent = signedAgent(world)) {
-    record.sourceId = world.saveAllTalentAgents[*agent].id;
-    record.agentEarnings = royalty * world.saveAllTalentAgents[*agent].commissionPercentage;
+void payEquity(Game& game, const Film& film, const Proceeds& proceeds) {
+  EquityPayout payout = equityShare(game.world, film, proceeds);
+  if (film.isPrincipal == rolePart::ownProduction) {
+    payout.sourceId = ownProductionSource;
+    payout.managerEarnings = ownProductionManager;
   }
-  record.payout = royalty - record.agentEarnings;
-  world.saveAllRoyaltyPayouts.push_back(std::move(record));
-  logLine(world,
-          fill(drawRow(game.random, Bank::royaltyPaidBank), {{"title", film.title},
-                                                             {"amount", shortMoney(game.locale, royalty)},
-                                                             {"gross", shortMoney(game.locale, gross)}}));
-  save<&WorldState::saveAllRoyaltyPayouts>(game);
+  announceEquity(game, film, payout.payOut, proceeds.gross);
+  keepPayout(game, payout);
+}
+
+double commissionOf(const WorldState& world) {
+  const auto agent = signedAgent(world);
+  return agent ? world.saveAllTalentAgents[*agent].commissionPercentage : 0;
+}
+
+void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds) {
+  RoyaltyPayout payout = royaltyShare(game.world, film, proceeds, commissionOf(game.world));
+  const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
+  logLine(
+      game.world,
+      fill(drawRow(game.random, Bank::royaltyPaidBank),
+           {{"title", film.title}, {"amount", royalty}, {"gross", shortMoney(game.locale, proceeds.gross)}}));
+  keepPayout(game, std::move(payout));
 }
 
 }  // namespace
 
 void payStakes(Game& game, const Film& film, double gross) {
-  if (film.equityPercentage > 0) payEquity(game, film, gross);
-  if (film.royaltyRate > 0) payRoyalty(game, film, gross);
+  const Proceeds proceeds = boxOfficeOf(game.world, gross);
+  if (film.equityPercentage > 0) payEquity(game, film, proceeds);
+  if (film.royaltyRate > 0) payRoyalty(game, film, proceeds);
 }
 
 }  // namespace tb

@@ -99,6 +99,13 @@ TVRecord tvRecordOf(Columns& columns) {
   return {.title = columns.text(), .imdbRating = columns.decimal(), .imdbId = columns.text()};
 }
 
+CatalogueTitle catalogueTitleOf(Columns& columns) {
+  return {.title = columns.text(),
+          .year = columns.number(),
+          .imageString = columns.text(),
+          .description = columns.text()};
+}
+
 Bankable bankableOf(Columns& columns) {
   Bankable star{.name = columns.text(),
                 .totalGross = static_cast<double>(columns.number()),
@@ -152,6 +159,11 @@ std::span<const MovieRecord> movieRecords() {
 
 std::span<const TVRecord> tvRecords() {
   static const std::vector<TVRecord> rows = rankedSeries();
+  return rows;
+}
+
+std::span<const CatalogueTitle> rateMovieCatalogue() {
+  static const std::vector<CatalogueTitle> rows = table(Bank::rateMovieCatalogue, catalogueTitleOf);
   return rows;
 }
 

@@ -56,6 +56,14 @@ struct TVRecord {
   std::int64_t realOrGame = recordKind::builtIn;
 };
 
+// A title that everybody has seen but the player: to be reviewed, and to fill a chart.
+struct CatalogueTitle {
+  std::string title;
+  std::int64_t year = 0;
+  std::string imageString;  // poster
+  std::string description;
+};
+
 // A star of the industry.
 struct Bankable {
   std::int64_t id = 0;              // from 1
@@ -84,6 +92,9 @@ struct Bankable {
 // 250 films by worldwide gross and 250 series by rating, best first.
 [[nodiscard]] std::span<const MovieRecord> movieRecords();
 [[nodiscard]] std::span<const TVRecord> tvRecords();
+
+// 210 titles.
+[[nodiscard]] std::span<const CatalogueTitle> rateMovieCatalogue();
 
 // The 100 stars, highest grossing first, with ratings drawn anew.
 [[nodiscard]] std::vector<Bankable> bankables(RandomSource& random);

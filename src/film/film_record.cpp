@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "film/networks.h"
+
 namespace tb {
 
 namespace {
@@ -29,22 +31,6 @@ constexpr std::array<Format, 4> formats = {{
     {filmType::shortFilm, 1, 20, 40, {}},
 }};
 
-struct Network {
-  std::string_view name;
-  std::string_view logo;
-};
-
-// The odd ending of one logo is that of the picture that it names.
-constexpr std::array<Network, 7> networks = {{
-    {"Metflix", "imbdMetflix.png"},
-    {"HPO Max", "imbdHpoMax.png"},
-    {"Bisney", "imbdBisney.ong"},
-    {"Fulu", "imbdFulu.png"},
-    {"Pryme Video", "imbdPrymeVideo.png"},
-    {"Pear TV", "imbdPear.png"},
-    {"Panamount", "imbdPanamount.png"},
-}};
-
 void drawFormat(Game& game, Film& film) {
   const auto format = std::ranges::find(formats, film.typeOfFilm, &Format::typeOfFilm);
   if (format == formats.end()) return;
@@ -55,9 +41,9 @@ void drawFormat(Game& game, Film& film) {
 
 void drawNetwork(Game& game, Film& film) {
   if (film.typeOfFilm != filmType::series) return;
-  const Network& network = RandomElement<Network>(game.random, networks);
-  film.debutNetwork = network.name;
-  film.debutImageString = network.logo;
+  const auto network = static_cast<std::size_t>(RandomRange(game.random, std::ssize(networks)));
+  film.debutNetwork = networks[network];
+  film.debutImageString = networkLogos[network];
 }
 
 bool isSequel(const Audition& project) {
@@ -112,6 +98,17 @@ std::size_t filmIndex(const WorldState& world, std::int64_t filmId) {
   const List<Film>& films = world.saveAllFilmList;
   return static_cast<std::size_t>(std::ranges::find(films, filmId, &Film::filmId) - films.begin());
 }
+
+std::size_t filmIndexOfTitle(const WorldState& world, std::string_view title) {
+  const List<Film>& films = world.saveAllFilmList;
+  return static_cast<std::size_t>(std::ranges::find(films, title, &Film::title) - films.begin());
+}
+
+bool isOut(const WorldState& world, const Film& film) {
+  return film.weekReleased < world.weekNumberForTracking;
+}
+
+std::string mainGenre(const Film& film) { return film.genres.empty() ? "" : film.genres.front(); }
 
 double qualityOf(const Film& film) {
   return (film.imbdRating * 10 + static_cast<double>(film.imbdMetascore)) * 0.5;

@@ -2,6 +2,11 @@
 
 // A film comes into being when its project wraps.
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
 #include "core/game.h"
 
 namespace tb {
@@ -12,6 +17,16 @@ void makeFilm(Game& game, const Audition& project);
 
 // Where the film of a project stands in `saveAllFilmList`, or the length of the list when it is not there.
 [[nodiscard]] std::size_t filmIndex(const WorldState& world, std::int64_t filmId);
+
+// Where the first film with this title stands, the latest wrap: the newest season of a series. Or the length
+// of the list.
+[[nodiscard]] std::size_t filmIndexOfTitle(const WorldState& world, std::string_view title);
+
+// True from the week after the release on, when the scores are there to be seen.
+[[nodiscard]] bool isOut(const WorldState& world, const Film& film);
+
+// The first of the genres; empty when there is none.
+[[nodiscard]] std::string mainGenre(const Film& film);
 
 // What a film is worth after its release, 0 to 100: the mean of the two scores.
 [[nodiscard]] double qualityOf(const Film& film);

@@ -5,7 +5,10 @@
 #include <string_view>
 
 #include "banks/banks.h"
+#include "banks/names.h"
 #include "core/bands.h"
+#include "film/film_record.h"
+#include "film/user_reviews.h"
 
 namespace tb {
 
@@ -27,20 +30,6 @@ constexpr std::array<StarBand, 5> starBands = {{
     {.from = 8, .upTo = 20, .review = Bank::longReviewBank5, .stars = "★★★★★"},
 }};
 
-std::string reviewerName(RandomSource& random) {
-  const bool woman = RandomRange(random, 2) == 1;
-  const std::string first = drawRow(random, woman ? Bank::femaleFirstNames : Bank::maleFirstNames);
-  return first + " " + drawRow(random, Bank::lastNames);
-}
-
-std::string reviewOf(Game& game, const StarBand& band, const Film& film) {
-  const std::string genre = film.genres.empty() ? "" : film.genres.front();
-  return fill(drawRow(game.random, band.review), {{"title", film.title},
-                                                  {"director", film.directorName},
-                                                  {"name", game.world.myName},
-                                                  {"genre", genre}});
-}
-
 MetReview cardOf(Game& game, const Film& film) {
   MetReview card{.id = 100 + RandomRange(game.random, 9'999'900),
                  .filmTitle = film.title,
@@ -50,12 +39,13 @@ MetReview cardOf(Game& game, const Film& film) {
                  .description = film.movieDescription,
                  .imageString = film.imageString,
                  .season = film.seasonNumber};
-  card.reviewerName = reviewerName(game.random);
+  const bool is_male = RandomRange(game.random, 2) == 0;
+  card.reviewerName = inventedName(game.random, is_male);
   card.reviewerCompany = drawRow(game.random, Bank::reviewerCompanies);
   const double score = (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
   if (const StarBand* const band = bandOf(starBands, score)) {
     card.starString = band->stars;
-    card.reviewString = reviewOf(game, *band, film);
+    card.reviewString = drawReview(game, band->review, film, mainGenre(film));
   }
   return card;
 }

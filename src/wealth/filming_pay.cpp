@@ -1,6 +1,7 @@
 #include "wealth/filming_pay.h"
 
 #include "banks/banks.h"
+#include "core/guild_dues.h"
 #include "core/log.h"
 #include "core/number_style.h"
 #include "core/save.h"
@@ -8,10 +9,6 @@
 namespace tb {
 
 namespace {
-
-constexpr double duesShare = 0.03;
-constexpr double afterDues = 0.97;
-constexpr double lifetimeDues = 750'000;  // dollars; whoever has paid that much pays no more
 
 // A commercial's residual checks: every fourth week on the air, for just under a year, each two points of the
 // rate below the one before.
@@ -21,12 +18,7 @@ constexpr double lossPerCheck = 0.02;
 
 // The dues come off twice, while only the one half counts towards the lifetime's sum: 6 % for the payer, 3 %
 // for the books. Members grumble about it and are meant to.
-double netOfDues(WorldState& world, double gross) {
-  if (world.workDuesPaidSAG >= lifetimeDues) return gross;
-  const double dues = gross * duesShare;
-  world.workDuesPaidSAG += dues;
-  return gross * afterDues - dues;
-}
+double netOfDues(WorldState& world, double gross) { return gross - 2 * takeGuildDues(world, gross); }
 
 WeeklyEarnings earningsOf(const WorldState& world, const Audition& project) {
   return {.filmId = project.filmId,

@@ -9,6 +9,9 @@
 #include "career/renewals.h"
 #include "core/save.h"
 #include "film/box_office.h"
+#include "film/popularity_drift.h"
+#include "film/syndication_deals.h"
+#include "film/syndication_offers.h"
 #include "life/energy.h"
 #include "wealth/best_figures.h"
 #include "wealth/market_index.h"
@@ -67,6 +70,9 @@ WeekSummary openSummary(Game& game) {
   game.world.releaseOffered = false;
   const EndedWeek ended = endedWeek(game.world);
   WeekSummary summary{.week = ended.week, .year = ended.year};
+  takeSyndicationBids(game);
+  advanceSyndicationDeals(game);
+  driftPopularity(game);
   renewSeries(game);
   renewSaga(game);
   closeBoxOffice(game);

@@ -123,6 +123,10 @@ TEST(Text, FillsARowInOnePass) {
   EXPECT_EQ(fill("", {}), "");
 }
 
+TEST(Text, LowersLettersForLookingWordsUpAndLeavesTheRest) {
+  EXPECT_EQ(lowerCase("It's THE Élan, 9 Zebras @ 🎬"), "it's the Élan, 9 zebras @ 🎬");
+}
+
 TEST(Text, RaisesTheMonthsOfLatinAlphabets) {
   EXPECT_EQ(upperCase("março août märz żółw ÿ 日本 🎬 ß"), "MARÇO AOÛT MÄRZ ŻÓŁW Ÿ 日本 🎬 ß");
   EXPECT_EQ(trimmed(" \t a b \n"), "a b");

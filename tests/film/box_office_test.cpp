@@ -229,6 +229,7 @@ TEST(Stakes, ARoyaltyIsToldInFullAndPaidLessTheSignedAgentsPart) {
                                  .totalDealGross = 1'500};
     ASSERT_EQ(film.world().saveAllRoyaltyPayouts.size(), 1U);
     EXPECT_EQ(film.world().saveAllRoyaltyPayouts.front(), expected);
+    EXPECT_EQ(film.world().saveAllTalentAgents[1].totalAgentEarnings, has_agent ? 3 : 0);
     const std::string line =
         "You received a box office royalty of $30.00 from the $1.5K that Salt Road took in.";
     EXPECT_EQ(film.world().activityTracker.front(), line);

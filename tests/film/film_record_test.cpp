@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "film/cast_list.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
@@ -127,6 +128,22 @@ TEST(Wrap, OnlyALaterFilmOfASagaIsASequel) {
     makeFilm(scratch.game, project);
     EXPECT_EQ(scratch.game.world.saveAllFilmList.front().sequelNumber, sequel);
   }
+}
+
+TEST(CastList, IsTheSameEveryTimeAndPutsThePlayerWhereThePartIs) {
+  Film film{.filmId = 12, .isPrincipal = rolePart::principal, .cast = {"Ada Quinn"}};
+  const std::vector<std::string> lead = castList(film);
+  ASSERT_EQ(lead.size(), 5U);
+  EXPECT_EQ(lead.front(), "Ada Quinn");
+  EXPECT_EQ(castList(film), lead);
+  film.isPrincipal = rolePart::background;
+  EXPECT_EQ(castList(film).back(), "Ada Quinn");
+  EXPECT_EQ(castList(film).front(), lead[1]);
+  film.didAct = 0;
+  EXPECT_FALSE(std::ranges::contains(castList(film), "Ada Quinn"));
+  EXPECT_NE(castList({.filmId = 13, .didAct = 0}), castList(film));
+  film = {.typeOfFilm = filmType::commercial, .cast = {"Ada Quinn"}};
+  EXPECT_EQ(castList(film), std::vector<std::string>{"Ada Quinn"});
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 
 #include "core/number_style.h"
 #include "core/save.h"
+#include "tests/journeys/books.h"
 #include "tests/memory_port.h"
 #include "tests/player.h"
 #include "tests/seeded_random.h"
@@ -88,31 +89,6 @@ struct Running {
   test::Player player{app};
 };
 
-// What the books say came in and went out, week by week.
-struct Books {
-  double records = 0;
-  double residuals = 0;
-  double jobs = 0;
-  double bills = 0;
-};
-
-void addTheWeek(const WorldState& world, Books& books) {
-  const std::int64_t week = world.weekNumberForTracking;
-  for (const WeeklyEarnings& line : world.saveAllWeeklyEarnings) {
-    if (line.weekNumberForTracking != week) continue;
-    books.records += line.sessionEarned + line.buyoutEarned;
-    books.residuals += line.residualsEarned;
-  }
-  for (const RoyaltyPayout& line : world.saveAllRoyaltyPayouts) {
-    if (line.weekNumberForTracking == week) books.records += line.payout;
-  }
-  for (const EquityPayout& line : world.saveAllEquityPayouts) {
-    if (line.weekNumberForTracking == week) books.records += line.payOut;
-  }
-  books.jobs += world.weeklyJobIncome;
-  for (const WeeklyLineItem& item : world.saveAllWeeklyLineItems) books.bills += item.amount;
-}
-
 TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
   Career career;
   auto game = std::make_unique<Running>(career);
@@ -123,7 +99,7 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
   game->player.press("Back");
   game->takeAJob();
 
-  Books books;
+  test::Books books;
   for (int week = 1; week <= 52; ++week) {
     if (week == 10) {
       game.reset();
@@ -136,12 +112,12 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
       game->player.press("Back");
     }
     const double before = game->world().totalCashAvailable;
-    const double tracked = books.records + books.residuals + books.jobs - books.bills;
+    const double tracked = books.balance();
     game->player.press("Home");
     game->player.press("End Week");
-    addTheWeek(game->world(), books);
-    const double moved = books.records + books.residuals + books.jobs - books.bills - tracked;
-    ASSERT_NEAR(game->world().totalCashAvailable - before, moved, 1e-6) << "week " << week;
+    books.addTheWeek(game->world());
+    ASSERT_NEAR(game->world().totalCashAvailable - before, books.balance() - tracked, 1e-6)
+        << "week " << week;
     EXPECT_TRUE(game->player.sees("INCOME • EXPENSES"));
     EXPECT_TRUE(game->player.sees(week < 10 ? " | $50" : " | $70"));
     if (week == 1) {
@@ -160,8 +136,7 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
 
   const WorldState& world = game->world();
   EXPECT_EQ(world.yearNumber, 2027);
-  EXPECT_NEAR(world.totalCashAvailable,
-              startingCash - 3000 + books.records + books.residuals + books.jobs - books.bills, 0.005);
+  EXPECT_NEAR(world.totalCashAvailable, startingCash - 3000 + books.balance(), 0.005);
   const double net = std::accumulate(world.saveWeeklyEarnings.begin(), world.saveWeeklyEarnings.end(), 0.0);
   EXPECT_NEAR(net, books.records + books.jobs, 0.005);  // residuals and bills are no part of it
   const auto checks = std::ranges::count_if(

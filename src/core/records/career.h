@@ -151,12 +151,12 @@ struct Manager {
 };
 RECORD_FIELDS(Manager, id);
 
-// The project that an investor's e-mail speaks of. In memory only: made when its screen is first opened, and
-// the same whenever it is opened again.
-struct InvestmentOpportunity {
+// The project that an e-mail offers to an investor, or to an actor who takes a stake. In memory only: made
+// when its screen is first opened, and the same whenever it is opened again.
+struct EmailedProject {
   std::int64_t emailId = 0;
   Audition project;
-  bool operator==(const InvestmentOpportunity&) const = default;
+  bool operator==(const EmailedProject&) const = default;
 };
 
 }  // namespace tb

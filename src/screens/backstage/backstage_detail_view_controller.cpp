@@ -32,7 +32,9 @@ Section theProject(const Game& game, const CastingListing& listing) {
                     Row{.label = "Genre", .value = joinedWithAnd(listing.movie->genre)},
                     Row{.label = "Budget", .value = shortMoney(game.locale, listing.budget)},
                     Row{.label = "Pay",
-                        .value = payWords(game.locale, listing.payment, listing.buyout, listing.residual)},
+                        .value = payWords(game.locale, {.fee = listing.payment,
+                                                        .buyout = listing.buyout,
+                                                        .residual = listing.residual})},
                     Row{.label = "Audition", .value = whenIs(game.world, listing.weekAudition)},
                     Row{.label = "Wrap", .value = whenIs(game.world, listing.weekToWork)}}};
 }

@@ -20,7 +20,9 @@ Card CastingNetworkViewController::listingCard(const Game& game, const CastingLi
             .picture = {posterOf(listing.movie->imageString)},
             .nodes = {Text{.text = listing.movie->shortSummary},
                       Row{.label = "Pay",
-                          .value = payWords(game.locale, listing.payment, listing.buyout, listing.residual)},
+                          .value = payWords(game.locale, {.fee = listing.payment,
+                                                          .buyout = listing.buyout,
+                                                          .residual = listing.residual})},
                       Row{.label = "Audition", .value = whenIs(game.world, listing.weekAudition)},
                       Buttons{{submitButton(listing),
                                {.label = "Read more", .press = [listing](Stage& stage) {

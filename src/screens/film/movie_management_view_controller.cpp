@@ -7,6 +7,7 @@
 #include "screens/film/box_office_parts.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
+#include "screens/reception/imbd_film_detail_view_controller.h"
 #include "screens/work/project_words.h"
 
 namespace tb {
@@ -49,6 +50,10 @@ Card productionCard(const Game& game, const Audition& project) {
             .value = shownMoney(game.locale, *gross),
             .detail = returnText(*gross, project.budget),
             .press = [id = project.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }});
+  }
+  if (isReleased(game.world, project)) {
+    card.nodes.push_back(Row{.label = "Imbd page of " + project.title,
+                             .press = [id = project.filmId](Stage& stage) { openTitlePage(stage, id); }});
   }
   return card;
 }

@@ -9,6 +9,7 @@
 #include "film/new_releases.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
+#include "screens/reception/imbd_film_detail_view_controller.h"
 
 namespace tb {
 
@@ -52,6 +53,8 @@ Card releaseCard(const Game& game, const Film& film, const MetReview& card) {
   }
   shown.nodes.push_back(caption(std::format("{}, {}", card.reviewerName, card.reviewerCompany)));
   shown.nodes.push_back(figuresOf(game, film));
+  shown.nodes.push_back(Button{.label = "Imbd page of " + film.title,
+                               .press = [id = film.filmId](Stage& stage) { openTitlePage(stage, id); }});
   if (film.typeOfFilm == filmType::feature) {
     shown.nodes.push_back(
         Button{.label = "Box office of " + film.title,

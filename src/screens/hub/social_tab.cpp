@@ -1,8 +1,24 @@
 #include "core/number_style.h"
+#include "film/movie_reviews.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
+#include "screens/reception/quotes_view_controller.h"
+#include "screens/reception/rate_movies_view_controller.h"
 
 namespace tb {
+
+namespace {
+
+view::Section reviewing(const WorldState& world) {
+  return {.heading = "REVIEWS",
+          .nodes = {
+              energyMeter(world),
+              view::Button{.label = "Rate a movie", .press = openReview, .price = energyPrice(reviewEnergy)},
+              leadingTo<QuotesViewController>("Quotes", "What you told the press",
+                                              std::to_string(world.saveAllQuotes.size()))}};
+}
+
+}  // namespace
 
 std::vector<view::Node> socialTab(const Game& game) {
   const WorldState& world = game.world;
@@ -11,6 +27,7 @@ std::vector<view::Node> socialTab(const Game& game) {
       view::Tiles{{{.label = "Fans", .value = plainCount(game.locale, world.totalFans)}}},
       weeklyChart("Fans by week", fans,
                   [](double count) { return shortCount(static_cast<std::int64_t>(count)); }),
+      reviewing(world),
   };
 }
 

@@ -9,6 +9,7 @@
 #include "screens/film/movie_management_view_controller.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
+#include "screens/reception/top250_movies_view_controller.h"
 #include "screens/talent/acting_classes_view_controller.h"
 #include "screens/talent/talent_traits_view_controller.h"
 #include "screens/work/active_audition_view_controller.h"
@@ -55,6 +56,7 @@ std::vector<view::Node> workTab(const Game& game) {
                     leadingTo<JobBoardViewController>("Job Board", jobSummary(world))}},
       view::Section{.heading = "INDUSTRY",
                     .nodes = {leadingTo<BoxOfficeViewController>("Box Office", "What the world is watching"),
+                              leadingTo<Top250MoviesViewController>("Top 250", "The best of all time"),
                               leadingTo<MovieManagementViewController>(
                                   "Productions", "Titles with your money behind them")}},
       view::Section{

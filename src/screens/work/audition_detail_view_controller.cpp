@@ -20,18 +20,6 @@ namespace {
 
 // --- What it is ---
 
-Section theRole(const Audition& project) {
-  Section section{.heading = "YOUR ROLE",
-                  .nodes = {Row{.label = project.characterName, .value = project.role},
-                            Text{.text = project.roleDescription}}};
-  if (project.numberOfEpisodesActed > 0) {
-    section.nodes.push_back(
-        Row{.label = "Episodes",
-            .value = std::format("{} of {}", project.numberOfEpisodesActed, project.numberOfEpisodesTotal)});
-  }
-  return section;
-}
-
 Section theProject(const Game& game, const Audition& project) {
   return {.heading = "THE PROJECT",
           .nodes = {Row{.label = "Director", .value = project.directorName},
@@ -39,7 +27,10 @@ Section theProject(const Game& game, const Audition& project) {
                     Row{.label = "Genre", .value = joinedWithAnd(project.genres)},
                     Row{.label = "Budget", .value = shortMoney(game.locale, project.budget)},
                     Row{.label = "Pay",
-                        .value = payWords(game.locale, project.payment, project.buyout, project.residual)},
+                        .value = payWords(game.locale, {.fee = project.payment,
+                                                        .buyout = project.buyout,
+                                                        .residual = project.residual,
+                                                        .royalty = project.royalty})},
                     Row{.label = "Through", .value = project.source}}};
 }
 
@@ -142,7 +133,7 @@ Page AuditionDetailViewController::view(const Game& game) {
       Text{.text = progressWords(game.world, project), .style = Text::Style::large, .tone = Tone::accent},
       thePreparation(project)};
   page.nodes.append_range(actions(game, project));
-  page.nodes.append_range(std::vector<Node>{Text{.text = project.description}, theRole(project),
+  page.nodes.append_range(std::vector<Node>{Text{.text = project.description}, roleSection(project),
                                             theProject(game, project), theRoad(game.world, project)});
   if (isWithdrawalOffered(project)) page.nodes.push_back(withdrawal(project));
   return page;

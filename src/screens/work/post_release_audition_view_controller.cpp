@@ -5,8 +5,10 @@
 #include "core/audition_list.h"
 #include "film/film_record.h"
 #include "screens/parts.h"
+#include "screens/reception/imbd_film_detail_view_controller.h"
 #include "screens/work/project_words.h"
 #include "screens/work/release_figures.h"
+#include "screens/work/syndication_section.h"
 
 namespace tb {
 
@@ -27,6 +29,9 @@ Section reception(const WorldState& world, const Audition& project) {
   for (const std::string& review : film.featuredReviews) {
     if (!review.empty()) section.nodes.push_back(Text{.text = review, .style = Text::Style::quotation});
   }
+  section.nodes.push_back(Row{.label = "Imbd page",
+                              .detail = "Ratings, reviews and all that is known of it",
+                              .press = [id = film.filmId](Stage& stage) { openTitlePage(stage, id); }});
   return section;
 }
 
@@ -71,6 +76,9 @@ Page PostReleaseAuditionViewController::view(const Game& game) {
     page.nodes.push_back(figureChart(game, project, figures));
   }
   page.nodes.push_back(reception(game.world, project));
+  if (auto syndication = syndicationSection(game, project.filmId)) {
+    page.nodes.push_back(*std::move(syndication));
+  }
   Section before = whatCameBefore(game.world, project);
   if (!before.nodes.empty()) page.nodes.push_back(std::move(before));
   return page;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <format>
+#include <vector>
 
 #include "core/number_style.h"
 
@@ -23,14 +24,18 @@ std::string wrappedWords(const WorldState& world, const Audition& project) {
   return (isReleased(world, project) ? "Released " : "Release ") + whenIs(world, project.weekReleased);
 }
 
+template <class Titled>
+std::string withSeason(const Titled& work) {
+  if (work.typeOfFilm != filmType::series || work.seasonNumber < 2) return work.title;
+  return std::format("{} Season {}", work.title, work.seasonNumber);
+}
+
 }  // namespace
 
 std::string typeName(std::int64_t typeOfFilm) { return typeNames[static_cast<std::size_t>(typeOfFilm)]; }
 
-std::string titleWithSeason(const Audition& project) {
-  if (project.typeOfFilm != filmType::series || project.seasonNumber < 2) return project.title;
-  return std::format("{} Season {}", project.title, project.seasonNumber);
-}
+std::string titleWithSeason(const Audition& project) { return withSeason(project); }
+std::string titleWithSeason(const Film& film) { return withSeason(film); }
 
 std::string guildWords(std::int64_t isUnion) { return isUnion == 1 ? "Union" : "Non-union"; }
 
@@ -63,11 +68,30 @@ view::Picture posterOf(const std::string& imageString) {
   return {.kind = view::PictureKind::poster, .name = imageString};
 }
 
-std::string payWords(const Locale& locale, double payment, double buyout, double residual) {
-  std::string words = payment > 0 ? currency(locale, payment, 0) : "Unpaid";
-  if (buyout > 0) words += " • " + currency(locale, buyout, 0) + " buyout";
-  if (residual > 0) words += std::format(" • {:.1f}% residual", residual * 100);
-  return words;
+view::Section roleSection(const Audition& project) {
+  view::Section section{.heading = "YOUR ROLE",
+                        .nodes = {view::Row{.label = project.characterName, .value = project.role},
+                                  view::Text{.text = project.roleDescription}}};
+  if (project.numberOfEpisodesActed > 0) {
+    // The length of the season is known once the role is taken.
+    const std::string season =
+        project.numberOfEpisodesTotal > 0 ? std::format(" of {}", project.numberOfEpisodesTotal) : "";
+    section.nodes.push_back(
+        view::Row{.label = "Episodes", .value = std::format("{}{}", project.numberOfEpisodesActed, season)});
+  }
+  return section;
+}
+
+std::string payWords(const Locale& locale, const Terms& terms) {
+  std::vector<std::string> words;
+  if (terms.fee > 0) words.push_back(currency(locale, terms.fee, 0));
+  if (terms.buyout > 0) words.push_back(currency(locale, terms.buyout, 0) + " buyout");
+  if (terms.royalty > 0) words.push_back(std::format("{:.2f}% royalty", terms.royalty));
+  if (words.empty()) words.emplace_back("Unpaid");
+  if (terms.residual > 0) words.push_back(std::format("{:.1f}% residual", terms.residual * 100));
+  std::string joined = words.front();
+  for (std::size_t index = 1; index < words.size(); ++index) joined += " • " + words[index];
+  return joined;
 }
 
 }  // namespace tb

@@ -15,6 +15,7 @@ namespace tb {
 
 // The title, from the second season of a series on with its number.
 [[nodiscard]] std::string titleWithSeason(const Audition& project);
+[[nodiscard]] std::string titleWithSeason(const Film& film);
 
 // "Union" or "Non-union".
 [[nodiscard]] std::string guildWords(std::int64_t isUnion);
@@ -30,7 +31,18 @@ namespace tb {
 
 [[nodiscard]] view::Picture posterOf(const std::string& imageString);
 
-// "$1,200", and what is offered beside the fee: "$1,200 • $720 buyout • 1.4% residual".
-[[nodiscard]] std::string payWords(const Locale& locale, double payment, double buyout, double residual);
+// The character, the role and its description, and the episodes that the performer is in.
+[[nodiscard]] view::Section roleSection(const Audition& project);
+
+struct Terms {
+  double fee = 0;  // dollars
+  double buyout = 0;
+  double residual = 0;  // a fraction
+  double royalty = 0;   // in percent
+};
+
+// "$1,200", and what is offered beside or in place of the fee: "$1,200 • $720 buyout • 1.4% residual",
+// "0.88% royalty", "Unpaid".
+[[nodiscard]] std::string payWords(const Locale& locale, const Terms& terms);
 
 }  // namespace tb

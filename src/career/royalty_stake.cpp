@@ -1,0 +1,131 @@
+#include "career/royalty_stake.h"
+
+#include <algorithm>
+#include <format>
+#include <utility>
+
+#include "banks/banks.h"
+#include "career/casting_terms.h"
+#include "career/project_start.h"
+#include "career/schedule.h"
+#include "core/house_notices.h"
+#include "core/log.h"
+#include "core/save.h"
+#include "core/signed_agent.h"
+#include "film/catalogue.h"
+#include "social/inbox.h"
+
+namespace tb {
+
+namespace {
+
+constexpr double leastPercent = 0.25;
+constexpr double highestForAWeakAgent = 0.35;  // of an agent who brings no royalty bonus to speak of
+constexpr double stepOfPercent = 0.1;          // of the percent on offer
+constexpr std::int64_t chanceOfStep = 10;
+
+// --- The offer ---
+
+const TalentAgent* agentOf(const WorldState& world) {
+  const auto agent = signedAgent(world);
+  return agent ? &world.saveAllTalentAgents[*agent] : nullptr;
+}
+
+bool isInInbox(const WorldState& world, std::int64_t emailId) {
+  return std::ranges::contains(world.saveAllEmailList, emailId, &Email::id);
+}
+
+double drawPercent(Game& game, const TalentAgent& agent) {
+  const double highest = agent.royaltyBonus <= leastPercent ? highestForAWeakAgent : agent.royaltyBonus;
+  return RandomUnit(game.random, leastPercent, highest);
+}
+
+// A role as the casting board has them, without its money. An agent sends nothing that the guild forbids.
+Audition drawProject(Game& game, double percent) {
+  CastingListing listing{.isPrincipal = rolePart::principal, .isUnion = game.world.isSAG};
+  listing.movie = &RandomElement(game.random, royaltyMovies());
+  listing.role = drawRole(game, listing.isPrincipal);
+  completeListing(game, listing, drawTvRole(game));
+  Audition project = projectFrom(listing);
+  project.payment = 0;
+  project.buyout = 0;
+  project.residual = 0;  // it would be a part of the fee
+  project.royalty = percent;
+  return project;
+}
+
+// --- The deal ---
+
+Notice book(Game& game, Audition project, double percent) {
+  WorldState& world = game.world;
+  const TalentAgent& agent = *agentOf(world);
+  world.filmId += 1;
+  project.filmId = world.filmId;
+  project.royalty = percent;
+  project.source = agent.agency;
+  project.sourceId = agent.id;
+  project.funnelStage = stage::booked;
+  // The e-mail may have waited: the weeks count from the signature.
+  const Schedule schedule = drawSchedule(game);
+  project.weekAudition = schedule.weekAudition;
+  project.weekToWork = schedule.weekToWork;
+  startProject(game, project);
+
+  const std::string line = fill(drawRow(game.random, Bank::royaltySignedBank),
+                                {{"title", project.title}, {"percent", std::format("{:.2f}%", percent)}});
+  logActivity(world, line);
+  world.saveAllAuditionList.push_back(std::move(project));
+  save<&WorldState::filmId, &WorldState::saveAllAuditionList, &WorldState::activityTracker>(game);
+  return {.title = "🎬 Booked 🎬", .message = "\n" + line};
+}
+
+void closeOffer(Game& game, std::int64_t emailId) {
+  game.world.stakeOffers.erase_if([&](const EmailedProject& offer) { return offer.emailId == emailId; });
+  removeEmail(game, emailId);
+}
+
+}  // namespace
+
+const Audition* stakeOffer(const WorldState& world, std::int64_t emailId) {
+  if (!isInInbox(world, emailId) || agentOf(world) == nullptr) return nullptr;
+  const auto offer = std::ranges::find(world.stakeOffers, emailId, &EmailedProject::emailId);
+  return offer == world.stakeOffers.end() ? nullptr : &offer->project;
+}
+
+void makeStakeOffer(Game& game, std::int64_t emailId) {
+  const TalentAgent* const agent = agentOf(game.world);
+  if (agent == nullptr || !isInInbox(game.world, emailId)) return;
+  if (stakeOffer(game.world, emailId) != nullptr) return;
+  const double percent = drawPercent(game, *agent);
+  game.world.stakeOffers.push_back({.emailId = emailId, .project = drawProject(game, percent)});
+}
+
+double percentAsked(const Audition& offer, std::int64_t steps) {
+  return offer.royalty * (1 + stepOfPercent * static_cast<double>(steps));
+}
+
+std::int64_t chanceOfStake(std::int64_t steps) { return 100 - chanceOfStep * steps; }
+
+std::int64_t negotiationBonus(const WorldState& world) {
+  const TalentAgent* const agent = agentOf(world);
+  return agent == nullptr ? 0 : agent->negotiationBonus;
+}
+
+StakeAnswer negotiateStake(Game& game, std::int64_t emailId, std::int64_t steps) {
+  WorldState& world = game.world;
+  if (world.totalEnergyAvailable < stakeNegotiationEnergy) {
+    return {.notice = notEnoughEnergy("\nYou don't have enough energy for intensive negotiations."),
+            .isFinal = false};
+  }
+  const Audition offer = *stakeOffer(world, emailId);
+  world.totalEnergyAvailable -= stakeNegotiationEnergy;
+  save<&WorldState::totalEnergyAvailable>(game);
+  const bool agreed = chanceOfStake(steps) + negotiationBonus(world) > RandomRange(game.random, 100) + 1;
+  Notice notice = agreed ? book(game, offer, percentAsked(offer, steps))
+                         : Notice{.title = "❌ Negotiation Failed! ❌",
+                                  .message = "\nThe team declined your offer at that royalty."};
+  closeOffer(game, emailId);
+  return {.notice = std::move(notice), .isFinal = true};
+}
+
+}  // namespace tb

@@ -1,0 +1,127 @@
+#include "film/banana_reviews.h"
+
+#include <algorithm>
+#include <array>
+#include <format>
+
+#include "banks/banks.h"
+#include "banks/names.h"
+#include "core/bands.h"
+#include "core/text.h"
+#include "film/banana_scores.h"
+#include "film/film_record.h"
+#include "film/user_reviews.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::int64_t mostCards = 5;
+constexpr std::int64_t weeksOfAYear = 52;
+
+// --- Critics ---
+
+// What a critic writes and the score of the card, by the whole percent of all critics. Above the last band
+// there is neither.
+struct CriticBand {
+  std::int64_t upTo;
+  Bank review;
+  double lowestScore;
+  double highestScore;
+};
+constexpr std::array<CriticBand, 5> criticBands = {{
+    {.upTo = 20, .review = Bank::longReviewBank1, .lowestScore = 1, .highestScore = 20},
+    {.upTo = 40, .review = Bank::longReviewBank2, .lowestScore = 21, .highestScore = 40},
+    {.upTo = 60, .review = Bank::longReviewBank3, .lowestScore = 41, .highestScore = 60},
+    {.upTo = 80, .review = Bank::longReviewBank4, .lowestScore = 61, .highestScore = 80},
+    {.upTo = 100, .review = Bank::longReviewBank5, .lowestScore = 81, .highestScore = 100},
+}};
+constexpr double scoreOfAStar = 25;
+
+// The portraits are numbered from 1.
+struct Portraits {
+  std::string_view stem;
+  std::int64_t count;
+};
+constexpr Portraits portraitsOfWomen = {.stem = "critic_f", .count = 24};
+constexpr Portraits portraitsOfMen = {.stem = "critic_m", .count = 35};
+constexpr int drawsForNewFace = 10;
+
+// A face that no other card shows; after ten draws, a face that one does.
+std::string drawPortrait(RandomSource& random, const Portraits& portraits, const std::vector<Review>& cards) {
+  std::string image;
+  for (int draw = 0; draw < drawsForNewFace; ++draw) {
+    image = std::format("{} ({}).png", portraits.stem, 1 + RandomRange(random, portraits.count));
+    if (!std::ranges::contains(cards, image, &Review::image)) break;
+  }
+  return image;
+}
+
+Review criticCard(Game& game, const Film& film, double criticScore, const std::vector<Review>& others) {
+  Review card;
+  if (const CriticBand* const band = bandOf(criticBands, wholePercent(criticScore))) {
+    card.review = drawReview(game, band->review, film, lowerCase(mainGenre(film)));
+    const double score = RandomUnit(game.random, band->lowestScore, band->highestScore);
+    card.stars = std::max(1.0, score / scoreOfAStar);
+  }
+  const bool is_male = RandomRange(game.random, 2) == 0;
+  card.name = inventedName(game.random, is_male);
+  card.newsOutlet = drawRow(game.random, Bank::reviewerCompanies);
+  card.image = drawPortrait(game.random, is_male ? portraitsOfMen : portraitsOfWomen, others);
+  return card;
+}
+
+// --- The audience ---
+
+// Tastes differ by a star to either side.
+std::int64_t drawStars(RandomSource& random, double audienceScore) {
+  constexpr double scoreOfALevel = 20;
+  constexpr std::int64_t mostStars = 5;
+  const auto level = static_cast<std::int64_t>(audienceScore / scoreOfALevel);
+  return std::clamp<std::int64_t>(level + RandomRange(random, 3), 1, mostStars);
+}
+
+AudienceReview audienceCard(Game& game, const Film& film, double audienceScore) {
+  AudienceReview card{.stars = drawStars(game.random, audienceScore)};
+  card.review = drawReview(game, snippetsOfLevel(static_cast<std::size_t>(card.stars - 1)), film);
+  card.name = drawHandle(game.random);
+  return card;
+}
+
+// --- Dates ---
+
+// The Friday of a week of the tracked count, which may lie in a year before.
+DateLabel dateOf(const Game& game, std::int64_t trackedWeek) {
+  const WorldState& world = game.world;
+  const std::int64_t weeks_ago = world.weekNumberForTracking - trackedWeek;
+  const std::int64_t weeks = world.yearNumber * weeksOfAYear + world.weekNumber - 1 - weeks_ago;
+  return dateLabel(game.locale, weeks % weeksOfAYear + 1, weeks / weeksOfAYear).value_or(DateLabel{});
+}
+
+// A week from the release on, up to a year after it.
+std::int64_t drawWeekOnShow(Game& game, const Film& film) {
+  const std::int64_t weeks = game.world.weekNumberForTracking - film.weekReleased;
+  return film.weekReleased + RandomRange(game.random, std::clamp<std::int64_t>(weeks, 1, weeksOfAYear));
+}
+
+}  // namespace
+
+std::vector<Review> drawCriticCards(Game& game, const Film& film, double criticScore) {
+  std::vector<Review> cards;
+  while (std::ssize(cards) < std::min(mostCards, film.numMetascoreRatings)) {
+    cards.push_back(criticCard(game, film, criticScore, cards));
+    cards.back().date = dateOf(game, film.weekReleased);
+  }
+  return cards;
+}
+
+std::vector<AudienceReview> drawAudienceCards(Game& game, const Film& film, double audienceScore) {
+  std::vector<AudienceReview> cards;
+  while (std::ssize(cards) < std::min(mostCards, film.numImbdRatings)) {
+    cards.push_back(audienceCard(game, film, audienceScore));
+    cards.back().date = dateOf(game, drawWeekOnShow(game, film));
+  }
+  return cards;
+}
+
+}  // namespace tb

@@ -1,0 +1,48 @@
+#include "film/cast_list.h"
+
+#include <cstdint>
+
+#include "banks/names.h"
+#include "core/world_state.h"
+
+namespace tb {
+
+namespace {
+
+constexpr int colleagues = 4;
+
+// A source that gives the same words for the same film: nothing here is left to chance, but names are made in
+// one place only. (The mixing is that of SplitMix64.)
+class WordsOfFilm : public RandomSource {
+ public:
+  explicit WordsOfFilm(std::int64_t filmId) : state_(static_cast<std::uint64_t>(filmId)) {}
+
+  std::uint64_t next() override {
+    state_ += 0x9E3779B97F4A7C15;
+    std::uint64_t word = state_;
+    word = (word ^ (word >> 30)) * 0xBF58476D1CE4E5B9;
+    word = (word ^ (word >> 27)) * 0x94D049BB133111EB;
+    return word ^ (word >> 31);
+  }
+
+ private:
+  std::uint64_t state_;
+};
+
+}  // namespace
+
+std::vector<std::string> castList(const Film& film) {
+  std::vector<std::string> cast = film.didAct == 1 ? film.cast : std::vector<std::string>();
+  if (film.typeOfFilm == filmType::commercial) return cast;
+  WordsOfFilm words(film.filmId);
+  const auto small_part = film.isPrincipal == rolePart::background ? cast.begin() : cast.end();
+  std::vector<std::string> others;
+  for (int index = 0; index < colleagues; ++index) {
+    const bool is_male = RandomRange(words, 2) == 0;
+    others.push_back(inventedName(words, is_male));
+  }
+  cast.insert(small_part, others.begin(), others.end());
+  return cast;
+}
+
+}  // namespace tb

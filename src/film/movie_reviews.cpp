@@ -1,0 +1,78 @@
+#include "film/movie_reviews.h"
+
+#include <array>
+
+#include "banks/banks.h"
+#include "core/house_notices.h"
+#include "core/save.h"
+#include "core/text.h"
+
+namespace tb {
+
+namespace {
+
+// The sentences that go with 1-2, 3-4, 5-6, 7-8 and 9-10 stars.
+struct SentenceBanks {
+  Bank middle;
+  Bank last;
+};
+constexpr std::array<SentenceBanks, 5> sentencesOfLevels = {{
+    {.middle = Bank::reviewMiddle1, .last = Bank::reviewLast1},
+    {.middle = Bank::reviewMiddle2, .last = Bank::reviewLast2},
+    {.middle = Bank::reviewMiddle3, .last = Bank::reviewLast3},
+    {.middle = Bank::reviewMiddle4, .last = Bank::reviewLast4},
+    {.middle = Bank::reviewMiddle5, .last = Bank::reviewLast5},
+}};
+
+}  // namespace
+
+void rateFilm(Game& game, std::size_t filmIndex, std::int64_t stars) {
+  if (game.world.saveAllFilmList[filmIndex].myRating != 0) return;
+  game.world.saveAllFilmList.edit(filmIndex).myRating = static_cast<double>(stars);
+  save<&WorldState::saveAllFilmList>(game);
+}
+
+Refusal startReview(Game& game) {
+  if (game.world.totalEnergyAvailable < reviewEnergy) {
+    return notEnoughEnergy("\nYou don't have the energy to review a title right now.");
+  }
+  game.world.totalEnergyAvailable -= reviewEnergy;
+  save<&WorldState::totalEnergyAvailable>(game);
+  return {};
+}
+
+const CatalogueTitle& drawTitleToReview(RandomSource& random) {
+  return RandomElement(random, rateMovieCatalogue());
+}
+
+Refusal needsRating(std::int64_t rating) {
+  if (rating > 0) return {};
+  return Notice{.title = "⭐️ Choose a Rating! ⭐️", .message = "\nYou need to choose a rating first."};
+}
+
+std::string generatedReview(RandomSource& random, std::int64_t rating) {
+  const SentenceBanks& sentences = sentencesOfLevels[static_cast<std::size_t>((rating - 1) / 2)];
+  const std::string& first = drawRow(random, Bank::reviewFirstSentence);
+  const std::string& middle = drawRow(random, sentences.middle);
+  return first + " " + middle + " " + drawRow(random, sentences.last);
+}
+
+Refusal submitReview(Game& game, const std::string& title, std::int64_t rating, const std::string& text) {
+  WorldState& world = game.world;
+  if (Refusal refusal = needsRating(rating)) return refusal;
+  std::string review = trimmed(text);
+  if (review.empty()) {
+    return Notice{.title = "⭐️ Leave a Review! ⭐️",
+                  .message = "\nWrite a short review or hit the green star for a randomly generated review!"};
+  }
+  world.saveAllMovieReviews.push_front({.title = title,
+                                        .review = std::move(review),
+                                        .rating = rating,
+                                        .weekNumber = world.weekNumber,
+                                        .yearNumber = world.yearNumber,
+                                        .weekNumberForTracking = world.weekNumberForTracking});
+  save<&WorldState::saveAllMovieReviews>(game);
+  return {};
+}
+
+}  // namespace tb

@@ -1,0 +1,173 @@
+#include "film/review_summary.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <format>
+#include <functional>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include "banks/banks.h"
+#include "core/bands.h"
+#include "core/text.h"
+
+namespace tb {
+
+namespace {
+
+// --- What reviews speak of ---
+
+using Words = std::span<const std::string_view>;
+
+struct Topic {
+  std::string_view name;
+  Words keywords;
+};
+
+constexpr auto performances =
+    std::to_array<std::string_view>({"acting", "performance", "cast", "actor", "chemistry", "range",
+                                     "carried", "ate", "served", "snapped", "aura"});
+constexpr auto visuals =
+    std::to_array<std::string_view>({"cinematography", "visual", "shot", "shots", "look", "pretty",
+                                     "gorgeous", "aesthetic", "frames", "wallpaper"});
+constexpr auto soundtrack = std::to_array<std::string_view>({"soundtrack", "music", "score", "song", "bop"});
+constexpr auto story = std::to_array<std::string_view>(
+    {"story", "writing", "script", "plot", "twist", "ending", "world-building", "lore"});
+constexpr auto goodPacing =
+    std::to_array<std::string_view>({"pacing", "tight", "moves", "fast", "smooth", "locked in"});
+constexpr std::array<Topic, 5> praiseTopics = {{{.name = "performances", .keywords = performances},
+                                                {.name = "visuals", .keywords = visuals},
+                                                {.name = "soundtrack", .keywords = soundtrack},
+                                                {.name = "story", .keywords = story},
+                                                {.name = "pacing", .keywords = goodPacing}}};
+
+constexpr auto badPacing =
+    std::to_array<std::string_view>({"drag", "dragging", "slow", "boring", "slog", "buffering", "rushed"});
+constexpr auto writing = std::to_array<std::string_view>(
+    {"script", "writing", "dialogue", "cringe", "corny", "predictable", "lazy", "first draft", "yapping"});
+constexpr auto plot = std::to_array<std::string_view>(
+    {"plot hole", "plot holes", "confusing", "incoherent", "messy", "doesn't make sense", "no sense"});
+constexpr auto tone =
+    std::to_array<std::string_view>({"tone", "all over the place", "identity crisis", "inconsistent"});
+constexpr auto cgi = std::to_array<std::string_view>({"cgi", "vfx", "effects", "green screen"});
+constexpr std::array<Topic, 5> complaintTopics = {{{.name = "pacing", .keywords = badPacing},
+                                                   {.name = "writing", .keywords = writing},
+                                                   {.name = "plot", .keywords = plot},
+                                                   {.name = "tone", .keywords = tone},
+                                                   {.name = "cgi", .keywords = cgi}}};
+
+constexpr auto slang = std::to_array<std::string_view>(
+    {"fr",   "ngl",       "lowkey",    "highkey", "no cap",  "cap", "cooked",  "ate",     "slay",    "mid",
+     "vibe", "locked in", "rent free", "npc",     "yapping", "bop", "serving", "snapped", "fumbled", "w"});
+constexpr auto praise = std::to_array<std::string_view>(
+    {"love", "loved", "great", "amazing", "incredible", "masterpiece", "phenomenal", "excellent", "solid",
+     "fun", "fire", "peak", "iconic", "beautiful", "clean", "hits"});
+constexpr auto blame =
+    std::to_array<std::string_view>({"hate", "hated", "bad", "terrible", "awful", "boring", "cringe", "messy",
+                                     "confusing", "lazy", "flop", "trash", "waste", "pain", "mid"});
+
+constexpr std::size_t topicsNamed = 2;        // of each kind
+constexpr std::int64_t slangOfARegister = 2;  // from here on the reviews are casual
+
+// --- How they are summed up ---
+
+struct SentenceBanks {
+  Bank verdict;
+  Bank balance;
+  Bank consensus;
+  Bank advice;
+};
+
+// By the words of praise less those of blame.
+struct Mood {
+  std::int64_t upTo;
+  std::string_view label;
+  SentenceBanks casual;
+  SentenceBanks formal;
+};
+
+constexpr std::array<Mood, 5> moods = {{
+    {.upTo = -3,
+     .label = "very negative",
+     .casual = {Bank::verdictCasualVeryNegative, Bank::balanceCasualVeryNegative,
+                Bank::consensusCasualVeryNegative, Bank::adviceCasualVeryNegative},
+     .formal = {Bank::verdictFormalVeryNegative, Bank::balanceFormalVeryNegative,
+                Bank::consensusFormalVeryNegative, Bank::adviceFormalVeryNegative}},
+    {.upTo = -1,
+     .label = "mixed-to-negative",
+     .casual = {Bank::verdictCasualMixedToNegative, Bank::balanceCasualMixedToNegative,
+                Bank::consensusCasualMixedToNegative, Bank::adviceCasualMixedToNegative},
+     .formal = {Bank::verdictFormalMixedToNegative, Bank::balanceFormalMixedToNegative,
+                Bank::consensusFormalMixedToNegative, Bank::adviceFormalMixedToNegative}},
+    {.upTo = 0,
+     .label = "mixed",
+     .casual = {Bank::verdictCasualMixed, Bank::balanceCasualMixed, Bank::consensusCasualMixed,
+                Bank::adviceCasualMixed},
+     .formal = {Bank::verdictFormalMixed, Bank::balanceFormalMixed, Bank::consensusFormalMixed,
+                Bank::adviceFormalMixed}},
+    {.upTo = 2,
+     .label = "positive",
+     .casual = {Bank::verdictCasualPositive, Bank::balanceCasualPositive, Bank::consensusCasualPositive,
+                Bank::adviceCasualPositive},
+     .formal = {Bank::verdictFormalPositive, Bank::balanceFormalPositive, Bank::consensusFormalPositive,
+                Bank::adviceFormalPositive}},
+    {.upTo = std::numeric_limits<std::int64_t>::max(),
+     .label = "very positive",
+     .casual = {Bank::verdictCasualVeryPositive, Bank::balanceCasualVeryPositive,
+                Bank::consensusCasualVeryPositive, Bank::adviceCasualVeryPositive},
+     .formal = {Bank::verdictFormalVeryPositive, Bank::balanceFormalVeryPositive,
+                Bank::consensusFormalVeryPositive, Bank::adviceFormalVeryPositive}},
+}};
+
+// --- Reading ---
+
+// All reviews in one piece, in lower case.
+std::string joined(std::span<const std::string> reviews) {
+  std::string text;
+  for (const std::string& review : reviews) text += lowerCase(trimmed(review));
+  return text;
+}
+
+// How many of the words occur, be it inside of another word. How often one occurs makes no difference.
+std::int64_t wordsIn(const std::string& text, Words keywords) {
+  return std::ranges::count_if(keywords, [&](std::string_view word) { return text.contains(word); });
+}
+
+// The topics that come up, the most discussed first, or `otherwise`.
+std::string topicsIn(const std::string& text, std::span<const Topic> topics, std::string_view otherwise) {
+  std::vector<Topic> found(topics.begin(), topics.end());
+  const auto discussed = [&](const Topic& topic) { return wordsIn(text, topic.keywords); };
+  std::erase_if(found, [&](const Topic& topic) { return discussed(topic) == 0; });
+  std::ranges::stable_sort(found, std::greater{}, discussed);
+  if (found.size() > topicsNamed) found.resize(topicsNamed);
+  std::vector<std::string> names;
+  for (const Topic& topic : found) names.emplace_back(topic.name);
+  return names.empty() ? std::string(otherwise) : joinedWithAnd(names);
+}
+
+}  // namespace
+
+std::string summarizeReviews(RandomSource& random, std::span<const std::string> reviews,
+                             const std::optional<std::string>& title) {
+  const std::string text = joined(reviews);
+  if (text.empty()) return "Not enough reviews to generate a summary yet.";
+
+  const bool is_casual = wordsIn(text, slang) >= slangOfARegister;
+  const Mood& mood = *bandOf(moods, wordsIn(text, praise) - wordsIn(text, blame));
+  const SentenceBanks& banks = is_casual ? mood.casual : mood.formal;
+
+  const std::string subject = title ? "\"" + *title + "\"" : "this film";
+  const std::string good = topicsIn(text, praiseTopics, is_casual ? "some moments" : "a few highlights");
+  const std::string bad =
+      topicsIn(text, complaintTopics, is_casual ? "a couple rough spots" : "a few rough edges");
+
+  const std::string verdict = fill(drawRow(random, banks.verdict), {{"subject", subject}});
+  const std::string balance = fill(drawRow(random, banks.balance), {{"good", good}, {"bad", bad}});
+  const std::string consensus = fill(drawRow(random, banks.consensus), {{"label", mood.label}});
+  const std::string& advice = drawRow(random, banks.advice);
+  return std::format("{} {} {} {}", verdict, balance, consensus, advice);
+}
+
+}  // namespace tb

@@ -1,0 +1,115 @@
+#include "film/user_reviews.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <numeric>
+
+namespace tb {
+
+namespace {
+
+using StarShares = std::array<double, starsOfRating>;
+
+constexpr double spreadOfTaste = 2;   // stars
+constexpr double oddOpinions = 0.08;  // the part of the audience that rates at random
+constexpr double leastShown = 1.18;   // shown ratings to given ones, for a metascore of 0
+constexpr std::size_t mostReviews = 5;
+constexpr int drawsForReviews = 25;
+
+// What audiences write, by level of liking: 1-2, 3-4, 5-6, 7-8 and 9-10 stars.
+struct LevelBanks {
+  Bank snippets;
+  Bank bodies;
+};
+constexpr std::array<LevelBanks, 5> levels = {{
+    {.snippets = Bank::userReviewSnippet1, .bodies = Bank::userReviewBody1},
+    {.snippets = Bank::userReviewSnippet2, .bodies = Bank::userReviewBody2},
+    {.snippets = Bank::userReviewSnippet3, .bodies = Bank::userReviewBody3},
+    {.snippets = Bank::userReviewSnippet4, .bodies = Bank::userReviewBody4},
+    {.snippets = Bank::userReviewSnippet5, .bodies = Bank::userReviewBody5},
+}};
+
+void normalise(StarShares& shares) {
+  const double sum = std::accumulate(shares.begin(), shares.end(), 0.0);
+  for (double& share : shares) share /= sum;
+}
+
+// A bell over the stars around the title's rating, on a floor of odd opinions.
+StarShares sharesOfStars(double rating) {
+  StarShares shares{};
+  for (std::size_t star = 0; star < starsOfRating; ++star) {
+    const double distance = (static_cast<double>(star + 1) - rating) / spreadOfTaste;
+    shares[star] = std::exp(-0.5 * distance * distance);
+  }
+  normalise(shares);
+  constexpr double evenShare = 1.0 / starsOfRating;
+  for (double& share : shares) share = oddOpinions * evenShare + (1 - oddOpinions) * share;
+  normalise(shares);
+  return shares;
+}
+
+// Whom whole numbers treated worst is first.
+std::array<std::size_t, starsOfRating> byFraction(const StarShares& fractions) {
+  std::array<std::size_t, starsOfRating> order{};
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::ranges::stable_sort(order, std::greater{}, [&](std::size_t star) { return fractions[star]; });
+  return order;
+}
+
+Reviews reviewOf(Game& game, const Film& film, std::size_t star) {
+  const LevelBanks& level = levels[star / 2];
+  Reviews review{.rating = static_cast<std::int64_t>(star + 1)};
+  review.snippet = drawReview(game, level.snippets, film);
+  review.review = drawReview(game, level.bodies, film);
+  review.username = drawHandle(game.random);
+  return review;
+}
+
+}  // namespace
+
+std::int64_t shownRatings(const Film& film) {
+  const double factor = static_cast<double>(film.imbdMetascore) / 100 + leastShown;
+  return static_cast<std::int64_t>(static_cast<double>(film.numImbdRatings) * factor);
+}
+
+StarHistogram starHistogram(const Film& film) {
+  StarHistogram counts{};
+  StarShares fractions = sharesOfStars(film.imbdRating);
+  std::int64_t left = film.numImbdRatings;
+  for (std::size_t star = 0; star < starsOfRating; ++star) {
+    const double exact = fractions[star] * static_cast<double>(film.numImbdRatings);
+    counts[star] = static_cast<std::int64_t>(std::floor(exact));
+    fractions[star] = exact - std::floor(exact);
+    left -= counts[star];
+  }
+  const auto order = byFraction(fractions);
+  for (std::size_t turn = 0; left > 0; ++turn, --left) counts[order[turn % starsOfRating]] += 1;
+  return counts;
+}
+
+std::vector<Reviews> drawUserReviews(Game& game, const Film& film, const StarHistogram& histogram) {
+  std::vector<Reviews> reviews;
+  if (film.numImbdRatings == 0) return reviews;
+  for (int draw = 0; draw < drawsForReviews && reviews.size() < mostReviews; ++draw) {
+    const auto star = static_cast<std::size_t>(RandomRange(game.random, starsOfRating));
+    if (histogram[star] > 0) reviews.push_back(reviewOf(game, film, star));
+  }
+  return reviews;
+}
+
+Bank snippetsOfLevel(std::size_t level) { return levels[level].snippets; }
+
+std::string drawHandle(RandomSource& random) {
+  const std::string& first = drawRow(random, Bank::handleFirstParts);
+  return first + drawRow(random, Bank::handleSecondParts);
+}
+
+std::string drawReview(Game& game, Bank bank, const Film& film, const std::string& genre) {
+  return fill(drawRow(game.random, bank), {{"title", film.title},
+                                           {"director", film.directorName},
+                                           {"name", game.world.myName},
+                                           {"genre", genre}});
+}
+
+}  // namespace tb

@@ -1,0 +1,213 @@
+#include "screens/reception/imbd_film_detail_view_controller.h"
+
+#include <algorithm>
+#include <cmath>
+#include <format>
+#include <numeric>
+
+#include "core/number_style.h"
+#include "core/text.h"
+#include "film/cast_list.h"
+#include "film/film_record.h"
+#include "film/movie_reviews.h"
+#include "film/review_summary.h"
+#include "film/top_titles.h"
+#include "screens/film/imbd_box_office_detail_view_controller.h"
+#include "screens/parts.h"
+#include "screens/reception/quotes_view_controller.h"
+#include "screens/reception/rotten_banana_detail_view_controller.h"
+#include "screens/reception/top250_movies_view_controller.h"
+#include "screens/work/project_words.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+std::string kindOf(const Film& film) {
+  std::string kind = std::format("{} • {}", typeName(film.typeOfFilm), film.yearReleased);
+  if (!film.ageRating.empty()) kind += " • " + film.ageRating;
+  if (film.lengthMinutes > 0) kind += std::format(" • {} min", film.lengthMinutes);
+  return kind;
+}
+
+// --- Scores ---
+
+Tiles scores(const Game& game, const Film& film, std::optional<std::size_t> place) {
+  return {{{.label = "Imbd",
+            .value = std::format("{:.1f}", film.imbdRating),
+            .detail = plainCount(game.locale, shownRatings(film)) + " ratings"},
+           {.label = "Metascore",
+            .value = std::to_string(film.imbdMetascore),
+            .detail = plainCount(game.locale, film.numMetascoreRatings) + " critics"},
+           {.label = "Top 250", .value = place ? std::format("#{}", *place) : "Unranked"}}};
+}
+
+Meter popularity(const Film& film) {
+  const double change = film.currentPopularity - film.lastWeekPopularity;
+  std::string trend = "as last week";
+  if (std::abs(change) >= 0.05) {
+    trend = std::format("{} {:.1f} since last week", change > 0 ? "up" : "down", std::abs(change));
+  }
+  return {.label = "Popularity",
+          .value = film.currentPopularity,
+          .maximum = 100,
+          .text = std::format("{:.1f}, {}", film.currentPopularity, trend)};
+}
+
+// --- The player's own rating ---
+
+std::string starsOf(std::int64_t stars) {
+  std::string text;
+  for (std::int64_t star = 0; star < stars; ++star) text += "★";
+  return text;
+}
+
+void askForRating(Stage& stage, const std::string& title, std::int64_t filmId) {
+  std::vector<Button> answers;
+  for (std::int64_t stars = mostStars; stars >= 1; --stars) {
+    answers.push_back(
+        {.label = std::format("{} {}", stars, starsOf(stars)), .press = [filmId, stars](Stage& asked) {
+           rateFilm(asked.game(), filmIndex(asked.game().world, filmId), stars);
+           asked.worldChanged();
+         }});
+  }
+  answers.push_back({.label = "Cancel", .weight = Button::Weight::quiet});
+  stage.ask(Notice{.title = title, .message = "\nHow would you rate it out of 10?"}, std::move(answers));
+}
+
+Node ownRating(const Film& film) {
+  if (film.myRating > 0) {
+    return Stars{.label = "Your rating", .value = film.myRating, .outOf = static_cast<int>(mostStars)};
+  }
+  return Button{.label = "Rate this title",
+                .press = [title = titleWithSeason(film), id = film.filmId](Stage& stage) {
+                  askForRating(stage, title, id);
+                }};
+}
+
+// --- The audience ---
+
+Chart starChart(const StarHistogram& histogram) {
+  Chart chart{.kind = Chart::Kind::histogram, .title = "How viewers rate it"};
+  const auto ratings =
+      static_cast<double>(std::accumulate(histogram.begin(), histogram.end(), std::int64_t{0}));
+  const auto percent = [](double share) { return std::format("{:.1f}%", share); };
+  double highest = 0;
+  for (std::size_t star = 0; star < histogram.size(); ++star) {
+    const double share = static_cast<double>(histogram[star]) / ratings * 100;
+    chart.points.push_back({.label = std::format("{}★", star + 1), .value = share, .text = percent(share)});
+    highest = std::max(highest, share);
+  }
+  for (const double mark : roundScale(0, highest)) {
+    chart.scale.push_back({mark, std::format("{:.0f}%", mark)});
+  }
+  const auto most = std::ranges::max_element(histogram);
+  chart.summary = std::format("The rating given most is {} of 10.", most - histogram.begin() + 1);
+  return chart;
+}
+
+Card userReview(const Reviews& review) {
+  return {.title = review.snippet,
+          .nodes = {Stars{.label = review.username,
+                          .value = static_cast<double>(review.rating),
+                          .outOf = static_cast<int>(mostStars)},
+                    Text{.text = review.review}}};
+}
+
+// --- The people and the rest ---
+
+Section storyline(const Film& film) {
+  Section section{
+      .heading = "STORYLINE",
+      .nodes = {Text{.text = film.movieDescription}, Row{.label = "Director", .value = film.directorName},
+                Row{.label = "Writer", .value = film.writerName},
+                Row{.label = "Genre", .value = joinedWithAnd(film.genres)}}};
+  if (film.didAct == 1) {
+    section.nodes.push_back(
+        Row{.label = "Your part", .value = film.characterName, .detail = film.role, .tone = Tone::accent});
+  }
+  section.nodes.push_back(Row{.label = "Cast", .detail = joinedWithAnd(castList(film))});
+  if (!film.debutNetwork.empty()) {
+    section.nodes.push_back(Row{.label = "Network",
+                                .value = film.debutNetwork,
+                                .picture = {{.kind = PictureKind::logo, .name = film.debutImageString}}});
+  }
+  return section;
+}
+
+Section critics(const Film& film) {
+  Section section{.heading = "CRITICS"};
+  for (const std::string& review : film.featuredReviews) {
+    if (!review.empty()) section.nodes.push_back(Text{.text = review, .style = Text::Style::quotation});
+  }
+  section.nodes.push_back(Row{.label = "RottenBanana",
+                              .detail = "What critics and audiences make of it",
+                              .press = [title = film.title](Stage& stage) {
+                                stage.open(std::make_unique<RottenBananaDetailViewController>(title));
+                              }});
+  return section;
+}
+
+Section more(const WorldState& world, const Film& film) {
+  const bool is_series = film.typeOfFilm == filmType::series;
+  const auto quotes = std::ranges::count(world.saveAllQuotes, film.filmId, &Quote::filmId);
+  return {
+      .heading = "MORE",
+      .nodes = {
+          Row{.label = "Box office",
+              .press = [id = film.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }},
+          Row{.label = "Top 250",
+              .press =
+                  [is_series](Stage& stage) {
+                    const auto list = is_series ? TopList::shows : TopList::movies;
+                    stage.open(std::make_unique<Top250MoviesViewController>(list));
+                  }},
+          Row{.label = "Quotes", .value = std::to_string(quotes), .press = [id = film.filmId](Stage& stage) {
+                stage.open(std::make_unique<QuotesViewController>(id));
+              }}}};
+}
+
+}  // namespace
+
+void ImbdFilmDetailViewController::load(Stage& stage) {
+  Game& game = stage.game();
+  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
+  place_ = placeOf(topTitles(game.world), film_id_);
+  histogram_ = starHistogram(film);
+  reviews_ = drawUserReviews(game, film, histogram_);
+  if (reviews_.empty()) return;
+  std::vector<std::string> texts;
+  for (const Reviews& review : reviews_) texts.push_back(review.review);
+  summary_ = summarizeReviews(game.random, texts, film.title);
+}
+
+Section ImbdFilmDetailViewController::audience() const {
+  Section section{.heading = "USER REVIEWS", .nodes = {starChart(histogram_)}};
+  if (!summary_.empty()) section.nodes.push_back(Text{.text = summary_});
+  for (const Reviews& review : reviews_) section.nodes.push_back(userReview(review));
+  return section;
+}
+
+Page ImbdFilmDetailViewController::view(const Game& game) {
+  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
+  Page page{.title = titleWithSeason(film), .subtitle = kindOf(film), .nodes = {posterOf(film.imageString)}};
+  if (film.numImbdRatings == 0) {
+    page.nodes.push_back(caption("Nobody has seen it yet. The ratings come with the release."));
+    page.nodes.push_back(storyline(film));
+    return page;
+  }
+  page.nodes.append_range(std::vector<Node>{scores(game, film, place_), popularity(film), ownRating(film),
+                                            storyline(film), audience(), critics(film),
+                                            more(game.world, film)});
+  return page;
+}
+
+void openTitlePage(Stage& stage, std::int64_t filmId) {
+  const WorldState& world = stage.game().world;
+  if (filmIndex(world, filmId) == world.saveAllFilmList.size()) return;
+  stage.open(std::make_unique<ImbdFilmDetailViewController>(filmId));
+}
+
+}  // namespace tb

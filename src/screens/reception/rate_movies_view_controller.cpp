@@ -1,0 +1,69 @@
+#include "screens/reception/rate_movies_view_controller.h"
+
+#include <format>
+
+#include "film/movie_reviews.h"
+#include "screens/parts.h"
+#include "screens/work/project_words.h"
+
+namespace tb {
+
+using namespace view;
+
+void RateMoviesViewController::load(Stage& stage) { title_ = &drawTitleToReview(stage.game().random); }
+
+Choice RateMoviesViewController::stars() {
+  Choice choice{.label = "Your rating"};
+  for (std::int64_t stars = 1; stars <= mostStars; ++stars) {
+    choice.options.push_back({.label = std::format("{} ★", stars),
+                              .chosen = rating_ == stars,
+                              .press = [this, stars](Stage&) { rating_ = stars; }});
+  }
+  return choice;
+}
+
+void RateMoviesViewController::generate(Stage& stage) {
+  if (Refusal refusal = needsRating(rating_)) return stage.show(std::move(refusal));
+  review_ = generatedReview(stage.game().random, rating_);
+}
+
+void RateMoviesViewController::submit(Stage& stage) {
+  if (Refusal refusal = submitReview(stage.game(), title_->title, rating_, review_)) {
+    return stage.show(std::move(refusal));
+  }
+  const std::size_t reviews = stage.game().world.saveAllMovieReviews.size();
+  stage.show(Notice{.title = "⭐️ Review Published ⭐️",
+                    .message = std::format("\nYour fans can read your review of {}. You have written {} in "
+                                           "all.",
+                                           title_->title, reviews)});
+  stage.worldChanged();
+  stage.close();
+}
+
+Page RateMoviesViewController::view(const Game&) {
+  return {.title = std::format("What do you think about {} ({})?", title_->title, title_->year),
+          .subtitle =
+              "As your fanbase grows, you can earn weekly income from reviews. Fans want to know your "
+              "thoughts",
+          .nodes = {posterOf(title_->imageString), caption(title_->description), stars(),
+                    Field{.label = "Your review",
+                          .value = review_,
+                          .type = [this](Stage&, const std::string& text) { review_ = text; },
+                          .hint = "A sentence or two will do",
+                          .maximumLength = 600,
+                          .severalLines = true},
+                    Buttons{{{.label = "❇️ Write it for me",
+                              .press = [this](Stage& stage) { generate(stage); },
+                              .weight = Button::Weight::quiet},
+                             {.label = "Submit",
+                              .press = [this](Stage& stage) { submit(stage); },
+                              .weight = Button::Weight::primary}}}}};
+}
+
+void openReview(Stage& stage) {
+  if (Refusal refusal = startReview(stage.game())) return stage.show(std::move(refusal));
+  stage.worldChanged();
+  stage.open(std::make_unique<RateMoviesViewController>());
+}
+
+}  // namespace tb

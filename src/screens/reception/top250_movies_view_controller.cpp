@@ -1,0 +1,69 @@
+#include "screens/reception/top250_movies_view_controller.h"
+
+#include <format>
+
+#include "screens/film/box_office_parts.h"
+#include "screens/parts.h"
+#include "screens/reception/imbd_film_detail_view_controller.h"
+#include "screens/work/project_words.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+// A title of the player's stands out and leads to its page.
+template <class Title>
+Row rowOf(std::size_t place, const Title& title) {
+  Row row{.label = std::format("{}. {}", place, title.title)};
+  if (title.filmId < 0) return row;
+  row.tone = Tone::accent;
+  row.picture = {posterOf(title.imageString)};
+  row.press = [id = title.filmId](Stage& stage) { openTitlePage(stage, id); };
+  return row;
+}
+
+Row movieRow(const Locale& locale, std::size_t place, const BoxOfficeWeekends& movie) {
+  Row row = rowOf(place, movie);
+  row.value = shownMoney(locale, movie.totalGross);
+  row.detail = std::to_string(movie.yearReleased);
+  return row;
+}
+
+Row showRow(std::size_t place, const TopShow& show) {
+  Row row = rowOf(place, show);
+  row.value = std::format("{:.1f}", show.imdbRating);
+  if (show.seasonNumber >= 1) row.detail = std::format("Season {}", show.seasonNumber);
+  return row;
+}
+
+}  // namespace
+
+void Top250MoviesViewController::load(Stage& stage) { lists_ = topTitles(stage.game().world); }
+
+Choice Top250MoviesViewController::choice() {
+  const auto option = [this](const char* label, TopList list) {
+    return Choice::Option{
+        .label = label, .chosen = shown_ == list, .press = [this, list](Stage&) { shown_ = list; }};
+  };
+  return {.label = "Show", .options = {option("Movies", TopList::movies), option("Shows", TopList::shows)}};
+}
+
+Page Top250MoviesViewController::view(const Game& game) {
+  const bool is_movies = shown_ == TopList::movies;
+  const auto nodeAt = [this, &game, is_movies](std::size_t index) -> Node {
+    return is_movies ? movieRow(game.locale, index + 1, lists_.movies[index])
+                     : showRow(index + 1, lists_.shows[index]);
+  };
+  return {
+      .title = is_movies ? "TOP 250 Movies" : "TOP 250 Shows",
+      .subtitle = is_movies ? "All Time Box Office Gross" : "All Time Highest Rated Series",
+      .nodes = {choice(),
+                Section{.heading = is_movies ? "WORLDWIDE" : "RATING",
+                        .nodes = {PagedList{.key = is_movies ? "movies" : "shows",
+                                            .size = is_movies ? lists_.movies.size() : lists_.shows.size(),
+                                            .nodeAt = nodeAt}}}}};
+}
+
+}  // namespace tb

@@ -1,0 +1,86 @@
+#include "screens/work/royalty_view_controller.h"
+
+#include <algorithm>
+#include <format>
+
+#include "career/royalty_stake.h"
+#include "core/number_style.h"
+#include "core/signed_agent.h"
+#include "core/text.h"
+#include "screens/parts.h"
+#include "screens/work/project_words.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+// What the agent sent along.
+Bubble theMessage(const WorldState& world, std::int64_t emailId) {
+  const auto email = std::ranges::find(world.saveAllEmailList, emailId, &Email::id);
+  return {.speaker = world.saveAllTalentAgents[*signedAgent(world)].name, .text = email->message};
+}
+
+Section theProject(const Game& game, const Audition& offer) {
+  return {.heading = "THE PROJECT",
+          .nodes = {Text{.text = offer.description}, Row{.label = "Director", .value = offer.directorName},
+                    Row{.label = "Genre", .value = joinedWithAnd(offer.genres)},
+                    Row{.label = "Budget", .value = shortMoney(game.locale, offer.budget)},
+                    Row{.label = "Pay", .value = "A share of the gross, no fee"}}};
+}
+
+std::string chanceWords(std::int64_t chance, std::int64_t bonus) {
+  if (bonus == 0) return std::format("{}% Chance", chance);
+  return std::format("{}% Chance + {}% Agent Bonus", chance, bonus);
+}
+
+}  // namespace
+
+void RoyaltyViewController::load(Stage& stage) {
+  email_ = stage.game().world.passEmailId;
+  makeStakeOffer(stage.game(), email_);
+}
+
+void RoyaltyViewController::negotiate(Stage& stage) {
+  StakeAnswer answer = negotiateStake(stage.game(), email_, steps_);
+  stage.show(std::move(answer.notice));
+  if (!answer.isFinal) return;
+  stage.worldChanged();
+  stage.close();
+}
+
+Section RoyaltyViewController::theAsk(const Game& game, const Audition& offer) {
+  const std::int64_t bonus = negotiationBonus(game.world);
+  return {.heading = "YOUR ASK",
+          .nodes = {Tiles{{{.label = "Royalty",
+                            .value = std::format("{:.2f}%", percentAsked(offer, steps_)),
+                            .detail = "of the gross, and of the price when it is syndicated"}}},
+                    Meter{.label = "They agree",
+                          .value = static_cast<double>(chanceOfStake(steps_) + bonus),
+                          .maximum = 100,
+                          .text = chanceWords(chanceOfStake(steps_), bonus)},
+                    Buttons{{{.label = "Ask for less",
+                              .press = [this](Stage&) { steps_ -= 1; },
+                              .offReason = steps_ > 0 ? "" : "This is what they offer"},
+                             {.label = "Ask for more",
+                              .press = [this](Stage&) { steps_ += 1; },
+                              .offReason = steps_ < mostStakeSteps ? "" : "Nobody has ever asked for more"}}},
+                    energyMeter(game.world),
+                    Button{.label = "Negotiate",
+                           .press = [this](Stage& stage) { negotiate(stage); },
+                           .price = energyPrice(stakeNegotiationEnergy),
+                           .weight = Button::Weight::primary}}};
+}
+
+Page RoyaltyViewController::view(const Game& game) {
+  const Audition* const offer = stakeOffer(game.world, email_);
+  if (offer == nullptr)
+    return {.title = "Royalty", .nodes = {caption("This offer is not on the table any more.")}};
+  return {.title = offer->title,
+          .subtitle = std::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
+          .nodes = {posterOf(offer->imageString), theMessage(game.world, email_), theAsk(game, *offer),
+                    roleSection(*offer), theProject(game, *offer)}};
+}
+
+}  // namespace tb

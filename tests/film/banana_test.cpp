@@ -1,0 +1,223 @@
+// The RottenBanana page: percentages bent by a letter, badges, consensus and cards.
+
+#include <gtest/gtest.h>
+
+#include "banks/banks.h"
+#include "film/banana_reviews.h"
+#include "film/banana_scores.h"
+#include "tests/scratch_game.h"
+
+namespace tb {
+namespace {
+
+using test::ScratchGame;
+
+TEST(BananaNudges, TheFirstLetterBendsBothScores) {
+  struct Case {
+    const char* title;
+    double critic;
+    double audience;
+  };
+  const Case cases[] = {{"apple", 0.94, 0.88},  {"Apple", 0.94, 0.88},
+                        {"Better", 0.93, 1.06}, {"Moon", 0.82, 0.95},
+                        {"Night", 1.06, 1.05},  {"Harbor", 0.87, 1.15},
+                        {"Paper", 1.08, 1.18},  {"Kettle", 0.84, 0.82},
+                        {"Unit", 1.13, 0.85},   {"Zebra", 1.18, 1.08},
+                        {"9 Lives", 1, 1},      {" Apple", 1, 1},
+                        {"Élan", 1, 1},         {"", 1, 1}};
+  for (const auto& [title, critic, audience] : cases) {
+    EXPECT_NEAR(criticNudge(title), critic, 1e-12) << title;
+    EXPECT_NEAR(audienceNudge(title), audience, 1e-12) << title;
+  }
+}
+
+Film filmOf(const std::string& title, double rating, std::int64_t metascore, std::int64_t ratings) {
+  return {.title = title,
+          .genres = {"Sci-Fi"},
+          .directorName = "Mina Falk",
+          .weekReleased = 10,
+          .imbdRating = rating,
+          .numImbdRatings = ratings,
+          .imbdMetascore = metascore,
+          .numMetascoreRatings = 12};
+}
+
+TEST(BananaScores, BadgesAreEarnedAtTheirThresholds) {
+  struct Case {
+    const char* title;
+    double rating;
+    std::int64_t metascore;
+    std::int64_t ratings;
+    const char* critics;
+    const char* audience;
+  };
+  const Case cases[] = {{"7", 9.0, 75, 500, "certifiedFreshBanana.png", "verifiedHot.png"},
+                        {"7", 9.0, 75, 499, "certifiedFreshBanana.png", "popcornOnly.png"},
+                        {"7", 8.99, 75, 80, "certifiedFreshBanana.png", "popcornOnly.png"},
+                        {"7", 9.0, 75, 79, "bananaOnly.png", "popcornOnly.png"},
+                        {"7", 6.0, 74, 900, "bananaOnly.png", "popcornOnly.png"},
+                        {"7", 5.99, 60, 900, "bananaOnly.png", "rottenPopcorn.png"},
+                        {"7", 5.99, 59, 900, "spoiledBanana.png", "rottenPopcorn.png"},
+                        {"Oats", 7.0, 56, 900, "spoiledBanana.png", "popcornOnly.png"},  // 59.92 and 63.7
+                        {"Zoo", 7.0, 100, 79, "bananaOnly.png", "popcornOnly.png"}};
+  for (const Case& row : cases) {
+    const BananaScores scores = bananaScores(filmOf(row.title, row.rating, row.metascore, row.ratings));
+    EXPECT_EQ(scores.criticBadge, row.critics) << row.title << " " << row.metascore;
+    EXPECT_EQ(scores.audienceBadge, row.audience) << row.title << " " << row.rating;
+  }
+}
+
+TEST(BananaScores, OnlyTheAudienceStopsAtAHundred) {
+  const BananaScores scores = bananaScores(filmOf("Paper", 9.5, 100, 5'000));
+  EXPECT_EQ(wholePercent(scores.critic), 108);
+  EXPECT_EQ(wholePercent(scores.audience), 100);
+  EXPECT_EQ(wholePercent(bananaScores(filmOf("Oats", 7, 56, 1)).critic), 59);
+}
+
+TEST(BananaScores, TheConsensusFollowsTheWholePercent) {
+  struct Case {
+    double percent;
+    Bank bank;
+  };
+  const Case cases[] = {
+      {0, Bank::criticConsensus0},     {19.9, Bank::criticConsensus0},  {20, Bank::criticConsensus20},
+      {39, Bank::criticConsensus20},   {40, Bank::criticConsensus40},   {59, Bank::criticConsensus40},
+      {60, Bank::criticConsensus60},   {74.9, Bank::criticConsensus60}, {75, Bank::criticConsensus75},
+      {89.9, Bank::criticConsensus75}, {90, Bank::criticConsensus90},   {118, Bank::criticConsensus90}};
+  for (const auto& [percent, bank] : cases) {
+    ScratchGame scratch;
+    scratch.random.range(14, 3);
+    EXPECT_EQ(drawConsensus(scratch.game, filmOf("Zoo", 5, 50, 9), percent),
+              fill(rowsOf(bank)[3], {{"title", "Zoo"}}))
+        << percent;
+  }
+}
+
+TEST(BananaScores, CountsOfReviewsStopAtTenThousand) {
+  const Locale locale;
+  EXPECT_EQ(criticCount(locale, filmOf("Zoo", 5, 50, 9)), "12 Reviews");
+  EXPECT_EQ(audienceCount(locale, filmOf("Zoo", 5, 50, 10'000)), "10,000 Reviews");
+  EXPECT_EQ(audienceCount(locale, filmOf("Zoo", 5, 50, 10'001)), "10,000+ Reviews");
+}
+
+struct Cards : ScratchGame {
+  Cards() {
+    game.world.myName = "Ada Quinn";
+    game.world.weekNumberForTracking = 12;
+    game.world.weekNumber = 2;
+    game.world.yearNumber = 2027;
+  }
+  Film film = filmOf("Zoo", 7, 50, 900);
+};
+
+TEST(CriticCards, SpeakByTheScoreOfAllCritics) {
+  struct Case {
+    double percent;
+    Bank bank;
+    std::int64_t rows;
+    double lowest;
+    double highest;
+  };
+  const Case cases[] = {
+      {0, Bank::longReviewBank1, 26, 1, 1},       {20.9, Bank::longReviewBank1, 26, 1, 1},
+      {21, Bank::longReviewBank2, 29, 1, 1.6},    {60, Bank::longReviewBank3, 25, 1.64, 2.4},
+      {80, Bank::longReviewBank4, 26, 2.44, 3.2}, {100.9, Bank::longReviewBank5, 30, 3.24, 4},
+  };
+  for (const Case& row : cases) {
+    Cards cards;
+    cards.film.numMetascoreRatings = 2;
+    cards.random.range(row.rows, 2)
+        .unit(0)
+        .range(2, 0)
+        .range(120, 5)
+        .range(254, 7)
+        .range(27, 3)
+        .range(35, 34);
+    cards.random.range(row.rows, 2).unit(1).range(2, 1).range(120, 5).range(254, 7).range(27, 3).range(24, 0);
+    const std::vector<Review> drawn = drawCriticCards(cards.game, cards.film, row.percent);
+    EXPECT_EQ(cards.random.left(), 0U);
+    ASSERT_EQ(drawn.size(), 2U);
+    EXPECT_EQ(
+        drawn[0].review,
+        fill(rowsOf(row.bank)[2],
+             {{"title", "Zoo"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}, {"genre", "sci-fi"}}));
+    EXPECT_NEAR(drawn[0].stars, row.lowest, 1e-9) << row.percent;
+    EXPECT_NEAR(drawn[1].stars, row.highest, 1e-9) << row.percent;
+    EXPECT_EQ(drawn[0].image, "critic_m (35).png");
+    EXPECT_EQ(drawn[1].image, "critic_f (1).png");
+    EXPECT_EQ(drawn[0].name, rowsOf(Bank::maleFirstNames)[5] + " " + rowsOf(Bank::lastNames)[7]);
+    EXPECT_EQ(drawn[1].name, rowsOf(Bank::femaleFirstNames)[5] + " " + rowsOf(Bank::lastNames)[7]);
+    EXPECT_EQ(drawn[0].newsOutlet, rowsOf(Bank::reviewerCompanies)[3]);
+    // Released two weeks ago, in the 52nd of the year before.
+    EXPECT_EQ(drawn[0].date.month + " " + drawn[0].date.dayAndYear, "December 25, 2026");
+  }
+}
+
+TEST(CriticCards, AboveAHundredPercentTheyAreSpeechless) {
+  Cards cards;
+  cards.film.numMetascoreRatings = 1;
+  cards.random.range(2, 0).any(4);
+  const std::vector<Review> drawn = drawCriticCards(cards.game, cards.film, 101);
+  EXPECT_EQ(cards.random.left(), 0U);
+  ASSERT_EQ(drawn.size(), 1U);
+  EXPECT_EQ(drawn.front().review, "");
+  EXPECT_EQ(drawn.front().stars, 1);
+}
+
+TEST(CriticCards, AFaceComesTwiceOnlyAfterTenDraws) {
+  Cards cards;
+  cards.film.numMetascoreRatings = 3;
+  const auto critic = [&] { cards.random.any(2).range(2, 0).any(3); };
+  critic();
+  cards.random.range(35, 4);
+  critic();
+  cards.random.range(35, 4).range(35, 4).range(35, 9);
+  critic();
+  for (int draw = 0; draw < 10; ++draw) cards.random.range(35, 9);
+  const std::vector<Review> drawn = drawCriticCards(cards.game, cards.film, 50);
+  EXPECT_EQ(cards.random.left(), 0U);
+  ASSERT_EQ(drawn.size(), 3U);
+  EXPECT_EQ(drawn[0].image, "critic_m (5).png");
+  EXPECT_EQ(drawn[1].image, "critic_m (10).png");
+  EXPECT_EQ(drawn[2].image, "critic_m (10).png");
+}
+
+TEST(CriticCards, AreFiveAtTheMost) {
+  Cards cards;
+  cards.random.any(5 * 7 + 40);  // every face is the first one, and is drawn ten times
+  EXPECT_EQ(drawCriticCards(cards.game, cards.film, 50).size(), 5U);
+  cards.film.numMetascoreRatings = 0;
+  EXPECT_TRUE(drawCriticCards(cards.game, cards.film, 50).empty());
+}
+
+TEST(AudienceCards, TastesDifferByAStarAroundTheScore) {
+  struct Case {
+    double percent;
+    std::int64_t stars[3];
+  };
+  const Case cases[] = {
+      {0, {1, 1, 2}}, {39.9, {1, 2, 3}}, {50, {2, 3, 4}}, {80, {4, 5, 5}}, {100, {5, 5, 5}}};
+  for (const Case& row : cases) {
+    Cards cards;
+    cards.film.numImbdRatings = 3;
+    for (const std::int64_t taste : {0, 1, 2}) {
+      cards.random.range(3, taste).range(49, 6).range(60, 0).range(80, 0).range(2, 1);
+    }
+    const std::vector<AudienceReview> drawn = drawAudienceCards(cards.game, cards.film, row.percent);
+    EXPECT_EQ(cards.random.left(), 0U);
+    ASSERT_EQ(drawn.size(), 3U);
+    const Bank banks[] = {Bank::userReviewSnippet1, Bank::userReviewSnippet2, Bank::userReviewSnippet3,
+                          Bank::userReviewSnippet4, Bank::userReviewSnippet5};
+    for (std::size_t card = 0; card < 3; ++card) {
+      EXPECT_EQ(drawn[card].stars, row.stars[card]) << row.percent;
+      EXPECT_EQ(drawn[card].review,
+                fill(rowsOf(banks[row.stars[card] - 1])[6],
+                     {{"title", "Zoo"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}}));
+      EXPECT_EQ(drawn[card].name, "sofacritic");
+      EXPECT_EQ(drawn[card].date.dayAndYear, "1, 2027");  // the week after the release
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tb

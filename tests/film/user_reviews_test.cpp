@@ -1,0 +1,95 @@
+// What a title's page shows of its audience: stars, shares and reviews.
+
+#include "film/user_reviews.h"
+
+#include <gtest/gtest.h>
+#include <numeric>
+
+#include "tests/scratch_game.h"
+
+namespace tb {
+namespace {
+
+using test::ScratchGame;
+
+Film rated(double rating, std::int64_t ratings) {
+  return {.title = "Salt Road", .directorName = "Mina Falk", .imbdRating = rating, .numImbdRatings = ratings};
+}
+
+TEST(StarHistogram, SpreadsTheRatingsInABellAroundTheMean) {
+  // In hundredths: 2.28 4.82 9.30 14.81 18.79 and back. Six are left over for the largest fractions.
+  EXPECT_EQ(starHistogram(rated(5.5, 100)), (StarHistogram{2, 5, 9, 15, 19, 19, 15, 9, 5, 2}));
+  // 2.20 1.95 1.36 0.75 0.35 and less: three are left over.
+  EXPECT_EQ(starHistogram(rated(1, 7)), (StarHistogram{2, 2, 2, 1}));
+  EXPECT_EQ(starHistogram(rated(10, 3)), (StarHistogram{0, 0, 0, 0, 0, 0, 0, 1, 1, 1}));
+}
+
+TEST(StarHistogram, LosesNobodyAndIsEmptyBeforeTheRelease) {
+  for (const std::int64_t ratings : {1, 9, 11, 4'999, 2'000'000}) {
+    for (const double rating : {1.0, 4.37, 9.9}) {
+      const StarHistogram stars = starHistogram(rated(rating, ratings));
+      EXPECT_EQ(std::accumulate(stars.begin(), stars.end(), std::int64_t{0}), ratings);
+    }
+  }
+  EXPECT_EQ(starHistogram(rated(0, 0)), StarHistogram{});
+}
+
+TEST(UserReviews, TheCountGrowsWithTheMetascore) {
+  Film film = rated(7, 1'000);
+  EXPECT_EQ(shownRatings(film), 1'180);
+  film.imbdMetascore = 95;
+  EXPECT_EQ(shownRatings(film), 2'130);
+  film.numImbdRatings = 1;
+  EXPECT_EQ(shownRatings(film), 2);
+}
+
+TEST(UserReviews, SpeakInTheWordsOfTheirStars) {
+  ScratchGame scratch;
+  scratch.game.world.myName = "Ada Quinn";
+  StarHistogram everybody;
+  everybody.fill(1);
+  struct Level {
+    std::int64_t star;
+    Bank snippets;
+    Bank bodies;
+    std::int64_t rows;
+  };
+  const Level levels[] = {{0, Bank::userReviewSnippet1, Bank::userReviewBody1, 145},
+                          {3, Bank::userReviewSnippet2, Bank::userReviewBody2, 135},
+                          {4, Bank::userReviewSnippet3, Bank::userReviewBody3, 100},
+                          {7, Bank::userReviewSnippet4, Bank::userReviewBody4, 121},
+                          {9, Bank::userReviewSnippet5, Bank::userReviewBody5, 193}};
+  for (const Level& level : levels) {
+    scratch.random.range(10, level.star).range(49, 0).range(level.rows, level.rows - 1);
+    scratch.random.range(60, 1).range(80, 79);
+  }
+  const std::vector<Reviews> reviews = drawUserReviews(scratch.game, rated(7, 10), everybody);
+  EXPECT_EQ(scratch.random.left(), 0U);  // five reviews, and no draw more
+  ASSERT_EQ(reviews.size(), 5U);
+  for (std::size_t index = 0; index < reviews.size(); ++index) {
+    const auto filled = [](const std::string& row) {
+      return fill(row, {{"title", "Salt Road"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}});
+    };
+    EXPECT_EQ(reviews[index].rating, levels[index].star + 1);
+    EXPECT_EQ(reviews[index].snippet, filled(rowsOf(levels[index].snippets).front()));
+    EXPECT_EQ(reviews[index].review, filled(rowsOf(levels[index].bodies).back()));
+    EXPECT_EQ(reviews[index].username, "midnightWaffle");
+  }
+}
+
+TEST(UserReviews, StarsThatNobodyGaveAreDrawnInVain) {
+  ScratchGame scratch;
+  StarHistogram one_star{};
+  one_star[2] = 4;
+  for (int draw = 0; draw < 12; ++draw) scratch.random.range(10, draw % 2 == 0 ? 1 : 3);
+  scratch.random.range(10, 2).any(4);
+  for (int draw = 0; draw < 12; ++draw) scratch.random.range(10, 9);
+  const std::vector<Reviews> reviews = drawUserReviews(scratch.game, rated(3, 4), one_star);
+  EXPECT_EQ(scratch.random.left(), 0U);  // 25 draws of stars in all
+  ASSERT_EQ(reviews.size(), 1U);
+  EXPECT_EQ(reviews.front().rating, 3);
+  EXPECT_TRUE(drawUserReviews(scratch.game, rated(0, 0), {}).empty());
+}
+
+}  // namespace
+}  // namespace tb
