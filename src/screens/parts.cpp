@@ -15,7 +15,8 @@ Text caption(std::string text) {
 }
 
 std::string shownMoney(const Locale& locale, double amount) {
-  return amount < 0 ? currency(locale, amount, 0) : shortMoney(locale, amount);
+  const std::string in_short = shortMoney(locale, amount);
+  return in_short.empty() ? currency(locale, amount, 0) : in_short;
 }
 
 Meter energyMeter(const WorldState& world) {

@@ -27,8 +27,8 @@ template <class Opened>
 
 [[nodiscard]] view::Text caption(std::string text);
 
-// Short money. A run can lose money and a balance can be negative; such an amount is written in full, since
-// the short form has no words for it.
+// Short money. A run can lose money, a balance can be negative and a fortune pass a trillion; such an amount
+// is written in full, since the short form has no words for it.
 [[nodiscard]] std::string shownMoney(const Locale& locale, double amount);
 
 // The energy that is left of the week.

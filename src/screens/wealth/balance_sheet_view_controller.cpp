@@ -17,13 +17,14 @@ Row moneyRow(const Game& game, std::string label, double amount, std::string det
   return {.label = std::move(label),
           .value = cash(game.locale, amount),
           .detail = std::move(detail),
-          .tone = amount < 0 ? Tone::warning : Tone::plain};
+          .tone = amount < 0    ? Tone::warning
+                  : amount == 0 ? Tone::quiet
+                                : Tone::plain};
 }
 
 Section parts(const Game& game, const NetWorth& worth) {
   Section section{.heading = "WHAT YOU OWN"};
   for (MoneyPart& part : partsOf(worth)) {
-    if (part.amount == 0 && part.label != "Cash") continue;
     section.nodes.push_back(moneyRow(game, std::move(part.label), part.amount));
   }
   return section;

@@ -1,6 +1,5 @@
 #include "screens/wealth/financial_management_view_controller.h"
 
-#include <algorithm>
 #include <format>
 
 #include "core/number_style.h"
@@ -14,8 +13,6 @@ namespace tb {
 using namespace view;
 
 namespace {
-
-constexpr std::size_t yearsOnChart = 10;
 
 std::string changeOfYear(const WorldState& world) {
   if (world.saveLastYTDPaycheck == 0) return "";
@@ -74,16 +71,11 @@ Section FinancialManagementViewController::income(const Game& game) const {
   std::vector<MoneyPart> kinds = {{"Jobs", game.world.yearToDatePaycheck}};
   for (const PaymentKind kind : paymentKinds)
     kinds.push_back({wordsFor(kind).several, years_.back().of(kind)});
-  std::vector<MoneyPart> titles;
-  const std::size_t first = years_.size() - std::min(years_.size(), yearsOnChart);
-  for (std::size_t index = first; index < years_.size(); ++index) {
-    titles.push_back({std::to_string(years_[index].year), years_[index].total()});
-  }
   return {.heading = "INCOME",
           .nodes = {netIncome(game),
                     moneyPie(game, std::format("What your work paid in {}", game.world.yearNumber), kinds,
                              "No work has paid anything this year yet."),
-                    moneyBars(game, "Paid by your titles, year by year", titles, "")}};
+                    yearBars(game, "Paid by your titles, year by year", years_, &YearOfPayments::total)}};
 }
 
 Page FinancialManagementViewController::view(const Game& game) {

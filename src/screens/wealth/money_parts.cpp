@@ -14,6 +14,8 @@ using namespace view;
 
 namespace {
 
+constexpr std::size_t yearsOnChart = 10;
+
 // In the order of paymentKinds.
 constexpr std::array<PaymentWords, paymentKinds.size()> paymentWords = {{
     {.one = "Session", .several = "Sessions"},
@@ -63,12 +65,16 @@ Chart moneyPie(const Game& game, std::string title, const std::vector<MoneyPart>
   return chart;
 }
 
-Chart moneyBars(const Game& game, std::string title, const std::vector<MoneyPart>& parts,
-                std::string whenEmpty) {
-  Chart chart{.kind = Chart::Kind::bar, .title = std::move(title), .summary = std::move(whenEmpty)};
-  if (parts.empty()) return chart;
-  for (const MoneyPart& part : parts) chart.points.push_back(pointOf(game, part));
-  const auto [least, most] = std::ranges::minmax_element(parts, {}, &MoneyPart::amount);
+Chart yearBars(const Game& game, std::string title, const std::vector<YearOfPayments>& years,
+               const std::function<double(const YearOfPayments&)>& amountOf) {
+  std::vector<MoneyPart> bars;
+  for (std::size_t index = years.size() - std::min(years.size(), yearsOnChart); index < years.size();
+       ++index) {
+    bars.push_back({std::to_string(years[index].year), amountOf(years[index])});
+  }
+  Chart chart{.kind = Chart::Kind::bar, .title = std::move(title)};
+  for (const MoneyPart& bar : bars) chart.points.push_back(pointOf(game, bar));
+  const auto [least, most] = std::ranges::minmax_element(bars, {}, &MoneyPart::amount);
   for (const double mark : roundScale(std::min(least->amount, 0.0), std::max(most->amount, 0.0))) {
     chart.scale.push_back({mark, shownMoney(game.locale, mark)});
   }

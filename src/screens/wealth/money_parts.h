@@ -2,6 +2,7 @@
 
 // How the financial screens show what they share.
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -36,8 +37,9 @@ struct MoneyPart {
 [[nodiscard]] view::Chart moneyPie(const Game& game, std::string title, const std::vector<MoneyPart>& parts,
                                    std::string whenEmpty);
 
-// A bar for each part, zero and losses included; of nothing it says `whenEmpty`.
-[[nodiscard]] view::Chart moneyBars(const Game& game, std::string title, const std::vector<MoneyPart>& parts,
-                                    std::string whenEmpty);
+// A bar for each of the last ten years, oldest first, of what `amountOf` finds in it. There is at least one.
+[[nodiscard]] view::Chart yearBars(const Game& game, std::string title,
+                                   const std::vector<YearOfPayments>& years,
+                                   const std::function<double(const YearOfPayments&)>& amountOf);
 
 }  // namespace tb

@@ -1,6 +1,5 @@
 #include "screens/wealth/payment_transactions_view_controller.h"
 
-#include <algorithm>
 #include <format>
 
 #include "core/number_style.h"
@@ -12,8 +11,6 @@ namespace tb {
 using namespace view;
 
 namespace {
-
-constexpr std::size_t yearsOnChart = 10;
 
 Row paymentRow(const Game& game, const Payment& payment) {
   std::string detail = std::format("Week {} • {}", payment.week, wordsFor(payment.kind).one);
@@ -48,15 +45,6 @@ Choice PaymentTransactionsViewController::kindChoice() {
   return choice;
 }
 
-Chart PaymentTransactionsViewController::chart(const Game& game) const {
-  std::vector<MoneyPart> bars;
-  for (std::size_t index = years_.size() - std::min(years_.size(), yearsOnChart); index < years_.size();
-       ++index) {
-    bars.push_back({std::to_string(years_[index].year), paidIn(years_[index])});
-  }
-  return moneyBars(game, "Year by year", bars, "");
-}
-
 Section PaymentTransactionsViewController::yearSection(const Game& game) {
   const YearOfPayments& year = years_[year_];
   std::vector<std::size_t> rows;
@@ -85,7 +73,10 @@ Page PaymentTransactionsViewController::view(const Game& game) {
           .subtitle = "What your titles have paid you",
           .nodes = {Tiles{{moneyTile(game, std::format("In {}", years_[year_].year), paidIn(years_[year_])),
                            moneyTile(game, "In all", in_all)}},
-                    kindChoice(), chart(game), yearSection(game)}};
+                    kindChoice(),
+                    yearBars(game, "Year by year", years_,
+                             [this](const YearOfPayments& year) { return paidIn(year); }),
+                    yearSection(game)}};
 }
 
 }  // namespace tb

@@ -17,7 +17,6 @@ class PaymentTransactionsViewController : public Screen {
  private:
   [[nodiscard]] double paidIn(const YearOfPayments& year) const;
   [[nodiscard]] view::Choice kindChoice();
-  [[nodiscard]] view::Chart chart(const Game& game) const;
   [[nodiscard]] view::Section yearSection(const Game& game);
 
   std::vector<Payment> history_;
