@@ -10,7 +10,9 @@ import { nameField, stage, startCareer, visit, waitForCopy, waitForGame } from "
 
 const setting = stage();
 
-const budget = 400 * 1024; // bytes, compressed, of everything that the first visit fetches
+// Bytes, compressed, of everything that the first visit fetches. All of the game's words come with it, since it
+// is played without a network from then on: they are a third of the whole.
+const budget = 1_000_000;
 const patience = 2000; // milliseconds until something can be pressed
 const frame = 16; // milliseconds from a press to the redrawn page
 

@@ -18,7 +18,7 @@ namespace {
 Chart eightWeeks(const Game& game, const std::vector<double>& takings) {
   Chart chart{.kind = Chart::Kind::bar, .title = "EIGHT WEEKS"};
   for (std::size_t week = 0; week < takings.size(); ++week) {
-    chart.points.push_back({.label = week == 0 ? "Opening" : std::format("Week {}", week + 1),
+    chart.points.push_back({.label = week == 0 ? "Opening" : std::format("Week {}", week),
                             .value = takings[week],
                             .text = shownMoney(game.locale, takings[week])});
   }

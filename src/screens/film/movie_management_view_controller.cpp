@@ -26,16 +26,10 @@ std::vector<std::size_t> productions(const WorldState& world) {
   return found;
 }
 
-std::string inWeeks(std::string_view what, std::int64_t weeks) {
-  return std::format("{} in {} week{}", what, weeks, weeks == 1 ? "" : "s");
-}
-
 std::string progressOf(const WorldState& world, const Audition& project) {
-  const std::int64_t now = world.weekNumberForTracking;
   if (project.funnelStage == stage::closed) return "Shelved";
-  if (project.funnelStage < stage::wrapped) return inWeeks("Wraps", project.weekToWork - now);
-  if (project.weekReleased >= now) return inWeeks("Opens", project.weekReleased - now);
-  return "Released";
+  if (project.funnelStage < stage::wrapped) return "Wraps " + whenIs(world, project.weekToWork);
+  return isReleased(world, project) ? "Released" : "Opens " + whenIs(world, project.weekReleased);
 }
 
 Card productionCard(const Game& game, const Audition& project) {

@@ -111,12 +111,13 @@ std::vector<Node> actions(const Game& game, const Audition& project) {
     nodes.push_back(Button{.label = currency(game.locale, price, 0) + " | BRIBE",
                            .press = [id = project.filmId](Stage& stage) { bribe(stage, id); }});
   }
-  if (isWithdrawalOffered(project)) {
-    nodes.push_back(Button{.label = "Withdraw",
-                           .press = [id = project.filmId](Stage& stage) { askToWithdraw(stage, id); },
-                           .weight = Button::Weight::destructive});
-  }
   return nodes;
+}
+
+Button withdrawal(const Audition& project) {
+  return {.label = "Withdraw",
+          .press = [id = project.filmId](Stage& stage) { askToWithdraw(stage, id); },
+          .weight = Button::Weight::destructive};
 }
 
 }  // namespace
@@ -134,6 +135,7 @@ Page AuditionDetailViewController::view(const Game& game) {
   page.nodes.append_range(actions(game, project));
   page.nodes.append_range(std::vector<Node>{Text{.text = project.description}, roleSection(project),
                                             theProject(game, project), theRoad(game.world, project)});
+  if (isWithdrawalOffered(project)) page.nodes.push_back(withdrawal(project));
   return page;
 }
 

@@ -43,9 +43,18 @@ function RowContent({ label, value, detail, picture }: View.Row) {
   );
 }
 
+// Beside a picture there is room for a figure; what is said in words stands under the name.
+const longestFigure = 10;
+
+function layoutOf({ value, picture, tone }: View.Row): string {
+  const bare = value === "" ? " row-bare" : "";
+  const tall = picture.length > 0 && value.length > longestFigure ? " row-tall" : "";
+  return `tone-${tone}${bare}${tall}`;
+}
+
 export function Row(row: View.Row) {
   const press = usePress();
-  const tint = `tone-${row.tone}${row.value === "" ? " row-bare" : ""}`;
+  const tint = layoutOf(row);
   if (row.handle === 0) {
     return (
       <li class={`row ${tint}`}>
