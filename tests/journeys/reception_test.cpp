@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "screens/reception/imbd_film_detail_view_controller.h"
+#include "screens/reception/rotten_banana_detail_view_controller.h"
 #include "tests/journeys/booked_performer.h"
+#include "tests/scratch_game.h"
 
 namespace tb {
 namespace {
@@ -76,6 +79,74 @@ TEST(Reception, EveryWayToATitleLeadsToItsPage) {
   EXPECT_EQ(game.player.title(), "TOP 250 Shows");
   game.player.press("Movies");
   EXPECT_EQ(game.player.title(), "TOP 250 Movies");
+}
+
+// A producer with a series among the best of all time, a film that is out and one that is not.
+struct Producer : test::BookedPerformer {
+  Producer() : BookedPerformer(7) {
+    SaveStore store(port);
+    Game game{.store = store, .random = random};
+    game.world.weekNumberForTracking = 20;
+    add(game.world, 11, filmType::series, "Low Tide", 19);
+    add(game.world, 12, filmType::feature, "Paper Moons", 19);
+    add(game.world, 13, filmType::feature, "Not Yet", 25);
+    save<&WorldState::weekNumberForTracking, &WorldState::saveAllAuditionList, &WorldState::saveAllFilmList>(
+        game);
+    EXPECT_TRUE(store.commit());
+  }
+  static void add(WorldState& world, std::int64_t id, std::int64_t typeOfFilm, const std::string& title,
+                  std::int64_t weekReleased) {
+    world.saveAllAuditionList.push_back({.filmId = id,
+                                         .typeOfFilm = typeOfFilm,
+                                         .isPrincipal = rolePart::ownProduction,
+                                         .title = title,
+                                         .weekReleased = weekReleased,
+                                         .funnelStage = stage::wrapped});
+    const bool is_out = weekReleased < world.weekNumberForTracking;
+    world.saveAllFilmList.push_front({.filmId = id,
+                                      .typeOfFilm = typeOfFilm,
+                                      .title = title,
+                                      .weekReleased = weekReleased,
+                                      .imbdRating = is_out ? 9.9 : 0,
+                                      .numImbdRatings = is_out ? 5 : 0,
+                                      .imbdMetascore = is_out ? 90 : 0,
+                                      .numMetascoreRatings = is_out ? 2 : 0,
+                                      .seasonNumber = -1});
+  }
+};
+
+TEST(Reception, TheBestOfAllTimeAndTheProductionsLeadToThePagesOfWhatIsOut) {
+  Producer producer;
+  Running game(producer);
+  game.player.press("Work");
+  game.player.press("Top 250");
+  EXPECT_FALSE(reads(game, "Paper Moons"));
+  game.player.press("Shows");
+  game.player.press("1. Low Tide");
+  EXPECT_EQ(game.player.title(), "Low Tide");
+  EXPECT_TRUE(reads(game, "Top 250: #1"));
+  game.player.press("RottenBanana");
+  EXPECT_TRUE(reads(game, "2 Reviews"));
+  for (int screen = 0; screen < 3; ++screen) game.player.press("Back");
+
+  game.player.press("Productions");
+  EXPECT_FALSE(reads(game, "Imbd page of Not Yet"));
+  game.player.press("Imbd page of Paper Moons");
+  EXPECT_EQ(game.player.title(), "Paper Moons");
+}
+
+TEST(Reception, BeforeTheReleaseThePagesWaitForIt) {
+  test::ScratchGame scratch;
+  scratch.game.world.weekNumberForTracking = 20;
+  Producer::add(scratch.game.world, 13, filmType::feature, "Not Yet", 25);
+  Stage stage(scratch.game);
+  openTitlePage(stage, 13);
+  const view::Page page = stage.top().view(stage.game());
+  EXPECT_EQ(page.title, "Not Yet");
+  EXPECT_EQ(page.nodes.size(), 3U);  // poster, a word that nobody has seen it, storyline
+  RottenBananaDetailViewController bananas("Not Yet");
+  bananas.load(stage);
+  EXPECT_EQ(bananas.view(stage.game()).nodes.size(), 2U);
 }
 
 TEST(Reception, AYearLaterTheScoresStandAndThePopularityHasMoved) {
