@@ -42,25 +42,41 @@ double collectRent(Game& game) {
   return rent;
 }
 
-template <class Record>
-double sumOfWeek(const List<Record>& records, std::int64_t week, double Record::* amount) {
+// Records are written in the order of their weeks, so those of one week stand together near the end of their
+// list, however long a career has made it.
+template <class Record, class Add>
+void forEachOfWeek(const List<Record>& records, std::int64_t week, const Add& add) {
+  for (std::size_t index = records.size(); index-- > 0;) {
+    const Record& record = records[index];
+    if (record.weekNumberForTracking < week) return;
+    if (record.weekNumberForTracking == week) add(record);
+  }
+}
+
+// The Cameo's sales outlive a restart, dates and all: in the weeks in which the career before was paid for
+// its videos, the new one is paid for them again.
+double cameoSales(const WorldState& world) {
   double sum = 0;
-  for (const Record& record : records) {
-    if (record.weekNumberForTracking == week) sum += record.*amount;
+  for (const Cameos& sold : world.saveAllCameos) {
+    if (sold.weekNumberForTracking == world.weekNumberForTracking) sum += sold.totalPriceEarned;
   }
   return sum;
 }
 
 Earned earnedThisWeek(const WorldState& world) {
   const std::int64_t week = world.weekNumberForTracking;
-  const List<WeeklyEarnings>& earnings = world.saveAllWeeklyEarnings;
-  return {.sessions = sumOfWeek(earnings, week, &WeeklyEarnings::sessionEarned),
-          .buyouts = sumOfWeek(earnings, week, &WeeklyEarnings::buyoutEarned),
-          .residuals = sumOfWeek(earnings, week, &WeeklyEarnings::residualsEarned),
-          .shares = sumOfWeek(earnings, week, &WeeklyEarnings::royaltyEarned),
-          .royalties = sumOfWeek(world.saveAllRoyaltyPayouts, week, &RoyaltyPayout::payout),
-          .equity = sumOfWeek(world.saveAllEquityPayouts, week, &EquityPayout::payOut),
-          .cameos = sumOfWeek(world.saveAllCameos, week, &Cameos::totalPriceEarned)};
+  Earned earned{.cameos = cameoSales(world)};
+  forEachOfWeek(world.saveAllWeeklyEarnings, week, [&](const WeeklyEarnings& line) {
+    earned.sessions += line.sessionEarned;
+    earned.buyouts += line.buyoutEarned;
+    earned.residuals += line.residualsEarned;
+    earned.shares += line.royaltyEarned;
+  });
+  forEachOfWeek(world.saveAllRoyaltyPayouts, week,
+                [&](const RoyaltyPayout& line) { earned.royalties += line.payout; });
+  forEachOfWeek(world.saveAllEquityPayouts, week,
+                [&](const EquityPayout& line) { earned.equity += line.payOut; });
+  return earned;
 }
 
 // The company pays whole dollars.

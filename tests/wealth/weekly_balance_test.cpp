@@ -43,15 +43,17 @@ struct Balance : testing::Test, test::ScratchGame {
 
 TEST_F(Balance, EveryKindOfIncomeReachesTheCashOnce) {
   world.saveAllWeeklyLineItems = {{.amount = 50}, {.amount = 20}, {.amount = 7, .isExpense = false}};
+  earn(now - 1, 5000, 5000, 5000);
   earn(now, 1000, 200, 0);
   earn(now, 0, 0, 30);
-  earn(now - 1, 5000, 5000, 5000);
   earn(now + 1, 5000, 5000, 5000);
-  world.saveAllEquityPayouts = {{.weekNumberForTracking = now, .payOut = 400},
-                                {.weekNumberForTracking = now - 1, .payOut = 5000}};
+  world.saveAllEquityPayouts = {{.weekNumberForTracking = now - 1, .payOut = 5000},
+                                {.weekNumberForTracking = now, .payOut = 400}};
   world.saveAllRoyaltyPayouts = {{.weekNumberForTracking = now, .payout = 80},
                                  {.weekNumberForTracking = now + 1, .payout = 5000}};
-  world.saveAllCameos = {{.weekNumberForTracking = now, .totalPriceEarned = 25}};
+  world.saveAllCameos = {{.weekNumberForTracking = now, .totalPriceEarned = 5},  // of the career before
+                         {.weekNumberForTracking = 900, .totalPriceEarned = 5000},
+                         {.weekNumberForTracking = now, .totalPriceEarned = 20}};
   world.saveAllPropertyList = {{.weeklyRent = 300, .isPrimary = 1}, {.weeklyRent = 90, .rentEarned = 10}};
   world.platformSalary = 52 * 3 + 51;
   world.weeklyJobIncome = 410;
