@@ -57,15 +57,16 @@ TEST(ReviewSummary, SpeaksTheLanguageOfReviewsWithSlang) {
             "with a friend you like arguing with.");
   // bop, vibe, the w of slow; bad.
   EXPECT_EQ(summed({"Bop soundtrack, slow drag, bad vibe."}, "Salt Road", casual, {0, 5, 0, 1}),
-            "\"Salt Road\" fumbled it a little, going by the reviews. What bugged everyone: pacing. What "
-            "almost saved it: soundtrack. Where it nets out: mixed-to-negative, said with a wince. Only if "
+            "\"Salt Road\" fumbled it, going by the reviews, then picked it up and dropped it again. What "
+            "bugged everyone: pacing. What almost saved it: soundtrack. Where it nets out: "
+            "mixed-to-negative, said with a wince. Only if "
             "you're curious, and keep the remote close.");
   // The "ate" of hated counts as slang and as a word for performances; lazy writing before the rest.
   EXPECT_EQ(
       summed({"Hated it, trash, what a waste. Cooked. Boring, lazy writing, confusing."}, "Salt Road", casual,
              {12, 3, 1, 0}),
       "\"Salt Road\" took the L, framed it and hung it in the lobby. The rap sheet: writing and pacing. "
-      "In its defense: performances and story, allegedly. Stick a fork in it. Skip it, touch some "
+      "In its defense: performances and story, allegedly. Even the bots didn't like it. Skip it, touch some "
       "grass, call your mom.");
 }
 
@@ -92,8 +93,8 @@ TEST(ReviewSummary, SpeaksFormallyOfReviewsWithout) {
   EXPECT_EQ(summed({"The script is bad and the tone is inconsistent."}, "Salt Road",
                    {.verdict = 14, .balance = 7, .advice = 1}, {1, 6, 2, 0}),
             "\"Salt Road\" falls somewhat short of what its viewers hoped for. Held back by: tone and "
-            "writing. Helped a little by: story. Overall, the doubts have the better of it. Best approached "
-            "with patience, or on an evening with nothing else planned.");
+            "writing. Helped a little by: story. The doubters make up the larger party, and the better "
+            "organized one. Best approached with patience, or on an evening with nothing else planned.");
   // terrible, awful, pain; plot hole, plot holes and no sense; cgi, effects and green screen.
   EXPECT_EQ(
       summed({"Terrible, awful, a pain. The green screen effects and the cgi are a disaster, and the "
@@ -101,7 +102,7 @@ TEST(ReviewSummary, SpeaksFormallyOfReviewsWithout) {
              "Salt Road", {.verdict = 14, .balance = 7, .advice = 1}, {13, 0, 5, 0}),
       "Warnings to other viewers make up a large part of the response to \"Salt Road\". Complaints "
       "about plot and cgi dominate, and mentions of story are brief. The reviews, read together, amount "
-      "to a caution. Viewers are advised to make other arrangements.");
+      "to a caution. Viewers are advised to make other arrangements, such as an early night.");
 }
 
 TEST(ReviewSummary, TheLabelTurnsAtItsThresholds) {
