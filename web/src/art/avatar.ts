@@ -1,5 +1,5 @@
 // Faces: the personas of Draftbit. Every trait is chosen here from the name and passed on, so that all moods
-// are ones that a headshot may have. A name with "man", "woman" or the like in it gives a face to match.
+// are ones that a headshot may have. A name with "man", "woman", "m", "f" or the like in it gives a face to match.
 
 import { createAvatar } from "@dicebear/core";
 import * as personas from "@dicebear/personas";
@@ -83,8 +83,8 @@ const backdrops = [
   "#c9b3bc",
 ];
 
-const isFemale = /(^|[^a-z])(woman|women|female|girl|lady|sw|daughter|she)([^a-z]|$)/iu;
-const isMale = /(^|[^a-z])(man|men|male|boy|sm|son|he)([^a-z]|$)/iu;
+const isFemale = /(^|[^a-z])(woman|women|female|girl|lady|sw|daughter|she|f)([^a-z]|$)/iu;
+const isMale = /(^|[^a-z])(man|men|male|boy|sm|son|he|m)([^a-z]|$)/iu;
 
 export function avatar(name: string): string {
   const chance = new Chance(`avatar ${name}`);

@@ -1,5 +1,6 @@
 // Small signs in two tones on a disc. A name that says which gets that one.
 
+import { badge } from "./badge";
 import { kindIn } from "./names";
 import { palettes } from "./palettes";
 import { Chance } from "./random";
@@ -129,15 +130,19 @@ const named: Partial<Record<Kind, RegExp>> = {
 };
 
 export function icon(name: string): string {
+  return badge(name) ?? sign(name);
+}
+
+function sign(name: string): string {
   const chance = new Chance(`icon ${name}`);
   const p = chance.pick(palettes);
   const onDark = chance.likely(0.6);
   const kind =
     kindIn(name, named as Readonly<Record<Kind, RegExp>>) ?? chance.pick(Object.keys(signs) as Kind[]);
-  const sign = signs[kind](onDark ? p.light : p.deep, onDark ? p.pop : p.mid);
+  const drawn = signs[kind](onDark ? p.light : p.deep, onDark ? p.pop : p.mid);
   return picture(
     64,
     64,
-    rect(0, 0, 64, 64, onDark ? p.deep : p.light) + `<g transform="translate(32 32) scale(.86)">${sign}</g>`,
+    rect(0, 0, 64, 64, onDark ? p.deep : p.light) + `<g transform="translate(32 32) scale(.86)">${drawn}</g>`,
   );
 }

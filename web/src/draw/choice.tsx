@@ -10,11 +10,14 @@ import { Check } from "./signs";
 import { Words } from "./words";
 
 const fitsSideBySide = 22; // letters of all options together, on a small phone
+const fitsAChip = 6; // letters of the longest option
 
-function looksOf({ options, several }: View.Choice): "pictures" | "side-by-side" | "list" {
+function looksOf({ options, several }: View.Choice): "pictures" | "side-by-side" | "chips" | "list" {
   if (options.some((option) => option.picture.length > 0)) return "pictures";
-  const letters = options.reduce((sum, option) => sum + option.label.length, 0);
-  return !several && options.length <= 4 && letters <= fitsSideBySide ? "side-by-side" : "list";
+  const letters = options.map((option) => option.label.length);
+  if (several) return "list";
+  if (letters.length > 4) return Math.max(...letters) <= fitsAChip ? "chips" : "list";
+  return letters.reduce((sum, more) => sum + more) <= fitsSideBySide ? "side-by-side" : "list";
 }
 
 export function Choice(choice: View.Choice) {

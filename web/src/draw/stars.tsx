@@ -17,7 +17,7 @@ export function Stars({ label, value, outOf }: View.Stars) {
           <Words text={label} />
         </span>
       )}
-      <span class="stars-row" role="img" aria-label={words}>
+      <span class={`stars-row${outOf > 5 ? " stars-many" : ""}`} role="img" aria-label={words}>
         {Array.from({ length: outOf }, (_, index) => (
           <svg key={index} viewBox="0 0 24 24" class="star" aria-hidden="true">
             <path class="star-unlit" d={star} />
@@ -30,9 +30,9 @@ export function Stars({ label, value, outOf }: View.Stars) {
             )}
           </svg>
         ))}
-      </span>
-      <span class="stars-text" aria-hidden="true">
-        {figure.format(value)}
+        <span class="stars-text" aria-hidden="true">
+          {figure.format(value)}
+        </span>
       </span>
     </div>
   );
