@@ -5,6 +5,7 @@
 #include <clocale>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <langinfo.h>
 #include <poll.h>
 #include <sys/ioctl.h>
@@ -93,13 +94,26 @@ Terminal::Terminal()
   const sigset_t watched = watchedSignals();
   sigprocmask(SIG_BLOCK, &watched, nullptr);
   signals_ = signalfd(-1, &watched, SFD_CLOEXEC | SFD_NONBLOCK);
+  if (window_ && isatty(STDERR_FILENO) == 1) silenceErrors();
 }
 
 Terminal::~Terminal() {
   write("\n");
   if (signals_ >= 0) close(signals_);
+  if (errors_ >= 0) {
+    dup2(errors_, STDERR_FILENO);
+    close(errors_);
+  }
   const sigset_t watched = watchedSignals();
   sigprocmask(SIG_UNBLOCK, &watched, nullptr);
+}
+
+void Terminal::silenceErrors() {
+  const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+  if (nowhere < 0) return;
+  errors_ = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
+  dup2(nowhere, STDERR_FILENO);
+  close(nowhere);
 }
 
 ConsolePort::Shape Terminal::shape() const {

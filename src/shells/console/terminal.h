@@ -15,6 +15,9 @@ namespace tb::console {
 // any control sequence, and the lines read from a pipe or a file are repeated, so that a transcript reads as
 // a conversation.
 //
+// The debug log would be written into a window's page: it is not shown there, but goes wherever else the
+// standard error stream is sent to.
+//
 // SIGINT, SIGTERM and SIGHUP end the input. While a Terminal lives these signals are blocked and read as
 // they come, so that no action of the player is cut in two.
 class Terminal : public ConsolePort {
@@ -39,6 +42,7 @@ class Terminal : public ConsolePort {
   Input::What editLine(std::string_view prompt, std::string& line, std::optional<Clock::time_point> until);
   std::optional<Input::What> edit(char byte);
   void write(std::string_view bytes);
+  void silenceErrors();
 
   bool input_is_terminal_;
   bool window_;  // paints over and over
@@ -48,6 +52,7 @@ class Terminal : public ConsolePort {
   bool gone_ = false;  // nobody reads what is written
   bool at_end_ = false;
   int signals_;           // a file to read the signals from
+  int errors_ = -1;       // the standard error stream while it is silenced
   std::string received_;  // bytes without a line break so far, or lines not yet asked for
   std::string typed_;     // the line under way while a countdown repaints the window
 };
