@@ -8,6 +8,7 @@
 
 #include "core/number_style.h"
 #include "core/save.h"
+#include "tests/journeys/booked_performer.h"
 #include "tests/journeys/books.h"
 #include "tests/memory_port.h"
 #include "tests/player.h"
@@ -19,22 +20,12 @@ namespace {
 constexpr double startingCash = 4000;
 
 Audition booked(std::int64_t filmId, std::int64_t typeOfFilm, const std::string& title, double payment) {
-  return {.filmId = filmId,
-          .typeOfFilm = typeOfFilm,
-          .isPrincipal = rolePart::principal,
-          .title = title,
-          .genres = {"Western"},
-          .role = "Lead",
-          .characterName = "June Abara",
-          .isContinued = -1,
-          .weekToWork = 1,
-          .weekReleased = 3,
-          .payment = payment,
-          .budget = 2e6,
-          .funnelStage = stage::booked,
-          .hypeRating = 50,
-          .directorRating = 60,
-          .directorName = "Mina Falk"};
+  Audition project = test::bookedLead(filmId, typeOfFilm, title);
+  project.payment = payment;
+  project.royalty = 0;
+  project.budget = 2e6;
+  project.directorRating = 60;
+  return project;
 }
 
 struct Career {
