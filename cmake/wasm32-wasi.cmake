@@ -11,3 +11,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+
+# std::format without locales, which the page never asks for: they are a tenth of the program. (Currency signs
+# and separators are the game's own, core/locale.h.)
+set(CMAKE_CXX_FLAGS_INIT "-D_LIBCPP_HAS_NO_LOCALIZATION")

@@ -28,14 +28,14 @@ void carryOver(Game& game) {
 
 void setRestartValues(Game& game) {
   forEachVariable([&]<auto Member>(const auto&, const auto& restart, Load) {
-    if constexpr (!std::is_same_v<decltype(restart), const Kept&>) {
-      game.world.*Member = restart;
-      save<Member>(game);
-    }
+    if constexpr (!std::is_same_v<decltype(restart), const Kept&>) game.world.*Member = restart;
   });
   forEachRuntimeVariable([&]<auto Member>(const auto&, const auto& restart) {
     if constexpr (!std::is_same_v<decltype(restart), const Kept&>) game.world.*Member = restart;
   });
+  for (const Variable& variable : variables) {
+    if (!variable.isKept) saveVariables(game, {{&variable}});
+  }
 }
 
 }  // namespace

@@ -8,9 +8,9 @@ namespace tb {
 namespace {
 
 void loadAll(Game& game, Load wanted) {
-  forEachVariable([&]<auto Member>(const auto&, const auto&, Load when) {
-    if (when == wanted) load<Member>(game);
-  });
+  for (const Variable& variable : variables) {
+    if (variable.load == wanted) loadVariables(game, {{&variable}});
+  }
 }
 
 }  // namespace

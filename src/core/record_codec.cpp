@@ -2,12 +2,16 @@
 
 #include <algorithm>
 #include <format>
+#include <optional>
+
+#include "core/property_list_objects.h"
 
 namespace tb {
 
 using plist::Object;
 using plist::ObjectKind;
 using plist::ReadError;
+using Form = ValueType::Form;
 
 std::string describe(const DecodeError& error) {
   switch (error.kind) {
@@ -22,16 +26,145 @@ std::string describe(const DecodeError& error) {
   std::unreachable();
 }
 
-namespace detail {
+// --- Encoding ---
 
-std::span<const ListEncoder::Reference> ListEncoder::keys(std::span<const std::string_view> names) {
-  for (const Keys& known : keys_) {
-    if (known.names == names.data()) return known.references;
+namespace {
+
+template <class T>
+const T& as(const void* value) {
+  return *static_cast<const T*>(value);
+}
+
+// A field that holds something: its type and value, those inside of an optional; else no value.
+struct Content {
+  const ValueType* type;
+  const void* value;
+};
+
+Content contentOf(const FieldType& field, const std::byte* record) {
+  const ValueType& type = *field.type;
+  const void* const value = record + field.offset;
+  if (type.form != Form::optional) return {&type, value};
+  const bool present = type.elements.count(value) > 0;
+  return {type.element, present ? type.elements.at(value, 0) : nullptr};
+}
+
+}  // namespace
+
+ListEncoder::Reference ListEncoder::write(const ValueType& type, const void* value) {
+  switch (type.form) {
+    case Form::boolean:
+      return writer_.boolean(as<bool>(value));
+    case Form::integer:
+      return writer_.integer(as<std::int64_t>(value));
+    case Form::real:
+      return writer_.real(as<double>(value));
+    case Form::text:
+      return writer_.text(as<std::string>(value));
+    case Form::data:
+      return writer_.data(as<plist::Data>(value).bytes);
+    case Form::date:
+      return writer_.date(as<plist::Date>(value));
+    case Form::list:
+      return writeList(type, value);
+    case Form::record:
+      return writeRecord(type, static_cast<const std::byte*>(value));
+    case Form::optional:
+      break;  // only a field is optional, and contentOf() looks inside
   }
-  Keys& added = keys_.emplace_back(Keys{names.data(), {}});
-  for (const std::string_view name : names) added.references.push_back(writer_.text(name));
+  std::unreachable();
+}
+
+ListEncoder::Reference ListEncoder::writeList(const ValueType& type, const void* list) {
+  const std::size_t mark = writer_.mark();
+  const std::size_t count = type.elements.count(list);
+  for (std::size_t index = 0; index < count; ++index) add(*type.element, type.elements.at(list, index));
+  return writer_.array(mark);
+}
+
+ListEncoder::Reference ListEncoder::writeRecord(const ValueType& type, const std::byte* record) {
+  const std::size_t mark = writer_.mark();
+  auto key = keysOf(type).begin();
+  for (const FieldType& field : type.fields) {
+    if (contentOf(field, record).value != nullptr) writer_.putAside(*key);
+    ++key;
+  }
+  for (const FieldType& field : type.fields) {
+    if (const Content content = contentOf(field, record); content.value != nullptr) {
+      add(*content.type, content.value);
+    }
+  }
+  return writer_.dictionary(mark);
+}
+
+std::span<const ListEncoder::Reference> ListEncoder::keysOf(const ValueType& type) {
+  for (const Keys& known : keys_) {
+    if (known.type == &type) return known.references;
+  }
+  Keys& added = keys_.emplace_back(Keys{&type, {}});
+  for (const FieldType& field : type.fields) added.references.push_back(writer_.text(field.name));
   return added.references;
 }
+
+// --- Decoding ---
+
+namespace {
+
+class ListDecoder {
+ public:
+  ListDecoder(const plist::Objects& objects, std::size_t fileSize) : objects_(objects), budget_(fileSize) {}
+
+  // The list as a whole, into what append(list) makes.
+  bool readElements(plist::Reference reference, const ValueType& type, void* (*append)(void* list),
+                    void* list);
+
+  [[nodiscard]] const DecodeError& error() const { return error_; }
+
+ private:
+  // Which entry of a dictionary each field of a record is: the same for nearly every record of a list, so it
+  // is found once and then known by the dictionary's key references.
+  struct Layout {
+    const ValueType* type;
+    std::span<const std::byte> keys;
+    std::vector<std::size_t> entries;  // by field; absent where there is no such key
+  };
+  static constexpr std::size_t absent = ~std::size_t{0};
+
+  // In the place of a reference: the dictionary has no such key.
+  static constexpr plist::Reference missing = ~plist::Reference{0};
+
+  // Each of these sets what it is given and answers true, or leaves why it could not in error_.
+
+  bool read(plist::Reference reference, const ValueType& type, void* value);
+  template <NumberType T>
+  bool readNumber(const Object& object, void* value);
+  bool readText(const Object& object, std::string& text);
+  bool readData(const Object& object, plist::Data& data);
+  bool readRecord(plist::Reference reference, const ValueType& type, std::byte* record);
+  bool enterRecord(plist::Reference reference, const ValueType& type);
+  bool readField(plist::Reference value, const FieldType& field, void* content);
+
+  bool take(plist::Reference reference, Object& object);
+  bool enter(plist::Reference reference, ObjectKind kind, std::size_t entrySize, Object& object);
+  bool leave();
+
+  const Layout* layoutOf(const Object& dictionary, const ValueType& type);
+  bool findFields(const Object& dictionary, std::span<const FieldType> fields, Layout& layout);
+
+  // These say why, and answer false.
+  bool unreadable(ReadError error);
+  bool wrongKind();
+  bool missingField(std::string_view name);
+  bool inField(std::string_view name);
+
+  const plist::Objects& objects_;
+  plist::Budget budget_;
+  std::size_t depth_ = 0;
+  std::vector<Layout> layouts_;
+  std::vector<plist::Reference>
+      values_;  // of the fields of the record that is being read, and of those around it
+  DecodeError error_;
+};
 
 bool ListDecoder::unreadable(ReadError error) {
   error_ = {DecodeError::Kind::unreadable, error, {}};
@@ -61,9 +194,50 @@ bool ListDecoder::take(plist::Reference reference, Object& object) {
   return true;
 }
 
-bool ListDecoder::read(plist::Reference reference, std::string& text) {
+bool ListDecoder::read(plist::Reference reference, const ValueType& type, void* value) {
+  const Elements& elements = type.elements;
+  switch (type.form) {
+    case Form::list:
+      return readElements(reference, *type.element, elements.append, value);
+    case Form::optional:
+      return read(reference, *type.element, elements.append(value));
+    case Form::record:
+      return readRecord(reference, type, static_cast<std::byte*>(value));
+    default:
+      break;
+  }
   Object object;
   if (!take(reference, object)) return false;
+  switch (type.form) {
+    case Form::boolean:
+      return readNumber<bool>(object, value);
+    case Form::integer:
+      return readNumber<std::int64_t>(object, value);
+    case Form::real:
+      return readNumber<double>(object, value);
+    case Form::text:
+      return readText(object, *static_cast<std::string*>(value));
+    case Form::data:
+      return readData(object, *static_cast<plist::Data*>(value));
+    default:
+      if (object.kind != ObjectKind::date) return wrongKind();
+      static_cast<plist::Date*>(value)->seconds = object.real;
+      return true;
+  }
+}
+
+template <NumberType T>
+bool ListDecoder::readNumber(const Object& object, void* value) {
+  const auto number = object.kind == ObjectKind::integer   ? numberAs<T>(object.integer)
+                      : object.kind == ObjectKind::real    ? numberAs<T>(object.real)
+                      : object.kind == ObjectKind::boolean ? numberAs<T>(object.integer != 0)
+                                                           : std::nullopt;
+  if (!number) return wrongKind();
+  *static_cast<T*>(value) = *number;
+  return true;
+}
+
+bool ListDecoder::readText(const Object& object, std::string& text) {
   if (object.kind != ObjectKind::asciiText && object.kind != ObjectKind::utf16Text) return wrongKind();
   auto read = plist::textOf(object, budget_);
   if (!read) return unreadable(read.error());
@@ -71,20 +245,10 @@ bool ListDecoder::read(plist::Reference reference, std::string& text) {
   return true;
 }
 
-bool ListDecoder::read(plist::Reference reference, plist::Data& data) {
-  Object object;
-  if (!take(reference, object)) return false;
+bool ListDecoder::readData(const Object& object, plist::Data& data) {
   if (object.kind != ObjectKind::data) return wrongKind();
   if (!budget_.spend(object.entries)) return unreadable(ReadError::tooMuchWork);
   data.bytes.assign(object.content.begin(), object.content.end());
-  return true;
-}
-
-bool ListDecoder::read(plist::Reference reference, plist::Date& date) {
-  Object object;
-  if (!take(reference, object)) return false;
-  if (object.kind != ObjectKind::date) return wrongKind();
-  date.seconds = object.real;
   return true;
 }
 
@@ -103,31 +267,54 @@ bool ListDecoder::leave() {
   return true;
 }
 
-// Gives the value's reference for each name, in their order, or `missing`. The record's own memory is paid
+bool ListDecoder::readElements(plist::Reference reference, const ValueType& type, void* (*append)(void* list),
+                               void* list) {
+  Object array;
+  if (!enter(reference, ObjectKind::array, type.size, array)) return false;
+  for (std::size_t index = 0; index < array.entries; ++index) {
+    if (!read(objects_.referenceAt(array.content, index), type, append(list))) return false;
+  }
+  return leave();
+}
+
+bool ListDecoder::readRecord(plist::Reference reference, const ValueType& type, std::byte* record) {
+  const std::size_t mark = values_.size();
+  if (!enterRecord(reference, type)) return false;
+  for (std::size_t index = 0; index < type.fields.size(); ++index) {
+    const FieldType& field = type.fields[index];
+    if (!readField(values_[mark + index], field, record + field.offset)) return false;
+  }
+  values_.resize(mark);
+  return leave();
+}
+
+// Adds the value's reference for each field, in their order, or `missing`. The record's own memory is paid
 // for by the list that it is in; here the entries are, since those that no field has cost time as well.
-bool ListDecoder::enterRecord(plist::Reference reference, std::span<const std::string_view> names,
-                              std::span<plist::Reference> values) {
+bool ListDecoder::enterRecord(plist::Reference reference, const ValueType& type) {
   Object dictionary;
   if (!enter(reference, ObjectKind::dictionary, sizeof(plist::Value), dictionary)) return false;
-  const Layout* layout = layoutOf(dictionary, names);
+  const Layout* layout = layoutOf(dictionary, type);
   if (layout == nullptr) return false;
-  for (std::size_t field = 0; field < names.size(); ++field) {
-    const std::size_t entry = layout->entries[field];
-    values[field] = missing;
+  for (const std::size_t entry : layout->entries) {
+    values_.push_back(missing);
     if (entry == absent) continue;
-    values[field] = objects_.referenceAt(dictionary.content, dictionary.entries + entry);
-    if (values[field] == missing) return unreadable(ReadError::badReference);
+    values_.back() = objects_.referenceAt(dictionary.content, dictionary.entries + entry);
+    if (values_.back() == missing) return unreadable(ReadError::badReference);
   }
   return true;
 }
 
-const ListDecoder::Layout* ListDecoder::layoutOf(const Object& dictionary,
-                                                 std::span<const std::string_view> names) {
-  auto layout = std::ranges::find(layouts_, names.data(), &Layout::names);
-  if (layout == layouts_.end()) layout = layouts_.insert(layout, Layout{names.data(), {}, {}});
+bool ListDecoder::readField(plist::Reference value, const FieldType& field, void* content) {
+  if (value == missing) return field.type->form == Form::optional || missingField(field.name);
+  return read(value, *field.type, content) || inField(field.name);
+}
+
+const ListDecoder::Layout* ListDecoder::layoutOf(const Object& dictionary, const ValueType& type) {
+  auto layout = std::ranges::find(layouts_, &type, &Layout::type);
+  if (layout == layouts_.end()) layout = layouts_.insert(layout, Layout{&type, {}, {}});
   const auto keys = dictionary.content.first(dictionary.content.size() / 2);
   const bool known = !layout->entries.empty() && std::ranges::equal(layout->keys, keys);
-  if (!known && !findFields(dictionary, names, *layout)) {
+  if (!known && !findFields(dictionary, type.fields, *layout)) {
     layout->entries.clear();
     return nullptr;
   }
@@ -135,22 +322,31 @@ const ListDecoder::Layout* ListDecoder::layoutOf(const Object& dictionary,
   return &*layout;
 }
 
-bool ListDecoder::findFields(const Object& dictionary, std::span<const std::string_view> names,
-                             Layout& layout) {
-  layout.entries.assign(names.size(), absent);
+bool ListDecoder::findFields(const Object& dictionary, std::span<const FieldType> fields, Layout& layout) {
+  layout.entries.assign(fields.size(), absent);
   for (std::size_t entry = 0; entry < dictionary.entries; ++entry) {
     Object key;
     if (!take(objects_.referenceAt(dictionary.content, entry), key)) return false;
     const auto text = plist::textOf(key, budget_);
     if (!text) return unreadable(text.error());
-    const auto name = std::ranges::find(names, *text);
-    if (name == names.end()) continue;
-    std::size_t& found = layout.entries[static_cast<std::size_t>(name - names.begin())];
+    const auto field = std::ranges::find(fields, *text, &FieldType::name);
+    if (field == fields.end()) continue;
+    std::size_t& found = layout.entries[static_cast<std::size_t>(field - fields.begin())];
     if (found != absent) return unreadable(ReadError::badObject);  // twice, as plist::read refuses it
     found = entry;
   }
   return true;
 }
 
-}  // namespace detail
+}  // namespace
+
+std::expected<void, DecodeError> decodeList(std::span<const std::byte> file, const ValueType& type,
+                                            void* (*append)(void* list), void* list) {
+  const auto objects = plist::Objects::open(file);
+  if (!objects) return std::unexpected(DecodeError{DecodeError::Kind::unreadable, objects.error(), {}});
+  ListDecoder decoder(*objects, file.size());
+  if (!decoder.readElements(objects->root(), type, append, list)) return std::unexpected(decoder.error());
+  return {};
+}
+
 }  // namespace tb

@@ -4,6 +4,9 @@
 // it is saved. Its members, how each is loaded and what a restart does to each all come from one table,
 // core/world_variables.def.
 
+#include <array>
+#include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,6 +14,7 @@
 #include "core/list.h"
 #include "core/property_list.h"
 #include "core/records/records.h"
+#include "core/value_type.h"
 
 namespace tb {
 
@@ -59,13 +63,64 @@ Kept rowValue(Kept value) {
 
 }  // namespace detail
 
-// The key under which a member of the state is saved.
+// A persisted row of the table as saves and loads see it.
+struct Variable {
+  std::string_view key;
+  std::size_t offset;     // in WorldState, in bytes
+  const ValueType* type;  // of the variable; of a list, that of its elements
+  bool isList;
+  Load load;
+  bool isKept;  // at a restart
+};
+
+namespace detail {
+
+template <class Type>
+inline constexpr bool isList = std::derived_from<Type, ListBase>;
+
+template <class Type>
+consteval const ValueType* savedType() {
+  if constexpr (isList<Type>) {
+    return &typeOf<typename Type::value_type>;
+  } else {
+    return &typeOf<Type>;
+  }
+}
+
+}  // namespace detail
+
+// All persisted rows, in the order of the table.
+inline constexpr auto variables = std::to_array<Variable>({
+#define VARIABLE(Type, key, start, restart, load) \
+  {#key,                                          \
+   __builtin_offsetof(WorldState, key),           \
+   detail::savedType<Type>(),                     \
+   detail::isList<Type>,                          \
+   Load::load,                                    \
+   std::same_as<decltype(detail::rowValue<Type>(restart)), Kept>},
+#define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
+#define RUNTIME(Type, name, start, restart)
+#include "core/world_variables.def"
+});
+
+namespace detail {
+
+enum VariablePosition : std::size_t {
+#define VARIABLE(Type, key, start, restart, load) positionOf_##key,
+#define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
+#define RUNTIME(Type, name, start, restart)
+#include "core/world_variables.def"
+};
+
+}  // namespace detail
+
+// The row of a member of the state; nothing for a run-time one.
 template <auto Member>
-inline constexpr std::string_view keyOf{};
+inline constexpr const Variable* variableOf = nullptr;
 
 #define VARIABLE(Type, key, start, restart, load) \
   template <>                                     \
-  inline constexpr std::string_view keyOf<&WorldState::key> = #key;
+  inline constexpr const Variable* variableOf<&WorldState::key> = &variables[detail::positionOf_##key];
 #define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
 #define RUNTIME(Type, name, start, restart)
 #include "core/world_variables.def"

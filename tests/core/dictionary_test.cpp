@@ -112,8 +112,8 @@ void expectStoredForm(const Value& value, const List<T>& list) {
 TEST(Dictionary, No_two_variables_share_a_key) {
   std::set<std::string_view> keys;
   forEachVariable([&]<auto Member>(const auto&, const auto&, Load) {
-    EXPECT_FALSE(keyOf<Member>.empty());
-    EXPECT_TRUE(keys.insert(keyOf<Member>).second) << keyOf<Member>;
+    EXPECT_FALSE(variableOf<Member>->key.empty());
+    EXPECT_TRUE(keys.insert(variableOf<Member>->key).second) << variableOf<Member>->key;
   });
 }
 
@@ -121,7 +121,8 @@ TEST(Dictionary, A_fresh_install_starts_every_variable_from_its_start_value) {
   ScratchGame fresh;
   loadWorld(fresh.game);
   forEachVariable([&]<auto Member>(const auto& start, const auto&, Load) {
-    if (!hasOwnRule(keyOf<Member>)) EXPECT_EQ(fresh.game.world.*Member, start) << keyOf<Member>;
+    if (!hasOwnRule(variableOf<Member>->key))
+      EXPECT_EQ(fresh.game.world.*Member, start) << variableOf<Member>->key;
   });
   forEachRuntimeVariable(
       [&]<auto Member>(const auto& start, const auto&) { EXPECT_EQ(fresh.game.world.*Member, start); });
@@ -132,8 +133,8 @@ TEST(Dictionary, Every_variable_is_stored_in_its_own_form) {
   scratch.game.world = unusualWorld();
   writeAll(scratch.game);
   forEachVariable([&]<auto Member>(const auto&, const auto&, Load) {
-    SCOPED_TRACE(keyOf<Member>);
-    const auto stored = scratch.store.value(keyOf<Member>);
+    SCOPED_TRACE(variableOf<Member>->key);
+    const auto stored = scratch.store.value(variableOf<Member>->key);
     ASSERT_TRUE(stored);
     expectStoredForm(*stored, scratch.game.world.*Member);
   });
@@ -150,8 +151,8 @@ TEST(Dictionary, A_launch_brings_back_what_the_table_says_and_nothing_else) {
   loadWorld(relaunched);
   EXPECT_EQ(relaunched.world.fanGainCarry, 0);
   forEachVariable([&]<auto Member>(const auto& start, const auto&, Load when) {
-    if (hasOwnRule(keyOf<Member>)) return;
-    SCOPED_TRACE(keyOf<Member>);
+    if (hasOwnRule(variableOf<Member>->key)) return;
+    SCOPED_TRACE(variableOf<Member>->key);
     const bool read = when == Load::atStart || when == Load::lists;
     EXPECT_EQ(relaunched.world.*Member, read ? played.*Member : TypeOf<Member>(start));
     load<Member>(relaunched);  // as the owner of the variable does
@@ -174,8 +175,8 @@ TEST(Dictionary, A_restart_sets_and_writes_every_variable_but_those_that_it_keep
     }
   };
   forEachVariable([&]<auto Member>(const auto&, const auto& restart, Load) {
-    if (hasOwnRule(keyOf<Member>)) return;
-    SCOPED_TRACE(keyOf<Member>);
+    if (hasOwnRule(variableOf<Member>->key)) return;
+    SCOPED_TRACE(variableOf<Member>->key);
     const auto value = expected.template operator()<Member>(restart);
     EXPECT_EQ(scratch.game.world.*Member, value);
     Game relaunched{.store = scratch.store, .random = scratch.random};
@@ -188,7 +189,7 @@ TEST(Dictionary, A_value_of_another_type_leaves_the_variable_as_it_was) {
   ScratchGame scratch;
   const WorldState played = unusualWorld();
   forEachVariable([&]<auto Member>(const auto&, const auto&, Load) {
-    SCOPED_TRACE(keyOf<Member>);
+    SCOPED_TRACE(variableOf<Member>->key);
     using Type = TypeOf<Member>;
     constexpr bool isNumber = std::is_arithmetic_v<Type>;
     const Value text{std::string("text")};
@@ -197,7 +198,7 @@ TEST(Dictionary, A_value_of_another_type_leaves_the_variable_as_it_was) {
     const Value list{Array{Value{Dictionary{}}}};
     for (const Value& wrong : {isNumber ? text : number, garbage, list}) {
       if (std::is_same_v<Type, Image> && wrong == garbage) continue;  // a picture is any bytes
-      scratch.store.put(keyOf<Member>, wrong);
+      scratch.store.put(variableOf<Member>->key, wrong);
       scratch.game.world.*Member = played.*Member;
       load<Member>(scratch.game);
       EXPECT_EQ(scratch.game.world.*Member, played.*Member);

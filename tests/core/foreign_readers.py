@@ -33,7 +33,7 @@ PART = {"role": "hero", "weeks": 12}
 RECORD = {
     "filmId": -5, "gross": 1e9, "isReleased": True, "title": "Ça ira 🎬", "poster": b"\x03" * 40,
     "premiere": datetime.datetime(2024, 1, 2, 3, 4, 5), "sequelOf": 4, "tagline": "", "lead": PART, "cameo": PART,
-    "weeks": [1, 2, 300], "earnings": [0.5, 1e12], "soldOut": [True, False], "genres": ["Drama"], "cast": [PART, PART],
+    "weeks": [1, 2, 300], "earnings": [0.5, 1e12], "genres": ["Drama"], "cast": [PART, PART],
 }
 OPTIONAL = ("sequelOf", "tagline", "cameo")
 RECORDS = [RECORD, {key: value for key, value in RECORD.items() if key not in OPTIONAL}] * 40

@@ -38,8 +38,11 @@ struct StoredList {
   }
 
   void loadInto(List<T>& list) const {
-    list.startLoading();
-    for (const auto& [number, elements] : pieces) list.loadPiece(number, elements);
+    List<T> loaded;
+    for (const auto& [number, elements] : pieces) {
+      for (const T& element : elements) *static_cast<T*>(loaded.addLoaded(number)) = element;
+    }
+    list.takeLoaded(loaded);
   }
 };
 

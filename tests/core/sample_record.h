@@ -33,13 +33,12 @@ struct SampleRecord {
   std::optional<SamplePart> cameo;
   std::vector<std::int64_t> weeks;
   std::vector<double> earnings;
-  std::vector<bool> soldOut;
   std::vector<std::string> genres;
   std::vector<SamplePart> cast;
 
   bool operator==(const SampleRecord&) const = default;
 };
 RECORD_FIELDS(SampleRecord, filmId, gross, isReleased, title, poster, premiere, sequelOf, tagline, lead,
-              cameo, weeks, earnings, soldOut, genres, cast);
+              cameo, weeks, earnings, genres, cast);
 
 }  // namespace tb

@@ -1,0 +1,188 @@
+#include "core/save.h"
+
+#include <cstddef>
+#include <expected>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/debug_log.h"
+#include "core/record_codec.h"
+#include "core/value_conversion.h"
+
+namespace tb {
+
+namespace {
+
+using Form = ValueType::Form;
+
+void* memberOf(WorldState& world, const Variable& variable) {
+  return reinterpret_cast<std::byte*>(&world) + variable.offset;
+}
+
+ListBase& listOf(WorldState& world, const Variable& variable) {
+  return *static_cast<ListBase*>(memberOf(world, variable));
+}
+
+Shape shapeOf(const Variable& list) {
+  return list.type->form == Form::record ? Shape::recordList : Shape::plainList;
+}
+
+// Calls visit(value) with the variable, as what it is. Plain variables are of six types.
+template <class Visit>
+auto visitPlain(Form form, void* value, Visit visit) {
+  switch (form) {
+    case Form::boolean:
+      return visit(*static_cast<bool*>(value));
+    case Form::integer:
+      return visit(*static_cast<std::int64_t*>(value));
+    case Form::real:
+      return visit(*static_cast<double*>(value));
+    case Form::text:
+      return visit(*static_cast<std::string*>(value));
+    case Form::data:
+      return visit(*static_cast<plist::Data*>(value));
+    case Form::date:
+      return visit(*static_cast<plist::Date*>(value));
+    case Form::optional:
+    case Form::list:
+    case Form::record:
+      break;  // no variable is of such a type
+  }
+  std::unreachable();
+}
+
+// --- Saving ---
+
+Bytes encodePiece(const ValueType& type, const ListBase& list, std::size_t first, std::size_t count) {
+  ListEncoder encoder;
+  for (std::size_t index = first; index < first + count; ++index) encoder.add(type, list.element(index));
+  return encoder.finish();
+}
+
+void saveList(SaveStore& store, const Variable& variable, ListBase& list) {
+  // Changes can only be added to pieces that are there.
+  const Shape shape = shapeOf(variable);
+  const SaveStore::Entry* const stored = store.entry(variable.key);
+  if (stored == nullptr || stored->shape != shape) list.replaceStored();
+  const auto changes = list.changes();
+  std::vector<SaveStore::PieceWrite> writes;
+  if (list.empty()) {
+    // An empty list is one empty piece, so that the key is there.
+    if (!list.replacesStored() && changes.empty()) return;
+    writes.push_back({.piece = 0, .bytes = encodePiece(*variable.type, list, 0, 0)});
+    store.putPieces(variable.key, shape, true, std::move(writes));
+  } else {
+    for (const auto& change : changes) {
+      writes.push_back({.piece = change.piece, .bytes = std::nullopt});
+      if (change.count == 0) continue;
+      writes.back().bytes = encodePiece(*variable.type, list, change.first, change.count);
+    }
+    store.putPieces(variable.key, shape, list.replacesStored(), std::move(writes));
+  }
+  list.changesSaved();
+}
+
+// --- Loading ---
+
+// What a load answers: nothing, or why the variable stays as it was, for the debug log.
+using LoadFailure = std::optional<std::string>;
+
+constexpr const char* otherKind = "The stored value is of another kind.";
+
+// Adds the elements that `bytes` hold to the list, as piece `number`.
+LoadFailure addPiece(const Variable& variable, ListBase& list, std::int64_t number,
+                     std::span<const std::byte> bytes) {
+  struct Target {
+    ListBase& list;
+    std::int64_t piece;
+  };
+  Target target{list, number};
+  const auto append = [](void* to) -> void* {
+    const auto& [appended, piece] = *static_cast<Target*>(to);
+    return appended.addLoaded(piece);
+  };
+  const auto decoded = decodeList(bytes, *variable.type, append, &target);
+  return decoded ? std::nullopt : LoadFailure(describe(decoded.error()));
+}
+
+// Takes the pieces over as they are stored, all or none.
+LoadFailure loadPieces(const Variable& variable, const SaveStore::Entry& stored, ListBase& list) {
+  ListBase loaded(list.operations());
+  for (const auto& [number, bytes] : stored.pieces) {
+    if (LoadFailure failure = addPiece(variable, loaded, number, bytes)) return failure;
+  }
+  list.takeLoaded(loaded);
+  return std::nullopt;
+}
+
+// A list as an import leaves it, in one plain value: records in a Data, plain values in an array. It has no
+// pieces yet, so its next save writes all of it.
+LoadFailure loadImported(const Variable& variable, const Bytes& stored, ListBase& list) {
+  ListBase loaded(list.operations());
+  LoadFailure failure;
+  if (shapeOf(variable) == Shape::recordList) {
+    const auto value = plist::read(stored);
+    if (!value) return std::string(plist::describe(value.error()));
+    const auto* const data = value->as<plist::Data>();
+    if (data == nullptr) return otherKind;
+    failure = addPiece(variable, loaded, 0, data->bytes);
+  } else {
+    failure = addPiece(variable, loaded, 0, stored);
+  }
+  if (failure) return failure;
+  list.takeLoaded(loaded);
+  list.replaceStored();
+  return std::nullopt;
+}
+
+LoadFailure loadList(const Variable& variable, const SaveStore::Entry& stored, ListBase& list) {
+  LoadFailure failure = otherKind;
+  if (stored.shape == shapeOf(variable)) failure = loadPieces(variable, stored, list);
+  if (stored.shape == Shape::plain) failure = loadImported(variable, stored.pieces.begin()->second, list);
+  if (failure) list.replaceStored();  // its next save can't add to what can't be read
+  return failure;
+}
+
+LoadFailure loadPlain(const Variable& variable, const SaveStore::Entry& stored, void* value) {
+  if (stored.shape != Shape::plain) return otherKind;
+  const auto held = plist::read(stored.pieces.begin()->second);
+  if (!held) return std::string(plist::describe(held.error()));
+  return visitPlain(variable.type->form, value, [&]<class T>(T& plain) -> LoadFailure {
+    auto read = valueAs<T>(*held);
+    if (!read) return otherKind;
+    plain = *std::move(read);
+    return std::nullopt;
+  });
+}
+
+// Nothing that a player wrote is lost because this build can't read it.
+void loadVariable(Game& game, const Variable& variable) {
+  const SaveStore::Entry* const stored = game.store.entry(variable.key);
+  if (stored == nullptr) return;
+  const LoadFailure failure = variable.isList ? loadList(variable, *stored, listOf(game.world, variable))
+                                              : loadPlain(variable, *stored, memberOf(game.world, variable));
+  if (!failure) return;
+  game.store.keepAside(variable.key);
+  debugLog(std::string(variable.key) + ": " + *failure);
+}
+
+}  // namespace
+
+void saveVariables(Game& game, std::span<const Variable* const> which) {
+  for (const Variable* const variable : which) {
+    if (variable->isList) {
+      saveList(game.store, *variable, listOf(game.world, *variable));
+    } else {
+      visitPlain(variable->type->form, memberOf(game.world, *variable),
+                 [&](const auto& plain) { game.store.put(variable->key, toValue(plain)); });
+    }
+  }
+}
+
+void loadVariables(Game& game, std::span<const Variable* const> which) {
+  for (const Variable* const variable : which) loadVariable(game, *variable);
+}
+
+}  // namespace tb

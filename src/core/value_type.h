@@ -1,0 +1,126 @@
+#pragma once
+
+// What a type is to the save file, as data. The encoder, the decoder, saves and loads walk these tables, and
+// so are there once, not once for each record and variable: as templates they were a third of the page's
+// program.
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+#include "core/property_list.h"
+#include "core/records/fields.h"
+
+namespace tb {
+
+struct ValueType;
+
+// A field of a record.
+struct FieldType {
+  std::string_view name;
+  std::size_t offset;  // in the record, in bytes
+  const ValueType* type;
+};
+
+// The elements of a vector, or of an optional, which has one or none.
+struct Elements {
+  std::size_t (*count)(const void* container) = nullptr;
+  const void* (*at)(const void* container, std::size_t index) = nullptr;
+  void* (*append)(void* container) = nullptr;  // a new element, with its type's start values
+};
+
+struct ValueType {
+  enum class Form : std::uint8_t { boolean, integer, real, text, data, date, optional, list, record };
+
+  Form form;
+  std::size_t size;                    // in bytes of memory
+  const ValueType* element = nullptr;  // of an optional and of a list
+  Elements elements{};                 // the same
+  std::span<const FieldType> fields;   // of a record, in its order
+};
+
+namespace detail {
+
+template <class T>
+inline constexpr bool isVector = false;
+template <class T>
+inline constexpr bool isVector<std::vector<T>> = true;
+
+template <class T>
+consteval ValueType describeType();
+
+}  // namespace detail
+
+// The description of any type that a variable, a list or a field of a record can have.
+template <class T>
+inline constexpr ValueType typeOf = detail::describeType<T>();
+
+namespace detail {
+
+template <class Record>
+inline constexpr auto fieldTypes = std::apply(
+    []<class... T>(const RecordField<Record, T>&... field) {
+      return std::array{FieldType{field.name, field.offset, &typeOf<T>}...};
+    },
+    fieldsOf<Record>);
+
+template <class T>
+inline constexpr Elements vectorElements{
+    .count = [](const void* container) { return static_cast<const std::vector<T>*>(container)->size(); },
+    .at = [](const void* container, std::size_t index) -> const void* {
+      return &(*static_cast<const std::vector<T>*>(container))[index];
+    },
+    .append = [](void* container) -> void* {
+      return &static_cast<std::vector<T>*>(container)->emplace_back();
+    }};
+
+template <class T>
+inline constexpr Elements optionalElements{
+    .count = [](const void* container) -> std::size_t {
+      return static_cast<const std::optional<T>*>(container)->has_value() ? 1 : 0;
+    },
+    .at = [](const void* container, std::size_t) -> const void* {
+      return &**static_cast<const std::optional<T>*>(container);
+    },
+    .append = [](void* container) -> void* { return &static_cast<std::optional<T>*>(container)->emplace(); }};
+
+template <class T>
+consteval ValueType describeType() {
+  using enum ValueType::Form;
+  if constexpr (RecordType<T>) {
+    return {.form = record, .size = sizeof(T), .fields = fieldTypes<T>};
+  } else if constexpr (isVector<T>) {
+    using Element = typename T::value_type;
+    static_assert(!std::is_same_v<Element, bool>, "a vector of flags has no elements to point at");
+    return {
+        .form = list, .size = sizeof(T), .element = &typeOf<Element>, .elements = vectorElements<Element>};
+  } else if constexpr (isOptional<T>) {
+    using Element = typename T::value_type;
+    return {.form = optional,
+            .size = sizeof(T),
+            .element = &typeOf<Element>,
+            .elements = optionalElements<Element>};
+  } else if constexpr (std::is_same_v<T, bool>) {
+    return {.form = boolean, .size = sizeof(T)};
+  } else if constexpr (std::is_same_v<T, std::int64_t>) {
+    return {.form = integer, .size = sizeof(T)};
+  } else if constexpr (std::is_same_v<T, double>) {
+    return {.form = real, .size = sizeof(T)};
+  } else if constexpr (std::is_same_v<T, std::string>) {
+    return {.form = text, .size = sizeof(T)};
+  } else if constexpr (std::is_same_v<T, plist::Data>) {
+    return {.form = data, .size = sizeof(T)};
+  } else {
+    static_assert(std::is_same_v<T, plist::Date>, "the save file knows no such type");
+    return {.form = date, .size = sizeof(T)};
+  }
+}
+
+}  // namespace detail
+}  // namespace tb
