@@ -4,6 +4,7 @@
 #include <string>
 
 #include "banks/banks.h"
+#include "core/debug_log.h"
 #include "core/log.h"
 #include "core/save.h"
 #include "core/signed_agent.h"
@@ -25,8 +26,8 @@ constexpr double wrap = 3;
 }  // namespace agentTakes
 
 constexpr double experienceOfInvitation = 0.25;  // of the difficulty
-constexpr double experienceOfOffer = 1.0 / 3;
-constexpr double mostExperienceOfShoot = 8;  // points
+constexpr double shareOfOffer = 3;               // the difficulty is divided by it
+constexpr double mostExperienceOfShoot = 8;      // points
 constexpr double mostExperienceOfCommercial = 2;
 constexpr std::int64_t bribeThatSkipsTheDie = 51;
 
@@ -46,7 +47,7 @@ struct Pass {
   }
 };
 
-// A commercial is never spoken of by its title.
+// The feed never speaks of a commercial by its title; the log does.
 std::string nameOf(const Audition& project) {
   return project.typeOfFilm == filmType::commercial ? "a commercial" : project.title;
 }
@@ -106,6 +107,7 @@ bool isInvited(Pass& pass, const Audition& project) {
   const std::int64_t chance = drawChance(pass, project);
   if (project.didAct < 1) return true;
   const std::int64_t score = RandomBetween(pass.game.random, 0, pass.world.showreelScore) + project.didBribe;
+  debugLog(std::format("My experience == {} -- {} -- {}", project.didBribe, score, project.title));
   const bool prevailed = prevails(pass, project, score, chance);
   return prevailed || (score >= chance && project.didBribe >= bribeThatSkipsTheDie);
 }
@@ -125,7 +127,7 @@ void offerRole(Pass& pass, std::size_t index) {
     pass.world.WeekFeed.push_back(std::format(
         "You auditioned for {} and the cast director offered you the role. Shooting begins in {} week(s).",
         nameOf(project), project.weekToWork - pass.week() - 1));
-    pass.world.experience += project.auditionDifficulty * experienceOfOffer;
+    pass.world.experience += project.auditionDifficulty / shareOfOffer;
   }
   pass.tellAgent(index, agentTakes::offer);
 }
@@ -143,6 +145,7 @@ void audition(Pass& pass, std::size_t index) {
   const std::int64_t chance = drawChance(pass, project);
   const std::int64_t rating =
       RandomBetween(pass.game.random, 0, static_cast<std::int64_t>(project.rehearsalRating));
+  debugLog(std::format("Audition Chance -- {} -- Audition Rating -- {}", chance, rating));
   if (project.didAct < 1 || prevails(pass, project, rating, chance)) return offerRole(pass, index);
   reject(pass, index);
 }

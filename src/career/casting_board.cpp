@@ -24,12 +24,6 @@ const Movie& drawMovie(Game& game, const CastingBoard& board) {
   return *movie;
 }
 
-// Three listings in four are for performers of the same standing with the guild.
-std::int64_t drawUnionFlag(Game& game) {
-  const bool flipped = RandomRange(game.random, 4) == 3;
-  return flipped ? 1 - game.world.isSAG : game.world.isSAG;
-}
-
 CastingListing drawListing(Game& game, const CastingBoard& board, std::int64_t filmId) {
   CastingListing listing{.filmId = filmId, .isPrincipal = RandomRange(game.random, 2)};
   const TvRole& tv_role = drawTvRole(game);

@@ -121,6 +121,11 @@ std::string drawRole(Game& game, std::int64_t isPrincipal) {
 
 const TvRole& drawTvRole(Game& game) { return RandomElement<TvRole>(game.random, typesOfPrincipalForTV); }
 
+std::int64_t drawUnionFlag(Game& game) {
+  const bool flipped = RandomRange(game.random, 4) == 3;
+  return flipped ? 1 - game.world.isSAG : game.world.isSAG;
+}
+
 void completeListing(Game& game, CastingListing& listing, const TvRole& tvRole) {
   listing.characterName = inventedName(game.random, game.world.isMale);
   drawTerms(game, listing, tvRole);

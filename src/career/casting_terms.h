@@ -25,6 +25,9 @@ void drawTerms(Game& game, CastingListing& listing, const TvRole& tvRole);
 // One of the two roles that a series has for a principal.
 [[nodiscard]] const TvRole& drawTvRole(Game& game);
 
+// The union flag: three projects in four are for performers of the same standing with the guild.
+[[nodiscard]] std::int64_t drawUnionFlag(Game& game);
+
 // Draws all of a listing that is not decided yet: the project, the part, the role and the union flag stand in
 // it.
 void completeListing(Game& game, CastingListing& listing, const TvRole& tvRole);

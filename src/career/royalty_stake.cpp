@@ -40,11 +40,12 @@ double drawPercent(Game& game, const TalentAgent& agent) {
   return RandomUnit(game.random, leastPercent, highest);
 }
 
-// A role as the casting board has them, without its money. An agent sends nothing that the guild forbids.
+// A role as the casting board has them, without its money.
 Audition drawProject(Game& game, double percent) {
-  CastingListing listing{.isPrincipal = rolePart::principal, .isUnion = game.world.isSAG};
+  CastingListing listing{.isPrincipal = rolePart::principal};
   listing.movie = &RandomElement(game.random, royaltyMovies());
   listing.role = drawRole(game, listing.isPrincipal);
+  listing.isUnion = drawUnionFlag(game);
   completeListing(game, listing, drawTvRole(game));
   Audition project = projectFrom(listing);
   project.payment = 0;

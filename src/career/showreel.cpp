@@ -71,6 +71,13 @@ std::vector<std::size_t> allPerformanceFootage(const WorldState& world) {
 void openShowreel(Game& game) {
   load<&WorldState::existingFootageScore, &WorldState::newScenesProduced, &WorldState::newSceneDescriptions>(
       game);
+  // A save from elsewhere can hold one list without the other: scenes that can't be told are no scenes.
+  WorldState& world = game.world;
+  while (world.newScenesProduced.size() > world.newSceneDescriptions.size())
+    world.newScenesProduced.pop_back();
+  while (world.newSceneDescriptions.size() > world.newScenesProduced.size()) {
+    world.newSceneDescriptions.pop_back();
+  }
 }
 
 Refusal roomForScene(std::size_t packageIndex, std::size_t scenes) {

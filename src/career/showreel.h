@@ -38,7 +38,7 @@ inline constexpr std::size_t mostFootage = 3;   // scenes in a reel
 // work.
 [[nodiscard]] std::vector<std::size_t> allPerformanceFootage(const WorldState& world);
 
-// Reads the showreel's keys back when its screen opens.
+// Reads the showreel's keys back when its screen opens; every scene then has its score.
 void openShowreel(Game& game);
 
 // Refuses one more scene than a package (0 to 2) holds, with `scenes` of them written already.

@@ -41,6 +41,9 @@ const ShortForm* formOf(const std::array<ShortForm, Count>& forms, double amount
   return nullptr;
 }
 
+// What stands for an amount that is no number, wherever the device is from.
+constexpr const char* noNumber = "$0";
+
 // The digits of a number that is not negative, grouped by threes, with the locale's separators.
 std::string groupedDigits(const Locale& locale, double amount, int digits) {
   const std::string plain = std::format("{:.{}f}", amount, digits);
@@ -62,7 +65,7 @@ std::string withSymbol(const Locale& locale, const std::string& amount) {
 }  // namespace
 
 std::string shortMoney(const Locale& locale, double v) {
-  if (!std::isfinite(v)) return withSymbol(locale, "0");
+  if (!std::isfinite(v)) return noNumber;
   if (v < 0) return "";
   const ShortForm* form = formOf(moneyForms, v);
   if (form == nullptr) return "";
@@ -77,7 +80,7 @@ std::string shortCount(std::int64_t n) {
 }
 
 std::string currency(const Locale& locale, double amount, int digits) {
-  if (!std::isfinite(amount)) return withSymbol(locale, "0");
+  if (!std::isfinite(amount)) return noNumber;
   const std::string text = withSymbol(locale, groupedDigits(locale, std::abs(amount), digits));
   return amount < 0 ? locale.minusSign + text : text;
 }

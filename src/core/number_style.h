@@ -16,7 +16,7 @@ namespace tb {
 // A count of people or units in short form: 999, 1.0K, 1.0M, 1.0B. Empty for negatives and from 10^12.
 [[nodiscard]] std::string shortCount(std::int64_t n);
 
-// An amount in full, with exactly `digits` digits after the decimal point: $1,234.50, -$3.
+// An amount in full, with exactly `digits` digits after the decimal point: $1,234.50, -$3; "$0" as above.
 [[nodiscard]] std::string currency(const Locale& locale, double amount, int digits);
 
 // Cash as the hub shows it: cents while there is less than 1,000, whole units from there on.

@@ -1,18 +1,19 @@
 #include "film/cast_list.h"
 
+#include <algorithm>
 #include <cstdint>
 
-#include "banks/names.h"
-#include "core/world_state.h"
+#include "core/random.h"
+#include "film/catalogue.h"
 
 namespace tb {
 
 namespace {
 
-constexpr int colleagues = 4;
+constexpr std::size_t colleagues = 4;
 
-// A source that gives the same words for the same film: nothing here is left to chance, but names are made in
-// one place only. (The mixing is that of SplitMix64.)
+// A source that gives the same words for the same film: nothing here is left to chance, but stars are drawn
+// in one way only. (The mixing is that of SplitMix64.)
 class WordsOfFilm : public RandomSource {
  public:
   explicit WordsOfFilm(std::int64_t filmId) : state_(static_cast<std::uint64_t>(filmId)) {}
@@ -37,9 +38,9 @@ std::vector<std::string> castList(const Film& film) {
   WordsOfFilm words(film.filmId);
   const auto small_part = film.isPrincipal == rolePart::background ? cast.begin() : cast.end();
   std::vector<std::string> others;
-  for (int index = 0; index < colleagues; ++index) {
-    const bool is_male = RandomRange(words, 2) == 0;
-    others.push_back(inventedName(words, is_male));
+  while (others.size() < colleagues) {
+    const std::string& star = RandomElement(words, starNames());
+    if (!std::ranges::contains(others, star)) others.push_back(star);
   }
   cast.insert(small_part, others.begin(), others.end());
   return cast;

@@ -167,9 +167,17 @@ std::span<const CatalogueTitle> rateMovieCatalogue() {
   return rows;
 }
 
+std::span<const std::string> starNames() {
+  static const std::vector<std::string> names = [] {
+    std::vector<std::string> all;
+    for (const Bankable& star : numberedStars()) all.push_back(star.name);
+    return all;
+  }();
+  return names;
+}
+
 std::vector<Bankable> bankables(RandomSource& random) {
-  static const std::vector<Bankable> rows = numberedStars();
-  std::vector<Bankable> stars = rows;
+  std::vector<Bankable> stars = numberedStars();
   for (Bankable& star : stars) {
     star.rating = RandomBetween(random, lowestStarRating, highestStarRating);
     star.lastWeekRating = RandomBetween(random, lowestStarRatingLastWeek, highestStarRating);

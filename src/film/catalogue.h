@@ -96,7 +96,9 @@ struct Bankable {
 // 210 titles.
 [[nodiscard]] std::span<const CatalogueTitle> rateMovieCatalogue();
 
-// The 100 stars, highest grossing first, with ratings drawn anew.
+// The 100 stars of the industry, highest grossing first: their names, and all about them with ratings drawn
+// anew.
+[[nodiscard]] std::span<const std::string> starNames();
 [[nodiscard]] std::vector<Bankable> bankables(RandomSource& random);
 
 }  // namespace tb

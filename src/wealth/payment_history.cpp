@@ -26,7 +26,6 @@ class History {
  public:
   void add(PaymentKind kind, const std::string& title, std::int64_t year, std::int64_t tracked, double amount,
            std::string_view source = {}) {
-    if (amount == 0) return;
     payments_.push_back({tracked,
                          {.kind = kind,
                           .title = title,
@@ -64,9 +63,15 @@ std::vector<Payment> paymentHistory(const WorldState& world) {
   History history;
   for (const WeeklyEarnings& line : world.saveAllWeeklyEarnings) {
     const std::int64_t week = line.weekNumberForTracking;
-    history.add(session, line.filmTitle, line.yearNumber, week, line.sessionEarned);
-    history.add(buyout, line.filmTitle, line.yearNumber, week, line.buyoutEarned);
-    history.add(residual, line.filmTitle, line.yearNumber, week, line.residualsEarned);
+    const auto add = [&](PaymentKind kind, double amount) {
+      history.add(kind, line.filmTitle, line.yearNumber, week, amount);
+    };
+    // A record is of one kind of pay, or of a fee and its buyout. Work for nothing is listed as such.
+    if (line.sessionEarned != 0 || (line.buyoutEarned == 0 && line.residualsEarned == 0)) {
+      add(session, line.sessionEarned);
+    }
+    if (line.buyoutEarned != 0) add(buyout, line.buyoutEarned);
+    if (line.residualsEarned != 0) add(residual, line.residualsEarned);
   }
   for (const RoyaltyPayout& line : world.saveAllRoyaltyPayouts) {
     history.add(royalty, line.title, line.yearNumber, line.weekNumberForTracking, line.payout,

@@ -28,7 +28,7 @@ struct Payment {
 };
 
 // Every payment of titles, the newest first. A record of two amounts, such as a fee with its buyout, gives
-// two payments; an amount of 0 gives none.
+// two payments. What paid nothing is listed with 0, so that nothing that the feed told of is missing.
 [[nodiscard]] std::vector<Payment> paymentHistory(const WorldState& world);
 
 struct YearOfPayments {

@@ -39,7 +39,7 @@ struct Stake : testing::Test, test::ScratchGame {
 
   // A project of the first row, a feature film, with a beginner for a director.
   const Audition& make(double share) {
-    random.unit(share).range(std::ssize(royaltyMovies()), 0).any(15);
+    random.unit(share).range(std::ssize(royaltyMovies()), 0).any(16);
     makeStakeOffer(game, mail);
     return *stakeOffer(world, mail);
   }

@@ -257,6 +257,18 @@ TEST_F(Talent, NewScenesAreShotRatedAndReplaceTheLastReel) {
   EXPECT_EQ(world.showreelScore, 38);  // (100 + 40 + 25) / 425
 }
 
+TEST_F(Talent, ASaveThatLostScoresOfScenesOpensWithTheScenesThatHaveOne) {
+  world.newSceneDescriptions = {"a waiter quits", "a queen waits"};
+  world.newScenesProduced = {21};
+  save<&WorldState::newSceneDescriptions, &WorldState::newScenesProduced>(game);
+  openShowreel(game);
+  EXPECT_EQ(world.newSceneDescriptions, (TextList{"a waiter quits"}));
+  store.remove("newSceneDescriptions");
+  world.newSceneDescriptions.clear();
+  openShowreel(game);
+  EXPECT_TRUE(world.newScenesProduced.empty());
+}
+
 TEST_F(Talent, TheGuildTakesInWorkingActorsWhoCanPay) {
   world.totalCashAvailable = 2999;
   world.yearNumber = 2028;

@@ -3,8 +3,11 @@
 #include "film/film_record.h"
 
 #include <gtest/gtest.h>
+#include <ranges>
+#include <set>
 
 #include "film/cast_list.h"
+#include "film/catalogue.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
@@ -136,6 +139,10 @@ TEST(CastList, IsTheSameEveryTimeAndPutsThePlayerWhereThePartIs) {
   ASSERT_EQ(lead.size(), 5U);
   EXPECT_EQ(lead.front(), "Ada Quinn");
   EXPECT_EQ(castList(film), lead);
+  EXPECT_EQ(std::set(lead.begin(), lead.end()).size(), lead.size());
+  for (const std::string& star : lead | std::views::drop(1)) {
+    EXPECT_TRUE(std::ranges::contains(starNames(), star)) << star;
+  }
   film.isPrincipal = rolePart::background;
   EXPECT_EQ(castList(film).back(), "Ada Quinn");
   EXPECT_EQ(castList(film).front(), lead[1]);

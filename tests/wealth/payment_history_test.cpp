@@ -40,6 +40,7 @@ TEST(PaymentHistory, TellsEveryPaymentOnceTheNewestFirst) {
                       "Salt Road 4 2026/1 -30 box office",
                       "Salt Road 0 2026/52 940 ",  // counted by the summary of the last week
                       "Salt Road 1 2026/52 60 ",
+                      "Fizz 0 2026/9 0 ",  // worked for nothing
                   }));
 }
 

@@ -10,6 +10,7 @@
 #include "screens/career_start/settings_view_controller.h"
 #include "screens/hub/tabs.h"
 #include "screens/week/weekly_summary_view_controller.h"
+#include "wealth/net_worth.h"
 #include "week/end_week.h"
 
 namespace tb {
@@ -20,9 +21,18 @@ void ViewController::load(Stage& stage) {
 }
 
 void ViewController::appear(Stage& stage) {
-  if (stage.game().world.enterPlayerDetails != 0) return;
-  current_ = Tab::home;
-  stage.open(std::make_unique<EnterPlayerDetailsViewController>());
+  if (stage.game().world.enterPlayerDetails == 0) {
+    current_ = Tab::home;
+    stage.open(std::make_unique<EnterPlayerDetailsViewController>());
+  } else {
+    show(stage, current_);
+  }
+}
+
+// The wealth tab is where the best net worth of a career is found out.
+void ViewController::show(Stage& stage, Tab tab) {
+  current_ = tab;
+  if (tab == Tab::wealth) keepNetWorth(stage.game());
 }
 
 void ViewController::endWeekButton(Stage& stage) {
@@ -32,8 +42,8 @@ void ViewController::endWeekButton(Stage& stage) {
 }
 
 view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {
-  return {.label = label, .icon = icon, .current = current_ == which, .press = [this, which](Stage&) {
-            current_ = which;
+  return {.label = label, .icon = icon, .current = current_ == which, .press = [this, which](Stage& stage) {
+            show(stage, which);
           }};
 }
 

@@ -19,6 +19,7 @@ class ViewController : public Screen {
   static void endWeekButton(Stage& stage);
 
  private:
+  void show(Stage& stage, Tab tab);
   [[nodiscard]] view::Tab tab(Tab which, const char* label, const char* icon);
 
   Tab current_ = Tab::home;

@@ -31,7 +31,6 @@ Section theProject(const Game& game, const Audition& offer) {
 }
 
 std::string chanceWords(std::int64_t chance, std::int64_t bonus) {
-  if (bonus == 0) return std::format("{}% Chance", chance);
   return std::format("{}% Chance + {}% Agent Bonus", chance, bonus);
 }
 
