@@ -30,7 +30,8 @@ double drawResidual(Game& game) {
   return RandomUnit(game.random, least, most) + game.world.agentResidualBonus;
 }
 
-// Small productions pay better than big ones: those need the name on the poster, these have names enough.
+// A small production pays better than a big one: it needs the name on its poster, where the big one has names
+// enough.
 void drawFeatureFilm(Game& game, CastingListing& listing, const TvRole&) {
   constexpr double bigBudget = 749'999;
   listing.budget = dollars(10'000 * RandomBetween(game.random, 10, 99));

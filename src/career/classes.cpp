@@ -4,6 +4,7 @@
 #include <format>
 
 #include "banks/banks.h"
+#include "core/bands.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 #include "core/save.h"
@@ -12,12 +13,14 @@ namespace tb {
 
 namespace {
 
-// The number of classes taken from which each level is open, with the level before it exhausted.
+// The number of classes taken up to which each level is open; the next one opens with it exhausted.
 struct TierBand {
-  std::int64_t from;
+  std::int64_t upTo;
   std::int64_t tier;
 };
-constexpr std::array<TierBand, 4> tiers = {{{39, 4}, {28, 3}, {18, 2}, {0, 1}}};
+constexpr std::array<TierBand, 3> tiers = {
+    {{.upTo = 17, .tier = 1}, {.upTo = 27, .tier = 2}, {.upTo = 38, .tier = 3}}};
+constexpr std::int64_t highestTier = 4;
 
 constexpr std::int64_t mostOptions = 5;
 constexpr int mostDraws = 100;             // the draw of options gives up after these
@@ -57,7 +60,8 @@ std::int64_t classEnergy(const WorldState& world) {
 
 std::int64_t classTier(const WorldState& world) {
   const std::int64_t taken = std::ssize(world.saveAllCompletedClasses);
-  return std::ranges::find_if(tiers, [&](const TierBand& band) { return taken >= band.from; })->tier;
+  const TierBand* const band = bandOf(tiers, taken);
+  return band != nullptr ? band->tier : highestTier;
 }
 
 double completionPercentage(const WorldState& world) {

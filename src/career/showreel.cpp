@@ -99,7 +99,7 @@ std::int64_t previewFootageReel(Game& game, std::span<const std::int64_t> filmId
   return reelScore(game, footageSum(game.world, filmIds), worstCutOfFootage);
 }
 
-Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t previewed) {
+Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t tempScore) {
   if (filmIds.empty()) {
     return Notice{.title = "🎞️ No Footage Selected 🎞️",
                   .message = "\nSelect at least one scene of your finished work for the showreel."};
@@ -107,7 +107,7 @@ Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmI
   if (Refusal refusal = payFor(game, footageReelCost)) return refusal;
 
   WorldState& world = game.world;
-  world.showreelScore = previewed;
+  world.showreelScore = tempScore;
   logActivity(world, std::format("You updated your showreel using existing footage, and it’s now rated {}",
                                  world.showreelScore));
   save<&WorldState::totalCashAvailable, &WorldState::showreelScore, &WorldState::activityTracker>(game);

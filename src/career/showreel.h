@@ -51,9 +51,9 @@ Refusal chooseFootage(std::vector<std::int64_t>& filmIds, std::int64_t filmId);
 // out differently.
 [[nodiscard]] std::int64_t previewFootageReel(Game& game, std::span<const std::int64_t> filmIds);
 
-// Pays for the reel that was previewed and takes its score. Refuses without a choice or without the cash.
-// Writes cash, score and log.
-Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t previewed);
+// Pays for the reel that was previewed at `tempScore` and takes that score. Refuses without a choice or
+// without the cash. Writes cash, score and log.
+Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t tempScore);
 
 // Has the scenes of a package (0 to 2) shot: one description each. When footage is chosen too, the reel is
 // rated by the footage in their place. Refuses more scenes than the package holds, none at all, and without

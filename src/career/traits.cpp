@@ -19,8 +19,12 @@ void saveTrait(Game& game) {
 }
 
 template <auto Points, auto Price>
-constexpr Trait trait(std::string_view label, std::int64_t share = 1) {
-  return {.label = label, .points = Points, .price = Price, .share = share, .save = saveTrait<Points, Price>};
+constexpr Trait trait(std::string_view label, std::int64_t pricePerPoint = 1) {
+  return {.label = label,
+          .points = Points,
+          .price = Price,
+          .pricePerPoint = pricePerPoint,
+          .save = saveTrait<Points, Price>};
 }
 
 }  // namespace
@@ -34,7 +38,7 @@ const std::array<Trait, 5> traits = {
 };
 
 std::int64_t nextValue(const WorldState& world, const Trait& trait) {
-  return std::min(world.*trait.price / trait.share, highestTrait);
+  return std::min(world.*trait.price / trait.pricePerPoint, highestTrait);
 }
 
 Refusal buyTrait(Game& game, int k) {
@@ -48,7 +52,7 @@ Refusal buyTrait(Game& game, int k) {
 
   world.*trait.points = nextValue(world, trait);
   world.totalEnergyAvailable -= world.*trait.price;
-  world.*trait.price += trait.share * RandomElement<std::int64_t>(game.random, energyCostMultiples);
+  world.*trait.price += trait.pricePerPoint * RandomElement<std::int64_t>(game.random, energyCostMultiples);
   trait.save(game);
   return {};
 }

@@ -16,7 +16,7 @@ struct Trait {
   std::string_view label;
   std::int64_t WorldState::* points;  // 1 and up
   std::int64_t WorldState::* price;   // energy for the next purchase
-  std::int64_t share;                 // the new value is the price paid, divided by this
+  std::int64_t pricePerPoint;         // the new value is the price paid, divided by this
   void (*save)(Game&);
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Tables by which a figure selects a row: fans a multiplier, a budget a spread, a score a wording. All of
-// them are looked up here.
+// Tables by which a figure selects a row: fans a multiplier, a budget a spread, a score a wording. They
+// are looked up here.
 
 #include <array>
 #include <cstddef>

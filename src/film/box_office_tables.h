@@ -32,7 +32,8 @@ struct BoxOfficeWeekends {
   double budget = 0;
 };
 
-// The player's films in their eight weeks, the highest latest weekend first.
+// The player's films while they are on show: from the week after the opening for seven weeks, until the last
+// takings are in. The highest latest weekend first.
 [[nodiscard]] std::vector<InTheaters> inTheaters(const WorldState& world);
 
 // All of the player's films that opened, highest gross first.

@@ -7,6 +7,7 @@
 #include "banks/banks.h"
 #include "banks/names.h"
 #include "core/bands.h"
+#include "core/ended_week.h"
 #include "film/film_record.h"
 #include "film/user_reviews.h"
 
@@ -55,7 +56,7 @@ MetReview cardOf(Game& game, const Film& film) {
 void offerRelease(WorldState& world) {
   world.releaseOffered = std::ranges::any_of(world.saveAllAuditionList, [&](const Audition& project) {
     return project.funnelStage == stage::wrapped && project.typeOfFilm != filmType::commercial &&
-           project.weekReleased == world.weekNumberForTracking - 1;
+           project.weekReleased == endedTrackingWeek(world);
   });
 }
 
@@ -64,7 +65,7 @@ std::vector<std::size_t> newReleases(const WorldState& world) {
   for (std::size_t index = 0; index < world.saveAllFilmList.size(); ++index) {
     const Film& film = world.saveAllFilmList[index];
     if (film.typeOfFilm == filmType::commercial) continue;
-    if (film.weekReleased == world.weekNumberForTracking - 1) found.push_back(index);
+    if (film.weekReleased == endedTrackingWeek(world)) found.push_back(index);
   }
   return found;
 }

@@ -26,8 +26,9 @@ struct Audience {
 constexpr Audience smallAudience = {.ratings = {5, 6}, .critics = {1, 3}};
 constexpr Audience festivalAudience = {.ratings = {1, 10}, .critics = {1, 5}};
 
-// What a director of some standing, from 6 up, can get: a rating of lowestRating to the top and raisedRating
-// above it, a metascore of lowestMetascore to the standing and raisedMetascore above it.
+// What a director's standing can bring: a rating of lowestRating to the top and raisedRating above it, a
+// metascore of lowestMetascore to the standing and raisedMetascore above it. Whoever stands below
+// `lowestStanding` is taken for an unknown talent of `unknownTalent`.
 struct Standing {
   std::int64_t upTo;
   Bank review;
@@ -45,6 +46,9 @@ constexpr Audience popular = {.ratings = {1'000, 99'001}, .critics = {5, 46}};
 constexpr Audience worldwide = {.ratings = {1'000, 1'999'001}, .critics = {5, 96}};
 constexpr Audience notedStudent = {.ratings = {5, 996}, .critics = {5, 21}};
 constexpr Audience notedShort = {.ratings = {10, 991}, .critics = {5, 96}};
+
+constexpr std::int64_t lowestStanding = 6;
+constexpr std::int64_t unknownTalent = 10;
 
 // No release is reviewed from the second of the five banks of long reviews.
 constexpr std::array<Standing, 4> standings = {{
@@ -99,7 +103,7 @@ double topRating(std::int64_t directorRating) {
 
 Scores rollScores(Game& game, const Audition& project) {
   const double top = topRating(project.directorRating);
-  const std::int64_t reach = project.directorRating < 6 ? 10 : project.directorRating;
+  const std::int64_t reach = project.directorRating < lowestStanding ? unknownTalent : project.directorRating;
   Scores scores{.imbdRating = RandomUnit(game.random, 1, top),
                 .imbdMetascore = RandomBetween(game.random, 5, reach)};
   rollAudience(game, smallAudience, scores);

@@ -4,6 +4,7 @@
 #include <format>
 
 #include "banks/banks.h"
+#include "core/ended_week.h"
 #include "core/log.h"
 #include "core/number_style.h"
 #include "core/save.h"
@@ -111,7 +112,7 @@ void showReruns(Game& game, const Syndication& title) {
   Ratings& counted =
       world.saveAllRatings.edit(static_cast<std::size_t>(season - world.saveAllRatings.begin()));
   counted.hoursWatched.push_back(static_cast<std::int64_t>(hours));
-  counted.weeksTracked.push_back(world.weekNumberForTracking - 1);
+  counted.weeksTracked.push_back(endedTrackingWeek(world));
   save<&WorldState::saveAllRatings>(game);
 }
 

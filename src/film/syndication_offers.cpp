@@ -101,7 +101,8 @@ std::int64_t priceOf(Game& game, double worth) {
   return static_cast<std::int64_t>(worth);
 }
 
-// Nothing when the title is worth nothing. The first network to come pays what the title is worth.
+// Nothing when the title is worth nothing, which no series comes to. The first network to come pays what the
+// title is worth.
 std::optional<Bid> drawBid(Game& game, const Film& film, bool isFirst) {
   const auto network = static_cast<std::size_t>(RandomRange(game.random, std::ssize(networks)));
   const std::int64_t years = drawYears(game, film.currentPopularity);

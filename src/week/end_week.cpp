@@ -7,6 +7,7 @@
 #include "career/classes.h"
 #include "career/job_contract.h"
 #include "career/renewals.h"
+#include "core/ended_week.h"
 #include "core/save.h"
 #include "film/box_office.h"
 #include "film/popularity_drift.h"
@@ -22,7 +23,7 @@ namespace {
 
 constexpr std::int64_t weekAfterTheLast = 53;
 
-void forgetLastWeek(WorldState& world) {
+void startNewWeek(WorldState& world) {
   world.lastWeekTrackerCount = std::ssize(world.activityTracker);
   world.weekBalanceItems.clear();
   world.weekNetIncome = 0;
@@ -59,7 +60,7 @@ void putBestFiguresForward(Game& game, HubRefresh reason) {
 }  // namespace
 
 void endWeek(Game& game) {
-  forgetLastWeek(game.world);
+  startNewWeek(game.world);
   resolveAuditionsForWeek(game);
   refillEnergy(game);
   advanceJobContract(game);

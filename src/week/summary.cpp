@@ -9,15 +9,9 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t weeksOfAYear = 52;
 constexpr std::size_t weeksOfEarnings = 52;
 
 }  // namespace
-
-EndedWeek endedWeek(const WorldState& world) {
-  if (world.weekNumber == 1) return {.week = weeksOfAYear, .year = world.yearNumber - 1};
-  return {.week = world.weekNumber - 1, .year = world.yearNumber};
-}
 
 void showFeed(Game& game, WeekSummary& summary) {
   TextList& feed = game.world.WeekFeed;

@@ -20,14 +20,6 @@ struct WeekSummary {
   bool offersRelease = false;  // a title came out, and its screen was not opened yet
 };
 
-// The week that just ended, seen from the summary, when the clock already shows the new one. In the last
-// week of a year `weekNumber` is 53 and `yearNumber` still the old year.
-struct EndedWeek {
-  std::int64_t week;
-  std::int64_t year;
-};
-[[nodiscard]] EndedWeek endedWeek(const WorldState& world);
-
 // Hands the lines of `WeekFeed` over to the summary and empties it; a week without a line gives a tip.
 void showFeed(Game& game, WeekSummary& summary);
 

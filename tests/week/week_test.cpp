@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/ended_week.h"
 #include "life/energy.h"
 #include "tests/scratch_game.h"
 #include "wealth/market_index.h"

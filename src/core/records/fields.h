@@ -4,7 +4,7 @@
 //
 // A record is a plain struct. Beside it stands one line,
 //
-//   RECORD_FIELDS(Child, childId, name, gender, ...)
+//   RECORD_FIELDS(Child, id, name, gender, ...)
 //
 // in the order of the struct. The encoder, the decoder and the tests walk that list. It does not compile
 // when a field is missing, doubled or out of order, so a record cannot lose a field on its way to disk.
