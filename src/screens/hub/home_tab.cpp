@@ -26,10 +26,11 @@ Tiles careerTiles(const Game& game) {
 }
 
 Card profile(const WorldState& world) {
-  Card card{.title = std::format("{} years old", world.ageCount), .subtitle = world.aboutDescription};
+  // Who chose no headshot gets the face that goes with the name.
   const std::string headshot = chosenHeadshot(world);
-  if (!headshot.empty()) card.picture = {{.kind = PictureKind::avatar, .name = headshot}};
-  return card;
+  return {.title = std::format("{} years old", world.ageCount),
+          .subtitle = world.aboutDescription,
+          .picture = {{.kind = PictureKind::avatar, .name = headshot.empty() ? world.myName : headshot}}};
 }
 
 Card jobCard(const Game& game) {
