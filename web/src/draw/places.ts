@@ -15,10 +15,12 @@ export function screenOf(page: Page): string {
 
 const controls = "button, input, textarea";
 
-// What a control is called, so that it is found when its element is gone.
+// What a control is called, so that it is found when its element is gone. Cards of one list have buttons of the
+// same name; the title of the card tells them apart.
 function nameOf(control: Element): string {
   const label = (control as HTMLInputElement).labels?.[0] ?? control;
-  return `${control.tagName} ${control.getAttribute("aria-label") ?? label.textContent}`;
+  const card = control.closest(".card")?.querySelector(".card-title")?.textContent ?? "";
+  return `${control.tagName} ${control.getAttribute("aria-label") ?? label.textContent} ${card}`;
 }
 
 function findByName(root: ParentNode, name: string): HTMLElement | undefined {
