@@ -26,11 +26,12 @@ Tiles careerTiles(const Game& game) {
 }
 
 Card profile(const WorldState& world) {
-  // Who chose no headshot gets the face that goes with the name.
+  // Who chose no headshot gets the first that the form has on offer.
   const std::string headshot = chosenHeadshot(world);
   return {.title = std::format("{} years old", world.ageCount),
           .subtitle = world.aboutDescription,
-          .picture = {{.kind = PictureKind::avatar, .name = headshot.empty() ? world.myName : headshot}}};
+          .picture = {{.kind = PictureKind::avatar,
+                       .name = headshot.empty() ? headshotName(world.isMale, 1) : headshot}}};
 }
 
 Card jobCard(const Game& game) {
