@@ -12,6 +12,8 @@ namespace {
 // The first principal roles that run at once cost nothing; each further one costs a point a week.
 constexpr std::int64_t rolesWithoutStress = 5;
 
+}  // namespace
+
 std::int64_t stressOfManyRoles(const WorldState& world) {
   const auto roles = std::ranges::count_if(world.saveAllAuditionList, [](const Audition& audition) {
     return audition.didAct == 1 && audition.isPrincipal == rolePart::principal &&
@@ -19,8 +21,6 @@ std::int64_t stressOfManyRoles(const WorldState& world) {
   });
   return std::max<std::int64_t>(roles, rolesWithoutStress) - rolesWithoutStress;
 }
-
-}  // namespace
 
 std::int64_t weeklyEnergyDrain(const WorldState& world) {
   return world.childEnergyCost + world.weeklyEnergyCost + classEnergy(world) + stressOfManyRoles(world) +

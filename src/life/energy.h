@@ -12,6 +12,10 @@ namespace tb {
 // The refill at the end of a week: sets `totalEnergyAvailable` for the coming one and writes it.
 void refillEnergy(Game& game);
 
+// What too many roles at once take each week: nothing up to five principal roles, then a point for each
+// further one. 0 and up.
+[[nodiscard]] std::int64_t stressOfManyRoles(const WorldState& world);
+
 // What a week takes before the player does anything: children, the job, running classes, too many roles at
 // once, the platform. 0 and up.
 [[nodiscard]] std::int64_t weeklyEnergyDrain(const WorldState& world);

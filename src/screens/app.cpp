@@ -21,6 +21,7 @@ App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<
 const view::Page& App::view() {
   if (!laid_out_) {
     view::Page page = stage_.top().view(game_);
+    page.screen = stage_.topNumber();
     const std::string close = stage_.top().closeLabel();
     if (!close.empty() && stage_.depth() > 1) {
       page.close.push_back({.label = close, .press = [](Stage& stage) { stage.close(); }});

@@ -36,7 +36,10 @@ Meter scoreMeter(std::string label, std::int64_t score) {
           .isScore = true};
 }
 
-std::vector<double> roundScale(double lowest, double highest) {
+namespace {
+
+// Two to six of them.
+std::vector<double> roundValues(double lowest, double highest) {
   constexpr double stepsWanted = 4;
   const double span = std::max({highest - lowest, std::abs(highest) * 1e-3, 1e-6});
   const double magnitude = std::pow(10, std::floor(std::log10(span / stepsWanted)));
@@ -53,14 +56,25 @@ std::vector<double> roundScale(double lowest, double highest) {
   return scale;
 }
 
-namespace {
-
 std::string weeksAgo(std::size_t weeks) {
   if (weeks == 0) return "this week";
   return weeks == 1 ? "last week" : std::format("{} weeks ago", weeks);
 }
 
 }  // namespace
+
+std::vector<Chart::Tick> roundScale(double lowest, double highest, const ValueText& textOf) {
+  constexpr int mostTries = 60;  // doubling, so enough for every double that money or counts reach
+  const auto readsTheSame = [](const Chart::Tick& a, const Chart::Tick& b) { return a.text == b.text; };
+  std::vector<Chart::Tick> scale;
+  for (int tried = 0; tried < mostTries; ++tried) {
+    scale.clear();
+    for (const double mark : roundValues(lowest, highest)) scale.push_back({mark, textOf(mark)});
+    if (std::ranges::adjacent_find(scale, readsTheSame) == scale.end()) break;
+    highest = lowest + 2 * std::max({highest - lowest, std::abs(lowest) * 1e-3, 0.5});
+  }
+  return scale;
+}
 
 Chart weeklyChart(std::string title, std::span<const double> values, const ValueText& textOf) {
   Chart chart{.kind = Chart::Kind::line, .title = std::move(title)};
@@ -74,7 +88,7 @@ Chart weeklyChart(std::string title, std::span<const double> values, const Value
                             .text = textOf(values[index])});
   }
   const auto [lowest, highest] = std::ranges::minmax(values);
-  for (const double mark : roundScale(lowest, highest)) chart.scale.push_back({mark, textOf(mark)});
+  chart.scale = roundScale(lowest, highest, textOf);
   chart.summary = std::format("{} week{}, from {} to {}; lowest {}, highest {}.", values.size(),
                               values.size() == 1 ? "" : "s", textOf(values.front()), textOf(values.back()),
                               textOf(lowest), textOf(highest));

@@ -47,7 +47,9 @@ using ValueText = std::function<std::string(double)>;
 [[nodiscard]] view::Chart weeklyChart(std::string title, std::span<const double> values,
                                       const ValueText& textOf);
 
-// Three to six round values that span lowest to highest, for the scale of a chart.
-[[nodiscard]] std::vector<double> roundScale(double lowest, double highest);
+// The scale of a chart: a few round values that span lowest to highest. Where the values lie so close that
+// two marks would read the same, it spans more.
+[[nodiscard]] std::vector<view::Chart::Tick> roundScale(double lowest, double highest,
+                                                        const ValueText& textOf);
 
 }  // namespace tb

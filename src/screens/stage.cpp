@@ -6,7 +6,7 @@ namespace tb {
 
 void Stage::open(std::unique_ptr<Screen> screen) {
   Screen& opened = *screen;
-  screens_.push_back({std::move(screen)});
+  screens_.push_back({.screen = std::move(screen), .number = ++opened_});
   opened.load(*this);
 }
 

@@ -66,6 +66,8 @@ class Stage {
   void settle();
 
   [[nodiscard]] Screen& top() const { return *screens_.back().screen; }
+  // The screens are numbered from 1 in the order in which they are opened, and keep their number.
+  [[nodiscard]] int topNumber() const { return screens_.back().number; }
   [[nodiscard]] std::size_t depth() const { return screens_.size(); }
   [[nodiscard]] const std::vector<view::Dialog>& dialogs() const { return dialogs_; }
 
@@ -76,12 +78,14 @@ class Stage {
  private:
   struct Standing {
     std::unique_ptr<Screen> screen;
+    int number = 0;
     bool appeared = false;
     std::map<std::string, std::size_t> list_pages = {};
   };
 
   Game& game_;
   std::vector<Standing> screens_;
+  int opened_ = 0;
   std::vector<std::unique_ptr<Screen>> left_;  // closed during this action; their operation may still run
   std::vector<view::Dialog> dialogs_;
 };

@@ -260,6 +260,9 @@ struct Page {
   std::vector<Tab> tabs;
   std::vector<Button> close;   // none or one: the way back, filled in by the App for screens that can be left
   std::vector<Dialog> dialog;  // none or one
+  // Which screen this is, filled in by the App: the same number is the same screen, whatever it is called by
+  // now, and another number is another one, though it may bear the same title.
+  int screen = 0;
 };
 
 }  // namespace tb::view

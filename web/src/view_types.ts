@@ -31,6 +31,7 @@ export interface Page {
   readonly tabs: readonly Tab[];
   readonly close: readonly Button[];
   readonly dialog: readonly Dialog[];
+  readonly screen: number;
 }
 
 export type TextStyle = "body" | "large" | "caption" | "quotation";

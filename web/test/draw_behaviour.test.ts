@@ -34,6 +34,7 @@ const again = (page: Page, nodes: readonly View.Node[], rest: Partial<View.Page>
     tabs: [],
     close: [],
     dialog: [],
+    screen: 1,
     ...rest,
   });
 const done = (page: Page) => page.evaluate(() => window.gallery.done);
@@ -195,7 +196,7 @@ test("another screen starts at its top with its heading; the one come back to is
   await page.getByRole("button", { name: "Film" }).focus();
   const left = await scrolled(page);
   assert.ok(left > 0);
-  const film = { title: "Film", close: [press("Back", 1)] };
+  const film = { title: "Film", close: [press("Back", 1)], screen: 2 };
   await again(page, [...tall, row("Actor", 2)], film);
   assert.equal(await scrolled(page), 0);
   assert.equal(await focused(page), "Film");
@@ -204,8 +205,36 @@ test("another screen starts at its top with its heading; the one come back to is
   assert.equal(await scrolled(page), left);
   assert.equal(await focused(page), "Film");
   assert.equal(await page.title(), "Hub · Top Billing");
-  await again(page, [...tall, row("Actor", 2)], film);
+  await again(page, [...tall, row("Actor", 2)], { ...film, screen: 3 });
   assert.equal(await scrolled(page), 0, "a screen that was left and opened anew starts at its top");
+});
+
+test("a screen is told from another by its number, not by its title", async () => {
+  const close = [press("Back", 1)];
+  const page = await drawn([...tall, row("Box office", 2)], { title: "Film", close, screen: 2 });
+  await page.getByRole("button", { name: "Box office" }).focus();
+  assert.ok((await scrolled(page)) > 0);
+  await again(page, tall, { title: "Film", close, screen: 3 });
+  assert.equal(await scrolled(page), 0, "what a film leads to bears its title too");
+  await scrollTo(page, 200);
+  await again(page, tall, { title: "Shows", close, screen: 3 });
+  assert.equal(await scrolled(page), 200, "a list that is switched over changes its title and stays in place");
+});
+
+test("back among cards whose buttons are called the same, the focus is on the one that was pressed", async () => {
+  const card = (title: string, handle: number): View.Node => ({
+    kind: "card",
+    content: { title, subtitle: "", picture: [], nodes: [button("Read more", handle)], handle: 0 },
+  });
+  const board = [card("Salt Road", 1), card("Paper Moons", 2)];
+  const page = await drawn(board, { title: "Board" });
+  await page.getByRole("button", { name: "Read more" }).nth(1).focus();
+  await again(page, [text("A story.")], { title: "Paper Moons", close: [press("Back", 1)], screen: 2 });
+  await again(page, board, { title: "Board" });
+  const title = await page.evaluate(
+    () => document.activeElement?.closest(".card")?.querySelector(".card-title")?.textContent,
+  );
+  assert.equal(title, "Paper Moons");
 });
 
 const notice = (...answers: View.Button[]) => [{ title: "Sure?", message: "Think.", answers }];
@@ -243,9 +272,9 @@ test("the page under a message changes when the message has been read", async ()
 test("a screen that opens with a message starts at its top, and its heading has the focus after it", async () => {
   const page = await drawn(tall, { title: "Hub" });
   await scrollTo(page, 400);
-  await again(page, tall, { title: "Summary", dialog: notice(press("OK", 1)) });
+  await again(page, tall, { title: "Summary", screen: 2, dialog: notice(press("OK", 1)) });
   assert.equal(await scrolled(page), 0);
-  await again(page, tall, { title: "Summary" });
+  await again(page, tall, { title: "Summary", screen: 2 });
   assert.equal(await focused(page), "Summary");
 });
 
@@ -313,6 +342,7 @@ test("figures count to where they belong", async () => {
         tabs: [],
         close: [],
         dialog: [],
+        screen: 1,
       });
       await new Promise((wait) => setTimeout(wait, 400));
       return [...frames];

@@ -185,6 +185,7 @@ export const page = (title: string, rest: Partial<View.Page>): View.Page => ({
   tabs: [],
   close: [],
   dialog: [],
+  screen: 1,
   ...rest,
 });
 

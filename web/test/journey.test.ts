@@ -18,7 +18,7 @@ async function livesWeeks(page: Page, weeks: number): Promise<void> {
   for (let week = 0; week < weeks; week += 1) {
     await press(page, "End Week");
     await heading(page, "REVIEW");
-    await press(page, "Close");
+    await press(page, "Carry on");
     await page.getByRole("button", { name: "End Week" }).waitFor();
   }
 }

@@ -53,20 +53,54 @@ async function backToTheTabs(page: Page): Promise<void> {
   while ((await back.count()) > 0) await back.click();
 }
 
+// The figures of the part of the page under that heading, one a row.
+const figuresUnder = (page: Page, heading: string): Promise<number[]> =>
+  page
+    .locator(".section", { has: page.getByRole("heading", { name: heading }) })
+    .locator(".row-value")
+    .evaluateAll((values) => values.map((value) => Number(value.lastChild!.textContent)));
+
+async function walk(page: Page, tab: string, presses: readonly RegExp[], name: string): Promise<void> {
+  await backToTheTabs(page);
+  await page.getByRole("navigation").getByRole("button", { name: tab }).click();
+  for (const press of presses) {
+    const pressed = page.getByRole("button", { name: press }).or(page.getByRole("radio", { name: press })).first();
+    assert(await pressed.isVisible(), `${name}: nothing to press for ${String(press)}`);
+    await pressed.click();
+  }
+}
+
 test("every screen of a working actor can be read by everybody", async () => {
   const player = await visit(setting);
   const page = await player.open();
   await startCareer(page, "Somebody Else");
   await bringIn(page);
   for (const [tab, presses, name] of walks) {
-    await backToTheTabs(page);
-    await page.getByRole("navigation").getByRole("button", { name: tab }).click();
-    for (const press of presses) {
-      const pressed = page.getByRole("button", { name: press }).or(page.getByRole("radio", { name: press })).first();
-      assert(await pressed.isVisible(), `${name}: nothing to press for ${String(press)}`);
-      await pressed.click();
-    }
+    await walk(page, tab, presses, name);
     await inspect(page, `actor-${name}`);
   }
+  await player.end();
+});
+
+test("a working actor's week adds up, and a film's box office opens at its top", async () => {
+  const player = await visit(setting);
+  const page = await player.open();
+  await startCareer(page, "Somebody Else");
+  await bringIn(page);
+  await walk(page, "Life", [], "life");
+  const taken = await figuresUnder(page, "EVERY WEEK TAKES");
+  const inAll = taken.pop()!;
+  assert(inAll < 0, "this actor has more roles than are good for anybody");
+  assert.equal(
+    taken.reduce((sum, energy) => sum + energy, 0),
+    inAll,
+  );
+
+  await walk(page, "Work", toTheTitlePage, "title");
+  await page.getByRole("button", { name: "Box office", exact: true }).click();
+  await page.getByText("MARKETS").waitFor();
+  assert.equal(await page.evaluate(() => window.scrollY), 0);
+  await page.getByRole("button", { name: "Back", exact: true }).click();
+  assert.notEqual(await page.evaluate(() => window.scrollY), 0, "the way back leads to where the player was");
   await player.end();
 });

@@ -2,7 +2,6 @@
 
 #include <format>
 
-#include "core/audition_list.h"
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/backstage/listing_parts.h"
@@ -48,9 +47,8 @@ Page BackstageDetailViewController::view(const Game& game) {
                 theRole(listing_),
                 theProject(game, listing_),
                 energyMeter(game.world),
-                submitButton(listing_)};
-  if (auditionIndex(game.world, listing_.filmId))
-    page.nodes.push_back(caption("✓ You submitted for this role."));
+                submitButton(game.world, listing_)};
+  if (isSubmitted(game.world, listing_)) page.nodes.push_back(submittedCaption());
   return page;
 }
 

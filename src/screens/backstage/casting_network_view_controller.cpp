@@ -2,7 +2,6 @@
 
 #include <format>
 
-#include "core/audition_list.h"
 #include "screens/backstage/backstage_detail_view_controller.h"
 #include "screens/backstage/listing_parts.h"
 #include "screens/parts.h"
@@ -24,12 +23,11 @@ Card CastingNetworkViewController::listingCard(const Game& game, const CastingLi
                                                           .buyout = listing.buyout,
                                                           .residual = listing.residual})},
                       Row{.label = "Audition", .value = whenIs(game.world, listing.weekAudition)},
-                      Buttons{{submitButton(listing),
+                      Buttons{{submitButton(game.world, listing),
                                {.label = "Read more", .press = [listing](Stage& stage) {
                                   stage.open(std::make_unique<BackstageDetailViewController>(listing));
                                 }}}}}};
-  if (auditionIndex(game.world, listing.filmId))
-    card.nodes.push_back(caption("✓ You submitted for this role."));
+  if (isSubmitted(game.world, listing)) card.nodes.push_back(submittedCaption());
   return card;
 }
 

@@ -3,6 +3,7 @@
 #include <format>
 
 #include "career/submission.h"
+#include "core/audition_list.h"
 #include "screens/parts.h"
 #include "screens/work/project_words.h"
 
@@ -25,11 +26,22 @@ std::string listingSummary(const CastingListing& listing) {
                      guildWords(listing.isUnion));
 }
 
-view::Button submitButton(const CastingListing& listing) {
-  return {.label = "Submit",
-          .press = [listing](Stage& stage) { submit(stage, listing); },
-          .price = energyPrice(submissionEnergy),
-          .weight = view::Button::Weight::primary};
+view::Button submitButton(const WorldState& world, const CastingListing& listing) {
+  view::Button button{.label = "Submit", .press = [listing](Stage& stage) { submit(stage, listing); }};
+  if (isSubmitted(world, listing)) return button;
+  button.price = energyPrice(submissionEnergy);
+  button.weight = view::Button::Weight::primary;
+  return button;
+}
+
+bool isSubmitted(const WorldState& world, const CastingListing& listing) {
+  return auditionIndex(world, listing.filmId).has_value();
+}
+
+view::Text submittedCaption() {
+  view::Text words = caption("✓ You submitted for this role.");
+  words.tone = view::Tone::good;
+  return words;
 }
 
 }  // namespace tb

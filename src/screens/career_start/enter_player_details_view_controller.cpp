@@ -37,12 +37,24 @@ void EnterPlayerDetailsViewController::load(Stage& stage) {
   form_ = {.myName = world.myName, .aboutDescription = world.aboutDescription, .isMale = world.isMale};
 }
 
+// The other gender has headshots of its own: the one chosen gives way to the one in its place, or the career
+// would begin with a picture that the form no longer shows.
+void EnterPlayerDetailsViewController::chooseGender(Stage& stage, bool isMale) {
+  const std::string chosen = chosenHeadshot(stage.game().world);
+  for (int number = 1; number <= headshotsOnOffer; ++number) {
+    if (chosen != headshotName(!isMale, number)) continue;
+    chooseHeadshot(stage.game(), headshotImage(headshotName(isMale, number)));
+  }
+  form_.isMale = isMale;
+}
+
 Choice EnterPlayerDetailsViewController::genders() {
-  return {
-      .label = "Gender",
-      .options = {
-          {.label = "Male", .chosen = form_.isMale, .press = [this](Stage&) { form_.isMale = true; }},
-          {.label = "Female", .chosen = !form_.isMale, .press = [this](Stage&) { form_.isMale = false; }}}};
+  const auto option = [this](const char* label, bool isMale) {
+    return Choice::Option{.label = label,
+                          .chosen = form_.isMale == isMale,
+                          .press = [this, isMale](Stage& stage) { chooseGender(stage, isMale); }};
+  };
+  return {.label = "Gender", .options = {option("Male", true), option("Female", false)}};
 }
 
 Choice EnterPlayerDetailsViewController::headshots(const Game& game) {

@@ -18,6 +18,7 @@ class EnterPlayerDetailsViewController : public Screen {
 
  private:
   [[nodiscard]] view::Choice genders();
+  void chooseGender(Stage& stage, bool isMale);
   [[nodiscard]] view::Choice headshots(const Game& game);
   void confirm(Stage& stage);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <format>
+#include <functional>
 
 #include "core/number_style.h"
 #include "film/box_office_tables.h"
@@ -23,19 +24,21 @@ Chart eightWeeks(const Game& game, const std::vector<double>& takings) {
                             .text = shownMoney(game.locale, takings[week])});
   }
   const auto [lowest, highest] = std::ranges::minmax(takings);
-  for (const double mark : roundScale(std::min(lowest, 0.0), highest)) {
-    chart.scale.push_back({mark, shownMoney(game.locale, mark)});
-  }
+  chart.scale = roundScale(std::min(lowest, 0.0), highest,
+                           [&game](double mark) { return shownMoney(game.locale, mark); });
   chart.summary = "Eight-week box office performance is based on ticket sales.";
   return chart;
 }
 
-// Where in the list the records of the film stand.
+// Where in the list the records of the film stand, the market that brought most first.
 std::vector<std::size_t> marketsOf(const WorldState& world, std::int64_t filmId) {
   std::vector<std::size_t> found;
   for (std::size_t index = 0; index < world.saveAllBoxOfficeList.size(); ++index) {
     if (world.saveAllBoxOfficeList[index].filmId == filmId) found.push_back(index);
   }
+  std::ranges::stable_sort(found, std::ranges::greater{}, [&world](std::size_t index) {
+    return world.saveAllBoxOfficeList[index].totalGross;
+  });
   return found;
 }
 

@@ -26,10 +26,12 @@ Tiles careerTiles(const Game& game) {
 }
 
 Card profile(const WorldState& world) {
-  Card card{.title = std::format("{} years old", world.ageCount), .subtitle = world.aboutDescription};
+  // Who chose no headshot gets the first that the form has on offer.
   const std::string headshot = chosenHeadshot(world);
-  if (!headshot.empty()) card.picture = {{.kind = PictureKind::avatar, .name = headshot}};
-  return card;
+  return {.title = std::format("{} years old", world.ageCount),
+          .subtitle = world.aboutDescription,
+          .picture = {{.kind = PictureKind::avatar,
+                       .name = headshot.empty() ? headshotName(world.isMale, 1) : headshot}}};
 }
 
 Card jobCard(const Game& game) {

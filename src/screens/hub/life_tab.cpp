@@ -9,12 +9,26 @@ namespace tb {
 
 namespace {
 
-std::string signedEnergy(std::int64_t energy) { return std::format("{:+}", energy); }
-
 view::Row drain(const char* label, std::int64_t energy) {
   return {.label = label,
-          .value = energy == 0 ? "0" : signedEnergy(-energy),
+          .value = energy == 0 ? "0" : std::format("{:+}", -energy),
           .tone = energy > 0 ? view::Tone::warning : view::Tone::quiet};
+}
+
+// Job and classes always stand here, being what everybody can take on; the rest from the week it is felt. The
+// rows add up to the last one.
+view::Section everyWeek(const WorldState& world) {
+  view::Section section{
+      .heading = "EVERY WEEK TAKES",
+      .nodes = {drain("Your job", world.weeklyEnergyCost), drain("Acting classes", classEnergy(world))}};
+  const auto felt = [&](const char* label, std::int64_t energy) {
+    if (energy != 0) section.nodes.push_back(drain(label, energy));
+  };
+  felt("Too many roles at once", stressOfManyRoles(world));
+  felt("Your children", world.childEnergyCost);
+  felt("Your streaming company", world.platformEnergyCost);
+  section.nodes.push_back(drain("In all", weeklyEnergyDrain(world)));
+  return section;
 }
 
 }  // namespace
@@ -27,10 +41,7 @@ std::vector<view::Node> lifeTab(const Game& game) {
           .heading = "ENERGY",
           .nodes = {view::Row{.label = "Weekly ceiling", .value = std::to_string(world.totalEnergyMax)},
                     view::Row{.label = "Lost to age", .value = std::to_string(world.saveAgeLoss)}}},
-      view::Section{
-          .heading = "EVERY WEEK TAKES",
-          .nodes = {drain("Your job", world.weeklyEnergyCost), drain("Acting classes", classEnergy(world)),
-                    drain("In all", weeklyEnergyDrain(world))}},
+      everyWeek(world),
   };
 }
 

@@ -100,9 +100,7 @@ Chart starChart(const StarHistogram& histogram) {
     chart.points.push_back({.label = std::format("{}★", star + 1), .value = share, .text = percent(share)});
     highest = std::max(highest, share);
   }
-  for (const double mark : roundScale(0, highest)) {
-    chart.scale.push_back({mark, std::format("{:.0f}%", mark)});
-  }
+  chart.scale = roundScale(0, highest, [](double mark) { return std::format("{:.0f}%", mark); });
   const auto most = std::ranges::max_element(histogram);
   chart.summary = std::format("The rating given most is {} of 10.", most - histogram.begin() + 1);
   return chart;

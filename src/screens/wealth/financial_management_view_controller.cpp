@@ -81,8 +81,8 @@ Section FinancialManagementViewController::income(const Game& game) const {
 Page FinancialManagementViewController::view(const Game& game) {
   const WorldState& world = game.world;
   return {.title = "Finances",
-          .nodes = {Tiles{{moneyTile(game, "Net worth", world.saveNetworth),
-                           moneyTile(game, "Cash", world.totalCashAvailable)}},
+          .nodes = {Tiles{{moneyTile(game, "Cash", world.totalCashAvailable),
+                           moneyTile(game, "Net worth", world.saveNetworth)}},
                     job(game), paycheck(game), income(game)}};
 }
 

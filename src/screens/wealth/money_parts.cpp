@@ -75,9 +75,8 @@ Chart yearBars(const Game& game, std::string title, const std::vector<YearOfPaym
   Chart chart{.kind = Chart::Kind::bar, .title = std::move(title)};
   for (const MoneyPart& bar : bars) chart.points.push_back(pointOf(game, bar));
   const auto [least, most] = std::ranges::minmax_element(bars, {}, &MoneyPart::amount);
-  for (const double mark : roundScale(std::min(least->amount, 0.0), std::max(most->amount, 0.0))) {
-    chart.scale.push_back({mark, shownMoney(game.locale, mark)});
-  }
+  chart.scale = roundScale(std::min(least->amount, 0.0), std::max(most->amount, 0.0),
+                           [&game](double mark) { return shownMoney(game.locale, mark); });
   chart.summary = std::format("Most in {}: {}.", most->label, shownMoney(game.locale, most->amount));
   return chart;
 }

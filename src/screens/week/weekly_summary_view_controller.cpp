@@ -57,8 +57,13 @@ Page WeeklySummaryViewController::view(const Game& game) {
   Page page{.title = "REVIEW", .subtitle = std::format("Week {} of {}", summary_.week, summary_.year)};
   page.nodes.push_back(balance(game, summary_.balance));
   page.nodes.push_back(energyMeter(game.world));
-  if (summary_.offersRelease) page.nodes.push_back(releaseButton());
+  if (summary_.offersRelease) {
+    page.nodes.push_back(Section{.nodes = {releaseButton()}});
+  }
   page.nodes.push_back(feed(summary_));
+  // Every week ends here: the way on is where the thumb is that ended it.
+  page.nodes.push_back(Button{
+      .label = "Carry on", .press = [](Stage& stage) { stage.close(); }, .weight = Button::Weight::primary});
   return page;
 }
 

@@ -62,12 +62,11 @@ void openProject(Stage& stage, std::int64_t filmId, bool released) {
 }
 
 Row projectRow(const WorldState& world, const Audition& project) {
-  const bool closed = project.funnelStage == stage::closed;
   return {.label = titleWithSeason(project),
           .value = progressWords(world, project),
           .detail = std::format("{} • {}", typeName(project.typeOfFilm), project.role),
           .picture = {posterOf(project.imageString)},
-          .tone = closed ? Tone::quiet : Tone::plain,
+          .tone = isOver(world, project) ? Tone::quiet : Tone::plain,
           .press = [id = project.filmId, released = isReleased(world, project)](Stage& stage) {
             openProject(stage, id, released);
           }};

@@ -34,12 +34,24 @@ Section theProject(const Game& game, const Audition& project) {
                     Row{.label = "Through", .value = project.source}}};
 }
 
+// Of a road that ended early, only as far as it went.
 Section theRoad(const WorldState& world, const Audition& project) {
-  return {.heading = "THE ROAD",
-          .nodes = {Row{.label = "Submitted", .value = whenIs(world, project.weekSubmitted)},
-                    Row{.label = "Audition", .value = whenIs(world, project.weekAudition)},
-                    Row{.label = "Wrap", .value = whenIs(world, project.weekToWork)},
-                    Row{.label = "Release", .value = whenIs(world, project.weekReleased)}}};
+  Section section{.heading = "THE ROAD"};
+  const auto stop = [&](const char* label, std::int64_t week) {
+    if (isOver(world, project) && week >= world.weekNumberForTracking) return;
+    section.nodes.push_back(Row{.label = label, .value = whenIs(world, week)});
+  };
+  stop("Submitted", project.weekSubmitted);
+  stop("Audition", project.weekAudition);
+  stop("Wrap", project.weekToWork);
+  stop("Release", project.weekReleased);
+  return section;
+}
+
+Text theState(const WorldState& world, const Audition& project) {
+  return {.text = progressWords(world, project),
+          .style = Text::Style::large,
+          .tone = isOver(world, project) ? Tone::quiet : Tone::accent};
 }
 
 Section thePreparation(const Audition& project) {
@@ -104,8 +116,11 @@ Button boostButton(const Boost& offered, const Audition& project) {
 }
 
 std::vector<Node> actions(const Game& game, const Audition& project) {
-  std::vector<Node> nodes = {energyMeter(game.world)};
-  if (const auto offered = boostOf(game.world, project)) nodes.push_back(boostButton(*offered, project));
+  std::vector<Node> nodes;
+  if (const auto offered = boostOf(game.world, project)) {
+    nodes.push_back(energyMeter(game.world));
+    nodes.push_back(boostButton(*offered, project));
+  }
   if (isBribeOffered(project)) {
     const double price = static_cast<double>(game.world.saveBribePrice);
     nodes.push_back(Button{.label = currency(game.locale, price, 0) + " | BRIBE",
@@ -128,13 +143,11 @@ Page AuditionDetailViewController::view(const Game& game) {
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
             .subtitle = std::format("{} • {}", typeName(project.typeOfFilm), guildWords(project.isUnion))};
-  page.nodes = {
-      posterOf(project.imageString),
-      Text{.text = progressWords(game.world, project), .style = Text::Style::large, .tone = Tone::accent},
-      thePreparation(project)};
+  page.nodes = {posterOf(project.imageString), theState(game.world, project),
+                Text{.text = project.description}, thePreparation(project)};
   page.nodes.append_range(actions(game, project));
-  page.nodes.append_range(std::vector<Node>{Text{.text = project.description}, roleSection(project),
-                                            theProject(game, project), theRoad(game.world, project)});
+  page.nodes.append_range(
+      std::vector<Node>{roleSection(project), theProject(game, project), theRoad(game.world, project)});
   if (isWithdrawalOffered(project)) page.nodes.push_back(withdrawal(project));
   return page;
 }

@@ -22,9 +22,7 @@ Section reception(const WorldState& world, const Audition& project) {
   if (index == world.saveAllFilmList.size()) return section;
   const Film& film = world.saveAllFilmList[index];
   constexpr int starsOfRating = 10;
-  section.nodes = {Stars{.label = std::format("Viewers: {:.1f} of 10", film.imbdRating),
-                         .value = film.imbdRating,
-                         .outOf = starsOfRating},
+  section.nodes = {Stars{.label = "Viewers", .value = film.imbdRating, .outOf = starsOfRating},
                    scoreMeter("Critics", film.imbdMetascore)};
   for (const std::string& review : film.featuredReviews) {
     if (!review.empty()) section.nodes.push_back(Text{.text = review, .style = Text::Style::quotation});

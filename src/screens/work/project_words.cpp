@@ -16,7 +16,7 @@ constexpr std::array typeNames = {"Feature Film", "TV-Series", "Commercial", "St
 std::string weeks(std::int64_t count) { return std::format("{} week{}", count, count == 1 ? "" : "s"); }
 
 std::string invitedWords(const WorldState& world, const Audition& project) {
-  if (project.weekAudition < world.weekNumberForTracking) return "Not selected";
+  if (isOver(world, project)) return "Not selected";
   return "Audition " + whenIs(world, project.weekAudition);
 }
 
@@ -62,6 +62,12 @@ std::string progressWords(const WorldState& world, const Audition& project) {
 
 bool isReleased(const WorldState& world, const Audition& project) {
   return project.funnelStage == stage::wrapped && project.weekReleased < world.weekNumberForTracking;
+}
+
+bool isOver(const WorldState& world, const Audition& project) {
+  const bool turned_down =
+      project.funnelStage == stage::invited && project.weekAudition < world.weekNumberForTracking;
+  return project.funnelStage == stage::closed || turned_down;
 }
 
 view::Picture posterOf(const std::string& imageString) {

@@ -29,6 +29,9 @@ namespace tb {
 // True from the week after the release on, when scores and money are there to be seen.
 [[nodiscard]] bool isReleased(const WorldState& world, const Audition& project);
 
+// True for a project that came to nothing: no answer to the submission, or not selected at the audition.
+[[nodiscard]] bool isOver(const WorldState& world, const Audition& project);
+
 [[nodiscard]] view::Picture posterOf(const std::string& imageString);
 
 // The character, the role and its description, and the episodes that the performer is in.

@@ -81,8 +81,7 @@ Chart figureChart(const Game& game, const Audition& project, const ReleaseFigure
                             .text = amountText(game, project, figures.weeks[place])});
   }
   const double highest = std::ranges::max(figures.weeks);
-  for (const double mark : roundScale(0, highest))
-    chart.scale.push_back({mark, amountText(game, project, mark)});
+  chart.scale = roundScale(0, highest, [&](double mark) { return amountText(game, project, mark); });
   chart.summary = std::format("From {} at first to {} at last; highest {}.", chart.points.front().text,
                               chart.points.back().text, amountText(game, project, highest));
   return chart;

@@ -177,11 +177,13 @@ void NodePainter::kind(const Meter& meter) {
 
 void NodePainter::kind(const Stars& stars) {
   const int of = std::clamp(stars.outOf, 0, 20);
-  const int halves = static_cast<int>(std::lround(shareOf(stars.value, of) * of * 2));
+  const double value = shareOf(stars.value, of) * of;
+  const int halves = static_cast<int>(std::lround(value * 2));
   const Glyphs& glyphs = canvas_.glyphs();
   const std::string drawn = repeated(glyphs.star, halves / 2) + repeated(glyphs.halfStar, halves % 2) +
                             repeated(glyphs.noStar, of - halves / 2 - halves % 2);
-  labelled(stars.label, {{drawn}, {std::format("  {:g} of {}", halves / 2.0, of)}}, "");
+  // The stars are drawn in halves, the figure beside them is the one that is meant.
+  labelled(stars.label, {{drawn}, {std::format("  {:g} of {}", std::round(value * 10) / 10, of)}}, "");
 }
 
 void NodePainter::kind(const Chart& chart) { drawChart(canvas_, chart); }

@@ -97,6 +97,6 @@ VIEW_STRUCT(SwipeCard, card, left, right);
 VIEW_STRUCT(ListPage, nodes, position, turns);
 VIEW_STRUCT(Tab, label, icon, current, press, handle);
 VIEW_STRUCT(Dialog, title, message, answers);
-VIEW_STRUCT(Page, title, subtitle, icons, nodes, tabs, close, dialog);
+VIEW_STRUCT(Page, title, subtitle, icons, nodes, tabs, close, dialog, screen);
 
 }  // namespace tb

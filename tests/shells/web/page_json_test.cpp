@@ -30,6 +30,7 @@ TEST(PageJson, aPageNamesEveryPartOnceAndInOrder) {
       .heading = "Feed",
       .nodes = {view::Text{.text = "Nothing yet", .tone = view::Tone::quiet}},
   });
+  page.screen = 2;
   page.dialog.push_back({.title = "Q", .message = "M", .answers = {{.label = "OK", .handle = 3}}});
   EXPECT_EQ(pageJson(page),
             R"({"title":"T","subtitle":"",)"
@@ -39,7 +40,7 @@ TEST(PageJson, aPageNamesEveryPartOnceAndInOrder) {
             R"({"kind":"section","content":{"heading":"Feed","nodes":[)"
             R"({"kind":"text","content":{"text":"Nothing yet","style":"body","tone":"quiet"}}]}}],)"
             R"("tabs":[],"close":[],"dialog":[{"title":"Q","message":"M","answers":[)"
-            R"({"label":"OK","price":"","offReason":"","weight":"normal","handle":3}]}]})");
+            R"({"label":"OK","price":"","offReason":"","weight":"normal","handle":3}]}],"screen":2})");
 }
 
 TEST(PageJson, figuresKeepAllTheirDigitsAndNeverBreakThePage) {

@@ -43,14 +43,21 @@ function CardHead({ title, subtitle, handle }: Pick<View.Card, "title" | "subtit
   );
 }
 
-export function Card({ title, subtitle, picture, nodes, handle }: View.Card) {
-  const banner = picture.some((shown) => wide.has(shown.kind));
+// A head of a title alone is no higher than it needs to be.
+function headOf({ subtitle, picture }: View.Card): string {
+  if (picture.some((shown) => wide.has(shown.kind))) return " card-banner";
+  return subtitle === "" && picture.length === 0 ? " card-bare" : "";
+}
+
+export function Card(card: View.Card) {
+  const { title, subtitle, picture, nodes, handle } = card;
+  const head = headOf(card);
   return (
     <article class="card">
       {(title !== "" || subtitle !== "" || picture.length > 0) && (
-        <div class={`card-head${banner ? " card-banner" : ""}`}>
+        <div class={`card-head${head}`}>
           {picture.map((shown) => (
-            <Picture key={shown.name} {...shown} size={banner ? "full" : "card"} />
+            <Picture key={shown.name} {...shown} size={wide.has(shown.kind) ? "full" : "card"} />
           ))}
           <CardHead title={title} subtitle={subtitle} handle={handle} />
           {handle !== 0 && <Chevron />}

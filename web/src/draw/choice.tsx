@@ -11,13 +11,20 @@ import { Words } from "./words";
 
 const fitsSideBySide = 22; // letters of all options together, on a small phone
 const fitsAChip = 6; // letters of the longest option
+const fitsALabel = 18;
+const mostLabels = 8; // beyond that a list is read faster
 
-function looksOf({ options, several }: View.Choice): "pictures" | "side-by-side" | "chips" | "list" {
+type Looks = "pictures" | "side-by-side" | "chips" | "labels" | "list";
+
+function looksOf({ options, several }: View.Choice): Looks {
   if (options.some((option) => option.picture.length > 0)) return "pictures";
   const letters = options.map((option) => option.label.length);
   if (several) return "list";
-  if (letters.length > 4) return Math.max(...letters) <= fitsAChip ? "chips" : "list";
-  return letters.reduce((sum, more) => sum + more) <= fitsSideBySide ? "side-by-side" : "list";
+  const longest = Math.max(...letters);
+  if (letters.length > 4 && longest <= fitsAChip) return "chips";
+  const together = letters.reduce((sum, more) => sum + more, 0);
+  if (letters.length <= 4 && together <= fitsSideBySide) return "side-by-side";
+  return letters.length <= mostLabels && longest <= fitsALabel ? "labels" : "list";
 }
 
 export function Choice(choice: View.Choice) {

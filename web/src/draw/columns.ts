@@ -74,10 +74,26 @@ const uprights: ReadonlySet<PictureKind> = new Set(["poster", "card", "avatar", 
 const isFront = (first: Node | undefined, second: Node | undefined): boolean =>
   first?.kind === "picture" && uprights.has(first.content.kind) && second !== undefined;
 
+// A poster's height in rows of text: what there is room for at its side.
+const besideFront = 14;
+
+// Where the two columns begin: at the first section, or after those that fit beside the picture in front.
+function startOfColumns(nodes: readonly Node[]): number {
+  const first = nodes.findIndex((node) => node.kind === "section");
+  if (first < 0 || !isFront(nodes[0], nodes[1])) return first;
+  let height = heightOfAll(nodes.slice(1, first));
+  let start = first;
+  while (start < nodes.length && height + heightOf(nodes[start]!) <= besideFront) {
+    height += heightOf(nodes[start]!);
+    start += 1;
+  }
+  return nodes.slice(start).filter((node) => node.kind === "section").length >= 2 ? start : first;
+}
+
 export function partsOf(nodes: readonly Node[]): Parts {
   const action = actionOf(nodes);
   const rest = nodes.filter((node) => !action.includes(node));
-  const first = rest.findIndex((node) => node.kind === "section");
+  const first = startOfColumns(rest);
   const sections = first < 0 ? [] : rest.slice(first);
   const hasColumns = sections.filter((node) => node.kind === "section").length >= 2;
   const lead = hasColumns ? rest.slice(0, first) : rest;

@@ -6,19 +6,20 @@ import type { Page } from "../view_types";
 // A screen that nothing leads back from: the hub behind its tabs.
 export const isRoot = (page: Page): boolean => page.close.length === 0;
 
-// What tells one screen from another. Tabs may share the title of their hub, and a detail that of what it is
-// about.
+// What tells one place from another: the screen, and on the hub the tab. The title says nothing of it: a film's
+// page, its box office and its reviews share theirs, and a list may change its own as it is switched over.
 export function screenOf(page: Page): string {
-  const tab = page.tabs.find((tab) => tab.current)?.label ?? "";
-  return [page.title, tab, isRoot(page) ? "root" : ""].join("\n");
+  return `${page.screen} ${page.tabs.find((tab) => tab.current)?.label ?? ""}`;
 }
 
 const controls = "button, input, textarea";
 
-// What a control is called, so that it is found when its element is gone.
+// What a control is called, so that it is found when its element is gone. Cards of one list have buttons of the
+// same name; the title of the card tells them apart.
 function nameOf(control: Element): string {
   const label = (control as HTMLInputElement).labels?.[0] ?? control;
-  return `${control.tagName} ${control.getAttribute("aria-label") ?? label.textContent}`;
+  const card = control.closest(".card")?.querySelector(".card-title")?.textContent ?? "";
+  return `${control.tagName} ${control.getAttribute("aria-label") ?? label.textContent} ${card}`;
 }
 
 function findByName(root: ParentNode, name: string): HTMLElement | undefined {

@@ -8,14 +8,39 @@ import { numbered } from "./keys";
 import { useScreen } from "./screen_context";
 import { Words } from "./words";
 
-const longFigure = 8; // characters that still fit half a phone's width at full size
+// Characters of a figure that fit at full size, by how many tiles share a phone's width.
+const fitsHalf = 8;
+const fitsThird = 5;
 
-function Tile({ label, value, detail, tone }: View.StatTile) {
+// Letters of what stands over and under a figure in a third of a phone's width.
+const labelInThird = 12;
+const detailInThird = 18;
+
+const longestOf = (tiles: readonly View.StatTile[]): number =>
+  Math.max(...tiles.map(({ value }) => value.length));
+
+// Three short figures share one line. Of any other odd number the first, the leading one, has a line to itself
+// where two would fit: a last one alone looks left over.
+function layoutOf(tiles: readonly View.StatTile[]): "one" | "three" | "odd" | "even" {
+  if (tiles.length === 1) return "one";
+  if (tiles.length % 2 === 0) return "even";
+  const short =
+    longestOf(tiles) <= fitsHalf &&
+    tiles.every(({ label, detail }) => label.length <= labelInThird && detail.length <= detailInThird);
+  return tiles.length === 3 && short ? "three" : "odd";
+}
+
+// Figures side by side are of one size, that of the longest; one with a line to itself has room.
+function sizeOf(tiles: readonly View.StatTile[], layout: string): string {
+  if (longestOf(tiles) > 2 * fitsHalf) return " figure-words";
+  const longest = longestOf(layout === "odd" ? tiles.slice(1) : tiles);
+  return longest > (layout === "three" ? fitsThird : fitsHalf) ? " figure-long" : "";
+}
+
+function Tile({ label, value, detail, tone, size }: View.StatTile & { readonly size: string }) {
   const { title } = useScreen();
   const figure = useRef<HTMLElement>(null);
   useCounting(figure, `${title}|${label}`, value);
-  const size =
-    value.length > 2 * longFigure ? " figure-words" : value.length > longFigure ? " figure-long" : "";
   return (
     <div class={`tile tone-${tone}`}>
       <dt class="tile-label">
@@ -36,10 +61,12 @@ function Tile({ label, value, detail, tone }: View.StatTile) {
 export function Tiles({ tiles }: View.Tiles) {
   if (tiles.length === 0) return null;
   const keys = numbered(tiles.map((tile) => tile.label));
+  const layout = layoutOf(tiles);
+  const size = sizeOf(tiles, layout);
   return (
-    <dl class={tiles.length === 1 ? "tiles tiles-one" : "tiles"}>
+    <dl class={`tiles tiles-${layout}`}>
       {tiles.map((tile, index) => (
-        <Tile key={keys[index]!} {...tile} />
+        <Tile key={keys[index]!} {...tile} size={size} />
       ))}
     </dl>
   );
