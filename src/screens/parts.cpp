@@ -56,9 +56,9 @@ std::vector<double> roundValues(double lowest, double highest) {
   return scale;
 }
 
-std::string weeksAgo(std::size_t weeks) {
-  if (weeks == 0) return "this week";
-  return weeks == 1 ? "last week" : std::format("{} weeks ago", weeks);
+std::string placeInHistory(std::string_view unit, std::size_t before) {
+  if (before == 0) return "latest";
+  return std::format("{} {}{} before", before, unit, before == 1 ? "" : "s");
 }
 
 }  // namespace
@@ -76,22 +76,46 @@ std::vector<Chart::Tick> roundScale(double lowest, double highest, const ValueTe
   return scale;
 }
 
-Chart weeklyChart(std::string title, std::span<const double> values, const ValueText& textOf) {
+std::string jobWeeksLeft(const WorldState& world) {
+  const std::int64_t weeks = world.weeklyJobContractRemaining;
+  if (weeks < 1) return "The contract has run out";
+  return std::format("{} week{} left", weeks, weeks == 1 ? "" : "s");
+}
+
+Chart historyChart(std::string title, std::string_view unit, std::span<const double> values,
+                   const ValueText& textOf) {
   Chart chart{.kind = Chart::Kind::line, .title = std::move(title)};
   if (values.empty()) {
     chart.summary = "There is no history yet.";
     return chart;
   }
   for (std::size_t index = 0; index < values.size(); ++index) {
-    chart.points.push_back({.label = weeksAgo(values.size() - 1 - index),
+    chart.points.push_back({.label = placeInHistory(unit, values.size() - 1 - index),
                             .value = values[index],
                             .text = textOf(values[index])});
   }
   const auto [lowest, highest] = std::ranges::minmax(values);
   chart.scale = roundScale(lowest, highest, textOf);
-  chart.summary = std::format("{} week{}, from {} to {}; lowest {}, highest {}.", values.size(),
+  chart.summary = std::format("{} {}{}, from {} to {}; lowest {}, highest {}.", values.size(), unit,
                               values.size() == 1 ? "" : "s", textOf(values.front()), textOf(values.back()),
                               textOf(lowest), textOf(highest));
+  return chart;
+}
+
+Chart barChart(std::string title, std::span<const double> values,
+               const std::function<std::string(std::size_t)>& nameOf, const ValueText& textOf) {
+  Chart chart{.kind = Chart::Kind::bar, .title = std::move(title)};
+  if (values.empty()) {
+    chart.summary = "There are no figures.";
+    return chart;
+  }
+  for (std::size_t index = 0; index < values.size(); ++index) {
+    chart.points.push_back({.label = nameOf(index), .value = values[index], .text = textOf(values[index])});
+  }
+  const auto [lowest, highest] = std::ranges::minmax(values);
+  chart.scale = roundScale(std::min(lowest, 0.0), highest, textOf);
+  chart.summary = std::format("From {} at first to {} at last; highest {}.", textOf(values.front()),
+                              textOf(values.back()), textOf(highest));
   return chart;
 }
 

@@ -43,9 +43,18 @@ template <class Opened>
 // How a chart writes its values.
 using ValueText = std::function<std::string(double)>;
 
-// A line chart of one value a week, oldest first, the last one being of this week.
-[[nodiscard]] view::Chart weeklyChart(std::string title, std::span<const double> values,
-                                      const ValueText& textOf);
+// A line chart of what the game kept of a figure, oldest first; `unit` is what each entry stands for, such as
+// "week".
+[[nodiscard]] view::Chart historyChart(std::string title, std::string_view unit,
+                                       std::span<const double> values, const ValueText& textOf);
+
+// Bars in their order, upwards and downwards from 0.
+[[nodiscard]] view::Chart barChart(std::string title, std::span<const double> values,
+                                   const std::function<std::string(std::size_t)>& nameOf,
+                                   const ValueText& textOf);
+
+// How long the job goes on: "3 weeks left".
+[[nodiscard]] std::string jobWeeksLeft(const WorldState& world);
 
 // The scale of a chart: a few round values that span lowest to highest. Where the values lie so close that
 // two marks would read the same, it spans more.

@@ -66,7 +66,7 @@ TEST(FirstCareer, AStrangerStartsTrainsAndFindsEverythingAsItWas) {
   game->player.press("OK");
   game->player.press("Back");
   game->player.press("The Backstage");
-  game->player.press("Actors Guild");
+  game->player.press("Actor's Guild");
   game->player.press("Join");
   EXPECT_EQ(game->player.notice(), "❌ Not Eligible ❌");
   game->player.press("OK");

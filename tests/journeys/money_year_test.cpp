@@ -96,7 +96,7 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
       game.reset();
       game = std::make_unique<Running>(career);
       game->player.press("The Backstage");
-      game->player.press("Actors Guild");
+      game->player.press("Actor's Guild");
       game->player.press("Join");
       ASSERT_EQ(game->world().isSAG, 1);
       game->player.press("Back");

@@ -83,7 +83,7 @@ test("every other screen can be read and left", async () => {
   await inspect(page, "footage");
   await press(page, "Back");
   await press(page, "Back");
-  await page.getByRole("button", { name: /Actors Guild/ }).click();
+  await page.getByRole("button", { name: /Actor's Guild/ }).click();
   await inspect(page, "guild");
   await press(page, "Back");
   await press(page, "Back");

@@ -18,7 +18,7 @@ view::Page BackstageViewController::view(const Game& game) {
                     leadingTo<ShowreelViewController>("Showreel", "The first thing that casting sees",
                                                       std::to_string(world.showreelScore)),
                     leadingTo<ActorsGuildViewController>(
-                        "Actors Guild",
+                        "Actor's Guild",
                         world.isSAG == 1 ? "Member in good standing" : "Union work for working actors")}};
 }
 

@@ -71,8 +71,7 @@ Section BoxOfficeViewController::ranking(const Game& game) {
 }
 
 Page BoxOfficeViewController::view(const Game& game) {
-  return {
-      .title = "Box Office", .subtitle = "Worldwide, in dollars", .nodes = {theaters(game), ranking(game)}};
+  return {.title = "Box Office", .subtitle = "Worldwide", .nodes = {theaters(game), ranking(game)}};
 }
 
 }  // namespace tb

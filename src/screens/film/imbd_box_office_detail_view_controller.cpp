@@ -16,20 +16,6 @@ using namespace view;
 
 namespace {
 
-Chart eightWeeks(const Game& game, const std::vector<double>& takings) {
-  Chart chart{.kind = Chart::Kind::bar, .title = "EIGHT WEEKS"};
-  for (std::size_t week = 0; week < takings.size(); ++week) {
-    chart.points.push_back({.label = week == 0 ? "Opening" : std::format("Week {}", week),
-                            .value = takings[week],
-                            .text = shownMoney(game.locale, takings[week])});
-  }
-  const auto [lowest, highest] = std::ranges::minmax(takings);
-  chart.scale = roundScale(std::min(lowest, 0.0), highest,
-                           [&game](double mark) { return shownMoney(game.locale, mark); });
-  chart.summary = "Eight-week box office performance is based on ticket sales.";
-  return chart;
-}
-
 // Where in the list the records of the film stand, the market that brought most first.
 std::vector<std::size_t> marketsOf(const WorldState& world, std::int64_t filmId) {
   std::vector<std::size_t> found;
@@ -66,7 +52,8 @@ Page ImbdBoxOfficeDetailViewController::view(const Game& game) {
                         .detail = returnText(gross, film.budget)},
                        {.label = "Opening weekend", .value = shownMoney(game.locale, takings.front())},
                        {.label = "Budget", .value = shownMoney(game.locale, film.budget)}}},
-                eightWeeks(game, takings)};
+                takingsChart(game, "EIGHT WEEKS", takings),
+                caption("Eight-week box office performance is based on ticket sales.")};
   const std::vector<std::size_t> rows = marketsOf(world, film_id_);
   page.nodes.push_back(Section{
       .heading = "MARKETS",

@@ -39,8 +39,7 @@ Card jobCard(const Game& game) {
   return {.title = world.weeklyJobTitle,
           .subtitle = std::format("{} a week • {} energy a week",
                                   shortMoney(game.locale, world.weeklyJobIncome), world.weeklyEnergyCost),
-          .nodes = {caption(std::format("{} week{} left", world.weeklyJobContractRemaining,
-                                        world.weeklyJobContractRemaining == 1 ? "" : "s"))}};
+          .nodes = {caption(jobWeeksLeft(world))}};
 }
 
 // The log mixes lines and, over the lines of each week, its date: "JANUARY 2, 2026".

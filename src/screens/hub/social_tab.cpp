@@ -25,8 +25,9 @@ std::vector<view::Node> socialTab(const Game& game) {
   const std::vector<double> fans(world.trackFans.begin(), world.trackFans.end());
   return {
       view::Tiles{{{.label = "Fans", .value = plainCount(game.locale, world.totalFans)}}},
-      weeklyChart("Fans by week", fans,
-                  [](double count) { return shortCount(static_cast<std::int64_t>(count)); }),
+      // A week that changes nothing leaves no entry, and one with a swing leaves two.
+      historyChart("Fans", "change", fans,
+                   [](double count) { return shortCount(static_cast<std::int64_t>(count)); }),
       reviewing(world),
   };
 }

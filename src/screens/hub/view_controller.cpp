@@ -50,7 +50,7 @@ view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {
 view::Page ViewController::view(const Game& game) {
   const WorldState& world = game.world;
   view::Page page{.title = world.myName,
-                  .subtitle = dateHeading(game.locale, world.weekNumber, world.yearNumber, " ")};
+                  .subtitle = dateHeading(game.locale, world.weekNumber, world.yearNumber, "\n")};
   page.icons = {
       {.label = "The Backstage",
        .icon = "B",

@@ -30,7 +30,7 @@ Section books(const Game& game) {
 
 Chart indexChart(const char* title, const RealList& history) {
   const std::vector<double> values(history.begin(), history.end());
-  return weeklyChart(title, values, [](double index) { return std::format("{:.3f}", index); });
+  return historyChart(title, "week", values, [](double index) { return std::format("{:.3f}", index); });
 }
 
 }  // namespace

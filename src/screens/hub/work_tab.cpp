@@ -31,7 +31,13 @@ std::string projectsSummary(const WorldState& world) {
       return project.funnelStage == funnelStage && project.didAct == 1;
     });
   };
-  return std::format("{} submitted • {} booked", at(stage::submitted), at(stage::booked));
+  // Who was turned down stays among the invited, with an audition that is past.
+  const auto invited = std::ranges::count_if(world.saveAllAuditionList, [&](const Audition& project) {
+    return project.funnelStage == stage::invited && project.didAct == 1 &&
+           project.weekAudition >= world.weekNumberForTracking;
+  });
+  return std::format("{} submitted • {} invited • {} booked", at(stage::submitted), invited,
+                     at(stage::booked));
 }
 
 std::string jobSummary(const WorldState& world) {

@@ -1,5 +1,6 @@
 #include "screens/talent/actors_guild_view_controller.h"
 
+#include <algorithm>
 #include <format>
 
 #include "career/guild.h"
@@ -37,7 +38,8 @@ Section wayIn(const Game& game, std::int64_t eligibility) {
                 Meter{.label = "Principal roles booked",
                       .value = static_cast<double>(eligibility),
                       .maximum = static_cast<double>(rolesForEligibility),
-                      .text = std::format("{} of {}", eligibility, rolesForEligibility)},
+                      .text = std::format("{} of {}", std::min(eligibility, rolesForEligibility),
+                                          rolesForEligibility)},
                 Button{.label = "Join",
                        .press = join,
                        .price = currency(game.locale, guildInitiationFee, 0),
@@ -52,7 +54,7 @@ void ActorsGuildViewController::load(Stage& stage) {
 }
 
 Page ActorsGuildViewController::view(const Game& game) {
-  Page page{.title = "Actors Guild"};
+  Page page{.title = "Actor's Guild"};
   if (game.world.isSAG == 1) {
     page.nodes = {membersCard(game)};
   } else {

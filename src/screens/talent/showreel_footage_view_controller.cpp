@@ -28,7 +28,7 @@ void ShowreelFootageViewController::build(Stage& stage) {
 Row ShowreelFootageViewController::footageRow(const Audition& work) {
   const bool chosen = std::ranges::contains(chosen_->filmIds, work.filmId);
   return {.label = work.title,
-          .value = std::format("{:.0f}", work.performanceRating),
+          .value = std::to_string(static_cast<std::int64_t>(work.performanceRating)),
           .detail = (chosen ? "✓ In the reel • " : "") + work.role,
           .picture = {{.kind = PictureKind::poster, .name = work.imageString}},
           .tone = chosen ? Tone::accent : Tone::plain,

@@ -72,7 +72,7 @@ Section ShowreelViewController::newScenes(const Game& game) {
   Section section{.heading = "NEW SCENES", .nodes = {packages(game)}};
   for (std::size_t index = 0; index < scenes_.size(); ++index) {
     section.nodes.push_back(
-        Row{.label = scenes_[index], .detail = "Tap to strike it", .press = [this, index](Stage&) {
+        Row{.label = scenes_[index], .detail = "Strike it", .press = [this, index](Stage&) {
               scenes_.erase(scenes_.begin() + static_cast<std::ptrdiff_t>(index));
             }});
   }
@@ -81,6 +81,10 @@ Section ShowreelViewController::newScenes(const Game& game) {
             .type = [this](Stage& stage, const std::string& text) { addScene(stage, text); },
             .hint = "a waiter quits in the middle of a toast",
             .maximumLength = 120});
+  if (!chosen_->filmIds.empty()) {
+    section.nodes.push_back(
+        caption("The reel will be rated by the footage that you chose, not by these scenes."));
+  }
   section.nodes.push_back(Button{.label = "Hire the production company",
                                  .press = [this](Stage& stage) { produce(stage); },
                                  .price = currency(game.locale, scenePackages[package_].cost, 0),

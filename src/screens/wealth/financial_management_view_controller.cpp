@@ -54,8 +54,8 @@ Section job(const Game& game) {
 
 Chart netIncome(const Game& game) {
   const std::vector<double> weeks(game.world.saveWeeklyEarnings.begin(), game.world.saveWeeklyEarnings.end());
-  return weeklyChart("Net income by week", weeks,
-                     [&game](double amount) { return shownMoney(game.locale, amount); });
+  return historyChart("Net income by week", "week", weeks,
+                      [&game](double amount) { return shownMoney(game.locale, amount); });
 }
 
 }  // namespace

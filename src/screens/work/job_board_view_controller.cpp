@@ -16,9 +16,8 @@ Section presentJob(const Game& game) {
   return {.heading = "YOUR JOB",
           .nodes = {Row{.label = world.weeklyJobTitle,
                         .value = std::format("{} a week", currency(game.locale, world.weeklyJobIncome, 0)),
-                        .detail = std::format(
-                            "{} more week{} • -{} energy each week", world.weeklyJobContractRemaining,
-                            world.weeklyJobContractRemaining == 1 ? "" : "s", world.weeklyEnergyCost)}}};
+                        .detail = std::format("{} • -{} energy each week", jobWeeksLeft(world),
+                                              world.weeklyEnergyCost)}}};
 }
 
 }  // namespace
