@@ -60,7 +60,7 @@ test("a card is pressed anywhere but on what stands on it, which is pressed itse
 });
 
 test("the tabs stand in their order, and whoever plays by the keyboard can go straight to them", async () => {
-  const page = await drawn(tall, { tabs: make.tabs(0) });
+  const page = await drawn([press("On the way", 1), ...tall], { tabs: make.tabs(0) });
   await button(page, "Skip to the tabs").press("Enter");
   await page.keyboard.press("Tab");
   assert.match(await focused(page), /Career/);
@@ -132,6 +132,12 @@ for (const [several, control] of [
     assert.ok(await first.isChecked());
   });
 }
+
+test("half a star lights half a star", async () => {
+  const page = await drawn([make.stars("Yours", 3.5)]);
+  const lit = await page.locator(".star-lit").evaluateAll((stars) => stars.map((star) => getComputedStyle(star).clipPath));
+  assert.deepEqual(lit, ["none", "none", "none", "inset(0px 50% 0px 0px)"]);
+});
 
 test("the points of a chart are read with the arrow keys", async () => {
   const page = await gallery.open("charts");

@@ -83,6 +83,7 @@ test("a save that there is no room for leaves the old one in place", async () =>
   await choose(page, workingActor());
   await press(page, "Replace my career");
   await says(page, /no room/);
+  assert((await download(page)).includes("Ada Small"));
   await press(page, "Close");
   await finds(page, "Ada Small");
   await page.reload();

@@ -4,7 +4,7 @@
 import type { Page } from "../view_types";
 
 // A screen that nothing leads back from: the hub behind its tabs.
-export const isRoot = (page: Page): boolean => page.close.length === 0;
+const isRoot = (page: Page): boolean => page.close.length === 0;
 
 // What tells one screen from another. Tabs may share the title of their hub, and a detail that of what it is
 // about.
