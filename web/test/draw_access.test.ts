@@ -138,12 +138,3 @@ test("the keyboard reaches everything, in its order, and it can be seen", () =>
     const isDialog = await page.evaluate(() => document.querySelector("dialog") !== null);
     assert.deepEqual(isDialog ? reached.sort((a, b) => a - b) : reached, wanted, name);
   }));
-
-test("every page has one heading of its own, and no level is left out below it", () =>
-  onEveryPage(phone, async (page, name) => {
-    const levels = await page.evaluate(() =>
-      [...document.querySelectorAll("main :is(h1, h2, h3, h4, h5, h6)")].map((heading) => Number(heading.tagName[1])),
-    );
-    assert.equal(levels.filter((level) => level === 1).length, 1, name);
-    levels.forEach((level, index) => assert.ok(index === 0 || level <= levels[index - 1]! + 1, `${name}: ${levels}`));
-  }));

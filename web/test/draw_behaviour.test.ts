@@ -77,13 +77,10 @@ test("what is still being typed is handed over before a press, which takes the h
   await page.fill("input", "Mara");
   // As on a touch screen, where the field keeps the focus.
   await page.evaluate(() => document.querySelector<HTMLElement>(".button")!.click());
-  assert.deepEqual(await done(page), [
-    ["type", 1, "Mara"],
-    ["press", 12],
-  ]);
+  assert.deepEqual(await done(page), [["type", 1, "Mara"], ["press", 12]]);
 });
 
-test("typing is not disturbed when the page is drawn again, and is handed over once", async () => {
+test("typing is not disturbed when the page is drawn again, is handed over once, and goes back if it is refused", async () => {
   const page = await drawn([typed(1, "Dana")]);
   await page.focus("input");
   await page.keyboard.press("Home");
@@ -95,12 +92,6 @@ test("typing is not disturbed when the page is drawn again, and is handed over o
   await page.keyboard.press("Enter");
   await page.keyboard.press("Tab");
   assert.deepEqual(await done(page), [["type", 2, "Ms X Dana"]]);
-});
-
-test("a text that the game refuses goes back to what it holds", async () => {
-  const page = await drawn([typed(1, "Dana")]);
-  await page.fill("input", "!!!");
-  await page.keyboard.press("Tab");
   assert.equal(await page.inputValue("input"), "Dana");
 });
 
@@ -118,10 +109,7 @@ test("a slider takes the keyboard and shows where the game puts it", async () =>
   assert.equal(await page.inputValue("input"), "20");
 });
 
-for (const [several, control] of [
-  [false, "radio"],
-  [true, "checkbox"],
-] as const) {
+for (const [several, control] of [[false, "radio"], [true, "checkbox"]] as const) {
   test(`an option of a ${control} is chosen when the game says so, not when it is pressed`, async () => {
     const options = ["A", "B"].map((label, at) => make.option({ label, chosen: at === 0, handle: at + 1 }));
     const page = await drawn([make.choice("Type", options, several)]);
@@ -210,18 +198,19 @@ test("another screen starts at its top with its heading; the one come back to is
 
 const notice = (...answers: View.Button[]) => ({ dialog: make.dialog("Sure?", "Think.", ...answers) });
 
-test("a notice takes the focus, closes by Escape and gives the focus back", async () => {
-  const nodes = [press("Before", 1), press("Ask", 2)];
-  const page = await drawn(nodes);
+test("a notice takes the focus, closes by Escape and gives the focus back, and what changed shows then", async () => {
+  const page = await drawn([press("Before", 1), press("Ask", 2), cash("$100")]);
   await button(page, "Ask").focus();
-  await again(page, [press("Before", 0), press("Ask", 0)], notice(answer("OK", 1)));
+  await again(page, [press("Before", 0), press("Ask", 0), cash("$50")], notice(answer("OK", 1)));
+  assert.equal(await page.locator(".figure").textContent(), "$100");
   assert.equal(await focused(page), "OK");
   await page.keyboard.press("Tab");
   assert.notEqual(await focused(page), "Before");
   await page.keyboard.press("Escape");
   assert.deepEqual(await done(page), [["press", 1]]);
-  await again(page, nodes);
+  await again(page, [press("Before", 1), press("Ask", 2), cash("$50")]);
   assert.equal(await focused(page), "Ask");
+  assert.equal(await page.locator(".figure").textContent(), "$50");
 });
 
 test("a question is answered by its buttons alone", async () => {
@@ -230,14 +219,6 @@ test("a question is answered by its buttons alone", async () => {
   for (let times = 0; times < 3; ++times) await page.keyboard.press("Escape");
   assert.deepEqual(await done(page), []);
   assert.ok(await page.getByRole("dialog").isVisible());
-});
-
-test("the page under a message changes when the message has been read", async () => {
-  const page = await drawn([cash("$100")]);
-  await again(page, [cash("$50")], notice(answer("OK", 1)));
-  assert.equal(await page.locator(".figure").textContent(), "$100");
-  await again(page, [cash("$50")]);
-  assert.equal(await page.locator(".figure").textContent(), "$50");
 });
 
 test("a screen that opens with a message starts at its top, and its heading has the focus after it", async () => {
@@ -271,10 +252,7 @@ for (const still of [false, true]) {
     await page.waitForFunction(() => window.gallery.done.length === 1);
     await push(page, -160);
     await page.waitForFunction(() => window.gallery.done.length === 2);
-    assert.deepEqual(await done(page), [
-      ["press", 2],
-      ["press", 1],
-    ]);
+    assert.deepEqual(await done(page), [["press", 2], ["press", 1]]);
   });
 }
 
@@ -326,10 +304,7 @@ function longestMotion(): number {
   return Math.max(...motions);
 }
 
-for (const [still, most] of [
-  [false, 0.2],
-  [true, 0],
-] as const) {
+for (const [still, most] of [[false, 0.2], [true, 0]] as const) {
   test(`where motion is ${still ? "unwanted nothing moves" : "welcome nothing moves for longer than 200 ms"}`, async () => {
     for (const name of ["hub", "latch", "form", "question"]) {
       const page = await gallery.open(name, { still });

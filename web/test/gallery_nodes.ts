@@ -16,17 +16,13 @@ const node =
     ({ kind, content: { ...usual, ...rest } }) as View.Node;
 
 const usualButton: View.Button = { label: "", price: "", offReason: "", weight: "normal", handle: 1 };
+const usualField: View.Field = { label: "", value: "", hint: "", maximumLength: 80, severalLines: false, handle: 1 };
+const usualSlider: View.Slider = { label: "", value: 50, minimum: 0, maximum: 100, step: 1, text: "", handle: 1 };
 const usualCard: View.Card = { title: "", subtitle: "", picture: [], nodes: [], handle: 0 };
 
-export const page = part<View.Page>({
-  title: "Test",
-  subtitle: "",
-  icons: [],
-  nodes: [],
-  tabs: [],
-  close: [],
-  dialog: [],
-});
+const emptyPage = { title: "Test", subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [] };
+
+export const page = part<View.Page>(emptyPage);
 export const plainButton = part(usualButton);
 export const plainCard = part(usualCard);
 export const tile = part<View.StatTile>({ label: "", value: "", detail: "", tone: "plain" });
@@ -37,23 +33,8 @@ export const card = node("card", usualCard);
 export const row = node("row", { label: "", value: "", detail: "", picture: [], tone: "plain", handle: 0 });
 export const meter = node("meter", { label: "", value: 0, maximum: 100, text: "", isScore: false });
 export const chart = node("chart", { kind: "line", title: "", points: [], scale: [], summary: "" });
-export const field = node("field", {
-  label: "",
-  value: "",
-  hint: "",
-  maximumLength: 80,
-  severalLines: false,
-  handle: 1,
-});
-export const slider = node("slider", {
-  label: "",
-  value: 50,
-  minimum: 0,
-  maximum: 100,
-  step: 1,
-  text: "",
-  handle: 1,
-});
+export const field = node("field", usualField);
+export const slider = node("slider", usualSlider);
 
 export const text = (text: string, rest: Partial<View.Text> = {}) =>
   node("text", { text, style: "body", tone: "plain" })(rest);

@@ -3,7 +3,9 @@
 
 import type * as View from "../src/view_types";
 import * as make from "./gallery_nodes";
-import { back, button, card, chart, icons, page, picture, plainButton, points, row, section, tabs, text, ticks, tile } from "./gallery_nodes";
+import {
+  back, button, card, chart, icons, page, picture, plainButton, points, row, section, tabs, text, ticks, tile,
+} from "./gallery_nodes";
 
 const longWord = "Donaudampfschifffahrtselektrizitätenhauptbetriebswerkbauunterbeamtengesellschaft";
 const longText =
@@ -26,7 +28,7 @@ const hub = page({
   icons,
   tabs: tabs(0),
   nodes: [
-    make.tiles(...tones.map((tone) => tile({ label: `Cash ${tone}`, value: "$1,250", detail: "+312 this week", tone }))),
+    make.tiles(...tones.map((tone) => tile({ label: `Cash ${tone}`, value: "$1,250", detail: "+312 a week", tone }))),
     make.balance("$450", "$70"),
     make.meter({ label: "Energy", value: 72, text: "72 of 100" }),
     section(
@@ -39,6 +41,25 @@ const hub = page({
         nodes: [make.stars("Audience", 3.5), make.buttons(plainButton({ label: "Promote", price: "$2,500" }))],
       }),
       card({ title: "The Lake House", subtitle: "TV-Series • Drama", picture: poster, handle: 1 }),
+    ),
+    make.listPage(
+      [
+        card({
+          title: "Iris",
+          picture: poster,
+          nodes: [
+            text("A retired stuntwoman is asked for one last fall."),
+            row({ label: "Pay", value: "$450" }),
+            button({ label: "Submit", price: "⚡️ 12", weight: "primary" }),
+          ],
+        }),
+        card({ title: "Ghost Light", subtitle: "Short Film • Principal" }),
+      ],
+      "1–2 of 312",
+      [
+        plainButton({ label: "Previous", weight: "quiet", offReason: "This is the first page.", handle: 0 }),
+        plainButton({ label: "Next", weight: "quiet" }),
+      ],
     ),
     section("Auditions", ...tones.map((tone) => row({ label: `Invited ${tone}`, value: "Lead", tone, handle: 1 }))),
     section(
@@ -87,33 +108,6 @@ const film = page({
   ],
 });
 
-const listings = page({
-  title: "Casting Network",
-  tabs: tabs(1),
-  icons: [make.tab("Inbox", "✉️", true)],
-  nodes: [
-    make.listPage(
-      ["Iris", "Neon Saints", "Ghost Light"].map((title) =>
-        card({
-          title,
-          subtitle: "Short Film • Principal",
-          picture: poster,
-          nodes: [
-            text("A retired stuntwoman is asked for one last fall."),
-            row({ label: "Pay", value: "$450" }),
-            button({ label: "Submit", price: "⚡️ 12", weight: "primary" }),
-          ],
-        }),
-      ),
-      "1–3 of 312",
-      [
-        plainButton({ label: "Previous", weight: "quiet", offReason: "This is the first page.", handle: 0 }),
-        plainButton({ label: "Next", weight: "quiet" }),
-      ],
-    ),
-  ],
-});
-
 // All charts, of nothing, of one point, above and below nothing, and of more than can be read one by one.
 const bottomless = { points: points([-40, 20, -10, 60], "A quarter of the very long year"), scale: ticks(-40, 0, 60) };
 const series: Readonly<Record<string, Partial<View.Chart>>> = {
@@ -135,7 +129,7 @@ const charts = page({
       `As a ${kind}`,
       ...Object.entries(series)
         .filter(([what]) => kind !== "pie" || what !== "two years") // the legend would name each week
-        .map(([what, rest]) => chart({ kind, title: `Of ${what}, ${kind}`, summary: `What ${what} says, ${kind}.`, ...rest })),
+        .map(([what, rest]) => chart({ kind, title: `Of ${what}, ${kind}`, summary: `It says ${what}, ${kind}.`, ...rest })),
     ),
   ),
 });
@@ -250,7 +244,7 @@ const extreme = page({
 const large = page({
   title: "Chirp",
   tabs: tabs(2),
-  icons,
+  icons: [make.tab("Inbox", "✉️", true)],
   nodes: [
     make.tiles(tile({ label: "Followers", value: "1.2M" }), tile({ label: "Posts", value: "312" })),
     ...Array.from({ length: 8 }, (_, day) =>
@@ -288,7 +282,6 @@ const question = {
 export const pages: Readonly<Record<string, View.Page>> = {
   hub,
   film,
-  listings,
   charts,
   latch,
   form,

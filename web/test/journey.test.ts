@@ -79,6 +79,19 @@ test("every other screen of a beginner can be read and left", async () => {
   await nameField(page).waitFor();
 });
 
+test("the way back of the phone leaves a screen, not the game", async () => {
+  const { page } = await play(setting, "Ada Back");
+  const home = page.getByRole("heading", { level: 1, name: "Ada Back" });
+  await home.waitFor();
+  for (let round = 0; round < 2; round += 1) {
+    await press(page, "Settings");
+    await home.waitFor({ state: "detached" });
+    await page.goBack();
+    await home.waitFor();
+  }
+  assert.equal(new URL(page.url()).origin, setting.site.origin);
+});
+
 const toTheTitlePage = [/^Auditions/, /^Releases/, /Feature Film.*Released/, /^Imbd page/];
 
 test("every screen of a working actor can be read by everybody", async () => {

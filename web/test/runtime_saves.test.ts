@@ -58,7 +58,8 @@ test("a file that is no career changes nothing and says why", async () => {
   const { page } = await play(setting, "Ada Untouched");
   await openSaves(page);
   // A property list, but of something else: the dictionary {"a": 1}.
-  const another = "62706c6973743030d1010251611001080b0d000000000000010100000000000000030000000000000000000000000000000f";
+  const another =
+    "62706c6973743030d1010251611001080b0d000000000000010100000000000000030000000000000000000000000000000f";
   const files: [Buffer, RegExp][] = [
     [Buffer.alloc(0), /damaged/],
     [Buffer.from("a shopping list: eggs, flour"), /damaged/],

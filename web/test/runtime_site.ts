@@ -74,10 +74,10 @@ export interface Stage {
 const visits = new Set<Visit>();
 
 // A served site and a browser for the tests of one file, each of which ends the visits that it began.
-export function stage(below = ""): Stage {
+export function stage(): Stage {
   const made: { site?: Site; browser?: Browser } = {};
   before(async () => {
-    made.site = await new Site(below).start();
+    made.site = await new Site().start();
     made.browser = await launchChromium();
   });
   afterEach(async () => {
