@@ -1,13 +1,18 @@
 // A browser with the gallery in it, for the tests of the drawing. It stands in the page's own index.html, so
 // under its policy: a picture or a style that would break it shows here.
 
+import assert from "node:assert/strict";
 import { mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
+import { after, afterEach, before } from "node:test";
 import { build } from "esbuild";
 import type { Browser, Page } from "playwright-core";
 
 import { launchChromium } from "../browser.mjs";
 import { serve, type Served } from "../server.mjs";
+import { phone } from "./inspect";
+
+export const galleryFolder = join(process.cwd(), "node_modules/.cache/gallery");
 
 // The page's index.html with the gallery in place of the game, and without what installs it.
 function index(): string {
@@ -18,20 +23,13 @@ function index(): string {
     .replace(/\{\w+\}/gu, (name) => names[name] ?? name);
 }
 
-export interface Built {
-  readonly folder: string;
-  readonly script: Buffer;
-  readonly style: Buffer;
-}
-
-export async function buildGallery(): Promise<Built> {
-  const folder = join(process.cwd(), "node_modules/.cache/gallery");
-  rmSync(folder, { recursive: true, force: true });
-  mkdirSync(folder, { recursive: true });
-  writeFileSync(join(folder, "index.html"), index());
+async function buildGallery(): Promise<void> {
+  rmSync(galleryFolder, { recursive: true, force: true });
+  mkdirSync(galleryFolder, { recursive: true });
+  writeFileSync(join(galleryFolder, "index.html"), index());
   await build({
     entryPoints: ["test/gallery.tsx"],
-    outdir: folder,
+    outdir: galleryFolder,
     bundle: true,
     minify: true,
     format: "esm",
@@ -39,55 +37,44 @@ export async function buildGallery(): Promise<Built> {
     jsxImportSource: "preact",
     logLevel: "warning",
   });
-  return {
-    folder,
-    script: readFileSync(join(folder, "gallery.js")),
-    style: readFileSync(join(folder, "gallery.css")),
-  };
 }
 
 export interface Looks {
   readonly width?: number;
   readonly height?: number;
-  readonly dark?: boolean;
   readonly still?: boolean; // no motion asked for
 }
 
-export class Gallery {
-  readonly problems: string[] = []; // all that the browser's console complained of
-
-  private constructor(
-    readonly built: Built,
-    private readonly served: Served,
-    private readonly browser: Browser,
-  ) {}
-
-  static async start(): Promise<Gallery> {
-    const built = await buildGallery();
-    return new Gallery(built, await serve(built.folder, 0), await launchChromium());
-  }
-
+export interface Gallery {
   // A window with that page of gallery_pages.ts.
-  async open(
-    name: string,
-    { width = 390, height = 844, dark = false, still = true }: Looks = {},
-  ): Promise<Page> {
-    const page = await this.browser.newPage({
-      viewport: { width, height },
-      colorScheme: dark ? "dark" : "light",
-      reducedMotion: still ? "reduce" : "no-preference",
-    });
-    page.on(
-      "console",
-      (message) => message.type() !== "log" && this.problems.push(`${name}: ${message.text()}`),
-    );
-    page.on("pageerror", (error) => this.problems.push(`${name}: ${error.message}`));
-    await page.goto(`${this.served.address}#${name}`);
-    return page;
-  }
+  open(name: string, looks?: Looks): Promise<Page>;
+}
 
-  async stop(): Promise<void> {
-    await this.browser.close();
-    await this.served.stop();
-  }
+// The gallery for the tests of one file. Each fails on anything that the browser's console complains of.
+export function setGallery(): Gallery {
+  let served: Served;
+  let browser: Browser;
+  const problems: string[] = [];
+  before(async () => {
+    await buildGallery();
+    served = await serve(galleryFolder, 0);
+    browser = await launchChromium();
+  });
+  afterEach(() => assert.deepEqual(problems.splice(0), []));
+  after(async () => {
+    await browser.close();
+    await served.stop();
+  });
+  return {
+    open: async (name, { width = phone.width, height = phone.height, still = true } = {}) => {
+      const page = await browser.newPage({
+        viewport: { width, height },
+        reducedMotion: still ? "reduce" : "no-preference",
+      });
+      page.on("console", (message) => message.type() !== "log" && problems.push(`${name}: ${message.text()}`));
+      page.on("pageerror", (error) => problems.push(`${name}: ${error.message}`));
+      await page.goto(`${served.address}#${name}`);
+      return page;
+    },
+  };
 }

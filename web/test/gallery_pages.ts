@@ -1,400 +1,290 @@
-// Pages as screens would make them, with every kind of node.
+// Pages with every kind of node, in all its options and with all that is hard to draw: words without an end,
+// words that look like markup, nothing at all, and very much.
 
-import type { Page } from "../src/view_types";
-import { extreme, large } from "./gallery_extremes";
+import type * as View from "../src/view_types";
+import * as make from "./gallery_nodes";
 import {
-  back,
-  balance,
-  bubble,
-  button,
-  buttons,
-  card,
-  chart,
-  choice,
-  countdown,
-  dialog,
-  field,
-  happened,
-  icons,
-  listPage,
-  meter,
-  option,
-  page,
-  picture,
-  pictureNode,
-  plainButton,
-  plainCard,
-  row,
-  section,
-  slider,
-  stars,
-  swipeCard,
-  tabs,
-  text,
-  ticks,
-  tile,
-  tiles,
-  weeks,
+  back, button, card, chart, icons, page, picture, plainButton, points, row, section, tabs, text, ticks, tile,
 } from "./gallery_nodes";
 
-const hub = page("Dana Wells", {
+const longWord = "Donaudampfschifffahrtselektrizitätenhauptbetriebswerkbauunterbeamtengesellschaft";
+const longText =
+  "A sentence that goes on and on, as sentences in a long career will do when nobody stops them in time. ".repeat(4);
+const markup = `<b onclick="alert(1)">"Bold" & daring</b>`;
+const signs = "© 2026 ™ 1️⃣ 👩🏽‍🎤🏳️‍🌈🇫🇷 ⚠️ ★ — all in one line";
+const muchMoney = "$123,456,789,012,345.67";
+
+const tones: readonly View.Tone[] = ["plain", "quiet", "good", "warning", "accent"];
+const styles: readonly View.TextStyle[] = ["body", "large", "caption", "quotation"];
+const weights: readonly View.ButtonWeight[] = ["normal", "primary", "quiet", "destructive"];
+const pictureKinds: readonly View.PictureKind[] = [
+  "avatar", "poster", "logo", "house", "vehicle", "card", "photo", "icon",
+];
+const poster = [picture("poster", "Night Train")];
+
+const hub = page({
+  title: "Dana Wells",
   subtitle: "JANUARY\n16, 2026",
-  icons: icons(),
+  icons,
   tabs: tabs(0),
   nodes: [
-    tiles(
-      tile("Cash", "$1,250"),
-      tile("Fans", "14.2K", "+312 this week", "good"),
-      tile("Star meter", "48,210"),
-      tile("Weekly", "-$340", "rent, classes", "warning"),
-    ),
-    balance("$450", "$70"),
-    meter("Energy", 72),
+    make.tiles(...tones.map((tone) => tile({ label: `Cash ${tone}`, value: "$1,250", detail: "+312 a week", tone }))),
+    make.balance("$450", "$70"),
+    make.meter({ label: "Energy", value: 72, text: "72 of 100" }),
     section(
       "Now playing",
-      card("Night Train", {
+      card({
+        title: "Night Train",
         subtitle: "Feature Film • Thriller\nWeek 3 in theaters",
-        picture: [picture("poster", "Night Train")],
-        pressed: true,
-        nodes: [stars("Audience", 3.5), meter("Critics", 64, { isScore: true, text: "64" })],
+        picture: poster,
+        handle: 1,
+        nodes: [make.stars("Audience", 3.5), make.buttons(plainButton({ label: "Promote", price: "$2,500" }))],
       }),
-      card("The Lake House", {
-        subtitle: "TV-Series • Drama",
-        picture: [picture("poster", "The Lake House")],
-        pressed: true,
-      }),
+      card({ title: "The Lake House", subtitle: "TV-Series • Drama", picture: poster, handle: 1 }),
     ),
-    section(
-      "Auditions",
-      row("Paper Moons", "Invited", {
-        detail: "Lead • shoots in 3 weeks",
-        picture: [picture("poster", "Paper Moons")],
-        tone: "good",
-        pressed: true,
-      }),
-      row("Cold Harbor", "Submitted", {
-        detail: "Supporting",
-        picture: [picture("poster", "Cold Harbor")],
-        pressed: true,
-      }),
-      row("Static", "Closed", {
-        detail: "Background",
-        picture: [picture("poster", "Static")],
-        tone: "quiet",
-        pressed: true,
-      }),
+    make.listPage(
+      [
+        card({
+          title: "Iris",
+          picture: poster,
+          nodes: [
+            text("A retired stuntwoman is asked for one last fall."),
+            row({ label: "Pay", value: "$450" }),
+            button({ label: "Submit", price: "⚡️ 12", weight: "primary" }),
+          ],
+        }),
+        card({ title: "Ghost Light", subtitle: "Short Film • Principal" }),
+      ],
+      "1–2 of 312",
+      [
+        plainButton({ label: "Previous", weight: "quiet", offReason: "This is the first page.", handle: 0 }),
+        plainButton({ label: "Next", weight: "quiet" }),
+      ],
     ),
+    section("Auditions", ...tones.map((tone) => row({ label: `Invited ${tone}`, value: "Lead", tone, handle: 1 }))),
     section(
       "Fame",
-      chart("line", "Net worth", {
-        points: weeks(30, (week) => Math.round(40 + week * 3 + 22 * Math.sin(week / 3))),
+      chart({
+        title: "Net worth",
+        points: points(Array.from({ length: 30 }, (_, week) => Math.round(40 + week * 3 + 22 * Math.sin(week / 3)))),
         scale: ticks(0, 50, 100, 150),
         summary: "Net worth rose from $40K to $128K over 30 weeks, with a dip in week 15.",
       }),
     ),
-    button("End Week", { weight: "primary" }),
+    button({ label: "End Week", weight: "primary" }),
   ],
 });
 
-const casting = page("Casting Network", {
-  subtitle: "Fresh listings each week",
-  tabs: tabs(1),
-  icons: icons(),
-  nodes: [
-    text("You have energy for two more castings.", { style: "caption" }),
-    choice("Type", [option("All", true), option("Film"), option("Series")]),
-    listPage(
-      ["Summer of Steel", "Iris", "Queen of Nothing", "Broken Compass", "Neon Saints", "Ghost Light"].map(
-        (title, index) =>
-          card(title, {
-            subtitle: ["Feature Film • Lead", "Short Film • Principal", "Commercial"][index % 3]!,
-            picture: [picture("poster", title)],
-            nodes: [
-              text("A retired stuntwoman is asked for one last fall."),
-              row("Pay", `$${(index + 1) * 450}`),
-              button(
-                "Submit",
-                index === 2
-                  ? { price: "⚡️ 12", offReason: "You need 12 energy, and have 8." }
-                  : { price: "⚡️ 12", weight: index === 0 ? "primary" : "normal" },
-              ),
-            ],
-          }),
-      ),
-      "21–26 of 312",
-      [plainButton("Previous", { weight: "quiet" }), plainButton("Next", { weight: "quiet" })],
-    ),
-  ],
-});
-
-const film = page("Summer of Steel", {
+// A title's page: its poster beside what leads, parts within parts.
+const film = page({
+  title: "Summer of Steel",
   subtitle: "Feature Film • Action, Drama • 2027",
   close: back(),
   nodes: [
-    pictureNode("poster", "Summer of Steel", "Poster of Summer of Steel"),
-    text("“A performance that will be talked about when the popcorn is long gone.”", { style: "quotation" }),
-    tiles(tile("Opening weekend", "$12.4M", "", "good"), tile("Total gross", "$48.9M")),
+    make.pictureNode("poster", "Summer of Steel", "Poster of Summer of Steel"),
+    ...styles.map((style) => text(`“Words in ${style}.”`, { style })),
+    make.tiles(tile({ label: "Total gross", value: "$48.9M" })),
     section(
       "Scores",
-      meter("Imbd", 84, { isScore: true, text: "8.4" }),
-      meter("Critics", 61, { isScore: true, text: "61%" }),
-      meter("Audience", 38, { isScore: true, text: "38%" }),
-      meter("Chemistry", 12, { isScore: true, text: "12" }),
-      stars("Your review", 4.5),
-    ),
-    section(
-      "Ratings",
-      chart("histogram", "Ratings by stars", {
-        points: [12, 8, 14, 30, 52, 90, 160, 210, 140, 66].map((value, index) => ({
-          label: `${index + 1}`,
-          value,
-          text: `${value} ratings`,
-        })),
-        scale: [0, 100, 200].map((value) => ({ value, text: `${value}` })),
-        summary: "Most of 782 ratings are 7 to 9 stars.",
-      }),
-    ),
-    section(
-      "Markets",
-      chart("bar", "Gross by market", {
-        points: [
-          ["US", 18],
-          ["UK", 7],
-          ["FR", 4],
-          ["DE", 6],
-          ["JP", 9],
-          ["BR", 2],
-        ].map(([label, value]) => ({ label: String(label), value: Number(value), text: `$${value}M` })),
-        scale: [0, 10, 20].map((value) => ({ value, text: `$${value}M` })),
-        summary: "The US leads with $18M, before Japan with $9M.",
-      }),
-    ),
-    section(
-      "Money",
-      chart("pie", "Where it went", {
-        points: [
-          ["Production", 42],
-          ["Marketing", 25],
-          ["Cast", 18],
-          ["Distribution", 10],
-          ["Royalties", 5],
-        ].map(([label, value]) => ({ label: String(label), value: Number(value), text: `${value}%` })),
-        summary: "Production took 42% of the budget, marketing 25%.",
-      }),
+      ...[0, 24, 25, 49, 50, 79, 80, 100].map((value) =>
+        make.meter({ label: `Score of ${value}`, value, text: `${value}%`, isScore: true }),
+      ),
     ),
     section(
       "Cast",
-      row("Mara Quinn", "Lead", { picture: [picture("avatar", "woman (12).png")], pressed: true }),
-      row("Theo Brand", "Director", { picture: [picture("avatar", "man (7).png")], pressed: true }),
-      section(
-        "Reviews",
-        row("The Daily Reel", "★ 4.0", {
-          detail: "“Steel has rarely been this warm.”",
-          picture: [picture("logo", "The Daily Reel")],
-        }),
-      ),
+      ...tones.flatMap((tone) => [
+        text(`Said in ${tone}.`, { tone }),
+        row({ label: `Lead ${tone}`, picture: [picture("avatar", "woman (12).png")], tone }),
+      ]),
+      section("Reviews", row({ label: "The Daily Reel", value: "★ 4.0", detail: "“Rarely this warm.”", picture: poster })),
     ),
-    buttons(
-      plainButton("Promote", { price: "$2,500" }),
-      plainButton("Sell the rights", { weight: "destructive" }),
+    make.buttons(...weights.map((weight) => plainButton({ label: `Now ${weight}`, weight }))),
+    make.buttons(...weights.map((weight) => plainButton({ label: `For money ${weight}`, weight, price: "⚡️ 12" }))),
+    make.buttons(
+      ...weights.map((weight) =>
+        plainButton({ label: `Not ${weight}`, weight, price: "$9", offReason: "No cash.", handle: 0 }),
+      ),
     ),
   ],
 });
 
-const latch = page("Latch", {
+// All charts, of nothing, of one point, above and below nothing, and of more than can be read one by one.
+const bottomless = { points: points([-40, 20, -10, 60], "A quarter of the very long year"), scale: ticks(-40, 0, 60) };
+const series: Readonly<Record<string, Partial<View.Chart>>> = {
+  nothing: {},
+  "one point": { points: points([5]), scale: ticks(0, 5) },
+  "no share": { points: points([0], longWord), scale: ticks(0) },
+  "ups and downs": bottomless,
+  "ten markets": { points: points([12, 8, 14, 30, 52, 90, 160, 210, 140, 66], "M"), scale: ticks(0, 100, 200) },
+  "two years": {
+    points: points(Array.from({ length: 104 }, (_, week) => 500 + Math.round(400 * Math.cos(week / 9)))),
+    scale: ticks(0, 500, 1000),
+  },
+};
+const charts = page({
+  title: "Charts",
+  close: back(),
+  nodes: (["line", "bar", "pie", "histogram"] as const).map((kind) =>
+    section(
+      `As a ${kind}`,
+      ...Object.entries(series)
+        .filter(([what]) => kind !== "pie" || what !== "two years") // the legend would name each week
+        .map(([what, rest]) => chart({ kind, title: `Of ${what}, ${kind}`, summary: `It says ${what}, ${kind}.`, ...rest })),
+    ),
+  ),
+});
+
+const latch = page({
+  title: "Latch",
   subtitle: "Each swipe takes 3 energy",
   close: back("Done"),
   nodes: [
-    swipeCard(
-      plainCard("Robin, 27", {
+    make.swipeCard(
+      make.plainCard({
+        title: "Robin, 27",
         subtitle: "Stunt double • 4 miles away",
         picture: [picture("avatar", "woman (31).png", "Robin")],
-        nodes: [text("Fluent in sarcasm and subtitles."), meter("Match", 81, { isScore: true, text: "81%" })],
+        nodes: [text("Fluent in sarcasm and subtitles."), make.meter({ label: "Match", value: 81, text: "81%" })],
       }),
-      plainButton("Pass", { price: "⚡️ 3" }),
-      plainButton("Like", { price: "⚡️ 3", weight: "primary" }),
+      plainButton({ label: "Pass", price: "⚡️ 3" }),
+      plainButton({ label: "Like", price: "⚡️ 3", weight: "primary" }),
     ),
     section(
       "Messages",
-      bubble("Robin", "So… which of your films should I never watch?"),
-      bubble("", "The commercial with the singing toaster. 🍞", true),
-      bubble("Robin", "I have already seen it twice 😄"),
-      countdown("Robin is typing", 8, 60),
+      make.bubble("Robin", "So… which of your films should I never watch?"),
+      make.bubble("", "The commercial with the singing toaster. 🍞", true),
+      make.countdown("Robin is typing", 8),
     ),
+    section("What happened", make.countdown("Time left", 42), make.happened("0:55", "Bisney opens at $3M.")),
   ],
 });
 
-const auction = page("Content Auction", {
-  subtitle: "Highest bid at 0:00 wins",
-  close: back(),
+const letters = (...labels: string[]) => labels.map((label, index) => make.option({ label, chosen: index === 1 }));
+const form = page({
+  title: "New career",
   nodes: [
-    countdown("Time left", 42, 60),
-    tiles(tile("Highest bid", "$4.2M", "Bisney", "warning")),
-    section(
-      "What happened",
-      happened("0:55", "Bisney opens at $3M."),
-      happened("0:49", "You raise to $3.6M."),
-      happened("0:44", "Bisney raises to $4.2M."),
-    ),
-    buttons(
-      plainButton("Bid", { price: "$4.5M", weight: "primary" }),
-      plainButton("Walk away", { weight: "quiet" }),
-    ),
-  ],
-});
-
-const form = page("New career", {
-  nodes: [
-    text("Every career starts with a name on a list.", { style: "large" }),
-    field("Stage name", "Dana Wells", { hint: "As it will stand on the poster.", maximumLength: 30 }),
-    slider("Age", 24, "24 years", { minimum: 18, maximum: 60 }),
-    choice("Gender", [option("Female", true), option("Male")]),
-    choice(
-      "Headshot",
-      [1, 2, 3, 4, 5, 6].map((index) =>
-        option(`Look ${index}`, index === 2, [picture("avatar", `woman (${index * 7}).png`)]),
+    make.field({ label: "Stage name", value: "Dana", hint: "As it will stand on the poster.", maximumLength: 30 }),
+    make.field({ label: "Biography", value: "Grew up backstage.\nNever quite left.", severalLines: true }),
+    make.slider({ label: "Age", value: 24, text: "24 years", minimum: 18, maximum: 60 }),
+    make.choice("Side by side", letters("Female", "Male")),
+    make.choice("Chips", letters("1", "2", "3", "4", "5", "6", "7")),
+    make.choice("In a list", letters("A shared room above a theater in the old town", "Your parents' house")),
+    make.choice("Several", letters("Voice", "Stage fighting", "Crying on cue"), true),
+    make.choice(
+      "Pictures",
+      pictureKinds.map((kind, index) =>
+        make.option({ label: `Look ${kind}`, chosen: index === 1, picture: [picture(kind, "woman (7).png")] }),
       ),
     ),
-    choice(
-      "Strong points",
-      [option("Voice", true), option("Stage fighting"), option("Crying on cue", true)],
-      true,
-    ),
-    choice("Where do you start?", [
-      option("A shared room above a theater in the old town", true),
-      option("Your parents' house, an hour from any casting office"),
-    ]),
-    field("Biography", "Grew up backstage.\nNever quite left.", { severalLines: true, maximumLength: 400 }),
-    button("Begin", { weight: "primary" }),
+    button({ label: "Begin", weight: "primary" }),
   ],
 });
 
-const estate = page("Real Estate", {
-  subtitle: "The market is up 2.1% this week",
-  icons: icons(),
-  tabs: tabs(4),
-  nodes: [
-    tiles(tile("Portfolio", "$1.8M", "+$120K", "good")),
+const pictures = page({
+  title: "Pictures",
+  close: back(),
+  nodes: pictureKinds.map((kind) =>
     section(
-      "For sale",
-      card("A-frame at Pine Lake", {
-        subtitle: "2 beds • 1 bath • 900 sqft",
-        picture: [picture("house", "cabin4.png")],
-        pressed: true,
-        nodes: [
-          buttons(
-            plainButton("Buy", { price: "$240K", weight: "primary" }),
-            plainButton("Offer less", { price: "⚡️ 10" }),
-          ),
-        ],
+      `As ${kind}`,
+      make.pictureNode(kind, "ring2.png", `A ${kind} of its own`),
+      row({ label: `A row with a ${kind}`, value: "a long word", picture: [picture(kind, "castle")], handle: 1 }),
+      card({
+        title: `A card with a ${kind}`,
+        picture: [picture(kind, "jet")],
+        handle: 1,
+        nodes: [make.buttons(plainButton({ label: "Buy", price: "$240K" }), plainButton({ label: "Offer less" }))],
       }),
-      card("Glass house in the hills", {
-        subtitle: "5 beds • 6 baths • 6,200 sqft",
-        picture: [picture("house", "modern2.png")],
-        nodes: [
-          button("Buy", {
-            price: "$3.9M",
-            offReason: "You do not have enough cash to purchase this property.",
+    ),
+  ),
+});
+
+const extreme = page({
+  title: longWord,
+  subtitle: longText,
+  icons,
+  tabs: tabs(2),
+  close: back("Leave this screen without deciding anything"),
+  nodes: [
+    make.tiles(
+      tile({ label: longWord, value: muchMoney, detail: longText, tone: "good" }),
+      tile({ value: "0" }),
+      tile({ label: "None" }),
+    ),
+    make.tiles(tile({ label: "Alone", value: "$999,999,999" })),
+    make.tiles(),
+    make.balance(`-${muchMoney}`, muchMoney),
+    make.meter({ label: longWord, value: 1e12, text: "1,000,000,000,000 of 100" }),
+    make.meter({ label: "Nothing", maximum: 0, text: "0 of 0" }),
+    make.stars(longWord, 7.3, 10),
+    button({ label: longWord, price: "$123,456,789,012", offReason: longText, handle: 0 }),
+    make.buttons(
+      plainButton({ label: longWord, price: "$1" }),
+      plainButton({ label: "OK" }),
+      plainButton({ label: "A button with quite a few words on it", weight: "quiet" }),
+    ),
+    row({ label: longWord, value: muchMoney, detail: longText, picture: poster, handle: 1 }),
+    row(),
+    make.field({ label: longWord, value: longWord, hint: longText }),
+    make.slider({ label: longWord, text: muchMoney, minimum: 50, maximum: 50 }),
+    make.choice("", letters(longWord, "B")),
+    make.bubble(longWord, longText),
+    make.bubble("", longWord, true),
+    make.happened(longWord, longText),
+    [1, 2, 3, 4, 5].reduce((inner) => section(longWord, inner), section(longWord, text(longWord))),
+    card({ title: longWord, subtitle: longText, picture: poster, handle: 1, nodes: [text(longText)] }),
+    card(),
+    make.listPage([]),
+    text(""),
+    text(signs, { tone: "accent" }),
+    text(markup),
+    make.countdown(longWord, 0, 0),
+  ],
+});
+
+const large = page({
+  title: "Chirp",
+  tabs: tabs(2),
+  icons: [make.tab("Inbox", "✉️", true)],
+  nodes: [
+    make.tiles(tile({ label: "Followers", value: "1.2M" }), tile({ label: "Posts", value: "312" })),
+    ...Array.from({ length: 8 }, (_, day) =>
+      section(
+        `Day ${day + 1}`,
+        ...Array.from({ length: 20 }, (_, index) =>
+          row({
+            label: `Fan ${day * 20 + index}`,
+            value: `${index * 3} ♥`,
+            detail: "I laughed, I cried, I bought the soundtrack. 🎵",
+            picture: [picture(index % 3 === 0 ? "poster" : "avatar", `woman (${day * 20 + index}).png`)],
+            handle: 1,
           }),
-        ],
-      }),
-    ),
-    section(
-      "Garage",
-      card("Coupe", {
-        subtitle: "+4 energy a week",
-        picture: [picture("vehicle", "sports1.png")],
-        pressed: true,
-      }),
-      row("Delivery van", "$18K", {
-        detail: "Insured for $60 a week",
-        picture: [picture("vehicle", "van2.png")],
-        pressed: true,
-      }),
-    ),
-    section(
-      "Cards",
-      row("Kralamat", "$310", {
-        detail: "No. 11 of 2016 • grade 10",
-        picture: [picture("card", "Kralamat")],
-        tone: "good",
-        pressed: true,
-      }),
-      row("Araquash", "$74", {
-        detail: "No. 124 of 2017 • grade 10",
-        picture: [picture("card", "Araquash")],
-        tone: "warning",
-        pressed: true,
-      }),
-    ),
-  ],
-});
-
-const pictures = page("Pictures", {
-  close: back(),
-  nodes: [
-    section(
-      "Avatars",
-      ...["man (3).png", "woman (8).png", "sm11.png"].map((name) =>
-        row(name, "", { picture: [picture("avatar", name)] }),
+        ),
       ),
     ),
-    section("Poster", pictureNode("poster", "Midnight at the Diner", "Poster of Midnight at the Diner")),
-    section(
-      "Logo",
-      pictureNode("logo", "imbdMetflix.png", "Metflix"),
-      row("Panamount", "", { picture: [picture("logo", "imbdPanamount.png")] }),
-    ),
-    section(
-      "House",
-      pictureNode("house", "mansion1.png", "A mansion"),
-      row("Castle", "", { picture: [picture("house", "castle.png")] }),
-    ),
-    section("Vehicle", pictureNode("vehicle", "yacht1.png", "A yacht")),
-    section("Trading card", pictureNode("card", "Lavagorn", "Lavagorn, a card")),
-    section(
-      "Photo",
-      pictureNode("photo", "ring2.png", "A ring"),
-      row("The wedding", "", { picture: [picture("photo", "wedding3.png")] }),
-    ),
-    section(
-      "Icon",
-      pictureNode("icon", "trophy", "A trophy"),
-      row("Dance class", "", { picture: [picture("icon", "dance")] }),
-    ),
+    button({ label: "Post", weight: "primary" }),
   ],
 });
 
 const notice = {
   ...hub,
-  dialog: [
-    dialog(
-      "⚠️ Name Needed ⚠️",
-      "Please enter your stage name/name.",
-      plainButton("OK", { weight: "primary" }),
-    ),
-  ],
+  dialog: make.dialog("⚠️ Name Needed ⚠️", "Please enter your stage name/name.", plainButton({ label: "OK" })),
 };
 const question = {
   ...hub,
-  dialog: [
-    dialog(
-      "💔 Divorce? 💔",
-      "\nAre you sure you want to divorce Robin?\n\nIf you do not have the cash on hand, you will take a negative cash balance.",
-      plainButton("Stay together", { weight: "primary" }),
-      plainButton("Divorce", { weight: "destructive" }),
-    ),
-  ],
+  dialog: make.dialog(
+    "💔 Divorce? 💔",
+    "\nAre you sure?\n\nIf you do not have the cash on hand, you will take a negative cash balance.",
+    plainButton({ label: "Stay together", weight: "primary" }),
+    plainButton({ label: "Divorce", weight: "destructive" }),
+  ),
 };
 
-export const pages: Readonly<Record<string, Page>> = {
+export const pages: Readonly<Record<string, View.Page>> = {
   hub,
-  casting,
   film,
+  charts,
   latch,
-  auction,
   form,
-  estate,
   pictures,
   extreme,
   large,

@@ -1,97 +1,144 @@
-// A career in the real browser: started, lived, trained, left and found again, with every screen on the way read
-// by an accessibility checker in both themes.
+// A career in the real browser: started, lived, trained, left and found again, and every screen of the game read by an
+// accessibility checker in both themes.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import type { Page } from "playwright-core";
 
 import { inspect } from "./inspect";
-import { nameField, stage, startCareer, visit } from "./runtime_site";
+import {
+  choose, finds, heading, liveAWeek, nameField, openSaves, play, press, stage, startCareer, visit, workingActor,
+} from "./runtime_site";
 
 const setting = stage();
 
-const press = (page: Page, name: string) => page.getByRole("button", { name, exact: true }).first().click();
-const heading = (page: Page, name: string) => page.getByRole("heading", { name, exact: true }).waitFor();
 const hubTab = (page: Page, name: string) => page.getByRole("navigation").getByRole("button", { name }).click();
 
-async function livesWeeks(page: Page, weeks: number): Promise<void> {
-  for (let week = 0; week < weeks; week += 1) {
-    await press(page, "End Week");
-    await heading(page, "REVIEW");
-    await press(page, "Carry on");
-    await page.getByRole("button", { name: "End Week" }).waitFor();
+async function backToTheTabs(page: Page): Promise<void> {
+  const back = page.getByRole("button", { name: "Back", exact: true });
+  while ((await back.count()) > 0) await back.click();
+}
+
+// The tab, what is pressed from there on, and what the picture is called. An answer in a notice is a press too.
+type Walk = readonly [tab: string, presses: readonly RegExp[], name: string];
+
+async function inspectOnTheWay(page: Page, walks: readonly Walk[]): Promise<void> {
+  for (const [tab, presses, name] of walks) {
+    await backToTheTabs(page);
+    await hubTab(page, tab);
+    for (const press of presses) {
+      const pressed = page.getByRole("button", { name: press }).or(page.getByRole("radio", { name: press })).first();
+      assert(await pressed.isVisible(), `${name}: nothing to press for ${String(press)}`);
+      await pressed.click();
+    }
+    await inspect(page, name);
   }
 }
 
 test("a career starts, lives ten weeks, and is found again after a reload", async () => {
-  const player = await visit(setting);
-  const page = await player.open();
+  const page = await (await visit(setting)).open();
   await nameField(page).waitFor();
   await inspect(page, "form");
   await startCareer(page, "Ada Vale");
   await inspect(page, "home");
-
-  await hubTab(page, "Work");
-  await inspect(page, "work");
-  await page.getByRole("button", { name: /^Talent/ }).click();
-  await heading(page, "Talent");
-  await page.getByRole("button", { name: /^Train to 2/ }).first().click();
-  await inspect(page, "talent");
-  await press(page, "Back");
-
-  await livesWeeksFromHome(page, 10);
-  await inspect(page, "home-later");
-  for (const tab of ["Social", "Life", "Wealth", "Home"]) {
-    await hubTab(page, tab);
-    await inspect(page, tab.toLowerCase());
-  }
+  await inspectOnTheWay(page, [
+    ["Work", [], "work"],
+    ["Work", [/^Talent/, /^Train to 2/], "talent"],
+  ]);
+  await backToTheTabs(page);
+  await hubTab(page, "Home");
+  for (let week = 0; week < 10; week += 1) await liveAWeek(page);
+  await inspectOnTheWay(page, ["Social", "Life", "Wealth", "Home"].map((tab) => [tab, [], `later-${tab.toLowerCase()}`]));
   const before = await page.getByRole("main").innerText();
   await page.reload();
   await page.getByRole("button", { name: "End Week" }).waitFor();
   assert.equal(await page.getByRole("main").innerText(), before);
-  await player.end();
 });
 
-async function livesWeeksFromHome(page: Page, weeks: number): Promise<void> {
-  await hubTab(page, "Home");
-  await livesWeeks(page, weeks);
-}
-
-test("every other screen can be read and left", async () => {
-  const player = await visit(setting);
-  const page = await player.open();
-  await startCareer(page, "Ada Reader");
+test("every other screen of a beginner can be read and left", async () => {
+  const { page } = await play(setting, "Ada Reader");
   await press(page, "End Week");
   await heading(page, "REVIEW");
   await inspect(page, "summary");
-  await press(page, "Close");
-
-  await hubTab(page, "Work");
-  await page.getByRole("button", { name: /Acting Classes/ }).click();
-  await inspect(page, "classes");
-  await page.getByRole("button", { name: /Sign up/ }).first().click();
-  await page.getByRole("dialog").waitFor();
-  await inspect(page, "notice");
+  await press(page, "Carry on");
+  await inspectOnTheWay(page, [
+    ["Work", [/Acting Classes/], "classes"],
+    ["Work", [/Acting Classes/, /Sign up/], "notice"],
+  ]);
   await page.getByRole("dialog").getByRole("button", { name: "OK" }).click();
-  await press(page, "Back");
-
-  await press(page, "The Backstage");
-  await inspect(page, "backstage");
-  await page.getByRole("button", { name: /Showreel/ }).click();
-  await inspect(page, "showreel");
-  await page.getByRole("button", { name: /Choose footage/ }).click();
-  await inspect(page, "footage");
-  await press(page, "Back");
-  await press(page, "Back");
-  await page.getByRole("button", { name: /Actor's Guild/ }).click();
-  await inspect(page, "guild");
-  await press(page, "Back");
-  await press(page, "Back");
-
-  await press(page, "Settings");
-  await inspect(page, "settings");
+  const backstage = /^The Backstage/;
+  await inspectOnTheWay(page, [
+    ["Home", [backstage], "backstage"],
+    ["Home", [backstage, /Showreel/], "showreel"],
+    ["Home", [backstage, /Showreel/, /Choose footage/], "footage"],
+    ["Home", [backstage, /Actor's Guild/], "guild"],
+    ["Home", [/^Settings/], "settings"],
+  ]);
   await press(page, "Restart?");
   await page.getByRole("dialog").getByRole("button", { name: "Restart", exact: true }).click();
   await nameField(page).waitFor();
-  await player.end();
+});
+
+test("the way back of the phone leaves a screen, not the game", async () => {
+  const { page } = await play(setting, "Ada Back");
+  const home = page.getByRole("heading", { level: 1, name: "Ada Back" });
+  await home.waitFor();
+  for (let round = 0; round < 2; round += 1) {
+    await press(page, "Settings");
+    await home.waitFor({ state: "detached" });
+    await page.goBack();
+    await home.waitFor();
+  }
+  assert.equal(new URL(page.url()).origin, setting.site.origin);
+});
+
+// The figures of the part of the page under that heading, one a row.
+const figuresUnder = (page: Page, heading: string): Promise<number[]> =>
+  page
+    .locator(".section", { has: page.getByRole("heading", { name: heading }) })
+    .locator(".row-value")
+    .evaluateAll((values) => values.map((value) => Number(value.lastChild!.textContent)));
+
+const toTheTitlePage = [/^Auditions/, /^Releases/, /Feature Film.*Released/, /^Imbd page/];
+
+test("every screen of a working actor can be read by everybody", async () => {
+  const { page } = await play(setting, "Somebody Else");
+  await openSaves(page);
+  await choose(page, workingActor());
+  await press(page, "Replace my career");
+  await finds(page, "Ada Vale");
+  await inspectOnTheWay(page, [
+    ["Work", [/^Job Board/], "actor-job-board"],
+    ["Work", [/^Casting Network/], "actor-casting"],
+    ["Work", [/^Casting Network/, /^Read more/], "actor-listing"],
+    ["Work", [/^Auditions/], "actor-auditions"],
+    ["Work", [/^Auditions/, /^Bookings/, /Wraps in/], "actor-booking"],
+    ["Work", [/^Auditions/, /^Releases/, /Feature Film.*Released/], "actor-release"],
+    ["Work", toTheTitlePage, "actor-title"],
+    ["Work", [...toTheTitlePage, /^Rate this title/, /^8 /], "actor-title-rated"],
+    ["Work", [...toTheTitlePage, /^RottenBanana/], "actor-banana"],
+    ["Work", [/^Auditions/, /^Releases/, /TV-Series.*Released/, /^Imbd page/], "actor-series"],
+    ["Work", [/^Box Office/], "actor-box-office"],
+    ["Work", [/^Box Office/, /^Yours/, /RETURN/], "actor-box-office-film"],
+    ["Work", [/^Productions/], "actor-productions"],
+    ["Work", [/^Top 250/], "actor-top-250"],
+    ["Social", [/^Rate a movie/], "actor-rate-a-movie"],
+    ["Social", [/^Quotes/], "actor-quotes"],
+    ["Wealth", [/^Finances/], "actor-finances"],
+    ["Wealth", [/^Balance Sheet/], "actor-balance-sheet"],
+    ["Wealth", [/^Weekly Expenses/], "actor-expenses"],
+    ["Wealth", [/^Payments/], "actor-payments"],
+    ["Life", [], "actor-life"],
+  ]);
+  const taken = await figuresUnder(page, "EVERY WEEK TAKES");
+  const inAll = taken.pop()!;
+  assert(inAll < 0, "this actor has more roles than are good for anybody");
+  assert.equal(taken.reduce((sum, energy) => sum + energy, 0), inAll);
+
+  await inspectOnTheWay(page, [["Work", toTheTitlePage, "actor-title-again"]]);
+  await page.getByRole("button", { name: "Box office", exact: true }).click();
+  await page.getByText("MARKETS").waitFor();
+  assert.equal(await page.evaluate(() => window.scrollY), 0, "a film's box office opens at its top");
+  await press(page, "Back");
+  assert.notEqual(await page.evaluate(() => window.scrollY), 0, "the way back leads to where the player was");
 });

@@ -4,106 +4,91 @@ import assert from "node:assert/strict";
 import { test } from "node:test";
 import type { Page } from "playwright-core";
 
-import { nameField, Site, type Stage, stage, startCareer, visit, waitForCopy, waitForGame } from "./runtime_site";
+import {
+  finds, play, press, Site, type Stage, stage, startCareer, visit, waitForCopy, waitForGame,
+} from "./runtime_site";
 
-const setting = stage("under/a path");
+const setting = stage();
 
-// Each test has a site of its own to take away or to change.
-async function ownSite(below = ""): Promise<Stage> {
-  return { site: await new Site(below).start(), browser: setting.browser };
+// A site of its own for a test to take away or to change. The game works under any path of a host.
+async function withOwnSite(test: (own: Stage) => Promise<void>): Promise<void> {
+  const site = await new Site("under/a path").start();
+  try {
+    await test({ site, browser: setting.browser });
+  } finally {
+    await site.stop();
+    site.remove();
+  }
 }
 
 const versionOf = (page: Page) =>
   page.evaluate(() => document.querySelector<HTMLMetaElement>("meta[name=version]")?.content ?? "first");
 
-test("after the first visit the game starts, plays and saves without a network", async () => {
-  const own = await ownSite();
-  const player = await visit(own);
-  const page = await player.open();
-  await nameField(page).waitFor();
-  await waitForCopy(page);
-  const { address } = own.site;
-  await own.site.stop();
+test("after the first visit the game starts, plays and saves without a network", () =>
+  withOwnSite(async (own) => {
+    const page = await (await visit(own)).open();
+    await waitForGame(page);
+    await waitForCopy(page);
+    const { address } = own.site;
+    await own.site.stop();
 
-  await page.reload();
-  await startCareer(page, "Ada Offline");
-  await page.goto(`${address}?from=homescreen`);
-  await page.getByText("Ada Offline").first().waitFor();
-  await player.end();
-  own.site.remove();
-});
+    await page.reload();
+    await startCareer(page, "Ada Offline");
+    await page.goto(`${address}?from=homescreen`);
+    await finds(page, "Ada Offline");
+  }));
 
-test("the site works under any path of a host", async () => {
-  const player = await visit(setting);
-  const page = await player.open();
-  await startCareer(page, "Ada Below");
-  await waitForCopy(page);
-  await page.reload();
-  await page.getByText("Ada Below").first().waitFor();
-  await player.end();
-});
+test("a new version is offered, not forced, and takes the career along", () =>
+  withOwnSite(async (own) => {
+    const { page } = await play(own, "Ada Update");
+    await waitForCopy(page);
 
-test("a new version is offered, not forced, and takes the career along", async () => {
-  const own = await ownSite();
-  const player = await visit(own);
-  const page = await player.open();
-  await startCareer(page, "Ada Update");
-  await waitForCopy(page);
+    own.site.publish("second0000");
+    await page.reload();
+    const offer = page.getByRole("button", { name: "Use it now" });
+    await offer.waitFor();
+    // The old version plays on until the player says so.
+    assert.equal(await versionOf(page), "first");
+    await page.reload();
+    await offer.waitFor();
+    assert.equal(await versionOf(page), "first");
 
-  own.site.publish("second0000");
-  await page.reload();
-  const offer = page.getByRole("button", { name: "Use it now" });
-  await offer.waitFor();
-  // The old version plays on until the player says so.
-  assert.equal(await versionOf(page), "first");
-  await page.reload();
-  await offer.waitFor();
-  assert.equal(await versionOf(page), "first");
+    // It stands at the hub alone: another screen would be lost.
+    await press(page, "Settings");
+    await offer.waitFor({ state: "detached" });
+    await page.goBack();
 
-  // It stands at the hub alone: another screen would be lost.
-  await page.getByRole("button", { name: "Settings" }).click();
-  await offer.waitFor({ state: "detached" });
-  await page.goBack();
+    await offer.click();
+    await page.waitForFunction(() => document.querySelector("meta[name=version]") !== null);
+    assert.equal(await versionOf(page), "second0000");
+    await finds(page, "Ada Update");
+    assert.equal(await offer.count(), 0);
 
-  await offer.click();
-  await page.waitForFunction(() => document.querySelector("meta[name=version]") !== null);
-  assert.equal(await versionOf(page), "second0000");
-  await page.getByText("Ada Update").first().waitFor();
-  assert.equal(await offer.count(), 0);
+    // The old version's copy is gone, and the new one is complete.
+    assert.equal(await page.evaluate(async () => (await caches.keys()).length), 1);
+    await own.site.stop();
+    await page.reload();
+    await finds(page, "Ada Update");
+  }));
 
-  // The old version's copy is gone, and the new one is complete.
-  const caches = await page.evaluate(async () => (await globalThis.caches.keys()).length);
-  assert.equal(caches, 1);
-  await own.site.stop();
-  await page.reload();
-  await page.getByText("Ada Update").first().waitFor();
-  await player.end();
-  own.site.remove();
-});
+test("a new version that comes only in part leaves the old one complete", () =>
+  withOwnSite(async (own) => {
+    const { player, page } = await play(own, "Ada Part");
+    await waitForCopy(page);
+    own.site.publish("broken0000");
+    own.site.lose(/\.webmanifest$/);
+    const outcome = await page.evaluate(async () => {
+      const registration = await navigator.serviceWorker.ready;
+      await registration.update();
+      const found = registration.installing;
+      while (found?.state === "installing") await new Promise((later) => setTimeout(later, 20));
+      return found?.state;
+    });
+    assert.equal(outcome, "redundant");
 
-test("a new version that comes only in part leaves the old one complete", async () => {
-  const own = await ownSite();
-  const player = await visit(own);
-  const page = await player.open();
-  await startCareer(page, "Ada Part");
-  await waitForCopy(page);
-  own.site.publish("broken0000");
-  own.site.lose(/\.webmanifest$/);
-  const outcome = await page.evaluate(async () => {
-    const registration = await navigator.serviceWorker.ready;
-    await registration.update();
-    const found = registration.installing;
-    while (found?.state === "installing") await new Promise((later) => setTimeout(later, 20));
-    return found?.state;
-  });
-  assert.equal(outcome, "redundant");
-
-  await own.site.stop();
-  await page.reload();
-  await page.getByText("Ada Part").first().waitFor();
-  await waitForGame(page);
-  assert(player.complaints.every((complaint) => complaint.includes("404")), player.complaints.join("\n"));
-  player.complaints.length = 0; // the browser complains about the missing file
-  await player.end();
-  own.site.remove();
-});
+    await own.site.stop();
+    await page.reload();
+    await finds(page, "Ada Part");
+    await waitForGame(page);
+    player.expect(/404/, 0); // the missing file, of which not every browser says a word
+  }));

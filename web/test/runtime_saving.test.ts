@@ -3,17 +3,16 @@
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import type { Page } from "playwright-core";
 
-import { fill, fillable, nameField, stage, startCareer, visit, waitForGame } from "./runtime_site";
+import { inspect } from "./inspect";
+import {
+  fill, fillable, finds, liveAWeek, nameField, play, says, stage, startCareer, visit, waitForGame, withoutStorage,
+} from "./runtime_site";
 
 const setting = stage();
 
-const readsCareerOf = (page: Page, name: string) => page.getByText(name).first().waitFor();
-
 test("a reload right after a press finds the career", async () => {
-  const player = await visit(setting);
-  const page = await player.open();
+  const page = await (await visit(setting)).open();
   await nameField(page).fill("Ada Reload");
   await nameField(page).blur();
   // The reload begins in the same task as the press.
@@ -21,8 +20,7 @@ test("a reload right after a press finds the career", async () => {
     (button as HTMLElement).click();
     location.reload();
   });
-  await readsCareerOf(page, "Ada Reload");
-  await player.end();
+  await finds(page, "Ada Reload");
 });
 
 test("a tab that is closed right after a press finds the career", async () => {
@@ -32,40 +30,51 @@ test("a tab that is closed right after a press finds the career", async () => {
   await nameField(page).blur();
   await page.getByRole("button", { name: "Start my career" }).evaluate((button) => (button as HTMLElement).click());
   await page.close();
-  await readsCareerOf(await player.open(), "Ada Closed");
-  await player.end();
+  await finds(await player.open(), "Ada Closed");
 });
 
-const refusals = {
-  "is not there": () => Object.defineProperty(globalThis, "indexedDB", { value: undefined }),
-  "is refused": () => {
-    IDBFactory.prototype.open = () => {
-      throw new DOMException("The operation is insecure.", "SecurityError");
-    };
-  },
-  "never answers": () => {
-    IDBFactory.prototype.open = () => new EventTarget() as IDBOpenDBRequest;
-  },
-  "can't be read": () => {
-    IDBObjectStore.prototype.getAll = () => {
-      throw new DOMException("", "UnknownError");
-    };
-  },
-};
+const refused = /does not let the game save/;
+const unreadable = /nothing of it is saved/;
+const refusals: readonly (readonly [how: string, says: RegExp, script: () => void])[] = [
+  ["is not there", refused, withoutStorage],
+  [
+    "is refused",
+    refused,
+    () => {
+      IDBFactory.prototype.open = () => {
+        throw new DOMException("The operation is insecure.", "SecurityError");
+      };
+    },
+  ],
+  [
+    "never answers",
+    refused,
+    () => {
+      const silence = { addEventListener: () => undefined, removeEventListener: () => undefined };
+      IDBFactory.prototype.open = () => Object.assign(Object.create(IDBOpenDBRequest.prototype), silence);
+    },
+  ],
+  [
+    "can't be read",
+    unreadable,
+    () => {
+      IDBObjectStore.prototype.getAll = () => {
+        throw new DOMException("", "UnknownError");
+      };
+    },
+  ],
+];
 
-for (const [how, script] of Object.entries(refusals)) {
+for (const [how, words, script] of refusals) {
   test(`where storage ${how}, the game plays and says that it can't save`, async () => {
-    const player = await visit(setting, script);
-    const page = await player.open();
-    await page.getByRole("status").filter({ hasText: /nothing of it is saved|does not let the game save/ }).waitFor();
+    const page = await (await visit(setting, script)).open();
+    await says(page, words);
     await startCareer(page, "Ada Private");
-    await player.end();
   });
 }
 
 test("a device without room is told of once, and the career is whole once there is room again", async () => {
-  const player = await visit(setting, fillable);
-  const page = await player.open();
+  const page = await (await visit(setting, fillable)).open();
   await waitForGame(page);
   await fill(page, true);
   await startCareer(page, "Ada Full");
@@ -81,34 +90,24 @@ test("a device without room is told of once, and the career is whole once there 
   await liveAWeek(page);
   assert.equal(await dialog.count(), 0);
   assert.equal(await notice.count(), 1);
+  await inspect(page, "not-saved");
 
   await fill(page, false);
   await liveAWeek(page);
   await notice.waitFor({ state: "detached" });
   await page.reload();
-  await readsCareerOf(page, "Ada Full");
-  await player.end();
+  await finds(page, "Ada Full");
 });
 
-test("a browser that throws the save away while the game is open gets it back whole", async () => {
-  const player = await visit(setting);
-  const page = await player.open();
-  await startCareer(page, "Ada Evicted");
+test("a browser is asked to keep the save, and one that throws it away while the game is open gets it back whole", async () => {
+  const { player, page } = await play(setting, "Ada Evicted", () => {
+    if (isSecureContext) navigator.storage.persist = async () => Boolean((document.documentElement.title = "asked"));
+  });
+  await page.getByTitle("asked").waitFor();
   const session = await player.context.newCDPSession(page);
   await session.send("Storage.clearDataForOrigin", { origin: setting.site.origin, storageTypes: "indexeddb" });
-  await page.waitForFunction(async () => {
-    const [database] = await indexedDB.databases();
-    return database !== undefined;
-  });
+  await page.waitForFunction(async () => (await indexedDB.databases()).length > 0);
   await liveAWeek(page);
   await page.reload();
-  await readsCareerOf(page, "Ada Evicted");
-  await player.end();
+  await finds(page, "Ada Evicted");
 });
-
-// Something that the game saves.
-async function liveAWeek(page: Page): Promise<void> {
-  await page.getByRole("button", { name: "End Week" }).click();
-  await page.getByRole("button", { name: "Close", exact: true }).click();
-  await page.getByRole("button", { name: "End Week" }).waitFor();
-}

@@ -6,13 +6,12 @@ import assert from "node:assert/strict";
 import { cpSync, mkdtempSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
-import { after, before } from "node:test";
+import { after, afterEach, before } from "node:test";
 import type { Browser, BrowserContext, Page } from "playwright-core";
 
 import { launchChromium } from "../browser.mjs";
 import { serve, type Served } from "../server.mjs";
-
-export const phone = { width: 390, height: 844 };
+import { phone } from "./inspect";
 
 // A copy of the built site that a test may change or take off the network.
 export class Site {
@@ -72,12 +71,17 @@ export interface Stage {
   readonly browser: Browser;
 }
 
-// A served site and a browser for the tests of one file.
-export function stage(below = ""): Stage {
+const visits = new Set<Visit>();
+
+// A served site and a browser for the tests of one file, each of which ends the visits that it began.
+export function stage(): Stage {
   const made: { site?: Site; browser?: Browser } = {};
   before(async () => {
-    made.site = await new Site(below).start();
+    made.site = await new Site().start();
     made.browser = await launchChromium();
+  });
+  afterEach(async () => {
+    for (const player of visits) await player.end();
   });
   after(async () => {
     await made.browser?.close();
@@ -89,9 +93,9 @@ export function stage(below = ""): Stage {
 
 export interface Visit {
   readonly context: BrowserContext;
-  open(address?: string): Promise<Page>;
-  readonly complaints: string[]; // what went wrong on any page; a test takes away what it provoked
-  end(): Promise<void>;
+  open(): Promise<Page>;
+  expect(complaint: RegExp, least?: number): void; // what a test provoked: one such or more, and so far no other
+  end(): Promise<void>; // fails on any other complaint
 }
 
 // One player's browser profile. The scripts run in each page before anything of the page does.
@@ -108,20 +112,42 @@ export async function visit(stage: Stage, ...scripts: (() => void)[]): Promise<V
     if (message.type() === "error" || message.type() === "warning") complaints.push(message.text());
   });
   context.on("weberror", (error) => complaints.push(String(error.error())));
-  return {
+  const player: Visit = {
     context,
-    complaints,
-    open: async (address = stage.site.address) => {
+    open: async () => {
       const page = await context.newPage();
-      await page.goto(address);
+      await page.goto(stage.site.address);
       return page;
     },
+    expect: (wanted, least = 1) => {
+      assert(complaints.length >= least, "nothing was complained of");
+      assert(complaints.every((complaint) => wanted.test(complaint)), complaints.join("\n"));
+      complaints.length = 0;
+    },
     end: async () => {
+      visits.delete(player);
       await context.close();
       assert.deepEqual(complaints, []);
     },
   };
+  visits.add(player);
+  return player;
 }
+
+// A visit with a career of that name.
+export async function play(
+  stage: Stage,
+  name: string,
+  ...scripts: (() => void)[]
+): Promise<{ readonly player: Visit; readonly page: Page }> {
+  const player = await visit(stage, ...scripts);
+  const page = await player.open();
+  await startCareer(page, name);
+  return { player, page };
+}
+
+// When the career of that name is on show.
+export const finds = (page: Page, name: string) => page.getByText(name).first().waitFor();
 
 export async function waitForGame(page: Page): Promise<void> {
   await page.getByRole("button", { name: "Saves" }).waitFor();
@@ -134,7 +160,7 @@ export async function startCareer(page: Page, name: string): Promise<void> {
   await nameField(page).fill(name);
   await nameField(page).blur();
   await page.getByRole("button", { name: "Start my career" }).click();
-  await page.getByText(name).first().waitFor();
+  await finds(page, name);
 }
 
 // When the page has a service worker that keeps everything.
@@ -146,9 +172,43 @@ export async function waitForCopy(page: Page): Promise<void> {
   });
 }
 
+export const press = (page: Page, name: string) => page.getByRole("button", { name, exact: true }).first().click();
+export const heading = (page: Page, name: string) => page.getByRole("heading", { name, exact: true }).waitFor();
+export const says = (page: Page, words: string | RegExp) => page.getByRole("status").filter({ hasText: words }).waitFor();
+
+// From the hub, to it.
+export async function liveAWeek(page: Page): Promise<void> {
+  await press(page, "End Week");
+  await heading(page, "REVIEW");
+  await press(page, "Carry on");
+  await page.getByRole("button", { name: "End Week" }).waitFor();
+}
+
 export async function openSaves(page: Page): Promise<void> {
-  await page.getByRole("button", { name: "Saves" }).click();
-  await page.getByRole("heading", { name: "Saves" }).waitFor();
+  await press(page, "Saves");
+  await heading(page, "Saves");
+}
+
+// In the open saves: the career as a file.
+export async function download(page: Page): Promise<Buffer> {
+  const [file] = await Promise.all([page.waitForEvent("download"), press(page, "Download a copy")]);
+  assert.match(file.suggestedFilename(), /^top-billing-\d{4}-\d\d-\d\d\.plist$/);
+  return readFileSync(await file.path());
+}
+
+// In the open saves: a file is brought in, as far as the question whether it may take the career's place.
+export async function choose(page: Page, buffer: Buffer): Promise<void> {
+  await page
+    .getByLabel("Bring in a copy")
+    .setInputFiles({ name: "career.plist", mimeType: "application/x-plist", buffer });
+}
+
+// Ada Vale, an actor of four years with titles on every step of their way.
+export const workingActor = () => readFileSync(join(process.cwd(), "test/saves/working_actor.plist"));
+
+// For visit(): a browser that stores nothing.
+export function withoutStorage(): void {
+  Object.defineProperty(globalThis, "indexedDB", { value: undefined });
 }
 
 // For visit(): with `full` set, no transaction gets through, in the way in which browsers refuse one.
@@ -166,7 +226,8 @@ export async function fill(page: Page, full: boolean): Promise<void> {
   await page.evaluate((given) => Object.assign(globalThis, { full: given }), full);
 }
 
-// For visit(): with `breaks` set, using or starting a game traps in its WebAssembly: it is handed a message that ends early.
+// For visit(): with `breaks` set, using or starting a game traps in its WebAssembly: it is handed a message that ends
+// early.
 export function breakable(): void {
   const instantiate = WebAssembly.instantiate as (
     module: WebAssembly.Module,

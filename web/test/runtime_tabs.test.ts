@@ -2,43 +2,44 @@
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
+import type { Page } from "playwright-core";
 
-import { nameField, stage, startCareer, visit, waitForGame } from "./runtime_site";
+import { inspect } from "./inspect";
+import { finds, heading, liveAWeek, nameField, play, press, stage, waitForGame } from "./runtime_site";
 
 const setting = stage();
 
+const elsewhere = "Your career is open in another tab";
+
 test("a second tab says where the game is, and goes on with it when the first is closed", async () => {
-  const player = await visit(setting);
-  const first = await player.open();
-  await startCareer(first, "Ada Tabs");
+  const { player, page: first } = await play(setting, "Ada Tabs");
   const second = await player.open();
-  await second.getByRole("heading", { name: "open in another tab" }).waitFor();
+  await heading(second, elsewhere);
   assert.equal(await nameField(second).count(), 0);
+  await inspect(second, "elsewhere");
 
   await first.close();
-  await second.getByText("Ada Tabs").first().waitFor();
-  await player.end();
+  await finds(second, "Ada Tabs");
 });
 
-test("a second tab can take the game over, and give it back", async () => {
-  const player = await visit(setting);
-  const first = await player.open();
-  await startCareer(first, "Ada Moves");
+test("a second tab can take the game over, and give it back with all that was played", async () => {
+  const { player, page: first } = await play(setting, "Ada Moves");
   const second = await player.open();
-  await second.getByRole("button", { name: "Play here" }).click();
-  await second.getByText("Ada Moves").first().waitFor();
-  await first.getByRole("heading", { name: "open in another tab" }).waitFor();
+  await press(second, "Play here");
+  await finds(second, "Ada Moves");
+  await heading(first, elsewhere);
+  await liveAWeek(second);
+  const today = (page: Page) => page.locator(".page-subtitle").textContent();
+  const lived = await today(second);
 
-  await first.getByRole("button", { name: "Play here" }).click();
-  await first.getByText("Ada Moves").first().waitFor();
-  await second.getByRole("heading", { name: "open in another tab" }).waitFor();
-  await player.end();
+  await press(first, "Play here");
+  await finds(first, "Ada Moves");
+  assert.equal(await today(first), lived);
+  await heading(second, elsewhere);
 });
 
 test("a tab that the browser has put to sleep does not keep the game", async () => {
-  const player = await visit(setting);
-  const first = await player.open();
-  await startCareer(first, "Ada Sleeps");
+  const { player, page: first } = await play(setting, "Ada Sleeps");
   // Asleep, it hears nothing of the other tab's wish.
   await first.evaluate(() => {
     BroadcastChannel.prototype.dispatchEvent = () => true;
@@ -48,10 +49,8 @@ test("a tab that the browser has put to sleep does not keep the game", async () 
   await session.send("Emulation.setScriptExecutionDisabled", { value: true });
 
   const second = await player.open();
-  await second.getByRole("button", { name: "Play here" }).click();
-  await second.getByText("Ada Sleeps").first().waitFor();
+  await press(second, "Play here");
+  await finds(second, "Ada Sleeps");
   await waitForGame(second);
-
   await session.send("Emulation.setScriptExecutionDisabled", { value: false });
-  await player.end();
 });

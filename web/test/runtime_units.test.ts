@@ -6,7 +6,9 @@ import { test } from "node:test";
 import { localeFields } from "../src/runtime/locale";
 import { MessageReader, MessageWriter } from "../src/runtime/message";
 import { type Change, joined, Pieces, readChanges } from "../src/runtime/pieces";
+import { Ticker } from "../src/runtime/ticker";
 import { wasiImports } from "../src/runtime/wasi";
+import * as make from "./gallery_nodes";
 
 const bytes = (...values: number[]) => new Uint8Array(values);
 
@@ -17,11 +19,14 @@ test("a message says on the other side what was put into it, however long", () =
   writer.wideNumber(-3);
   writer.text(long);
   writer.bytesOf(bytes(1, 2, 3));
-  const reader = new MessageReader(writer.message());
+  const message = writer.message();
+  const reader = new MessageReader(message);
   assert.equal(reader.number(), 4_000_000_000);
   assert.equal(reader.wideNumber(), -3);
   assert.equal(reader.text(), long);
-  assert.deepEqual([...reader.bytesOf()], [1, 2, 3]);
+  const read = reader.bytesOf();
+  message.fill(0); // as when the game's memory is used again
+  assert.deepEqual([...read], [1, 2, 3]);
 });
 
 test("a commit of an unknown kind is refused rather than half understood", () => {
@@ -37,10 +42,10 @@ function* draws(seed: number): Generator<number, never> {
 }
 
 function someChanges(draw: Generator<number, never>, count: number): Change[] {
-  const kinds = ["put", "put", "put", "drop", "dropKey", "dropAll", "keepAside"] as const;
+  const kinds = ["put", "put", "put", "drop", "dropKey", "keepAside"] as const;
   const next = (below: number) => draw.next().value % below;
   return Array.from({ length: count }, () => {
-    const kind = next(40) === 0 ? "dropAll" : (kinds[next(5)] ?? "put");
+    const kind = next(40) === 0 ? "dropAll" : kinds[next(kinds.length)]!;
     return { kind, stored: { key: `key ${next(3)}`, shape: 1, piece: next(3), bytes: bytes(next(256)) } };
   });
 }
@@ -66,6 +71,8 @@ test("what waits to be saved has the same outcome as all that was to be saved, a
     const asides = changes.flat().filter(({ kind }) => kind === "keepAside").length;
     assert.equal(waiting.filter(({ kind }) => kind === "keepAside").length, asides);
     assert(waiting.length - asides <= 3 * 3 + 3 + 1, `${waiting.length} changes wait`);
+    const voided = waiting.slice(0, Math.max(waiting.map(({ kind }) => kind).lastIndexOf("dropAll"), 0));
+    assert(voided.every(({ kind }) => kind === "keepAside"), "what is dropped anyway waits");
 
     const rewritten = new Pieces([{ key: "old", shape: 0, piece: 0, bytes: bytes(7) }]);
     rewritten.change(oneByOne.rewriting());
@@ -85,6 +92,41 @@ test("money, numbers and months are written as the device writes them", () => {
     assert.equal(fields.length, 6 + 12, tag);
     assert(fields.slice(6).every((month) => month !== ""), tag);
     assert(fields[0] !== "", tag);
+  }
+});
+
+test("a countdown goes on while it is looked at, and on no other page", (context) => {
+  const document = Object.assign(new EventTarget(), { hidden: false });
+  Object.assign(globalThis, { document });
+  const nothing = () => undefined;
+  let tick: () => void = nothing;
+  context.mock.method(globalThis, "clearInterval", () => (tick = nothing));
+  context.mock.method(globalThis, "setInterval", (run: () => void) => {
+    tick = run;
+    return 1;
+  });
+  let time = 0; // milliseconds
+  context.mock.method(performance, "now", () => time);
+  let told = 0; // seconds
+  const ticker = new Ticker((seconds) => (told += seconds));
+  const pass = (seconds: number) => {
+    for (let passed = 0; passed < 4 * seconds; passed += 1) {
+      time += 250;
+      tick();
+    }
+    return Math.round(told);
+  };
+  const auction = make.page({ nodes: [make.section("Auction", make.card({ nodes: [make.countdown("Left", 60)] }))] });
+  ticker.watch(auction);
+  assert.equal(pass(2), 2);
+  document.hidden = true;
+  assert.equal(pass(60), 2);
+  document.hidden = false;
+  document.dispatchEvent(new Event("visibilitychange"));
+  assert.equal(pass(3), 5);
+  for (const other of [make.page(), undefined, { ...auction, dialog: make.dialog("Sold!", "") }]) {
+    ticker.watch(other);
+    assert.equal(pass(2), 5);
   }
 });
 

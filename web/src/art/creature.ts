@@ -4,7 +4,7 @@
 import type { Chance } from "./random";
 import { circle, ellipse, group, many, mix, n, path, stroke } from "./svg";
 
-export interface Hide {
+interface Hide {
   readonly coat: string;
   readonly belly: string;
   readonly mark: string;

@@ -52,9 +52,6 @@ export const group = (content: string, attributes: Attributes = {}): string =>
 export const moved = (x: number, y: number, content: string): string =>
   group(content, { transform: `translate(${n(x)} ${n(y)})` });
 
-export const scaled = (x: number, y: number, scale: number, content: string): string =>
-  group(content, { transform: `translate(${n(x)} ${n(y)}) scale(${n(scale)})` });
-
 export const turned = (degrees: number, x: number, y: number, content: string): string =>
   group(content, { transform: `rotate(${n(degrees)} ${n(x)} ${n(y)})` });
 

@@ -1,5 +1,5 @@
 // The band of a 0 to 100 score: below 25, 25 to 49, 50 to 79, 80 and above.
-export type Band = "poor" | "fair" | "good" | "great";
+type Band = "poor" | "fair" | "good" | "great";
 
 export function bandOf(score: number): Band {
   if (score < 25) return "poor";

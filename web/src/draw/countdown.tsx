@@ -7,7 +7,7 @@ const lastCall = 10; // seconds from which on the ring warns
 const radius = 44; // in a square of 100
 const around = 2 * Math.PI * radius;
 
-export function clockText(seconds: number): string {
+function clockText(seconds: number): string {
   const whole = Math.max(0, Math.ceil(seconds));
   return `${Math.floor(whole / 60)}:${String(whole % 60).padStart(2, "0")}`;
 }

@@ -4,7 +4,7 @@
 import type { Page } from "../view_types";
 
 // A screen that nothing leads back from: the hub behind its tabs.
-export const isRoot = (page: Page): boolean => page.close.length === 0;
+const isRoot = (page: Page): boolean => page.close.length === 0;
 
 // What tells one place from another: the screen, and on the hub the tab. The title says nothing of it: a film's
 // page, its box office and its reviews share theirs, and a list may change its own as it is switched over.

@@ -73,7 +73,7 @@ function Standing({ title, corner, children }: {
   return (
     <div class="screen">
       <Bar page={{ title, subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [], screen: 0 }} />
-      <main class="main main-narrow">
+      <main class="main">
         <Masthead title={title} subtitle="" />
         <div class="content shell-content">
           {children}
