@@ -1,7 +1,6 @@
 // A working performer's first year of money, as the screens tell it: a temp job, sessions, the checks of a
 // commercial, an own production, the guild, and bills every week.
 
-#include <cmath>
 #include <format>
 #include <gtest/gtest.h>
 #include <numeric>

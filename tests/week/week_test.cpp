@@ -163,6 +163,13 @@ TEST_F(Week, MarketsStayInsideTheirCorridors) {
   moveCardIndex(game);
   EXPECT_EQ(world.realEstateIndex, 1.49);
   EXPECT_EQ(world.cardIndex, 0.31);
+  world.cardIndex = 0.36;
+  random.unit(0);
+  moveCardIndex(game);
+  EXPECT_DOUBLE_EQ(world.cardIndex, 0.31);  // low, and left there
+  random.unit(1);
+  moveCardIndex(game);
+  EXPECT_DOUBLE_EQ(world.cardIndex, 0.36);
 }
 
 TEST_F(Week, TheHalfYearlyCleanUpForgetsStaleAndClosedAuditionsUnderAnotherKey) {
