@@ -134,6 +134,12 @@ bool Player::sees(const std::string& text) const {
   return std::ranges::any_of(words(), [&](const std::string& line) { return line.contains(text); });
 }
 
+void Player::expectSees(std::initializer_list<std::string> texts) const {
+  for (const std::string& text : texts) {
+    EXPECT_TRUE(sees(text)) << text << " is not on " << title() << ": " << testing::PrintToString(words());
+  }
+}
+
 std::string Player::notice() const {
   const auto& dialog = app_.view().dialog;
   return dialog.empty() ? "" : dialog.front().title;
@@ -148,6 +154,13 @@ Handle Player::find(const std::string& label, Usable::Kind kind) const {
 }
 
 void Player::press(const std::string& label) { app_.press(find(label, Usable::Kind::press)); }
+void Player::follow(std::initializer_list<std::string> labels) {
+  for (const std::string& label : labels) press(label);
+}
+void Player::expectTold(const std::string& title) {
+  EXPECT_EQ(notice(), title);
+  press("OK");
+}
 void Player::type(const std::string& label, const std::string& text) {
   app_.type(find(label, Usable::Kind::type), text);
 }

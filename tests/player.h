@@ -3,7 +3,7 @@
 // A player: finds things on the page by what is written on them, and uses them.
 
 #include <gtest/gtest.h>
-#include <optional>
+#include <initializer_list>
 #include <string>
 #include <variant>
 #include <vector>
@@ -19,6 +19,7 @@ class Player {
   // Uses the button, row, card, option, tab or icon with this label. Fails the test when there is none, or
   // when it is off.
   void press(const std::string& label);
+  void follow(std::initializer_list<std::string> labels);  // one after the other
   // Writes into the field, or moves the slider, with this label.
   void type(const std::string& label, const std::string& text);
   void slide(const std::string& label, double value);
@@ -27,8 +28,11 @@ class Player {
   [[nodiscard]] std::vector<std::string> words() const;
   [[nodiscard]] bool sees(const std::string& text) const;
   [[nodiscard]] std::string title() const { return app_.view().title; }
+  void expectSees(std::initializer_list<std::string> texts) const;
   // The title of the notice over the page; empty when there is none.
   [[nodiscard]] std::string notice() const;
+  // That notice is over the page, and is answered with OK.
+  void expectTold(const std::string& title);
 
   // The handles of all that can be pressed, typed into or slid now.
   struct Usable {

@@ -2,7 +2,10 @@
 
 // A game whose store lasts as long as the test.
 
-#include "core/game.h"
+#include <gtest/gtest.h>
+#include <string>
+
+#include "core/save.h"
 #include "tests/memory_port.h"
 #include "tests/scripted_random.h"
 
@@ -13,6 +16,39 @@ struct ScratchGame {
   SaveStore store{port};
   ScriptedRandom random;
   Game game{.store = store, .random = random};
+  WorldState& world = game.world;
+
+  // The next launch finds these variables as they are.
+  template <auto... Members>
+  void expectSaved() {
+    Game next{.store = store, .random = random};
+    load<Members...>(next);
+    (expectEqual<Members>(next.world), ...);
+  }
+
+  // The newest line of the week's feed and of the log.
+  void expectToldInBothLists(const std::string& line) const {
+    ASSERT_FALSE(world.WeekFeed.empty() || world.activityTracker.empty()) << "nothing of " << line;
+    EXPECT_EQ(world.WeekFeed.back(), line);
+    EXPECT_EQ(world.activityTracker.front(), line);
+  }
+  void expectToldInTheLogAlone(const std::string& line) const {
+    EXPECT_EQ(world.activityTracker, TextList{line});
+    EXPECT_TRUE(world.WeekFeed.empty());
+  }
+  void expectNothingTold() const {
+    EXPECT_TRUE(world.WeekFeed.empty());
+    EXPECT_TRUE(world.activityTracker.empty());
+  }
+
+ private:
+  template <auto Member>
+  void expectEqual(const WorldState& stored) const {
+    EXPECT_EQ(stored.*Member, world.*Member) << keyOf<Member>;
+  }
 };
+
+// A rule tried in a game of its own.
+struct RuleTest : testing::Test, ScratchGame {};
 
 }  // namespace tb::test

@@ -10,8 +10,19 @@
 
 namespace tb::test {
 
+// What a draw gives that the test did not script.
+enum class Unscripted : std::uint8_t {
+  fails,
+  low,  // the low end of its range, for stories of many draws
+};
+
 class ScriptedRandom : public RandomSource {
  public:
+  explicit ScriptedRandom(Unscripted unscripted = Unscripted::fails) : unscripted_(unscripted) {}
+  ScriptedRandom(const ScriptedRandom&) = delete;
+  ScriptedRandom& operator=(const ScriptedRandom&) = delete;
+  ~ScriptedRandom() override { EXPECT_EQ(words_.size(), 0u) << "draws that no rule took"; }
+
   // The next RandomRange(n) gives `value`.
   ScriptedRandom& range(std::int64_t n, std::int64_t value) {
     // The middle of the words that RandomRange maps to `value`, so that none is drawn again.
@@ -36,21 +47,19 @@ class ScriptedRandom : public RandomSource {
 
   std::uint64_t next() override {
     if (words_.empty()) {
-      ADD_FAILURE() << "a draw that the test did not script";
-      return quarterWord;
+      EXPECT_EQ(unscripted_, Unscripted::low) << "a draw that the test did not script";
+      return lowWord;
     }
     const std::uint64_t word = words_.front();
     words_.pop_front();
     return word;
   }
 
-  [[nodiscard]] std::size_t left() const { return words_.size(); }
-
  private:
-  // Near 0 and near a quarter of every range; odd, so that no range draws them again.
-  static constexpr std::uint64_t lowWord = (std::uint64_t{1} << 32) + 1;
-  static constexpr std::uint64_t quarterWord = (std::uint64_t{1} << 62) + 1;
+  // The low end of every range, and never drawn again.
+  static constexpr std::uint64_t lowWord = 1;
 
+  Unscripted unscripted_;
   std::deque<std::uint64_t> words_;
 };
 

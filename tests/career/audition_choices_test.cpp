@@ -8,11 +8,8 @@
 namespace tb {
 namespace {
 
-struct AuditionChoices : testing::Test, test::ScratchGame {
-  WorldState& world = game.world;
-
+struct AuditionChoices : test::RuleTest {
   AuditionChoices() { world.weekNumberForTracking = 10; }
-  ~AuditionChoices() override { EXPECT_EQ(random.left(), 0u) << "draws that no rule took"; }
 
   Audition& add(Audition project) {
     world.saveAllAuditionList.push_back(std::move(project));
@@ -35,7 +32,7 @@ TEST_F(AuditionChoices, RehearsalsGetDearerAndEndWithTheNinth) {
   EXPECT_FALSE(boostOf(world, project));
   EXPECT_FALSE(buyBoost(game, 0));
   EXPECT_EQ(project.rehearsalBoostCount, 9);
-  EXPECT_TRUE(store.contains("saveAllAuditionList"));
+  expectSaved<&WorldState::saveAllAuditionList, &WorldState::totalEnergyAvailable>();
 }
 
 TEST_F(AuditionChoices, RehearsalEndsAtAFullRatingAndAfterItsWeek) {
@@ -78,49 +75,38 @@ TEST_F(AuditionChoices, PromotionIsForPrincipalsOfFilmsAndSeriesBeforeTheRelease
   EXPECT_EQ(world.selectedAuditionIndex, 0);
   EXPECT_EQ(world.totalEnergyAvailable, 75);
   EXPECT_EQ(project.promoteHypeCount, 0);  // counted when the interview is given
-  project.promoteHypeCount = 1;
-  EXPECT_FALSE(boostOf(world, project));
-  project.promoteHypeCount = 0;
-  project.isPrincipal = 0;
-  EXPECT_FALSE(boostOf(world, project));
-  project.isPrincipal = 2;
-  EXPECT_FALSE(boostOf(world, project));
-  project.isPrincipal = 1;
-  project.typeOfFilm = filmType::commercial;
-  EXPECT_FALSE(boostOf(world, project));
-  project.typeOfFilm = filmType::feature;
-  project.weekReleased = 10;
-  EXPECT_FALSE(boostOf(world, project));
-}
-
-TEST_F(AuditionChoices, NothingIsBoostedWhileTheSubmissionWaits) {
-  EXPECT_FALSE(boostOf(world, add({.weekAudition = 20, .funnelStage = stage::submitted})));
-  EXPECT_FALSE(boostOf(world, add({.weekAudition = 20, .funnelStage = stage::closed})));
+  const Audition promotable = project;
+  const auto isBoosted = [&](auto change) {
+    project = promotable;
+    change(project);
+    return boostOf(world, project).has_value();
+  };
+  EXPECT_TRUE(isBoosted([](Audition& a) { a.typeOfFilm = filmType::feature; }));
+  EXPECT_FALSE(isBoosted([](Audition& a) { a.typeOfFilm = filmType::commercial; }));
+  EXPECT_FALSE(isBoosted([](Audition& a) { a.promoteHypeCount = 1; }));
+  EXPECT_FALSE(isBoosted([](Audition& a) { a.isPrincipal = rolePart::background; }));
+  EXPECT_FALSE(isBoosted([](Audition& a) { a.isPrincipal = rolePart::ownProduction; }));
+  EXPECT_FALSE(isBoosted([](Audition& a) { a.weekReleased = 10; }));
+  for (const std::int64_t waiting : {stage::submitted, stage::closed}) {
+    EXPECT_FALSE(isBoosted([=](Audition& a) { a = {.weekAudition = 20, .funnelStage = waiting}; }));
+  }
 }
 
 TEST_F(AuditionChoices, TheBribeDoublesItsPriceAndSpeaksByItsStrength) {
   world.totalCashAvailable = 500 * 255;
   const std::pair<int, const char*> phrases[] = {
-      {0, "you’ve got a small boost in your corner."},
-      {10, "you’ve got a small boost in your corner."},
-      {11, "you’ve moved up the list in a meaningful way."},
-      {40, "you’ve moved up the list in a meaningful way."},
-      {41, "you’re looking like a strong contender now."},
-      {60, "you’re looking like a strong contender now."},
-      {61, "at this point, the audition is basically locked in."},
-      {89, "at this point, the audition is basically locked in."},
+      {0, "a small boost"},        {10, "a small boost"},       {11, "in a meaningful way"},
+      {40, "in a meaningful way"}, {41, "a strong contender"},  {60, "a strong contender"},
+      {61, "basically locked in"}, {89, "basically locked in"},
   };
   std::int64_t price = 500;
   for (const auto& [roll, phrase] : phrases) {
     Audition& project = add({});
     EXPECT_TRUE(isBribeOffered(project));
     random.range(90, roll);
-    const std::size_t index = world.saveAllAuditionList.size() - 1;
-    EXPECT_EQ(bribeCastingDirector(game, index),
-              (Notice{"🤝 BRIBED 🤝",
-                      std::string("You bribed the Casting Director and ") + phrase +
-                          ".\n\nThis does not mean you automatically earn the role, just the chance "
-                          "to audition."}));
+    const Notice notice = bribeCastingDirector(game, world.saveAllAuditionList.size() - 1);
+    EXPECT_EQ(notice.title, "🤝 BRIBED 🤝");
+    EXPECT_TRUE(notice.message.contains(phrase)) << roll << ": " << notice.message;
     EXPECT_EQ(project.didBribe, roll + 10);
     EXPECT_FALSE(isBribeOffered(project));
     price *= 2;
@@ -128,8 +114,7 @@ TEST_F(AuditionChoices, TheBribeDoublesItsPriceAndSpeaksByItsStrength) {
   }
   EXPECT_EQ(world.totalCashAvailable, 0);
   Audition& unlucky = add({});
-  EXPECT_EQ(bribeCastingDirector(game, 8),
-            (Notice{"💰 Not Enough Cash 💰", "You don't have enough cash to bribe the Casting Director."}));
+  EXPECT_EQ(bribeCastingDirector(game, 8).title, "💰 Not Enough Cash 💰");
   EXPECT_EQ(unlucky.didBribe, 0);
   EXPECT_EQ(world.saveBribePrice, price);
   unlucky.funnelStage = stage::invited;
@@ -146,12 +131,10 @@ TEST_F(AuditionChoices, WithdrawingCostsUpToAHundredthOfTheFansAtAnyStage) {
   EXPECT_EQ(world.saveAllAuditionList.size(), 2u);
   EXPECT_EQ(world.totalFans, 1089);
   EXPECT_EQ(world.trackFans, (IntList{1089}));
-  EXPECT_EQ(world.activityTracker,
-            (TextList{"You withdrew from \"Saltwater\" after booking the role, and fans are not "
-                      "taking it well — 10 fans lost."}));
-  EXPECT_TRUE(world.WeekFeed.empty());
-  EXPECT_EQ(store.value("totalFans"), plist::Value{std::int64_t{1089}});
-  EXPECT_TRUE(store.contains("trackFans"));
+  expectToldInTheLogAlone(
+      "You withdrew from \"Saltwater\" after booking the role, and fans are not taking it well — 10 fans "
+      "lost.");
+  expectSaved<&WorldState::totalFans, &WorldState::trackFans, &WorldState::saveAllAuditionList>();
   withdrawFromRole(game, 3);  // wrapped: too late
   withdrawFromRole(game, 2);  // gone
   EXPECT_EQ(world.saveAllAuditionList.size(), 2u);

@@ -7,19 +7,21 @@
 namespace tb {
 namespace {
 
-constexpr int win = 2;
-constexpr int breakFace = 3;
-constexpr int lose = 1;
+enum class Die : std::uint8_t { lose, win, breakFace, none };
 
-struct AuditionWeek : testing::Test, test::ScratchGame {
-  WorldState& world = game.world;
+// The draws that decide on a project, each from its range.
+struct Draws {
+  std::int64_t chance;
+  std::int64_t score;
+  std::optional<std::int64_t> letThrough = {};
+  Die die = Die::none;
+};
 
+struct AuditionWeek : test::RuleTest {
   AuditionWeek() {
     world.weekNumberForTracking = 10;
     world.isSAG = 1;
-    world.showreelScore = 20;
   }
-  ~AuditionWeek() override { EXPECT_EQ(random.left(), 0u) << "draws that no rule took"; }
 
   Audition submitted() {
     return {.filmId = 1,
@@ -46,8 +48,18 @@ struct AuditionWeek : testing::Test, test::ScratchGame {
     return project;
   }
 
-  test::ScriptedRandom& chance(int value) { return random.range(31, value); }
-  void die(int face) { random.range(3, face - 1); }
+  // `best` is the top of the score: the showreel's or the rehearsal's.
+  test::ScriptedRandom& script(const Draws& draws, std::int64_t best) {
+    random.range(31, draws.chance).range(best + 1, draws.score);
+    if (draws.letThrough) random.range(best + 1, *draws.letThrough);
+    if (draws.die != Die::none) random.range(3, static_cast<std::int64_t>(draws.die));
+    return random;
+  }
+  test::ScriptedRandom& scriptSubmission(const Draws& draws) {
+    world.showreelScore = 20;
+    return script(draws, 20);
+  }
+  test::ScriptedRandom& scriptAudition(const Draws& draws) { return script(draws, 25); }
 
   // One week of this project alone.
   const Audition& live(const Audition& project) {
@@ -69,55 +81,84 @@ struct AuditionWeek : testing::Test, test::ScratchGame {
               (TextList{"You secured an audition for Saltwater, giving you 3 week(s) to get ready."}));
     EXPECT_DOUBLE_EQ(world.experience, 30.9 * 0.25);
   }
-  void expectNothingToldOf(const Audition& after, std::int64_t funnelStage) {
+  void expectSilence(const Audition& after, std::int64_t funnelStage) {
     EXPECT_EQ(after.funnelStage, funnelStage);
-    EXPECT_TRUE(world.WeekFeed.empty());
-    EXPECT_TRUE(world.activityTracker.empty());
+    expectNothingTold();
     EXPECT_EQ(world.experience, 0);
   }
 };
 
-// --- Submitted ---
+TEST_F(AuditionWeek, NothingMovesBeforeItsWeekAndALateSubmissionClosesInSilence) {
+  Audition late = submitted();
+  late.weekAudition = 10;
+  expectSilence(live(late), stage::closed);
+  EXPECT_EQ(agentsMood(), 0);
+  for (const std::int64_t week : {9, 11}) {  // an invitation of last week was turned down, for ever
+    Audition project = invited();
+    project.weekAudition = week;
+    expectSilence(live(project), stage::invited);
+  }
+  Audition project = booked();
+  project.weekToWork = 11;
+  expectSilence(live(project), stage::booked);
+  EXPECT_TRUE(world.saveAllFilmList.empty());
+}
 
-TEST_F(AuditionWeek, AnAuditionDateThatCameClosesTheSubmissionInSilence) {
+TEST_F(AuditionWeek, ASubmissionIsInvitedByItsScoreAndTheDieOrABribe) {
+  struct Case {
+    const char* what;
+    Draws draws;
+    bool isInvited;
+    std::int64_t isSAG = 1;
+    std::int64_t isPrincipal = 1;
+    std::int64_t didBribe = 0;
+  };
+  const Case cases[] = {
+      {"a score that meets the chance", {.chance = 20, .score = 20, .die = Die::win}, true},
+      {"no break for a member", {.chance = 20, .score = 20, .die = Die::breakFace}, false},
+      {"19 below 20 lets through", {.chance = 21, .score = 20, .letThrough = 18, .die = Die::win}, true},
+      {"to the die", {.chance = 21, .score = 20, .letThrough = 18, .die = Die::lose}, false},
+      {"20 does not", {.chance = 21, .score = 20, .letThrough = 19}, false},
+      {"a stranger's break", {.chance = 0, .score = 0, .die = Die::breakFace}, true, 0},
+      {"none for background", {.chance = 0, .score = 0, .die = Die::breakFace}, false, 0, 0},
+      {"a strong bribe", {.chance = 30, .score = 0, .die = Die::lose}, true, 1, 1, 51},
+      {"a weak one", {.chance = 30, .score = 0, .die = Die::lose}, false, 1, 1, 50},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.what);
+    world.isSAG = each.isSAG;
+    Audition project = submitted();
+    project.isPrincipal = each.isPrincipal;
+    project.didBribe = each.didBribe;
+    scriptSubmission(each.draws);
+    if (each.isInvited) {
+      random.range(25, 0);
+      expectInvited(live(project));
+    } else {
+      random.range(3, 0);
+      expectSilence(live(project), stage::submitted);
+      EXPECT_EQ(agentsMood(), 0);
+    }
+  }
+}
+
+TEST_F(AuditionWeek, AnExtremeDifficultyStillDrawsFromARange) {
+  world.showreelScore = 20;
   Audition project = submitted();
-  project.weekAudition = 10;
-  expectNothingToldOf(live(project), stage::closed);
-  EXPECT_EQ(agentsMood(), 0);
-}
-
-TEST_F(AuditionWeek, AScoreThatMeetsTheChanceStillHasTheDieToWin) {
-  chance(20).range(21, 20);
-  die(win);
-  random.range(25, 0);
-  expectInvited(live(submitted()));
-
-  chance(20).range(21, 20);
-  die(breakFace);  // no break for a member
-  random.range(3, 0);
-  expectNothingToldOf(live(submitted()), stage::submitted);
-  EXPECT_EQ(agentsMood(), 0);
-}
-
-TEST_F(AuditionWeek, AScoreBelowTheChanceMayBeLetThroughToTheDie) {
-  chance(21).range(21, 20).range(21, 18);  // R(1, 21) gives 19, below the score
-  die(win);
-  random.range(25, 0);
-  expectInvited(live(submitted()));
-
-  chance(21).range(21, 20).range(21, 18);
-  die(lose);
-  random.range(3, 2);
-  expectNothingToldOf(live(submitted()), stage::submitted);
-
-  chance(21).range(21, 20).range(21, 19).range(3, 0);  // 20 is not below it: no die
-  expectNothingToldOf(live(submitted()), stage::submitted);
+  project.didBribe = 99;
+  project.auditionDifficulty = 200;
+  random.range(201, 200).range(21, 0).range(200, 98).range(3, 0);  // 99 is not below 99
+  expectSilence(live(project), stage::submitted);
+  project = submitted();
+  project.auditionDifficulty = 0;
+  random.range(1, 0).range(21, 0).range(3, 0).range(3, 2);
+  expectSilence(live(project), stage::submitted);
 }
 
 TEST_F(AuditionWeek, OneAnswerInThreeIsSilence) {
-  chance(30).range(21, 0).range(30, 0).range(3, 1).range(25, 0);
-  const Audition& after = live(submitted());
-  EXPECT_EQ(after.funnelStage, stage::closed);
+  const Draws refused = {.chance = 30, .score = 0, .letThrough = 20};
+  scriptSubmission(refused).range(3, 1).range(25, 0);
+  EXPECT_EQ(live(submitted()).funnelStage, stage::closed);
   EXPECT_EQ(world.WeekFeed, (TextList{"You never heard back after applying for Saltwater."}));
   EXPECT_EQ(world.activityTracker, (TextList{"The trail went cold after you applied to Saltwater."}));
   EXPECT_EQ(agentsMood(), -1);
@@ -125,218 +166,107 @@ TEST_F(AuditionWeek, OneAnswerInThreeIsSilence) {
   Audition commercial = submitted();
   commercial.typeOfFilm = filmType::commercial;
   commercial.sourceId = 0;
-  chance(30).range(21, 0).range(30, 0).range(3, 1).range(25, 0);
+  scriptSubmission(refused).range(3, 1).range(25, 0);
   live(commercial);
   EXPECT_EQ(world.WeekFeed, (TextList{"You never heard back after applying for a commercial."}));
   EXPECT_EQ(agentsMood(), 0);  // not from the agency
 }
 
-TEST_F(AuditionWeek, AStrangerToTheGuildIsGivenABreakForAPrincipalRoleAlone) {
-  world.isSAG = 0;
-  chance(0).range(21, 0);
-  die(breakFace);
-  random.range(25, 0);
-  expectInvited(live(submitted()));
-
-  Audition background = submitted();
-  background.isPrincipal = 0;
-  chance(0).range(21, 0);
-  die(breakFace);
-  random.range(3, 0);
-  expectNothingToldOf(live(background), stage::submitted);
-}
-
-TEST_F(AuditionWeek, AStrongBribeSkipsTheDieOnlyWhereTheScoreMeetsTheChance) {
-  Audition bribed = submitted();
-  bribed.didBribe = 51;
-  chance(30).range(21, 0);
-  die(lose);
-  random.range(25, 0);
-  expectInvited(live(bribed));
-
-  bribed.didBribe = 50;
-  chance(30).range(21, 0);
-  die(lose);
-  random.range(3, 0);
-  expectNothingToldOf(live(bribed), stage::submitted);
-
-  bribed.didBribe = 99;
-  bribed.auditionDifficulty = 200;
-  random.range(201, 200).range(21, 0).range(200, 98);  // 99 is not below 99
-  random.range(3, 0);
-  expectNothingToldOf(live(bribed), stage::submitted);
-}
-
-TEST_F(AuditionWeek, NoDifficultyLeavesTheDieAlone) {
-  Audition easy = submitted();
-  easy.auditionDifficulty = 0;
-  random.range(1, 0).range(21, 0);
-  die(lose);
-  random.range(3, 0);
-  expectNothingToldOf(live(easy), stage::submitted);
-}
-
-TEST_F(AuditionWeek, ALateInvitationLeavesNoWeekToGetReady) {
-  Audition late = submitted();
-  late.weekAudition = 11;
-  chance(0).range(21, 0);
-  die(win);
-  random.range(25, 0);
-  live(late);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You were invited to audition for Saltwater in 0 week(s)."}));
-}
-
 TEST_F(AuditionWeek, WithoutThePerformerAProjectIsCastWithoutADieOrAWord) {
   Audition financed = submitted();
   financed.didAct = 0;
-  chance(30);
-  expectNothingToldOf(live(financed), stage::invited);
+  random.range(31, 30);
+  expectSilence(live(financed), stage::invited);
+  EXPECT_EQ(agentsMood(), 2);
+  Audition own = financed;  // is never invited
+  own.isPrincipal = rolePart::ownProduction;
+  random.range(31, 0);
+  expectSilence(live(own), stage::submitted);
   EXPECT_EQ(agentsMood(), 2);
 
-  financed.typeOfFilm = filmType::commercial;  // of which the performer hears all the same
-  chance(30).range(25, 0);
-  EXPECT_EQ(live(financed).funnelStage, stage::invited);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You were invited to audition for a commercial in 3 week(s)."}));
+  Audition commercial = financed;  // of which the performer hears all the same, if late
+  commercial.typeOfFilm = filmType::commercial;
+  commercial.weekAudition = 11;
+  random.range(31, 30).range(25, 0);
+  EXPECT_EQ(live(commercial).funnelStage, stage::invited);
+  EXPECT_EQ(world.WeekFeed, (TextList{"You were invited to audition for a commercial in 0 week(s)."}));
   EXPECT_DOUBLE_EQ(world.experience, 30.9 * 0.25);
 }
 
-TEST_F(AuditionWeek, AnOwnProductionIsNeverInvited) {
-  Audition own = submitted();
-  own.isPrincipal = rolePart::ownProduction;
-  own.didAct = 0;
-  chance(0);
-  expectNothingToldOf(live(own), stage::submitted);
-  EXPECT_EQ(agentsMood(), 2);
-}
-
-// --- Invited ---
-
-TEST_F(AuditionWeek, AnInvitationWaitsForItsWeekAndARejectedOneForEver) {
+TEST_F(AuditionWeek, WithoutThePerformerOnlyACommercialTellsOfItsOffer) {
   Audition project = invited();
-  project.weekAudition = 11;
-  expectNothingToldOf(live(project), stage::invited);
-  project.weekAudition = 9;
-  expectNothingToldOf(live(project), stage::invited);
-}
-
-TEST_F(AuditionWeek, TheBestRehearsalStillHasTheDieToWin) {
-  chance(25).range(26, 25);
-  die(win);
-  EXPECT_EQ(live(invited()).funnelStage, stage::booked);
-  EXPECT_EQ(world.WeekFeed,
-            (TextList{"You auditioned for Saltwater and the cast director offered you the role. "
-                      "Shooting begins in 9 week(s)."}));
-  EXPECT_TRUE(world.activityTracker.empty());
-  EXPECT_DOUBLE_EQ(world.experience, 30.9 / 3);
+  project.didAct = 0;
+  scriptAudition({.chance = 30, .score = 0});
+  expectSilence(live(project), stage::booked);
   EXPECT_EQ(agentsMood(), 5);
-
-  chance(25).range(26, 25);
-  die(breakFace);
-  EXPECT_EQ(live(invited()).funnelStage, stage::invited);
-  EXPECT_EQ(world.WeekFeed,
-            (TextList{"You auditioned for Saltwater but you were not selected for the role."}));
-  EXPECT_EQ(world.experience, 0);
-  EXPECT_EQ(agentsMood(), -2.5);
-  EXPECT_TRUE(world.activityTracker.empty());
-
-  world.isSAG = 0;
-  chance(25).range(26, 25);
-  die(breakFace);
-  EXPECT_EQ(live(invited()).funnelStage, stage::booked);
-}
-
-TEST_F(AuditionWeek, AWeakRehearsalMayBeLetThroughToTheDie) {
-  chance(26).range(26, 25).range(26, 23);  // 24 is below 25
-  die(win);
-  EXPECT_EQ(live(invited()).funnelStage, stage::booked);
-  chance(26).range(26, 25).range(26, 23);
-  die(lose);
-  EXPECT_EQ(live(invited()).funnelStage, stage::invited);
-  chance(26).range(26, 25).range(26, 24);  // 25 is not
-  EXPECT_EQ(live(invited()).funnelStage, stage::invited);
-  EXPECT_EQ(agentsMood(), -2.5);
-}
-
-TEST_F(AuditionWeek, ACommercialIsNeverSpokenOfByItsTitle) {
-  Audition commercial = invited();
-  commercial.typeOfFilm = filmType::commercial;
-  commercial.didAct = 0;
-  chance(30).range(26, 0);
-  EXPECT_EQ(live(commercial).funnelStage, stage::booked);
-  EXPECT_EQ(world.WeekFeed,
-            (TextList{"You auditioned for a commercial and the cast director offered you the role. "
-                      "Shooting begins in 9 week(s)."}));
+  project.typeOfFilm = filmType::commercial;
+  scriptAudition({.chance = 30, .score = 0});
+  live(project);
+  EXPECT_TRUE(world.WeekFeed.front().starts_with("You auditioned for a commercial and"));
   EXPECT_DOUBLE_EQ(world.experience, 30.9 / 3);
-  commercial.didAct = 1;
-  chance(30).range(26, 0).range(30, 29);
-  live(commercial);
-  EXPECT_EQ(world.WeekFeed,
-            (TextList{"You auditioned for a commercial but you were not selected for the role."}));
 }
 
-TEST_F(AuditionWeek, WithoutThePerformerAProjectIsOfferedWithoutAWord) {
-  Audition financed = invited();
-  financed.didAct = 0;
-  chance(30).range(26, 0);
-  expectNothingToldOf(live(financed), stage::booked);
-  EXPECT_EQ(agentsMood(), 5);
+TEST_F(AuditionWeek, AnAuditionIsWonByTheRehearsalAndTheDie) {
+  struct Case {
+    Draws draws;
+    bool isBooked;
+    std::int64_t isSAG = 1;
+  };
+  const Case cases[] = {{{.chance = 25, .score = 25, .die = Die::win}, true},
+                        {{.chance = 25, .score = 25, .die = Die::breakFace}, false},
+                        {{.chance = 25, .score = 25, .die = Die::breakFace}, true, 0},
+                        {{.chance = 26, .score = 25, .letThrough = 23, .die = Die::win}, true},
+                        {{.chance = 26, .score = 25, .letThrough = 23, .die = Die::lose}, false},
+                        {{.chance = 26, .score = 25, .letThrough = 24}, false}};
+  for (const Case& each : cases) {
+    world.isSAG = each.isSAG;
+    scriptAudition(each.draws);
+    EXPECT_EQ(live(invited()).funnelStage, each.isBooked ? stage::booked : stage::invited);
+    ASSERT_EQ(world.WeekFeed.size(), 1u);
+    EXPECT_TRUE(
+        world.WeekFeed[0].ends_with(each.isBooked ? "begins in 9 week(s)." : "not selected for the role."));
+    EXPECT_TRUE(world.activityTracker.empty());
+    EXPECT_DOUBLE_EQ(world.experience, each.isBooked ? 30.9 / 3 : 0);
+    EXPECT_EQ(agentsMood(), each.isBooked ? 5 : -2.5);
+  }
 }
 
-// --- Booked ---
-
-TEST_F(AuditionWeek, ABookingWaitsForItsWeek) {
-  Audition project = booked();
-  project.weekToWork = 11;
-  expectNothingToldOf(live(project), stage::booked);
-  EXPECT_TRUE(world.saveAllFilmList.empty());
-}
-
-TEST_F(AuditionWeek, TheWrapMakesAFilmAndGivesExperience) {
-  world.saveAllFilmList.push_back({.filmId = 99});
-  random.range(21, 20).unit(0.5);
-  EXPECT_EQ(live(booked()).funnelStage, stage::wrapped);
-  ASSERT_EQ(world.saveAllFilmList.size(), 2u);
-  EXPECT_EQ(world.saveAllFilmList[0].filmId, 1);
-  EXPECT_EQ(world.saveAllFilmList[0].lengthMinutes, 40);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You wrapped filming for Saltwater."}));
-  EXPECT_TRUE(world.activityTracker.empty());
-  EXPECT_EQ(world.experience, 4);
-  EXPECT_EQ(agentsMood(), 3);
-  EXPECT_TRUE(store.contains("saveAllFilmList"));
-
-  Audition season = booked();
-  season.typeOfFilm = filmType::series;
-  season.seasonNumber = 2;
-  random.any(3).unit(1);
-  live(season);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You wrapped filming for Saltwater Season 2."}));
-  EXPECT_EQ(world.experience, 8);
-
-  Audition commercial = booked();
-  commercial.typeOfFilm = filmType::commercial;
-  commercial.didAct = 0;
-  random.unit(1);
-  live(commercial);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You wrapped filming for a commercial."}));
-  EXPECT_EQ(world.experience, 2);
-}
-
-TEST_F(AuditionWeek, AnOwnProductionIsPitchedUnlessItIsAFeature) {
-  Audition own = booked();
-  own.isPrincipal = rolePart::ownProduction;
-  own.didAct = 0;
-  own.typeOfFilm = filmType::feature;
-  random.any(2);
-  live(own);
-  EXPECT_EQ(world.WeekFeed, (TextList{"Filming wrapped for Saltwater, a film you directed and produced."}));
-  own.typeOfFilm = filmType::series;
-  random.any(3);
-  live(own);
-  EXPECT_EQ(world.WeekFeed,
-            (TextList{"Filming wrapped for Saltwater, a TV-Series you directed and produced. Pitch it "
-                      "to networks prior to release."}));
-  EXPECT_TRUE(world.activityTracker.empty());
-  EXPECT_EQ(world.experience, 0);
+TEST_F(AuditionWeek, TheWrapMakesAFilmAndIsToldByWhatThePerformerDidInIt) {
+  struct Case {
+    std::int64_t typeOfFilm;
+    std::int64_t part;
+    std::int64_t didAct;
+    int draws;     // of the film
+    double share;  // of the experience
+    double experience;
+    const char* told;
+  };
+  const Case cases[] = {
+      {filmType::shortFilm, rolePart::principal, 1, 1, 0.5, 4, "You wrapped filming for Saltwater."},
+      {filmType::series, rolePart::principal, 1, 3, 1, 8, "You wrapped filming for Saltwater Season 2."},
+      {filmType::commercial, rolePart::principal, 0, 0, 1, 2, "You wrapped filming for a commercial."},
+      {filmType::feature, rolePart::ownProduction, 0, 2, 0, 0,
+       "Saltwater, a film you directed and produced."},
+      {filmType::series, rolePart::ownProduction, 0, 3, 0, 0, "Pitch it to networks prior to release."},
+  };
+  for (const Case& each : cases) {
+    world.saveAllFilmList = {{.filmId = 99}};
+    Audition project = booked();
+    project.typeOfFilm = each.typeOfFilm;
+    project.isPrincipal = each.part;
+    project.seasonNumber = each.typeOfFilm == filmType::series ? 2 : -1;
+    project.didAct = each.didAct;
+    random.any(each.draws);
+    if (each.experience > 0) random.unit(each.share);
+    EXPECT_EQ(live(project).funnelStage, stage::wrapped);
+    EXPECT_EQ(world.saveAllFilmList[0].filmId, 1);
+    ASSERT_EQ(world.WeekFeed.size(), 1u);
+    EXPECT_TRUE(world.WeekFeed[0].ends_with(each.told)) << world.WeekFeed[0];
+    EXPECT_TRUE(world.activityTracker.empty());
+    EXPECT_EQ(world.experience, each.experience);
+    EXPECT_EQ(agentsMood(), 3);
+  }
+  expectSaved<&WorldState::saveAllFilmList, &WorldState::experience>();
 }
 
 TEST_F(AuditionWeek, AnInvestmentThatWrapsStandsInBothLists) {
@@ -345,42 +275,32 @@ TEST_F(AuditionWeek, AnInvestmentThatWrapsStandsInBothLists) {
   financed.equityPercentage = 35;
   random.range(21, 0).range(25, 0);
   live(financed);
-  const TextList line = {
+  expectToldInBothLists(
       "Wrap! Filming has officially completed on Saltwater, and your 35% of it moves on to the editing "
-      "room."};
-  EXPECT_EQ(world.WeekFeed, line);
-  EXPECT_EQ(world.activityTracker, line);
+      "room.");
   EXPECT_EQ(world.experience, 0);
 }
-
-// --- The pass ---
 
 TEST_F(AuditionWeek, ARecordThatMovedOnWaitsForTheNextWeek) {
   Audition project = submitted();
   project.weekAudition = 11;
-  chance(0).range(21, 0);
-  die(win);
-  random.range(25, 0);
+  scriptSubmission({.chance = 0, .score = 0, .die = Die::win}).range(25, 0);
   live(project);
   world.weekNumberForTracking = 11;
-  chance(0).range(1, 0);
-  die(win);
+  random.range(31, 0).range(1, 0).range(3, 1);
   resolveAuditionsForWeek(game);
   EXPECT_EQ(world.saveAllAuditionList[0].funnelStage, stage::booked);
 }
 
 TEST_F(AuditionWeek, TheAgentHearsOfAllProjectsAtOnceAndOnlyTheSignedOne) {
-  world.saveAllTalentAgents.assign(std::vector<TalentAgent>{{.id = 5}, {.id = 77, .isSigned = 1}});
+  world.saveAllTalentAgents = {{.id = 5}, {.id = 77, .isSigned = 1}};
   world.saveAllAuditionList.assign(std::vector{invited(), invited(), booked()});
-  chance(0).range(26, 0);
-  die(win);
-  chance(0).range(26, 0);
-  die(lose);
-  random.range(21, 0).unit(0);
+  scriptAudition({.chance = 0, .score = 0, .die = Die::win});
+  scriptAudition({.chance = 0, .score = 0, .die = Die::lose}).range(21, 0).unit(0);
   resolveAuditionsForWeek(game);
   EXPECT_EQ(world.saveAllTalentAgents[1].relationship, 65 + 5 - 2.5 + 3);
   EXPECT_EQ(world.saveAllTalentAgents[0].relationship, 65);
-  EXPECT_TRUE(store.contains("saveAllTalentAgents"));
+  expectSaved<&WorldState::saveAllTalentAgents>();
 
   world.saveAllTalentAgents.clear();
   world.saveAllAuditionList.assign(std::vector{booked()});
@@ -398,7 +318,7 @@ TEST_F(AuditionWeek, FansOfTitlesArePaidAgainEveryWeekThatHasAProject) {
   live(closed);
   EXPECT_EQ(world.totalFans, 200);
   EXPECT_EQ(world.fanGainCarry, 100);
-  EXPECT_EQ(store.value("totalFans"), plist::Value{std::int64_t{200}});
+  expectSaved<&WorldState::totalFans>();
 }
 
 TEST_F(AuditionWeek, AReleaseBringsItsFansInTheSameWeek) {
@@ -412,8 +332,6 @@ TEST_F(AuditionWeek, AReleaseBringsItsFansInTheSameWeek) {
   // and how many gave them; then the fans at their top.
   random.any(5).unit(0).range(6, 5).any(2).unit(1);
   live(project);
-  EXPECT_EQ(world.saveAllFilmList[0].imbdRating, 1);
-  EXPECT_EQ(world.saveAllFilmList[0].imbdMetascore, 10);
   EXPECT_EQ(world.totalFans, 63);  // quality 10: a tenth of 1.05 x 600
   EXPECT_EQ(world.fanGainCarry, 63);
 }

@@ -3,22 +3,21 @@
 #include <gtest/gtest.h>
 
 #include "film/catalogue.h"
+#include "tests/record_text.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
 namespace {
 
-struct Renewals : testing::Test, test::ScratchGame {
-  WorldState& world = game.world;
-
+struct Renewals : test::RuleTest {
   Renewals() {
     world.weekNumberForTracking = 61;
     world.weekNumber = 9;
     world.yearNumber = 2027;
     world.filmId = 500;
   }
-  ~Renewals() override { EXPECT_EQ(random.left(), 0u) << "draws that no rule took"; }
 
+  // Two of nine episodes of a first season that came out eleven weeks ago.
   Audition series() {
     return {.filmId = 7,
             .typeOfFilm = filmType::series,
@@ -29,7 +28,6 @@ struct Renewals : testing::Test, test::ScratchGame {
             .numberOfEpisodesTotal = 9,
             .isContinued = 0,
             .seasonNumber = 1,
-            .submittedYear = 2025,
             .weekReleased = 50,
             .payment = 1000,
             .buyout = 300,
@@ -43,18 +41,17 @@ struct Renewals : testing::Test, test::ScratchGame {
             .rehearsalBoostCount = 4,
             .performanceBoostCount = 5,
             .promoteHypeCount = 1,
-            .auditionDifficulty = 44,
             .directorRating = 31,
             .didNegotiate = 1};
   }
   void give(const Audition& project, double rating, std::int64_t metascore = 55) {
     world.saveAllAuditionList.assign(std::vector{project});
-    world.saveAllFilmList.assign(
-        std::vector<Film>{{.filmId = project.filmId, .imbdRating = rating, .imbdMetascore = metascore}});
+    world.saveAllFilmList = {{.filmId = project.filmId, .imbdRating = rating, .imbdMetascore = metascore}};
     world.WeekFeed.clear();
     world.activityTracker.clear();
   }
   std::int64_t continued() const { return world.saveAllAuditionList[0].isContinued; }
+  const Audition& next() const { return world.saveAllAuditionList[1]; }
 
   // The schedule, the preparation and the hype of the next instalment: audition in 15 weeks, 20 more to the
   // wrap, 15 to the release.
@@ -65,43 +62,36 @@ struct Renewals : testing::Test, test::ScratchGame {
 };
 
 TEST_F(Renewals, OnlyAReleasedSeriesOfAPrincipalIsJudgedFromTheEleventhWeek) {
+  const auto expectLeft = [this](std::int64_t isContinued) {
+    renewSeries(game);
+    EXPECT_EQ(continued(), isContinued);
+    expectNothingTold();
+  };
   Audition project = series();
   project.funnelStage = stage::booked;
   give(project, 9);
-  renewSeries(game);
-  EXPECT_EQ(continued(), 0);
-
+  expectLeft(0);
   project = series();
   project.weekReleased = 51;
   give(project, 9);
-  renewSeries(game);
-  EXPECT_EQ(continued(), 0);
-
-  project.isPrincipal = 0;  // retired at once, without a word
+  expectLeft(0);
+  project.isPrincipal = 0;  // retired at once
   give(project, 9);
-  renewSeries(game);
-  EXPECT_EQ(continued(), -1);
-  EXPECT_TRUE(world.activityTracker.empty());
-
+  expectLeft(-1);
   give(series(), 9);
   world.saveAllFilmList.clear();
-  renewSeries(game);
-  EXPECT_EQ(continued(), -1);
-  EXPECT_TRUE(world.activityTracker.empty());
-
+  expectLeft(-1);
   for (const std::int64_t done : {-1, 1, 2}) {
     project = series();
     project.isContinued = done;
     give(project, 9);
-    renewSeries(game);
-    EXPECT_EQ(continued(), done);
+    expectLeft(done);
   }
   project = series();
   project.typeOfFilm = filmType::studentFilm;
   give(project, 9);
-  renewSeries(game);
   renewSaga(game);
-  EXPECT_EQ(continued(), 0);
+  expectLeft(0);
 }
 
 TEST_F(Renewals, ARatingUpToFourEndsTheSeriesAndMoreGivesItAChance) {
@@ -110,10 +100,8 @@ TEST_F(Renewals, ARatingUpToFourEndsTheSeriesAndMoreGivesItAChance) {
     random.range(49, 0);
     renewSeries(game);
     EXPECT_EQ(continued(), -1);
-    const TextList line = {
-        "Saltwater has been canceled. The network thanked everyone involved in alphabetical order."};
-    EXPECT_EQ(world.activityTracker, line);
-    EXPECT_EQ(world.WeekFeed, line);
+    expectToldInBothLists(
+        "Saltwater has been canceled. The network thanked everyone involved in alphabetical order.");
   }
   give(series(), 4.005);  // between the bands: asked again next week
   renewSeries(game);
@@ -130,6 +118,8 @@ TEST_F(Renewals, ARatingUpToFourEndsTheSeriesAndMoreGivesItAChance) {
   EXPECT_EQ(continued(), 1);
 }
 
+// Nine of the twelve episodes that were drawn, in week 96, the 44th of its year, at a hype of a third of the
+// director's 9 and the level's 1.
 TEST_F(Renewals, ANewSeasonIsBookedOnNewTerms) {
   world.experience = 100;
   give(series(), 8, 69);  // (8 + 6) / 2 = 7: pay 1.25 to 1.75, royalty 1.04 to 1.06
@@ -140,39 +130,14 @@ TEST_F(Renewals, ANewSeasonIsBookedOnNewTerms) {
   ASSERT_EQ(world.saveAllAuditionList.size(), 2u);
   EXPECT_EQ(continued(), 1);
 
-  Audition expected = series();
-  expected.filmId = 501;
-  expected.numberOfEpisodesActed = 9;  // 12, but the season has 9
-  expected.parentSeriesFilmId = 7;
-  expected.seasonNumber = 2;
-  expected.weekSubmitted = 61;
-  expected.weekAudition = 76;
-  expected.weekToWork = 96;
-  expected.weekReleased = 111;
-  expected.payment = (1.5 + 1.5) * 0.5 * 1000;
-  expected.buyout = 0;
-  expected.royalty = 2 * 1.05;
-  expected.budget = 600'000;
-  expected.funnelStage = stage::booked;
-  expected.didBribe = 0;
-  expected.rehearsalRating = 0.69;
-  expected.rehearsalBoostCount = 0;
-  expected.performanceRating = 0.69 * 0.75;
-  expected.performanceBoostCount = 0;
-  expected.hypeRating = 3;  // director 1 + 20 - 15 + 2 = 8, level 1: (9 + 1) / 3
-  expected.didNegotiate = 0;
-  expected.workYear = 2027;  // week 96 is the 44th of the year
-  Audition season = world.saveAllAuditionList[1];
-  EXPECT_DOUBLE_EQ(season.performanceRating, expected.performanceRating);
-  EXPECT_DOUBLE_EQ(season.royalty, expected.royalty);
-  season.performanceRating = expected.performanceRating;
-  season.royalty = expected.royalty;
-  EXPECT_EQ(season, expected);
-  const TextList line = {"Saltwater has been renewed for season 2!"};
-  EXPECT_EQ(world.activityTracker, line);
-  EXPECT_EQ(world.WeekFeed, line);
-  EXPECT_EQ(store.value("filmId"), plist::Value{std::int64_t{501}});
-
+  EXPECT_EQ(test::changes(series(), next()),
+            "filmId 501, numberOfEpisodesActed 9, parentSeriesFilmId 7, seasonNumber 2, workYear 2027, "
+            "weekSubmitted 61, weekAudition 76, weekToWork 96, weekReleased 111, payment 1500, buyout 0, "
+            "royalty 2.1, budget 600000, funnelStage 2, didBribe 0, rehearsalRating 0.69, "
+            "rehearsalBoostCount 0, performanceRating 0.5175, performanceBoostCount 0, hypeRating 3, "
+            "didNegotiate 0");
+  expectToldInBothLists("Saltwater has been renewed for season 2!");
+  expectSaved<&WorldState::filmId, &WorldState::saveAllAuditionList>();
   renewSeries(game);  // decided once
   EXPECT_EQ(world.saveAllAuditionList.size(), 2u);
 }
@@ -194,17 +159,14 @@ TEST_F(Renewals, LaterSeasonsKeepTheFirstAsTheirParentAndWhatIsNotTheirsIsCleare
   scriptInstalment();
   random.unit(0.5).unit(0).range(3, 0).range(49, 0);  // no draw for a royalty that is not there
   renewSeries(game);
-  const Audition& third = world.saveAllAuditionList[1];
-  EXPECT_EQ(third.seasonNumber, 3);
-  EXPECT_EQ(third.parentSeriesFilmId, 7);
-  EXPECT_EQ(third.numberOfEpisodesActed, 8);
-  EXPECT_EQ(third.royalty, 0);
-  EXPECT_EQ(third.budget, 3e9);
-  EXPECT_EQ(third.didAct, 1);
-  EXPECT_EQ(third.equityPercentage, 0);
-  EXPECT_EQ(third.equityDollarsInvested, 0);
-  EXPECT_EQ(third.franchise, -1);
-  EXPECT_EQ(third.franchiseId, -1);
+  EXPECT_EQ(next().seasonNumber, 3);
+  EXPECT_EQ(next().parentSeriesFilmId, 7);
+  EXPECT_EQ(next().numberOfEpisodesActed, 8);
+  EXPECT_EQ(next().royalty, 0);
+  EXPECT_EQ(next().budget, 3e9);
+  EXPECT_EQ(next().didAct, 1);
+  EXPECT_EQ(next().equityPercentage + next().equityDollarsInvested, 0);
+  EXPECT_TRUE(next().franchise == -1 && next().franchiseId == -1);
 }
 
 TEST_F(Renewals, PayGoesByTheBandsOfSuccessAndByATenthBetweenThem) {
@@ -234,10 +196,9 @@ TEST_F(Renewals, PayGoesByTheBandsOfSuccessAndByATenthBetweenThem) {
     scriptInstalment();
     random.unit(0.5).unit(0.5).unit(0.5).any(2);
     renewSeries(game);
-    const Audition& season = world.saveAllAuditionList[1];
-    EXPECT_NEAR(season.budget, each.pay * 400'000, 1e-6) << each.rating;
-    EXPECT_NEAR(season.payment, (each.pay + 1) * 0.5 * 1000, 1e-9) << each.rating;
-    EXPECT_NEAR(season.royalty, each.royalty * 2, 1e-9) << each.rating;
+    EXPECT_NEAR(next().budget, each.pay * 400'000, 1e-6) << each.rating;
+    EXPECT_NEAR(next().payment, (each.pay + 1) * 0.5 * 1000, 1e-9) << each.rating;
+    EXPECT_NEAR(next().royalty, each.royalty * 2, 1e-9) << each.rating;
   }
 }
 
@@ -264,23 +225,19 @@ TEST_F(Sagas, GoOnWithTheNextEntryOfTheSameSaga) {
   random.any(3).range(25, 0);
   renewSaga(game);
   ASSERT_EQ(world.saveAllAuditionList.size(), 2u);
-  const Audition& next = world.saveAllAuditionList[1];
-  EXPECT_EQ(next.title, second.title);
-  EXPECT_EQ(next.description, second.shortSummary);
-  EXPECT_EQ(next.imageString, second.imageString);
-  EXPECT_EQ(next.genres, second.genre);
-  EXPECT_TRUE(next.roleDescription.contains("Aaron Abbott"));
-  EXPECT_EQ(next.franchise, second.movieNumber);
-  EXPECT_EQ(next.franchiseId, first.id);
-  EXPECT_EQ(next.seasonNumber, 2);
-  EXPECT_EQ(next.parentSeriesFilmId, 7);
-  EXPECT_EQ(next.numberOfEpisodesActed, 0);
-  EXPECT_EQ(next.funnelStage, stage::booked);
-  EXPECT_EQ(next.isContinued, 0);
-  const TextList line = {first.title + " was only the beginning. You have been booked for " + second.title +
-                         "."};
-  EXPECT_EQ(world.activityTracker, line);
-  EXPECT_EQ(world.WeekFeed, line);
+  EXPECT_EQ(next().title, second.title);
+  EXPECT_EQ(next().description, second.shortSummary);
+  EXPECT_EQ(next().imageString, second.imageString);
+  EXPECT_EQ(next().genres, second.genre);
+  EXPECT_TRUE(next().roleDescription.contains("Aaron Abbott"));
+  EXPECT_EQ(next().franchise, second.movieNumber);
+  EXPECT_EQ(next().franchiseId, first.id);
+  EXPECT_EQ(next().seasonNumber, 2);
+  EXPECT_EQ(next().parentSeriesFilmId, 7);
+  EXPECT_EQ(next().numberOfEpisodesActed, 0);
+  EXPECT_EQ(next().isContinued, 0);
+  expectToldInBothLists(first.title + " was only the beginning. You have been booked for " + second.title +
+                        ".");
 }
 
 TEST_F(Sagas, EndWithTheirLastEntryOrABadRating) {
@@ -290,8 +247,7 @@ TEST_F(Sagas, EndWithTheirLastEntryOrABadRating) {
   random.range(12, 0).range(25, 0);
   renewSaga(game);
   EXPECT_EQ(continued(), -1);
-  EXPECT_EQ(world.WeekFeed, (TextList{"The saga is over. " + first.title + " was its last word."}));
-  EXPECT_EQ(world.activityTracker.size(), 1u);
+  expectToldInBothLists("The saga is over. " + first.title + " was its last word.");
   give(film(), 3);
   random.range(25, 0);
   renewSaga(game);
@@ -303,7 +259,7 @@ TEST_F(Sagas, EndWithTheirLastEntryOrABadRating) {
   give(alone, 10);
   renewSaga(game);
   EXPECT_EQ(continued(), 0);
-  EXPECT_TRUE(world.WeekFeed.empty());
+  expectNothingTold();
 }
 
 }  // namespace

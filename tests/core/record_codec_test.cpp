@@ -62,27 +62,6 @@ TEST(RecordCodec, EveryKindOfFieldComesBackAsItWas) {
   EXPECT_EQ(decodeRecords<SampleRecord>(encode<SampleRecord>({})), std::vector<SampleRecord>{});
 }
 
-TEST(RecordCodec, AListIsAnArrayOfDictionariesInTheOrderOfTheRecord) {
-  const auto file = plist::read(encode(samples()));
-  ASSERT_TRUE(file && file->as<Array>());
-  const Value& empty = (*file->as<Array>())[0];
-  const Value& full = (*file->as<Array>())[1];
-  EXPECT_EQ(empty.find("sequelOf"), nullptr);
-  EXPECT_EQ(empty.find("cameo"), nullptr);
-  EXPECT_EQ(*empty.find("genres"), Value{Array{}});
-
-  std::vector<std::string> keys;
-  for (const auto& [key, value] : *full.as<Dictionary>()) keys.push_back(key);
-  EXPECT_EQ(keys, (std::vector<std::string>{"filmId", "gross", "isReleased", "title", "poster", "premiere",
-                                            "sequelOf", "tagline", "lead", "cameo", "weeks", "earnings",
-                                            "genres", "cast"}));
-  EXPECT_EQ(*full.find("gross"), Value{1e9});
-  EXPECT_EQ(*full.find("isReleased"), Value{true});
-  EXPECT_EQ(*full.find("premiere"), Value{Date{725'846'400.5}});
-  EXPECT_EQ(*full.find("cameo"),
-            (Value{Dictionary{{"role", Value{"herself"}}, {"weeks", Value{std::int64_t{1}}}}}));
-}
-
 TEST(RecordCodec, ALongListThatRepeatsItselfIsStillRead) {
   SampleRecord record;
   record.title = std::string(500, 't');
@@ -123,14 +102,6 @@ TEST(RecordCodec, AMissingFieldOrAWrongKindRefusesTheWholeList) {
   EXPECT_EQ(decodeRecords<SamplePart>(plist::write(Value{good})),
             std::unexpected(DecodeError{.kind = wrongKind}));
   EXPECT_EQ(decodeRecords<SamplePart>({}), std::unexpected(DecodeError{}));
-}
-
-TEST(RecordCodec, AnErrorIsToldWithTheFieldThatIsToBlame) {
-  EXPECT_EQ(describe(DecodeError{.kind = missingField, .field = "weeks"}),
-            "A record of the list has no weeks.");
-  EXPECT_EQ(describe(DecodeError{.kind = wrongKind, .field = "role"}),
-            "The role of a record is of the wrong kind.");
-  EXPECT_EQ(describe(DecodeError{}), plist::describe(ReadError::notAPropertyList));
 }
 
 TEST(RecordCodec, HostileFilesAreRefused) {

@@ -10,13 +10,10 @@
 namespace tb {
 namespace {
 
-using test::ScratchGame;
-
 TEST(BananaNudges, TheFirstLetterBendsBothScores) {
   struct Case {
     const char* title;
-    double critic;
-    double audience;
+    double critic, audience;
   };
   const Case cases[] = {{"apple", 0.94, 0.88},  {"Apple", 0.94, 0.88},
                         {"Better", 0.93, 1.06}, {"Moon", 0.82, 0.95},
@@ -46,10 +43,8 @@ TEST(BananaScores, BadgesAreEarnedAtTheirThresholds) {
   struct Case {
     const char* title;
     double rating;
-    std::int64_t metascore;
-    std::int64_t ratings;
-    const char* critics;
-    const char* audience;
+    std::int64_t metascore, ratings;
+    const char *critics, *audience;
   };
   const Case cases[] = {{"7", 9.0, 75, 500, "certifiedFreshBanana.png", "verifiedHot.png"},
                         {"7", 9.0, 75, 499, "certifiedFreshBanana.png", "popcornOnly.png"},
@@ -65,77 +60,59 @@ TEST(BananaScores, BadgesAreEarnedAtTheirThresholds) {
     EXPECT_EQ(scores.criticBadge, row.critics) << row.title << " " << row.metascore;
     EXPECT_EQ(scores.audienceBadge, row.audience) << row.title << " " << row.rating;
   }
-}
-
-TEST(BananaScores, OnlyTheAudienceStopsAtAHundred) {
   const BananaScores scores = bananaScores(filmOf("Paper", 9.5, 100, 5'000));
-  EXPECT_EQ(wholePercent(scores.critic), 108);
+  EXPECT_EQ(wholePercent(scores.critic), 108);  // only the audience stops at a hundred
   EXPECT_EQ(wholePercent(scores.audience), 100);
   EXPECT_EQ(wholePercent(bananaScores(filmOf("Oats", 7, 56, 1)).critic), 59);
 }
 
-TEST(BananaScores, TheConsensusFollowsTheWholePercent) {
-  struct Case {
-    double percent;
-    Bank bank;
-  };
-  const Case cases[] = {
+TEST(BananaScores, CountsOfReviewsStopAtTenThousand) {
+  EXPECT_EQ(criticCount({}, filmOf("Zoo", 5, 50, 9)), "12 Reviews");
+  EXPECT_EQ(audienceCount({}, filmOf("Zoo", 5, 50, 10'000)), "10,000 Reviews");
+  EXPECT_EQ(audienceCount({}, filmOf("Zoo", 5, 50, 10'001)), "10,000+ Reviews");
+}
+
+struct Cards : test::RuleTest {
+  Cards() {
+    world.myName = "Ada Quinn";
+    world.weekNumberForTracking = 12;
+    world.weekNumber = 2;
+    world.yearNumber = 2027;
+  }
+  Film film = filmOf("Zoo", 7, 50, 900);
+};
+
+TEST_F(Cards, TheConsensusFollowsTheWholePercent) {
+  const std::pair<double, Bank> cases[] = {
       {0, Bank::criticConsensus0},     {19.9, Bank::criticConsensus0},  {20, Bank::criticConsensus20},
       {39, Bank::criticConsensus20},   {40, Bank::criticConsensus40},   {59, Bank::criticConsensus40},
       {60, Bank::criticConsensus60},   {74.9, Bank::criticConsensus60}, {75, Bank::criticConsensus75},
       {89.9, Bank::criticConsensus75}, {90, Bank::criticConsensus90},   {118, Bank::criticConsensus90}};
   for (const auto& [percent, bank] : cases) {
-    ScratchGame scratch;
-    scratch.random.range(14, 3);
-    EXPECT_EQ(drawConsensus(scratch.game, filmOf("Zoo", 5, 50, 9), percent),
-              fill(rowsOf(bank)[3], {{"title", "Zoo"}}))
-        << percent;
+    random.range(14, 3);
+    EXPECT_EQ(drawConsensus(game, film, percent), fill(rowsOf(bank)[3], {{"title", "Zoo"}})) << percent;
   }
 }
 
-TEST(BananaScores, CountsOfReviewsStopAtTenThousand) {
-  const Locale locale;
-  EXPECT_EQ(criticCount(locale, filmOf("Zoo", 5, 50, 9)), "12 Reviews");
-  EXPECT_EQ(audienceCount(locale, filmOf("Zoo", 5, 50, 10'000)), "10,000 Reviews");
-  EXPECT_EQ(audienceCount(locale, filmOf("Zoo", 5, 50, 10'001)), "10,000+ Reviews");
-}
-
-struct Cards : ScratchGame {
-  Cards() {
-    game.world.myName = "Ada Quinn";
-    game.world.weekNumberForTracking = 12;
-    game.world.weekNumber = 2;
-    game.world.yearNumber = 2027;
-  }
-  Film film = filmOf("Zoo", 7, 50, 900);
-};
-
-TEST(CriticCards, SpeakByTheScoreOfAllCritics) {
+TEST_F(Cards, CriticsSpeakByTheScoreOfAllCritics) {
   struct Case {
     double percent;
     Bank bank;
     std::int64_t rows;
-    double lowest;
-    double highest;
+    double lowest, highest;
   };
   const Case cases[] = {
       {0, Bank::longReviewBank1, 26, 1, 1},       {20.9, Bank::longReviewBank1, 26, 1, 1},
       {21, Bank::longReviewBank2, 29, 1, 1.6},    {60, Bank::longReviewBank3, 25, 1.64, 2.4},
       {80, Bank::longReviewBank4, 26, 2.44, 3.2}, {100.9, Bank::longReviewBank5, 30, 3.24, 4},
   };
+  film.numMetascoreRatings = 2;
   for (const Case& row : cases) {
-    Cards cards;
-    cards.film.numMetascoreRatings = 2;
-    cards.random.range(row.rows, 2)
-        .unit(0)
-        .range(2, 0)
-        .range(120, 5)
-        .range(254, 7)
-        .range(27, 3)
-        .range(35, 34);
-    cards.random.range(row.rows, 2).unit(1).range(2, 1).range(120, 5).range(254, 7).range(27, 3).range(24, 0);
-    const std::vector<Review> drawn = drawCriticCards(cards.game, cards.film, row.percent);
-    EXPECT_EQ(cards.random.left(), 0U);
+    for (const std::int64_t woman : {0, 1}) {
+      random.range(row.rows, 2).unit(static_cast<double>(woman)).range(2, woman);
+      random.range(120, 5).range(254, 7).range(27, 3).range(woman == 1 ? 24 : 35, woman == 1 ? 0 : 34);
+    }
+    const std::vector<Review> drawn = drawCriticCards(game, film, row.percent);
     ASSERT_EQ(drawn.size(), 2U);
     EXPECT_EQ(
         drawn[0].review,
@@ -153,65 +130,51 @@ TEST(CriticCards, SpeakByTheScoreOfAllCritics) {
   }
 }
 
-TEST(CriticCards, AboveAHundredPercentTheyAreSpeechless) {
-  Cards cards;
-  cards.film.numMetascoreRatings = 1;
-  cards.random.range(2, 0).any(4);
-  const std::vector<Review> drawn = drawCriticCards(cards.game, cards.film, 101);
-  EXPECT_EQ(cards.random.left(), 0U);
+TEST_F(Cards, CriticsAreFiveAtTheMostAndSpeechlessAboveAHundredPercent) {
+  film.numMetascoreRatings = 1;
+  random.range(2, 0).any(4);
+  const std::vector<Review> drawn = drawCriticCards(game, film, 101);
   ASSERT_EQ(drawn.size(), 1U);
   EXPECT_EQ(drawn.front().review, "");
   EXPECT_EQ(drawn.front().stars, 1);
+
+  film.numMetascoreRatings = 0;
+  EXPECT_TRUE(drawCriticCards(game, film, 50).empty());
+  film.numMetascoreRatings = 12;
+  random.any(5 * 6 + 1 + 4 * 10);  // every face is the first one, and is drawn ten times
+  EXPECT_EQ(drawCriticCards(game, film, 50).size(), 5U);
 }
 
-TEST(CriticCards, AFaceComesTwiceOnlyAfterTenDraws) {
-  Cards cards;
-  cards.film.numMetascoreRatings = 3;
-  const auto critic = [&] { cards.random.any(2).range(2, 0).any(3); };
-  critic();
-  cards.random.range(35, 4);
-  critic();
-  cards.random.range(35, 4).range(35, 4).range(35, 9);
-  critic();
-  for (int draw = 0; draw < 10; ++draw) cards.random.range(35, 9);
-  const std::vector<Review> drawn = drawCriticCards(cards.game, cards.film, 50);
-  EXPECT_EQ(cards.random.left(), 0U);
-  ASSERT_EQ(drawn.size(), 3U);
-  EXPECT_EQ(drawn[0].image, "critic_m (5).png");
-  EXPECT_EQ(drawn[1].image, "critic_m (10).png");
-  EXPECT_EQ(drawn[2].image, "critic_m (10).png");
+TEST_F(Cards, AFaceComesTwiceOnlyAfterTenDraws) {
+  film.numMetascoreRatings = 3;
+  const auto scriptCritic = [&] { random.any(2).range(2, 0).any(3); };
+  scriptCritic();
+  random.range(35, 4);
+  scriptCritic();
+  random.range(35, 4).range(35, 4).range(35, 9);
+  scriptCritic();
+  for (int draw = 0; draw < 10; ++draw) random.range(35, 9);
+  std::vector<std::string> faces;
+  for (const Review& card : drawCriticCards(game, film, 50)) faces.push_back(card.image);
+  EXPECT_EQ(faces, (std::vector<std::string>{"critic_m (5).png", "critic_m (10).png", "critic_m (10).png"}));
 }
 
-TEST(CriticCards, AreFiveAtTheMost) {
-  Cards cards;
-  cards.random.any(5 * 7 + 40);  // every face is the first one, and is drawn ten times
-  EXPECT_EQ(drawCriticCards(cards.game, cards.film, 50).size(), 5U);
-  cards.film.numMetascoreRatings = 0;
-  EXPECT_TRUE(drawCriticCards(cards.game, cards.film, 50).empty());
-}
-
-TEST(AudienceCards, TastesDifferByAStarAroundTheScore) {
-  struct Case {
-    double percent;
-    std::int64_t stars[3];
-  };
-  const Case cases[] = {
+TEST_F(Cards, TastesOfTheAudienceDifferByAStarAroundTheScore) {
+  const std::pair<double, std::vector<std::size_t>> cases[] = {
       {0, {1, 1, 2}}, {39.9, {1, 2, 3}}, {50, {2, 3, 4}}, {80, {4, 5, 5}}, {100, {5, 5, 5}}};
-  for (const Case& row : cases) {
-    Cards cards;
-    cards.film.numImbdRatings = 3;
+  const Bank banks[] = {Bank::userReviewSnippet1, Bank::userReviewSnippet2, Bank::userReviewSnippet3,
+                        Bank::userReviewSnippet4, Bank::userReviewSnippet5};
+  film.numImbdRatings = 3;
+  for (const auto& [percent, stars] : cases) {
     for (const std::int64_t taste : {0, 1, 2}) {
-      cards.random.range(3, taste).range(49, 6).range(60, 0).range(80, 0).range(2, 1);
+      random.range(3, taste).range(49, 6).range(60, 0).range(80, 0).range(2, 1);
     }
-    const std::vector<AudienceReview> drawn = drawAudienceCards(cards.game, cards.film, row.percent);
-    EXPECT_EQ(cards.random.left(), 0U);
+    const std::vector<AudienceReview> drawn = drawAudienceCards(game, film, percent);
     ASSERT_EQ(drawn.size(), 3U);
-    const Bank banks[] = {Bank::userReviewSnippet1, Bank::userReviewSnippet2, Bank::userReviewSnippet3,
-                          Bank::userReviewSnippet4, Bank::userReviewSnippet5};
     for (std::size_t card = 0; card < 3; ++card) {
-      EXPECT_EQ(drawn[card].stars, row.stars[card]) << row.percent;
+      EXPECT_EQ(drawn[card].stars, stars[card]) << percent;
       EXPECT_EQ(drawn[card].review,
-                fill(rowsOf(banks[row.stars[card] - 1])[6],
+                fill(rowsOf(banks[stars[card] - 1])[6],
                      {{"title", "Zoo"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}}));
       EXPECT_EQ(drawn[card].name, "sofacritic");
       EXPECT_EQ(drawn[card].date.dayAndYear, "1, 2027");  // the week after the release

@@ -8,93 +8,71 @@
 
 #include "film/cast_list.h"
 #include "film/catalogue.h"
+#include "tests/core/unusual_values.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
 namespace {
 
-using test::ScratchGame;
+struct Wrap : test::RuleTest {
+  Audition project{.filmId = 12, .title = "Salt Road"};
 
-Audition bookedProject(std::int64_t typeOfFilm) {
-  return {.filmId = 12,
-          .imageString = "salt.png",
-          .typeOfFilm = typeOfFilm,
-          .isPrincipal = rolePart::principal,
-          .title = "Salt Road",
-          .description = "A long walk.",
-          .genres = {"Western", "Drama"},
-          .role = "Lead",
-          .characterName = "June Abara",
-          .numberOfEpisodesActed = 6,
-          .parentSeriesFilmId = 3,
-          .seasonNumber = 2,
-          .weekReleased = 31,
-          .payment = 5'000,
-          .residual = 0.02,
-          .royalty = 1.5,
-          .budget = 2e6,
-          .sourceId = 4,
-          .hypeRating = 44,
-          .directorName = "Mina Falk",
-          .writerName = "Ole Brandt",
-          .didAct = 1,
-          .equityPercentage = 10,
-          .equityDollarsInvested = 200'000,
-          .franchise = 2,
-          .franchiseId = 5};
-}
+  const Film& wrap(std::int64_t typeOfFilm) {
+    project.typeOfFilm = typeOfFilm;
+    makeFilm(game, project);
+    return world.saveAllFilmList.front();
+  }
+};
 
-TEST(Wrap, TheFilmTakesOverWhatTheProjectPromisedAndGoesToTheFront) {
-  ScratchGame scratch;
-  scratch.game.world.myName = "Ada Quinn";
-  scratch.game.world.yearNumber = 2031;
-  scratch.game.world.saveAllFilmList.push_back({.filmId = 1});
-  scratch.random.range(136, 135).range(3, 1);
-  makeFilm(scratch.game, bookedProject(filmType::feature));
-  const Film expected{.filmId = 12,
-                      .imageString = "salt.png",
-                      .role = "Lead",
-                      .isPrincipal = 1,
-                      .title = "Salt Road",
-                      .movieDescription = "A long walk.",
+TEST_F(Wrap, TheFilmTakesOverWhatTheProjectPromisedAndGoesToTheFront) {
+  test::Unusual().fill(project);
+  world.myName = "Ada Quinn";
+  world.yearNumber = 2031;
+  world.saveAllFilmList = {{.filmId = 1}};
+  random.range(136, 135).range(3, 1);
+  const Film film = wrap(filmType::feature);
+  const Film expected{.filmId = project.filmId,
+                      .imageString = project.imageString,
+                      .role = project.role,
+                      .isPrincipal = project.isPrincipal,
+                      .title = project.title,
+                      .movieDescription = project.description,
                       .cast = {"Ada Quinn"},
-                      .genres = {"Western", "Drama"},
-                      .characterName = "June Abara",
+                      .genres = project.genres,
+                      .characterName = project.characterName,
                       .ageRating = "PG-13",
                       .lengthMinutes = 200,
-                      .numberOfEpisodes = 6,
-                      .parentSeriesId = 3,
-                      .directorName = "Mina Falk",
-                      .writerName = "Ole Brandt",
+                      .numberOfEpisodes = project.numberOfEpisodesActed,
+                      .parentSeriesId = project.parentSeriesFilmId,
+                      .directorName = project.directorName,
+                      .writerName = project.writerName,
                       .yearReleased = 2031,
-                      .weekReleased = 31,
-                      .budget = 2e6,
-                      .currentPopularity = 44,
-                      .lastWeekPopularity = 44,
-                      .payment = 5'000,
-                      .residualRate = 0.02,
-                      .royaltyRate = 1.5,
-                      .sourceId = 4,
-                      .parentId = 3,
-                      .seasonNumber = 2,
-                      .sequelNumber = 2,
-                      .didAct = 1,
-                      .equityPercentage = 10,
-                      .equityDollarsInvested = 200'000,
+                      .weekReleased = project.weekReleased,
+                      .budget = project.budget,
+                      .currentPopularity = project.hypeRating,
+                      .lastWeekPopularity = project.hypeRating,
+                      .payment = project.payment,
+                      .residualRate = project.residual,
+                      .royaltyRate = project.royalty,
+                      .sourceId = project.sourceId,
+                      .parentId = project.parentSeriesFilmId,
+                      .seasonNumber = project.seasonNumber,
+                      .sequelNumber = project.seasonNumber,
+                      .didAct = project.didAct,
+                      .equityPercentage = project.equityPercentage,
+                      .equityDollarsInvested = project.equityDollarsInvested,
                       .numOfTheatres = 4'500,
-                      .franchise = 2,
-                      .franchiseId = 5};
-  ASSERT_EQ(scratch.game.world.saveAllFilmList.size(), 2U);
-  EXPECT_EQ(scratch.game.world.saveAllFilmList.front(), expected);
-  EXPECT_EQ(filmIndex(scratch.game.world, 1), 1U);
-  EXPECT_EQ(filmIndex(scratch.game.world, 99), 2U);
+                      .franchise = project.franchise,
+                      .franchiseId = project.franchiseId};
+  EXPECT_EQ(film, expected);
+  EXPECT_EQ(filmIndex(world, 1), 1U);
+  EXPECT_EQ(filmIndex(world, 99), 2U);
 }
 
-TEST(Wrap, ASeriesGetsALengthInFivesARatingOfItsOwnAndANetworkWithItsLogo) {
-  ScratchGame scratch;
-  scratch.random.range(7, 6).range(3, 2).range(7, 2);
-  makeFilm(scratch.game, bookedProject(filmType::series));
-  const Film& film = scratch.game.world.saveAllFilmList.front();
+TEST_F(Wrap, ASeriesGetsALengthInFivesARatingOfItsOwnAndANetworkWithItsLogo) {
+  project.seasonNumber = 2;
+  random.range(7, 6).range(3, 2).range(7, 2);
+  const Film& film = wrap(filmType::series);
   EXPECT_EQ(film.lengthMinutes, 60);
   EXPECT_EQ(film.ageRating, "TV-MA");
   EXPECT_EQ(film.debutNetwork, "Bisney");
@@ -102,34 +80,22 @@ TEST(Wrap, ASeriesGetsALengthInFivesARatingOfItsOwnAndANetworkWithItsLogo) {
   EXPECT_EQ(film.sequelNumber, 0);  // a second season is no sequel
 }
 
-TEST(Wrap, SmallFilmsHaveNoAgeRatingAndACommercialNoLengthEither) {
-  struct Case {
-    std::int64_t typeOfFilm;
-    std::int64_t spread;
-    std::int64_t shortest;
-  };
-  for (const auto& [type, spread, shortest] :
-       {Case{filmType::studentFilm, 56, 5}, Case{filmType::shortFilm, 21, 20}}) {
-    ScratchGame scratch;
-    scratch.random.range(spread, 0);
-    makeFilm(scratch.game, bookedProject(type));
-    EXPECT_EQ(scratch.game.world.saveAllFilmList.front().lengthMinutes, shortest);
-    EXPECT_EQ(scratch.game.world.saveAllFilmList.front().ageRating, "");
+TEST_F(Wrap, SmallFilmsHaveNoAgeRatingAndACommercialNoLengthEither) {
+  random.range(56, 0).range(21, 0);
+  for (const auto& [type, minutes] :
+       {std::pair{filmType::studentFilm, 5}, {filmType::shortFilm, 20}, {filmType::commercial, 0}}) {
+    const Film& film = wrap(type);
+    EXPECT_EQ(film.lengthMinutes, minutes);
+    EXPECT_EQ(film.ageRating, "");
   }
-  ScratchGame scratch;  // no draw at all
-  makeFilm(scratch.game, bookedProject(filmType::commercial));
-  EXPECT_EQ(scratch.game.world.saveAllFilmList.front().lengthMinutes, 0);
 }
 
-TEST(Wrap, OnlyALaterFilmOfASagaIsASequel) {
+TEST_F(Wrap, OnlyALaterFilmOfASagaIsASequel) {
   for (const auto& [season, parent, sequel] : {std::tuple{2, 1, 2}, {1, 1, 0}, {2, 0, 0}, {-1, -1, 0}}) {
-    ScratchGame scratch;
-    scratch.random.any(2);
-    Audition project = bookedProject(filmType::feature);
+    random.any(2);
     project.seasonNumber = season;
     project.parentSeriesFilmId = parent;
-    makeFilm(scratch.game, project);
-    EXPECT_EQ(scratch.game.world.saveAllFilmList.front().sequelNumber, sequel);
+    EXPECT_EQ(wrap(filmType::feature).sequelNumber, sequel);
   }
 }
 

@@ -6,42 +6,35 @@
 
 #include "banks/banks.h"
 #include "film/top_titles.h"
+#include "tests/record_text.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
 namespace {
 
-using test::ScratchGame;
+using Reviewing = test::RuleTest;
 
-TEST(Rating, StarsAreGivenOnce) {
-  ScratchGame scratch;
-  scratch.game.world.saveAllFilmList = {{.filmId = 1}, {.filmId = 2}};
-  rateFilm(scratch.game, 1, 9);
-  rateFilm(scratch.game, 1, 2);
-  EXPECT_EQ(scratch.game.world.saveAllFilmList[1].myRating, 9);
-  EXPECT_EQ(scratch.game.world.saveAllFilmList[0].myRating, 0);
-  EXPECT_TRUE(scratch.store.contains("saveAllFilmList"));
+TEST_F(Reviewing, StarsAreGivenOnce) {
+  world.saveAllFilmList = {{.filmId = 1}, {.filmId = 2}};
+  rateFilm(game, 1, 9);
+  rateFilm(game, 1, 2);
+  EXPECT_EQ(world.saveAllFilmList, (List<Film>{{.filmId = 1}, {.filmId = 2, .myRating = 9}}));
+  expectSaved<&WorldState::saveAllFilmList>();
 }
 
-TEST(Reviewing, CostsTheEnergyOfAnEvening) {
-  ScratchGame scratch;
-  WorldState& world = scratch.game.world;
+TEST_F(Reviewing, CostsTheEnergyOfAnEvening) {
   world.totalEnergyAvailable = 25;
-  EXPECT_FALSE(startReview(scratch.game));
+  EXPECT_FALSE(startReview(game));
   EXPECT_EQ(world.totalEnergyAvailable, 0);
-  EXPECT_EQ(scratch.store.value("totalEnergyAvailable"), plist::Value{std::int64_t{0}});
+  expectSaved<&WorldState::totalEnergyAvailable>();
   world.totalEnergyAvailable = 24;
-  const Refusal refusal = startReview(scratch.game);
-  ASSERT_TRUE(refusal);
-  EXPECT_EQ(refusal->title, "⚡️ Not Enough Energy ⚡️");
+  EXPECT_EQ(startReview(game)->title, "⚡️ Not Enough Energy ⚡️");
   EXPECT_EQ(world.totalEnergyAvailable, 24);
 }
 
-TEST(Reviewing, AnyTitleOfTheCatalogueCanCome) {
-  ScratchGame scratch;
-  scratch.random.range(210, 0).range(210, 209);
-  EXPECT_EQ(drawTitleToReview(scratch.random).title, "A Keeper Unaccounted For");
-  EXPECT_EQ(drawTitleToReview(scratch.random).year, 1938);
+TEST_F(Reviewing, AnyTitleOfTheCatalogueCanCome) {
+  random.range(210, 209);
+  EXPECT_EQ(drawTitleToReview(random).title, rateMovieCatalogue().back().title);
   for (const CatalogueTitle& row : rateMovieCatalogue()) {
     EXPECT_FALSE(row.title.empty() || row.description.empty());
     EXPECT_TRUE(row.year > 1900 && row.year <= 2026) << row.title;
@@ -49,49 +42,34 @@ TEST(Reviewing, AnyTitleOfTheCatalogueCanCome) {
   }
 }
 
-TEST(Reviewing, AMadeUpReviewFitsItsStars) {
+TEST_F(Reviewing, AMadeUpReviewFitsItsStars) {
   struct Case {
     std::int64_t rating;
-    Bank middle;
-    Bank last;
+    Bank middle, last;
   };
   const Case cases[] = {
       {1, Bank::reviewMiddle1, Bank::reviewLast1}, {2, Bank::reviewMiddle1, Bank::reviewLast1},
       {3, Bank::reviewMiddle2, Bank::reviewLast2}, {6, Bank::reviewMiddle3, Bank::reviewLast3},
       {7, Bank::reviewMiddle4, Bank::reviewLast4}, {10, Bank::reviewMiddle5, Bank::reviewLast5}};
   for (const auto& [rating, middle, last] : cases) {
-    ScratchGame scratch;
-    scratch.random.range(30, 29).range(6, 0).range(6, 5);
-    EXPECT_EQ(
-        generatedReview(scratch.random, rating),
-        rowsOf(Bank::reviewFirstSentence)[29] + " " + rowsOf(middle).front() + " " + rowsOf(last).back());
+    random.range(30, 29).range(6, 0).range(6, 5);
+    EXPECT_EQ(generatedReview(random, rating), rowsOf(Bank::reviewFirstSentence)[29] + " " +
+                                                   rowsOf(middle).front() + " " + rowsOf(last).back());
   }
 }
 
-TEST(Reviewing, AReviewNeedsStarsAndWordsAndComesFirst) {
-  ScratchGame scratch;
-  WorldState& world = scratch.game.world;
+TEST_F(Reviewing, AReviewNeedsStarsAndWordsAndComesFirst) {
   world.weekNumber = 7;
   world.yearNumber = 2031;
   world.weekNumberForTracking = 267;
   world.saveAllMovieReviews = {{.title = "Older"}};
-  EXPECT_EQ(submitReview(scratch.game, "Loud Cousins", 0, "Fine."),
-            (Notice{.title = "⭐️ Choose a Rating! ⭐️", .message = "\nYou need to choose a rating first."}));
-  EXPECT_EQ(
-      submitReview(scratch.game, "Loud Cousins", 4, " \n "),
-      (Notice{.title = "⭐️ Leave a Review! ⭐️",
-              .message = "\nWrite a short review or hit the green star for a randomly generated review!"}));
-  EXPECT_EQ(world.saveAllMovieReviews.size(), 1U);
-  EXPECT_FALSE(submitReview(scratch.game, "Loud Cousins", 1, " Fine.\n"));
-  ASSERT_EQ(world.saveAllMovieReviews.size(), 2U);
-  const MovieReview review{.title = "Loud Cousins",
-                           .review = "Fine.",
-                           .rating = 1,
-                           .weekNumber = 7,
-                           .yearNumber = 2031,
-                           .weekNumberForTracking = 267};
-  EXPECT_EQ(world.saveAllMovieReviews.front(), review);
-  EXPECT_TRUE(scratch.store.contains("saveAllMovieReviews"));
+  EXPECT_EQ(submitReview(game, "Loud Cousins", 0, "Fine.")->title, "⭐️ Choose a Rating! ⭐️");
+  EXPECT_EQ(submitReview(game, "Loud Cousins", 4, " \n ")->title, "⭐️ Leave a Review! ⭐️");
+  EXPECT_FALSE(submitReview(game, "Loud Cousins", 1, " Fine.\n"));
+  EXPECT_EQ(test::shown(world.saveAllMovieReviews),
+            "(title Loud Cousins, review Fine., rating 1, weekNumber 7, yearNumber 2031, "
+            "weekNumberForTracking 267)(title Older)");
+  expectSaved<&WorldState::saveAllMovieReviews>();
 }
 
 TEST(TopTitles, SeasonsRatedAboveEightStandAmongTheBestOfAllTime) {

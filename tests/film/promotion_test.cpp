@@ -1,4 +1,5 @@
-// The interview before a release: what it is worth, what it leaves behind.
+// The interview before a release: what it is worth, what it leaves behind. And the tables that films are made
+// from.
 
 #include "film/promotion.h"
 
@@ -6,6 +7,7 @@
 
 #include "film/catalogue.h"
 #include "tests/film/wrapped_project.h"
+#include "tests/record_text.h"
 
 namespace tb {
 namespace {
@@ -15,9 +17,7 @@ using test::ScratchGame;
 
 TEST(Promotion, TheMoreFansListenTheMoreHypeItBrings) {
   struct Case {
-    std::int64_t fans;
-    std::int64_t least;
-    std::int64_t spread;
+    std::int64_t fans, least, spread;
   };
   const Case cases[] = {{0, 0, 5},
                         {999, 0, 5},
@@ -31,38 +31,36 @@ TEST(Promotion, TheMoreFansListenTheMoreHypeItBrings) {
                         {9'999'999'999, 20, 16}};
   for (const auto& [fans, least, spread] : cases) {
     ScratchGame scratch;
-    scratch.game.world.totalFans = fans;
+    scratch.world.totalFans = fans;
     scratch.random.range(20, 1).range(30, 0).range(spread, spread - 1);
     const Interview interview = openInterview(scratch.game, test::projectOf(filmType::feature));
     EXPECT_EQ(interview.totalHype, least + spread - 1) << fans;
-    EXPECT_EQ(interview.question, "What surprised you most about yourself while working on Salt Road");
+    EXPECT_TRUE(interview.question.ends_with(" Salt Road"));
     EXPECT_EQ(interview.talkShow, "Up Late with Barney Quill");
   }
   ScratchGame beyond;
-  beyond.game.world.totalFans = 10'000'000'000;
+  beyond.world.totalFans = 10'000'000'000;
   beyond.random.any(2);
   EXPECT_EQ(openInterview(beyond.game, test::projectOf(filmType::feature)).totalHype, 0);
 }
 
 TEST(Promotion, TheAnswerIsPostedAndQuotedAndTheHypeRisesOnce) {
-  ReleasedGame released(test::projectOf(filmType::feature));
+  ReleasedGame released(filmType::feature);
   released.project().hypeRating = 40;
   released.project().characterName = "June Abara";
-  released.world().totalFans = 1'000;
+  released.world.totalFans = 1'000;
   const Interview interview{.talkShow = "A", .question = "Why?", .totalHype = 7};
+  EXPECT_TRUE(promoteFilm(released.game, 0, interview, " \n "));  // nothing is posted without an answer
+  EXPECT_EQ(released.project().promoteHypeCount, 0);
   released.random.range(1'001, 1'000).unit(1).unit(1).unit(0);
   EXPECT_FALSE(promoteFilm(released.game, 0, interview, "  Because.  "));
-  EXPECT_EQ(released.random.left(), 0U);
+  EXPECT_TRUE(promoteFilm(released.game, 0, interview, "Again."));
   EXPECT_EQ(released.project().hypeRating, 47);
   EXPECT_EQ(released.project().promoteHypeCount, 1);
-  const Quote quote{.filmId = 7,
-                    .filmName = "Salt Road",
-                    .character = "June Abara",
-                    .quote = "Because.",
-                    .question = "Why?"};
-  EXPECT_EQ(released.world().saveAllQuotes.front(), quote);
-  ASSERT_EQ(released.world().saveAllChirpList.size(), 1U);
-  const Chirp& post = released.world().saveAllChirpList.front();
+  EXPECT_EQ(test::shown(released.world.saveAllQuotes),
+            "(filmId 7, filmName Salt Road, character June Abara, quote Because., question Why?)");
+  ASSERT_EQ(released.world.saveAllChirpList.size(), 1U);
+  const Chirp& post = released.world.saveAllChirpList.front();
   EXPECT_EQ(post.message, "[on Salt Road] Because.");
   EXPECT_EQ(post.artistId, 0);
   EXPECT_EQ(post.id, 1);
@@ -70,18 +68,6 @@ TEST(Promotion, TheAnswerIsPostedAndQuotedAndTheHypeRisesOnce) {
   EXPECT_EQ(post.likeCount, 20);
   EXPECT_EQ(post.commentCount, 4);
   EXPECT_EQ(post.reChirpCount, 1);
-
-  EXPECT_TRUE(promoteFilm(released.game, 0, interview, "Again."));
-  EXPECT_EQ(released.project().hypeRating, 47);
-  EXPECT_EQ(released.world().saveAllQuotes.size(), 1U);
-}
-
-TEST(Promotion, NothingIsPostedWithoutAnAnswer) {
-  ReleasedGame released(test::projectOf(filmType::feature));
-  EXPECT_TRUE(promoteFilm(released.game, 0, {.totalHype = 7}, " \n "));
-  EXPECT_EQ(released.project().promoteHypeCount, 0);
-  EXPECT_TRUE(released.world().saveAllChirpList.empty());
-  EXPECT_TRUE(released.world().saveAllQuotes.empty());
 }
 
 TEST(Catalogue, EveryRowCanBeCast) {
@@ -89,14 +75,12 @@ TEST(Catalogue, EveryRowCanBeCast) {
        {std::pair{movies(), 145}, {royaltyMovies(), 23}, {investmentMovies(), 36}}) {
     EXPECT_EQ(std::ssize(rows), count);
     for (const Movie& row : rows) {
-      EXPECT_FALSE(row.title.empty() || row.shortSummary.empty() || row.imageString.empty());
+      EXPECT_FALSE(row.title.empty() || row.shortSummary.empty() || row.genre.empty()) << row.title;
       EXPECT_TRUE(row.type >= filmType::feature && row.type <= filmType::shortFilm) << row.title;
-      EXPECT_FALSE(row.genre.empty()) << row.title;
-      EXPECT_NE(row.longSummaryTemplate.find("{name}"), std::string::npos) << row.title;
+      EXPECT_TRUE(row.longSummaryTemplate.contains("{name}")) << row.title;
       EXPECT_TRUE(row.imageString.ends_with(".png")) << row.title;
     }
   }
-  EXPECT_EQ(movies().front().title, "Neon Horizon");
   EXPECT_EQ(movies().front().genre, (std::vector<std::string>{"Sci-Fi", "Thriller"}));
 }
 
@@ -107,7 +91,6 @@ TEST(Catalogue, ASagaGoesOnByNumbersWithoutAGap) {
     const bool goes_on = before != nullptr && before->id == entry.id;
     EXPECT_EQ(entry.movieNumber, goes_on ? before->movieNumber + 1 : 1) << entry.title;
     EXPECT_EQ(entry.type, filmType::feature) << entry.title;
-    EXPECT_TRUE(entry.imageString.ends_with(".png")) << entry.title;
     before = &entry;
   }
 }
@@ -121,14 +104,13 @@ TEST(Catalogue, TheTablesOfAllTimeAreRankedAndAddUp) {
 }
 
 TEST(Catalogue, TheStarsRatingsAreDrawnAnewEachTime) {
-  ScratchGame scratch;
-  for (int star = 0; star < 100; ++star) scratch.random.range(91, 90).range(51, 0);
-  const std::vector<Bankable> stars = bankables(scratch.random);
+  test::ScriptedRandom random;
+  for (int star = 0; star < 100; ++star) random.range(91, 90).range(51, 0);
+  const std::vector<Bankable> stars = bankables(random);
   ASSERT_EQ(stars.size(), 100U);
   EXPECT_EQ(stars.back().id, 100);
   EXPECT_EQ(stars.back().rating, 100);
   EXPECT_EQ(stars.back().lastWeekRating, 50);
-  EXPECT_EQ(stars.front().name, "Clementine Roark");
   EXPECT_EQ(stars.front().average, stars.front().totalGross / 51);
   EXPECT_EQ(stars.front().roles, 40);
 }

@@ -7,6 +7,7 @@
 
 #include "core/guild_dues.h"
 #include "film/syndication_offers.h"
+#include "tests/record_text.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
@@ -15,9 +16,7 @@ namespace {
 constexpr std::int64_t firstOffer = 100;
 
 // A film of two years ago, with three bids on it.
-struct Deals : testing::Test, test::ScratchGame {
-  WorldState& world = game.world;
-
+struct Deals : test::RuleTest {
   Deals() {
     world.yearNumber = 2031;
     world.weekNumberForTracking = firstOffer + 4;
@@ -34,7 +33,6 @@ struct Deals : testing::Test, test::ScratchGame {
                                         .weekOfFirstOffer = firstOffer,
                                         .payment = 10'000});
   }
-  ~Deals() override { EXPECT_EQ(random.left(), 0U) << "draws that no rule took"; }
 
   Film& film() { return world.saveAllFilmList.edit(0); }
   Syndication& title() { return world.saveAllSyndication.edit(0); }
@@ -68,17 +66,13 @@ TEST_F(Deals, TheLowestBidMayWinAndTheNewsIsInBothLists) {
   EXPECT_EQ(title().weekStarted, firstOffer + 4);
   EXPECT_EQ(title().weeksRemaining, 51);  // the first week is lived at once
   EXPECT_EQ(title().totalEarnings, 100'000);
-  const std::string news =
-      "Fulu has picked up Salt Road for $100K, and the reruns will be with us for 1 year.";
-  EXPECT_EQ(world.WeekFeed, TextList{news});
-  EXPECT_EQ(world.activityTracker, TextList{news});
-  EXPECT_TRUE(store.contains("saveAllSyndication"));
-  EXPECT_TRUE(store.contains("activityTracker"));
+  EXPECT_EQ(world.WeekFeed.size(), 1U);
+  expectToldInBothLists("Fulu has picked up Salt Road for $100K, and the reruns will be with us for 1 year.");
+  expectSaved<&WorldState::saveAllSyndication, &WorldState::activityTracker>();
   // No stake and no residual: none of the money is the performer's.
-  EXPECT_FALSE(store.contains("saveAllEquityPayouts"));
-  EXPECT_FALSE(store.contains("saveAllRoyaltyPayouts"));
-  EXPECT_FALSE(store.contains("saveAllWeeklyEarnings"));
-  EXPECT_FALSE(store.contains("saveAllRatings"));
+  for (const char* list : {"saveAllEquityPayouts", "saveAllRoyaltyPayouts", "saveAllWeeklyEarnings"}) {
+    EXPECT_FALSE(store.contains(list)) << list;
+  }
 }
 
 TEST_F(Deals, FourWeeksAndTwoBidsAreWaitedForHoweverLong) {
@@ -93,8 +87,7 @@ TEST_F(Deals, FourWeeksAndTwoBidsAreWaitedForHoweverLong) {
 TEST_F(Deals, TheNewsLiftsATitleByItsYearsAndAHitToTheTop) {
   struct Case {
     std::int64_t yearReleased;
-    double popularity;
-    double lifted;
+    double popularity, lifted;
   };
   const Case cases[] = {{2031, 40, 40},  {2030, 40, 41},   {2027, 94, 98},
                         {2027, 95, 100}, {2031, 130, 100}, {2026, 40, 40}};
@@ -119,19 +112,13 @@ TEST_F(Deals, AStakeHasItsShareOfThePriceInTheSameWeek) {
     film().isPrincipal = part;
     film().equityPercentage = 5;
     signWith(1);
-    const EquityPayout expected{.id = 107,
-                                .filmId = 7,
-                                .yearNumber = 2031,
-                                .weekNumberForTracking = firstOffer + 4,
-                                .payOut = 15'000,
-                                .typeOfPayment = payoutSource::syndication};
-    EXPECT_EQ(world.saveAllEquityPayouts.back(), expected);
+    EXPECT_EQ(test::shown(world.saveAllEquityPayouts.back()),
+              "id 107, filmId 7, yearNumber 2031, weekNumberForTracking 104, payOut 15000, typeOfPayment 1");
     const std::string line =
         part == rolePart::ownProduction
             ? "You received $15K in syndication earnings for directing and producing Salt Road"
             : "You received a $15K payout for your investment in Salt Road's syndication.";
-    EXPECT_EQ(world.WeekFeed.back(), line);
-    EXPECT_EQ(world.activityTracker.front(), line);
+    expectToldInBothLists(line);
     title() = std::move(untouched);
   }
 }
@@ -141,28 +128,12 @@ TEST_F(Deals, ARoyaltyLosesTheAgentsPartAndNamesTheNetwork) {
   world.agentCommission = 0.1;
   world.saveAllTalentAgents.push_back({.id = 5, .isSigned = 1, .totalAgentEarnings = 100});
   signWith(1);
-  const RoyaltyPayout expected{.id = 107,
-                               .filmId = 7,
-                               .title = "Salt Road",
-                               .yearNumber = 2031,
-                               .weekNumberForTracking = firstOffer + 4,
-                               .payout = 5'400,
-                               .typeOfPayment = payoutSource::syndication,
-                               .sourceId = 5,
-                               .agentEarnings = 600,
-                               .totalDealGross = 300'000,
-                               .syndicationYears = 3,
-                               .syndicationName = "Metflix"};
-  ASSERT_EQ(world.saveAllRoyaltyPayouts.size(), 1U);
-  EXPECT_EQ(world.saveAllRoyaltyPayouts.front(), expected);
+  EXPECT_EQ(test::shown(world.saveAllRoyaltyPayouts),
+            "(id 107, filmId 7, title Salt Road, yearNumber 2031, weekNumberForTracking 104, payout 5400, "
+            "typeOfPayment 1, sourceId 5, agentEarnings 600, totalDealGross 300000, syndicationYears 3, "
+            "syndicationName Metflix)");
   EXPECT_EQ(world.saveAllTalentAgents.front().totalAgentEarnings, 700);
   EXPECT_EQ(world.WeekFeed.back(), "You received a royalty of $6.0K for Salt Road's syndication.");
-}
-
-TEST_F(Deals, ATitleWhoseFilmIsGoneIsSoldAllTheSame) {
-  world.saveAllFilmList.clear();
-  signWith(0);
-  EXPECT_TRUE(title().didAcceptOffer);
 }
 
 TEST_F(Deals, ResidualsComeEveryTwelfthWeekUntilTheLast) {
@@ -182,14 +153,9 @@ TEST_F(Deals, ATermOfThreeYearsPaysInItsFirstWeek) {
   title().residualRate = 0.05;
   random.range(3, 1).range(30, 0).range(18, 0);
   advanceSyndicationDeals(game);
-  const WeeklyEarnings expected{.filmId = 7,
-                                .filmTitle = "Salt Road",
-                                .filmType = filmType::feature,
-                                .residualsEarned = 500,
-                                .yearNumber = 2031,
-                                .weekNumberForTracking = firstOffer + 4};
-  ASSERT_EQ(world.saveAllWeeklyEarnings.size(), 1U);
-  EXPECT_EQ(world.saveAllWeeklyEarnings.front(), expected);
+  EXPECT_EQ(test::shown(world.saveAllWeeklyEarnings),
+            "(filmId 7, filmTitle Salt Road, residualsEarned 500, yearNumber 2031, "
+            "weekNumberForTracking 104)");
   EXPECT_EQ(world.WeekFeed.back(), "You were paid a residual of $500 from Salt Road.");
   EXPECT_EQ(world.activityTracker.size(), 1U);  // the sale alone
 }
@@ -198,9 +164,7 @@ TEST_F(Deals, AResidualLosesDuesOnceAndTheCommissionOnAnAgentsRole) {
   struct Case {
     double duesPaid;
     std::int64_t sourceId;
-    double net;
-    double duesAfter;
-    double agentGets;
+    double net, duesAfter, agentGets;
   };
   const Case cases[] = {{0, 0, 485, 15, 0},
                         {0, 5, 435, 15, 50},
@@ -212,7 +176,7 @@ TEST_F(Deals, AResidualLosesDuesOnceAndTheCommissionOnAnAgentsRole) {
     startWithResidual(0.05);
     title().sourceId = each.sourceId;
     world.workDuesPaidSAG = each.duesPaid;
-    world.saveAllTalentAgents.assign(std::vector<TalentAgent>{{.id = 5, .isSigned = 1}});
+    world.saveAllTalentAgents = {{.id = 5, .isSigned = 1}};
     random.range(18, 0);
     advanceSyndicationDeals(game);
     EXPECT_NEAR(world.saveAllWeeklyEarnings.back().residualsEarned, each.net, 1e-9);
@@ -243,20 +207,14 @@ TEST_F(Deals, ADealEndsAfterItsYearsAndTheNextSecondBidWinsAtOnce) {
   EXPECT_TRUE(title().didAcceptOffer);
   EXPECT_EQ(title().weeksRemaining, 0);
   liveWeeks(1);
-  Syndication expected = {.filmId = 7,
-                          .filmName = "Salt Road",
-                          .filmReleased = firstOffer - 29,
-                          .weekOfFirstOffer = firstOffer,
-                          .totalEarnings = 100'000,
-                          .networkNameSigned = {"Fulu"},
-                          .networkOfferSigned = {100'000},
-                          .networkYearSigned = {1},
-                          .payment = 10'000};
-  EXPECT_EQ(title(), expected);
+  EXPECT_EQ(test::shown(title()),
+            "filmId 7, filmName Salt Road, filmReleased 71, weekOfFirstOffer 100, totalEarnings 100000, "
+            "networkNameSigned [Fulu], networkOfferSigned [100000], networkYearSigned [1], payment 10000");
 
   title().networkNames = {"Fulu", "Pear TV"};
   title().networkOffers = {50'000, 60'000};
   title().networkYears = {1, 1};
+  world.saveAllFilmList.clear();  // a title whose film is gone is sold all the same
   signWith(1);
   EXPECT_EQ(title().totalEarnings, 160'000);
   EXPECT_EQ(title().weeksRemaining, 51);
@@ -276,14 +234,13 @@ TEST_F(Deals, RerunsAreABigReturnAndThenLessEveryWeek) {
   liveWeeks(48);
   // 0.64231, 0.62308 ... of the week before: the second of them is below the 100,000 that are worth counting.
   EXPECT_EQ(season.hoursWatched.size(), 6U);
-  EXPECT_TRUE(store.contains("saveAllRatings"));
+  expectSaved<&WorldState::saveAllRatings>();
 }
 
 TEST_F(Deals, ASeasonThatFewWatchedIsNotCountedAgain) {
   addSeason(99'999);
   signWith(0);
   EXPECT_EQ(world.saveAllRatings.front().hoursWatched.size(), 1U);
-  EXPECT_FALSE(store.contains("saveAllRatings"));
 }
 
 }  // namespace

@@ -10,8 +10,6 @@
 namespace tb {
 namespace {
 
-using test::ScratchGame;
-
 Film rated(double rating, std::int64_t ratings) {
   return {.title = "Salt Road", .directorName = "Mina Falk", .imbdRating = rating, .numImbdRatings = ratings};
 }
@@ -43,33 +41,31 @@ TEST(UserReviews, TheCountGrowsWithTheMetascore) {
   EXPECT_EQ(shownRatings(film), 2);
 }
 
-TEST(UserReviews, SpeakInTheWordsOfTheirStars) {
-  ScratchGame scratch;
-  scratch.game.world.myName = "Ada Quinn";
+using UserReviewCards = test::RuleTest;
+
+TEST_F(UserReviewCards, SpeakInTheWordsOfTheirStars) {
+  world.myName = "Ada Quinn";
   StarHistogram everybody;
   everybody.fill(1);
   struct Level {
     std::int64_t star;
-    Bank snippets;
-    Bank bodies;
-    std::int64_t rows;
+    Bank snippets, bodies;
   };
-  const Level levels[] = {{0, Bank::userReviewSnippet1, Bank::userReviewBody1, 145},
-                          {3, Bank::userReviewSnippet2, Bank::userReviewBody2, 135},
-                          {4, Bank::userReviewSnippet3, Bank::userReviewBody3, 100},
-                          {7, Bank::userReviewSnippet4, Bank::userReviewBody4, 121},
-                          {9, Bank::userReviewSnippet5, Bank::userReviewBody5, 193}};
+  const Level levels[] = {{0, Bank::userReviewSnippet1, Bank::userReviewBody1},
+                          {3, Bank::userReviewSnippet2, Bank::userReviewBody2},
+                          {4, Bank::userReviewSnippet3, Bank::userReviewBody3},
+                          {7, Bank::userReviewSnippet4, Bank::userReviewBody4},
+                          {9, Bank::userReviewSnippet5, Bank::userReviewBody5}};
   for (const Level& level : levels) {
-    scratch.random.range(10, level.star).range(49, 0).range(level.rows, level.rows - 1);
-    scratch.random.range(60, 1).range(80, 79);
+    const std::int64_t rows = std::ssize(rowsOf(level.bodies));
+    random.range(10, level.star).range(49, 0).range(rows, rows - 1).range(60, 1).range(80, 79);
   }
-  const std::vector<Reviews> reviews = drawUserReviews(scratch.game, rated(7, 10), everybody);
-  EXPECT_EQ(scratch.random.left(), 0U);  // five reviews, and no draw more
-  ASSERT_EQ(reviews.size(), 5U);
+  const std::vector<Reviews> reviews = drawUserReviews(game, rated(7, 10), everybody);
+  ASSERT_EQ(reviews.size(), 5U);  // and no draw more
+  const auto filled = [](const std::string& row) {
+    return fill(row, {{"title", "Salt Road"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}});
+  };
   for (std::size_t index = 0; index < reviews.size(); ++index) {
-    const auto filled = [](const std::string& row) {
-      return fill(row, {{"title", "Salt Road"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}});
-    };
     EXPECT_EQ(reviews[index].rating, levels[index].star + 1);
     EXPECT_EQ(reviews[index].snippet, filled(rowsOf(levels[index].snippets).front()));
     EXPECT_EQ(reviews[index].review, filled(rowsOf(levels[index].bodies).back()));
@@ -77,18 +73,16 @@ TEST(UserReviews, SpeakInTheWordsOfTheirStars) {
   }
 }
 
-TEST(UserReviews, StarsThatNobodyGaveAreDrawnInVain) {
-  ScratchGame scratch;
+TEST_F(UserReviewCards, StarsThatNobodyGaveAreDrawnInVain) {
   StarHistogram one_star{};
   one_star[2] = 4;
-  for (int draw = 0; draw < 12; ++draw) scratch.random.range(10, draw % 2 == 0 ? 1 : 3);
-  scratch.random.range(10, 2).any(4);
-  for (int draw = 0; draw < 12; ++draw) scratch.random.range(10, 9);
-  const std::vector<Reviews> reviews = drawUserReviews(scratch.game, rated(3, 4), one_star);
-  EXPECT_EQ(scratch.random.left(), 0U);  // 25 draws of stars in all
+  for (int draw = 0; draw < 12; ++draw) random.range(10, draw % 2 == 0 ? 1 : 3);
+  random.range(10, 2).any(4);
+  for (int draw = 0; draw < 12; ++draw) random.range(10, 9);  // 25 draws of stars in all
+  const std::vector<Reviews> reviews = drawUserReviews(game, rated(3, 4), one_star);
   ASSERT_EQ(reviews.size(), 1U);
   EXPECT_EQ(reviews.front().rating, 3);
-  EXPECT_TRUE(drawUserReviews(scratch.game, rated(0, 0), {}).empty());
+  EXPECT_TRUE(drawUserReviews(game, rated(0, 0), {}).empty());
 }
 
 }  // namespace

@@ -1,110 +1,86 @@
 #include <gtest/gtest.h>
 
-#include "tests/memory_port.h"
-#include "tests/player.h"
-#include "tests/seeded_random.h"
+#include "tests/journeys/device.h"
 
 namespace tb {
 namespace {
 
-// One device: its storage outlives the game that runs on it.
-struct Device {
-  test::MemoryPort port;
-  test::SeededRandom random{2026};
+using test::Player;
 
-  struct Running {
-    explicit Running(Device& device) : store(device.port), app(store, device.random) {}
-    SaveStore store;
-    App app;
-    test::Player player{app};
-  };
-  [[nodiscard]] std::unique_ptr<Running> launch() { return std::make_unique<Running>(*this); }
+struct FirstCareer : testing::Test {
+  test::SeededRandom random{2026};
+  test::Device device{random};
+
+  void startCareer() {
+    Player& player = device.player();
+    ASSERT_EQ(player.title(), "A star is cast");
+    player.press("Start my career");
+    player.expectTold("⚠️ Name Needed ⚠️");
+    player.type("Stage name", "  Ada {title} Vale ");
+    player.slide("Age", 37);
+    player.follow({"Female", "Headshot 2"});
+    player.type("Biography", "Two left feet, one good side.");
+    player.press("Start my career");
+  }
+  FirstCareer() {
+    device.launch();
+    startCareer();
+  }
+
+  // The hub as a player sees it, tab by tab.
+  std::vector<std::string> hubInFull() {
+    std::vector<std::string> all;
+    for (const char* tab : {"Work", "Social", "Life", "Wealth", "Home"}) {
+      device.player().press(tab);
+      const auto words = device.player().words();
+      all.insert(all.end(), words.begin(), words.end());
+    }
+    return all;
+  }
 };
 
-void startCareer(test::Player& player) {
-  ASSERT_EQ(player.title(), "A star is cast");
-  player.press("Start my career");
-  EXPECT_EQ(player.notice(), "⚠️ Name Needed ⚠️");
-  player.press("OK");
-  player.type("Stage name", "  Ada {title} Vale ");
-  player.slide("Age", 37);
-  player.press("Female");
-  player.press("Headshot 2");
-  player.type("Biography", "Two left feet, one good side.");
-  player.press("Start my career");
-}
+TEST_F(FirstCareer, AStrangerStartsTrainsAndFindsEverythingAsItWas) {
+  Player& player = device.player();
+  EXPECT_EQ(player.title(), "Ada {title} Vale");
+  player.expectSees({"JANUARY\n2, 2026"});
+  EXPECT_EQ(device.world().birthYear, 2026 - 37);
 
-// The hub as a player sees it, tab by tab.
-std::vector<std::string> hubInFull(test::Player& player) {
-  std::vector<std::string> all;
-  for (const char* tab : {"Work", "Social", "Life", "Wealth", "Home"}) {
-    player.press(tab);
-    const auto words = player.words();
-    all.insert(all.end(), words.begin(), words.end());
+  player.follow({"Work", "Talent"});
+  while (player.notice().empty()) {
+    player.press("Train to " + std::to_string(device.world().talentTraitCost1));
   }
-  return all;
+  player.expectTold("⚡️ Not Enough Energy ⚡️");
+  player.follow({"Back", "Acting Classes", "Sign up"});
+  player.expectTold("💰 Not Enough Cash 💰");
+  player.follow({"Back", "The Backstage", "Actor's Guild", "Join"});
+  player.expectTold("❌ Not Eligible ❌");
+  player.follow({"Back", "Back"});
+
+  const auto before = hubInFull();
+  device.launch();
+  EXPECT_EQ(hubInFull(), before);
 }
 
-TEST(FirstCareer, AStrangerStartsTrainsAndFindsEverythingAsItWas) {
-  Device device;
-  auto game = device.launch();
-  startCareer(game->player);
-  EXPECT_EQ(game->player.title(), "Ada {title} Vale");
-  EXPECT_TRUE(game->player.sees("JANUARY\n2, 2026"));
-  EXPECT_EQ(game->app.game().world.birthYear, 2026 - 37);
-
-  game->player.press("Work");
-  game->player.press("Talent");
-  while (game->player.notice().empty())
-    game->player.press("Train to " + std::to_string(game->app.game().world.talentTraitCost1));
-  EXPECT_EQ(game->player.notice(), "⚡️ Not Enough Energy ⚡️");
-  game->player.press("OK");
-  game->player.press("Back");
-  game->player.press("Acting Classes");
-  game->player.press("Sign up");
-  EXPECT_EQ(game->player.notice(), "💰 Not Enough Cash 💰");
-  game->player.press("OK");
-  game->player.press("Back");
-  game->player.press("The Backstage");
-  game->player.press("Actor's Guild");
-  game->player.press("Join");
-  EXPECT_EQ(game->player.notice(), "❌ Not Eligible ❌");
-  game->player.press("OK");
-  game->player.press("Back");
-  game->player.press("Back");
-
-  const auto before = hubInFull(game->player);
-  game.reset();
-  game = device.launch();
-  EXPECT_EQ(hubInFull(game->player), before);
-}
-
-TEST(FirstCareer, LivesForYearsAndComesBackTheSameInAnyWeek) {
-  Device device;
-  auto game = device.launch();
-  startCareer(game->player);
+TEST_F(FirstCareer, LivesForYearsAndComesBackTheSameInAnyWeek) {
   for (int week = 1; week <= 120; ++week) {
-    game->player.press("End Week");
-    ASSERT_EQ(game->player.title(), "REVIEW");
-    EXPECT_TRUE(game->player.sees("Week " + std::to_string((week - 1) % 52 + 1) + " of " +
-                                  std::to_string(2026 + (week - 1) / 52)));
-    game->player.press("Close");
-    auto before = hubInFull(game->player);
+    device.endWeek();
+    device.player().expectSees(
+        {"Week " + std::to_string((week - 1) % 52 + 1) + " of " + std::to_string(2026 + (week - 1) / 52)});
+    device.player().press("Close");
     if (week % 12 != 0) continue;
-    game.reset();
-    game = device.launch();
+    auto before = hubInFull();
+    device.launch();
     // The card index starts its history anew at every launch; all else is as it was.
     const auto strip = [](std::vector<std::string>& words) {
       const auto chart = std::ranges::find(words, "Card index");
-      const auto end = std::ranges::find_if(chart, words.end(), [](auto& word) { return word == "Home"; });
-      words.erase(chart, end);
+      words.erase(chart, std::find(chart, words.end(), "Home"));
     };
-    auto after = hubInFull(game->player);
+    auto after = hubInFull();
     strip(before);
     strip(after);
     EXPECT_EQ(after, before);
   }
-  const WorldState& world = game->app.game().world;
+  const WorldState& world = device.world();
   EXPECT_EQ(world.yearNumber, 2028);
   EXPECT_EQ(world.weekNumber, 17);
   EXPECT_EQ(world.weekNumberForTracking, 121);
@@ -114,55 +90,38 @@ TEST(FirstCareer, LivesForYearsAndComesBackTheSameInAnyWeek) {
   EXPECT_EQ(world.activityTracker.front(), "APRIL 21, 2028");
 }
 
-TEST(FirstCareer, AGameCutShortInItsSummaryComesBackWithTheWeekPlayed) {
-  Device device;
-  auto game = device.launch();
-  startCareer(game->player);
-  game->player.press("End Week");
-  game.reset();
-  game = device.launch();
-  EXPECT_EQ(game->app.game().world.weekNumber, 2);
-  EXPECT_TRUE(game->app.game().world.activityTracker.empty());
-  EXPECT_TRUE(game->app.game().world.trackRealEstateIndex.empty());
-  EXPECT_TRUE(game->player.sees("JANUARY\n9, 2026"));
+TEST_F(FirstCareer, AGameCutShortInItsSummaryComesBackWithTheWeekPlayed) {
+  device.endWeek();
+  device.launch();
+  EXPECT_EQ(device.world().weekNumber, 2);
+  EXPECT_TRUE(device.world().activityTracker.empty());
+  EXPECT_TRUE(device.world().trackRealEstateIndex.empty());
+  device.player().expectSees({"JANUARY\n9, 2026"});
 }
 
-TEST(FirstCareer, ARestartLeadsBackToTheForm) {
-  Device device;
-  auto game = device.launch();
-  startCareer(game->player);
-  game->player.press("End Week");
-  game->player.press("Close");
-  game->player.press("Settings");
-  game->player.press("Restart?");
-  EXPECT_EQ(game->player.notice(), "Restart?");
-  game->player.press("Keep playing");
-  EXPECT_EQ(game->app.game().world.weekNumber, 2);
-  game->player.press("Restart?");
-  game->player.press("Restart");
-  EXPECT_EQ(game->player.title(), "A star is cast");
-  EXPECT_TRUE(game->app.game().world.activityTracker.empty());
-  startCareer(game->player);
-  EXPECT_TRUE(game->player.sees("JANUARY\n2, 2026"));
+TEST_F(FirstCareer, ARestartLeadsBackToTheForm) {
+  device.liveWeeks();
+  device.player().follow({"Settings", "Restart?"});
+  EXPECT_EQ(device.player().notice(), "Restart?");
+  device.player().press("Keep playing");
+  EXPECT_EQ(device.world().weekNumber, 2);
+  device.player().follow({"Restart?", "Restart"});
+  EXPECT_TRUE(device.world().activityTracker.empty());
+  startCareer();
+  device.player().expectSees({"JANUARY\n2, 2026"});
 }
 
-TEST(FirstCareer, AFullDiskIsToldOnceAndNothingIsLost) {
-  Device device;
-  auto game = device.launch();
-  startCareer(game->player);
+TEST_F(FirstCareer, AFullDiskIsToldOnceAndNothingIsLost) {
+  Player& player = device.player();
   device.port.failAll(true);
-  game->player.press("End Week");
-  EXPECT_EQ(game->player.notice(), "💾 Not Saved 💾");
-  game->player.press("OK");
-  game->player.press("Close");
-  EXPECT_EQ(game->player.notice(), "");
+  player.press("End Week");
+  player.expectTold("💾 Not Saved 💾");
+  player.press("Close");
+  EXPECT_EQ(player.notice(), "");
   device.port.failAll(false);
-  game->player.press("Work");
-  game->player.press("Talent");
-  const auto cash = game->app.game().world.weekNumber;
-  game.reset();
-  game = device.launch();
-  EXPECT_EQ(game->app.game().world.weekNumber, cash);
+  player.follow({"Work", "Talent"});
+  device.launch();
+  EXPECT_EQ(device.world().weekNumber, 2);
 }
 
 }  // namespace

@@ -160,33 +160,4 @@ TEST(ConsolePainter, ChartsOfAnyNumbersAreDrawnWithinThePage) {
   }
 }
 
-TEST(ConsolePainter, APlotShowsGainAboveTheGroundAndLossBelowIt) {
-  Chart chart = chartOf(Chart::Kind::line, {4, 0, -4});
-  chart.scale = {{-4, "-4"}, {0, "0"}, {4, "4"}};
-  EXPECT_EQ(bodyOf({chart}),
-            "      Chart\n"
-            "       4 |######\n"
-            "         |######\n"
-            "         |######\n"
-            "       0 |######......\n"
-            "         |            ######\n"
-            "         |            ######\n"
-            "         |            ######\n"
-            "      -4 |            ######\n"
-            "         +------------------\n"
-            "          a place    a place\n");
-}
-
-TEST(ConsolePainter, TimeRunsWhileACountdownHasSecondsLeft) {
-  const auto countsWith = [](double seconds) {
-    return paint(laidOut({.nodes = {Card{.nodes = {Countdown{.secondsLeft = seconds, .secondsInAll = 60}}}}}),
-                 {})
-        .counting;
-  };
-  EXPECT_TRUE(countsWith(0.1));
-  EXPECT_FALSE(countsWith(0));
-  EXPECT_NE(bodyOf({Countdown{.label = "Bids", .secondsLeft = 0.4, .secondsInAll = 60}}).find("0:01"),
-            std::string::npos);
-}
-
 }  // namespace tb::console

@@ -2,16 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include "core/save.h"
 #include "platform/share_register.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
 namespace {
 
-struct Worth : testing::Test, test::ScratchGame {
-  WorldState& world = game.world;
-};
+using Worth = test::RuleTest;
 
 TEST_F(Worth, IsTheSumOfItsPartsAndIsKept) {
   world.totalCashAvailable = -500;
@@ -26,7 +23,7 @@ TEST_F(Worth, IsTheSumOfItsPartsAndIsKept) {
       {.equity = 0.5, .rounds = {{.valuation = 1000}}, .roundsResolved = 1, .status = ventureStatus::exited}};
   keepNetWorth(game);
   EXPECT_DOUBLE_EQ(world.saveNetworth, -500 + 40 + 1300 + 1600 + 300);
-  EXPECT_EQ(store.value("saveNetworth"), plist::Value{world.saveNetworth});
+  expectSaved<&WorldState::saveNetworth>();
 }
 
 TEST_F(Worth, AVehicleIsWorthNothingAfterFortyYearsAndLessAfterMore) {

@@ -47,7 +47,6 @@ TEST(PaymentHistory, TellsEveryPaymentOnceTheNewestFirst) {
 TEST(PaymentHistory, SumsUpTheYearsThatPaidAndTheRunningOne) {
   const std::vector<YearOfPayments> years = paymentsByYear(paymentHistory(paidWorld()), 2030);
   ASSERT_EQ(years.size(), 3U);
-  EXPECT_EQ(years[0].year, 2026);
   EXPECT_EQ(years[0].total(), 970);
   EXPECT_EQ(years[0].of(PaymentKind::equity), -30);
   EXPECT_EQ(years[1].year, 2028);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/save.h"
 #include "tests/scratch_game.h"
 #include "wealth/patron_pay.h"
 
@@ -11,9 +10,7 @@ namespace {
 
 constexpr std::int64_t now = 60;
 
-struct Balance : testing::Test, test::ScratchGame {
-  WorldState& world = game.world;
-
+struct Balance : test::RuleTest {
   Balance() {
     world.yearNumber = 2027;
     world.weekNumberForTracking = now;
@@ -26,12 +23,16 @@ struct Balance : testing::Test, test::ScratchGame {
                                            .weekNumberForTracking = week});
   }
 
-  void review(std::size_t count, std::int64_t newestWeek) {
+  // What Patron pays a performer with so many fans and reviews.
+  double patronPays(std::int64_t fans, std::size_t reviews, std::int64_t newestWeek) {
+    world.totalFans = fans;
+    world.saveFameLevel = 100;
     world.saveAllMovieReviews.clear();
-    for (std::size_t older = 0; older < count; ++older) {
+    for (std::size_t older = 0; older < reviews; ++older) {
       world.saveAllMovieReviews.push_back(
           {.weekNumberForTracking = newestWeek - static_cast<std::int64_t>(older)});
     }
+    return payPatron(game);
   }
 
   std::vector<std::string> tiles() {
@@ -73,8 +74,7 @@ TEST_F(Balance, EveryKindOfIncomeReachesTheCashOnce) {
   EXPECT_EQ(tiles(), (std::vector<std::string>{"SESSIONS", "RESIDUALS", "ROYALTY", "INVEST"}));
   EXPECT_EQ(world.weekBalanceItems[0].moneyEarned, 1000);
   EXPECT_EQ(world.activityTracker, (TextList{"You received a residual check for $30.00"}));
-  EXPECT_EQ(store.value("totalCashAvailable"), plist::Value{world.totalCashAvailable});
-  EXPECT_EQ(store.value("yearToDatePaycheck"), plist::Value{world.yearToDatePaycheck});
+  expectSaved<&WorldState::totalCashAvailable, &WorldState::yearToDatePaycheck>();
 }
 
 TEST_F(Balance, BillsAreStillDueWithoutCash) {
@@ -96,97 +96,35 @@ TEST_F(Balance, APaidSessionAndAReleaseOfTheWeekAreFoundInOnePass) {
   EXPECT_TRUE(world.releaseOffered);
 }
 
-TEST_F(Balance, PatronStartsWithTheTenthReview) {
-  world.totalFans = 1000;
-  world.saveFameLevel = 100;
-  review(9, now);
-  EXPECT_EQ(balanceWeek(game).income, 0);
+TEST_F(Balance, PatronStartsWithTheTenthReviewAndIsPartOfTheWeek) {
+  EXPECT_EQ(patronPays(1000, 9, now), 0);
   EXPECT_FALSE(store.contains("trackPatronEarnings"));
-  review(10, now);
-  EXPECT_DOUBLE_EQ(balanceWeek(game).income, 2.5);
-  EXPECT_DOUBLE_EQ(world.totalPatronEarnings, 2.5);
-  EXPECT_EQ(tiles(), (std::vector<std::string>{"PATRON"}));
+  EXPECT_DOUBLE_EQ(patronPays(1000, 10, now), 2.5);
   EXPECT_EQ(world.WeekFeed, (TextList{"You received your first weekly payment from Patron - $2.50"}));
-  EXPECT_DOUBLE_EQ(world.weekNetIncome, 2.5);
-  static_cast<void>(balanceWeek(game));
+  EXPECT_EQ(tiles(), (std::vector<std::string>{"PATRON"}));
+  EXPECT_DOUBLE_EQ(balanceWeek(game).income, 2.5);
+  EXPECT_DOUBLE_EQ(world.totalPatronEarnings, 5);
   EXPECT_EQ(world.WeekFeed.size(), 1U);
   EXPECT_EQ(world.trackPatronEarnings.size(), 2U);
 }
 
-TEST_F(Balance, PatronFadesOverTwoHundredWeeksFromTheNewestReview) {
-  world.totalFans = 1000;
-  world.saveFameLevel = 100;
-  review(10, now - 100);
-  EXPECT_DOUBLE_EQ(payPatron(game), 1.25);
-  review(10, now - 200);
-  EXPECT_EQ(payPatron(game), 0);
-  review(10, now - 201);
-  EXPECT_EQ(payPatron(game), 0);
-}
-
-TEST_F(Balance, PatronPaysAtMostTenThousandFadedOnce) {
-  world.totalFans = 4'000'000;  // exactly at the limit while fresh
-  world.saveFameLevel = 100;
-  review(10, now);
-  EXPECT_DOUBLE_EQ(payPatron(game), 10'000);
-  world.totalFans = 40'000'000;
-  EXPECT_DOUBLE_EQ(payPatron(game), 10'000);
-  review(10, now - 100);
-  EXPECT_DOUBLE_EQ(payPatron(game), 5'000);
-  world.totalFans = 4'000'000;  // 10,000 after the fading: not cut
-  world.saveFameLevel = 150;
-  EXPECT_DOUBLE_EQ(payPatron(game), 7'500);
+TEST_F(Balance, PatronFadesOverTwoHundredWeeksAndPaysAtMostTenThousandFadedOnce) {
+  EXPECT_DOUBLE_EQ(patronPays(1000, 10, now - 100), 1.25);
+  EXPECT_EQ(patronPays(1000, 10, now - 200), 0);
+  EXPECT_EQ(patronPays(1000, 10, now - 201), 0);
+  EXPECT_DOUBLE_EQ(patronPays(4'000'000, 10, now), 10'000);  // exactly at the limit while fresh
+  EXPECT_DOUBLE_EQ(patronPays(40'000'000, 10, now), 10'000);
+  EXPECT_DOUBLE_EQ(patronPays(40'000'000, 10, now - 100), 5'000);
+  EXPECT_DOUBLE_EQ(patronPays(6'000'000, 10, now - 100),
+                   7'500);  // 15,000 while fresh, and not above it faded
 }
 
 TEST_F(Balance, PatronBelowADollarHasNoTileAndItsHistoryTwoYears) {
-  world.totalFans = 399;
-  world.saveFameLevel = 100;
-  review(10, now);
-  for (int week = 0; week < 106; ++week) payPatron(game);
+  for (int week = 0; week < 106; ++week) patronPays(399, 10, now);
   EXPECT_TRUE(world.weekBalanceItems.empty());
   EXPECT_EQ(world.trackPatronEarnings.size(), 104U);
-  world.totalFans = 400;
-  payPatron(game);
+  patronPays(400, 10, now);
   EXPECT_EQ(tiles(), (std::vector<std::string>{"PATRON"}));
-}
-
-// Whatever the weeks bring, the cash is what the books say.
-TEST_F(Balance, CashIsTheSumOfTheBooksOverManyWeeks) {
-  world.isSAG = 1;
-  world.saveAllWeeklyLineItems = {{.amount = 50}, {.amount = 20}};
-  world.weeklyJobIncome = 310.25;
-  double rest = 0;  // what no record tells: the job and the bills
-  for (std::int64_t week = 1; week <= 300; ++week) {
-    world.weekNumberForTracking = week;
-    world.weekNetIncome = 0;
-    if (week % 3 == 0) {
-      world.saveAllAuditionList.push_back(
-          {.filmId = week,
-           .typeOfFilm = week % 2 == 0 ? filmType::commercial : filmType::feature,
-           .weekToWork = week,
-           .weekReleased = week + 2,
-           .payment = 1234.56 + static_cast<double>(week),
-           .buyout = 77.7,
-           .residual = 0.0333,
-           .funnelStage = stage::wrapped});
-    }
-    if (week % 7 == 0)
-      world.saveAllRoyaltyPayouts.push_back({.weekNumberForTracking = week + 1, .payout = 99.99});
-    if (week % 11 == 0)
-      world.saveAllEquityPayouts.push_back({.weekNumberForTracking = week, .payOut = 1000.01});
-    static_cast<void>(balanceWeek(game));
-    rest += 310.25 - 70;
-  }
-  double books = rest;
-  for (const WeeklyEarnings& line : world.saveAllWeeklyEarnings) {
-    books += line.sessionEarned + line.buyoutEarned + line.residualsEarned + line.royaltyEarned;
-  }
-  for (const RoyaltyPayout& line : world.saveAllRoyaltyPayouts) {
-    if (line.weekNumberForTracking <= 300) books += line.payout;
-  }
-  for (const EquityPayout& line : world.saveAllEquityPayouts) books += line.payOut;
-  EXPECT_GT(world.saveAllWeeklyEarnings.size(), 500U);
-  EXPECT_NEAR(world.totalCashAvailable, books, 0.005);
 }
 
 }  // namespace
