@@ -44,7 +44,7 @@ struct ScratchGame {
  private:
   template <auto Member>
   void expectEqual(const WorldState& stored) const {
-    EXPECT_EQ(stored.*Member, world.*Member) << keyOf<Member>;
+    EXPECT_EQ(stored.*Member, world.*Member) << variableOf<Member>->key;
   }
 };
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/random.h"
+#include "core/records/career.h"
 #include "film/catalogue.h"
 
 namespace tb {

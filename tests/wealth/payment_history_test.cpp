@@ -34,8 +34,7 @@ TEST(PaymentHistory, TellsEveryPaymentOnceTheNewestFirst) {
                    std::to_string(static_cast<int>(payment.amount)) + " " + std::string(payment.source));
   }
   EXPECT_EQ(told, (std::vector<std::string>{
-                      "Salt Road 3 2028/3 200 syndication",
-                      "Fizz 2 2028/2 47 ",
+                      "Salt Road 3 2028/3 200 syndication", "Fizz 2 2028/2 47 ",
                       "An investment 4 2028/2 1 box office",  // its film is gone
                       "Salt Road 4 2026/1 -30 box office",
                       "Salt Road 0 2026/52 940 ",  // counted by the summary of the last week
