@@ -179,11 +179,12 @@ function Scrub({ chart: { kind, title, points }, shown, ask }: ScrubProps) {
   );
 }
 
-function Table({ title, points }: View.Chart) {
+// Every figure of a plot. Of a histogram it is on show: a vote is read share by share.
+function Table({ kind, title, points }: View.Chart) {
   return (
-    <div class="unseen">
+    <div class={kind === "histogram" ? "chart-shares" : "unseen"}>
       <table>
-        <caption>{title}</caption>
+        <caption class="unseen">{title}</caption>
         <tbody>
           {points.map((point, index) => (
             <tr key={index}>
