@@ -8,7 +8,7 @@ namespace {
 
 std::string nameFrom(RandomSource& random, Bank firstNames) {
   const std::string& first = drawRow(random, firstNames);
-  return first + " " + drawRow(random, Bank::lastNames);
+  return first + " " + drawRow(random, Bank::lastNameBank);
 }
 
 }  // namespace

@@ -11,9 +11,9 @@ constexpr std::int64_t winterCleaning = 50;
 constexpr std::int64_t oldestInvitation = 19;  // weeks
 
 bool isForgotten(const Audition& audition, std::int64_t now) {
-  const bool stale = audition.funnelStage == stage::invited && audition.didAct == 1 &&
+  const bool stale = audition.funnelStage == funnel::invited && audition.didAct == 1 &&
                      now - audition.weekAudition > oldestInvitation;
-  return stale || audition.funnelStage == stage::closed;
+  return stale || audition.funnelStage == funnel::closed;
 }
 
 }  // namespace

@@ -80,7 +80,7 @@ std::int64_t drawChance(Pass& pass, const Audition& project) {
 void invite(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   if (project.isPrincipal <= rolePart::principal) {
-    pass.moveTo(index, stage::invited);
+    pass.moveTo(index, funnel::invited);
     if (isHeardOf(project)) {
       const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
       pass.world.WeekFeed.push_back(
@@ -97,7 +97,7 @@ void invite(Pass& pass, std::size_t index) {
 void leaveUnanswered(Pass& pass, std::size_t index) {
   if (RandomRange(pass.game.random, 3) != 1) return;
   const Audition& project = pass.project(index);
-  pass.moveTo(index, stage::closed);
+  pass.moveTo(index, funnel::closed);
   pass.world.WeekFeed.push_back(std::format("You never heard back after applying for {}.", nameOf(project)));
   logActivity(pass.world, fill(drawRow(pass.game.random, Bank::silence), {{"title", project.title}}));
   pass.tellAgent(index, agentTakes::silence);
@@ -113,7 +113,7 @@ bool isInvited(Pass& pass, const Audition& project) {
 }
 
 void answerSubmission(Pass& pass, std::size_t index) {
-  if (pass.week() >= pass.project(index).weekAudition) return pass.moveTo(index, stage::closed);
+  if (pass.week() >= pass.project(index).weekAudition) return pass.moveTo(index, funnel::closed);
   if (isInvited(pass, pass.project(index))) return invite(pass, index);
   leaveUnanswered(pass, index);
 }
@@ -122,7 +122,7 @@ void answerSubmission(Pass& pass, std::size_t index) {
 
 void offerRole(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
-  pass.moveTo(index, stage::booked);
+  pass.moveTo(index, funnel::booked);
   if (isHeardOf(project)) {
     pass.world.WeekFeed.push_back(std::format(
         "You auditioned for {} and the cast director offered you the role. Shooting begins in {} week(s).",
@@ -190,20 +190,20 @@ void wrap(Pass& pass, std::size_t index) {
     tellOfInvestment(pass, project);
   }
   pass.tellAgent(index, agentTakes::wrap);
-  pass.moveTo(index, stage::wrapped);
+  pass.moveTo(index, funnel::wrapped);
 }
 
 // --- The pass ---
 
 void liveWeek(Pass& pass, std::size_t index) {
   switch (pass.project(index).funnelStage) {
-    case stage::submitted:
+    case funnel::submitted:
       return answerSubmission(pass, index);
-    case stage::invited:
+    case funnel::invited:
       return audition(pass, index);
-    case stage::booked:
+    case funnel::booked:
       return wrap(pass, index);
-    case stage::wrapped:
+    case funnel::wrapped:
       return advanceReleasedProject(pass.game, index);
     default:
       return;  // closed

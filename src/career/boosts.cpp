@@ -38,14 +38,14 @@ bool canPromote(const Audition& project, std::int64_t now) {
 
 std::optional<Boost> boostOf(const WorldState& world, const Audition& project) {
   const std::int64_t now = world.weekNumberForTracking;
-  if (project.funnelStage == stage::invited && canRehearse(project, now)) {
+  if (project.funnelStage == funnel::invited && canRehearse(project, now)) {
     return Boost{.kind = BoostKind::rehearse, .energyPrice = rehearsalPrice(project.rehearsalBoostCount)};
   }
-  if (project.funnelStage == stage::booked && canPerform(project, now)) {
+  if (project.funnelStage == funnel::booked && canPerform(project, now)) {
     return Boost{.kind = BoostKind::performance,
                  .energyPrice = performancePrice(project.performanceBoostCount)};
   }
-  if (project.funnelStage == stage::wrapped && canPromote(project, now)) {
+  if (project.funnelStage == funnel::wrapped && canPromote(project, now)) {
     return Boost{.kind = BoostKind::promote, .energyPrice = promotionEnergy};
   }
   return std::nullopt;

@@ -30,7 +30,7 @@ constexpr std::array<PhraseBand, 4> phrases = {{
 }  // namespace
 
 bool isBribeOffered(const Audition& project) {
-  return project.funnelStage == stage::submitted && project.didBribe == 0;
+  return project.funnelStage == funnel::submitted && project.didBribe == 0;
 }
 
 Notice bribeCastingDirector(Game& game, std::size_t auditionIndex) {

@@ -8,7 +8,7 @@ namespace tb {
 
 std::int64_t guildEligibility(const WorldState& world) {
   return std::ranges::count_if(world.saveAllAuditionList, [](const Audition& audition) {
-    return audition.funnelStage >= stage::booked && audition.isPrincipal == rolePart::principal;
+    return audition.funnelStage >= funnel::booked && audition.isPrincipal == rolePart::principal;
   });
 }
 

@@ -60,7 +60,7 @@ Verdict judge(Game& game, const Audition& project) {
 // A feature film goes on only as part of a saga.
 bool isUndecided(const Audition& project, std::int64_t typeOfFilm) {
   const bool can_go_on = typeOfFilm == filmType::series || project.franchiseId != outsideSagas;
-  return project.funnelStage >= stage::wrapped && project.isContinued == 0 &&
+  return project.funnelStage >= funnel::wrapped && project.isContinued == 0 &&
          project.typeOfFilm == typeOfFilm && can_go_on;
 }
 
@@ -145,7 +145,7 @@ Audition nextInstalment(Game& game, const Audition& project) {
   if (project.seasonNumber < 2) next.parentSeriesFilmId = project.filmId;
   next.seasonNumber += 1;
   next.isContinued = 0;
-  next.funnelStage = stage::booked;
+  next.funnelStage = funnel::booked;
   next.franchise = outsideSagas;
   next.franchiseId = outsideSagas;
   setSchedule(game, next);

@@ -65,7 +65,7 @@ Notice book(Game& game, Audition project, double percent) {
   project.royalty = percent;
   project.source = agent.agency;
   project.sourceId = agent.id;
-  project.funnelStage = stage::booked;
+  project.funnelStage = funnel::booked;
   // The e-mail may have waited: the weeks count from the signature.
   const Schedule schedule = drawSchedule(game);
   project.weekAudition = schedule.weekAudition;
@@ -105,7 +105,7 @@ double percentAsked(const Audition& offer, std::int64_t steps) {
   return offer.royalty * (1 + stepOfPercent * static_cast<double>(steps));
 }
 
-std::int64_t chanceOfStake(std::int64_t steps) { return 100 - chanceOfStep * steps; }
+std::int64_t chanceOfNegotiation(std::int64_t steps) { return 100 - chanceOfStep * steps; }
 
 std::int64_t negotiationBonus(const WorldState& world) {
   const TalentAgent* const agent = agentOf(world);
@@ -121,7 +121,8 @@ StakeAnswer negotiateStake(Game& game, std::int64_t emailId, std::int64_t steps)
   const Audition offer = *stakeOffer(world, emailId);
   world.totalEnergyAvailable -= stakeNegotiationEnergy;
   save<&WorldState::totalEnergyAvailable>(game);
-  const bool agreed = chanceOfStake(steps) + negotiationBonus(world) > RandomRange(game.random, 100) + 1;
+  const bool agreed =
+      chanceOfNegotiation(steps) + negotiationBonus(world) > RandomRange(game.random, 100) + 1;
   Notice notice = agreed ? book(game, offer, percentAsked(offer, steps))
                          : Notice{.title = "❌ Negotiation Failed! ❌",
                                   .message = "\nThe team declined your offer at that royalty."};

@@ -25,7 +25,7 @@ void makeStakeOffer(Game& game, std::int64_t emailId);
 [[nodiscard]] double percentAsked(const Audition& offer, std::int64_t steps);
 
 // The chance in percent that the team agrees to it, the agent's bonus not counted: 100, and 10 less a step.
-[[nodiscard]] std::int64_t chanceOfStake(std::int64_t steps);
+[[nodiscard]] std::int64_t chanceOfNegotiation(std::int64_t steps);
 
 // What the signed agent adds to that chance, in points; 0 without one.
 [[nodiscard]] std::int64_t negotiationBonus(const WorldState& world);

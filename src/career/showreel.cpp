@@ -63,7 +63,7 @@ std::vector<std::size_t> allPerformanceFootage(const WorldState& world) {
   std::vector<std::size_t> footage;
   for (std::size_t index = 0; index < world.saveAllAuditionList.size(); ++index) {
     const Audition& work = world.saveAllAuditionList[index];
-    if (work.funnelStage == stage::wrapped && work.didAct == 1) footage.push_back(index);
+    if (work.funnelStage == funnel::wrapped && work.didAct == 1) footage.push_back(index);
   }
   return footage;
 }

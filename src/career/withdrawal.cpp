@@ -10,7 +10,7 @@
 
 namespace tb {
 
-bool isWithdrawalOffered(const Audition& project) { return project.funnelStage <= stage::booked; }
+bool isWithdrawalOffered(const Audition& project) { return project.funnelStage <= funnel::booked; }
 
 void withdrawFromRole(Game& game, std::int64_t filmId) {
   WorldState& world = game.world;

@@ -66,7 +66,7 @@ Review criticCard(Game& game, const Film& film, double criticScore, const std::v
   }
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.name = inventedName(game.random, is_male);
-  card.newsOutlet = drawRow(game.random, Bank::reviewerCompanies);
+  card.newsOutlet = drawRow(game.random, Bank::reviewerCompanyBank);
   card.image = drawPortrait(game.random, is_male ? portraitsOfMen : portraitsOfWomen, others);
   return card;
 }

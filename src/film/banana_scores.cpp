@@ -35,12 +35,12 @@ struct ConsensusBand {
   Bank bank;
 };
 constexpr std::array<ConsensusBand, 6> consensusBands = {{
-    {.upTo = 19, .bank = Bank::criticConsensus0},
-    {.upTo = 39, .bank = Bank::criticConsensus20},
-    {.upTo = 59, .bank = Bank::criticConsensus40},
-    {.upTo = 74, .bank = Bank::criticConsensus60},
-    {.upTo = 89, .bank = Bank::criticConsensus75},
-    {.upTo = std::numeric_limits<std::int64_t>::max(), .bank = Bank::criticConsensus90},
+    {.upTo = 19, .bank = Bank::criticConsensusBank0},
+    {.upTo = 39, .bank = Bank::criticConsensusBank20},
+    {.upTo = 59, .bank = Bank::criticConsensusBank40},
+    {.upTo = 74, .bank = Bank::criticConsensusBank60},
+    {.upTo = 89, .bank = Bank::criticConsensusBank75},
+    {.upTo = std::numeric_limits<std::int64_t>::max(), .bank = Bank::criticConsensusBank90},
 }};
 
 // The place of the first letter in the alphabet, from 0; nothing when it is another character.

@@ -42,7 +42,7 @@ MetReview cardOf(Game& game, const Film& film) {
                  .season = film.seasonNumber};
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.reviewerName = inventedName(game.random, is_male);
-  card.reviewerCompany = drawRow(game.random, Bank::reviewerCompanies);
+  card.reviewerCompany = drawRow(game.random, Bank::reviewerCompanyBank);
   const double score = (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
   if (const StarBand* const band = bandOf(starBands, score)) {
     card.starString = band->stars;
@@ -55,7 +55,7 @@ MetReview cardOf(Game& game, const Film& film) {
 
 void offerRelease(WorldState& world) {
   world.releaseOffered = std::ranges::any_of(world.saveAllAuditionList, [&](const Audition& project) {
-    return project.funnelStage == stage::wrapped && project.typeOfFilm != filmType::commercial &&
+    return project.funnelStage == funnel::wrapped && project.typeOfFilm != filmType::commercial &&
            project.weekReleased == endedTrackingWeek(world);
   });
 }

@@ -17,7 +17,7 @@ constexpr std::int64_t rolesWithoutStress = 5;
 std::int64_t stressOfManyRoles(const WorldState& world) {
   const auto roles = std::ranges::count_if(world.saveAllAuditionList, [](const Audition& audition) {
     return audition.didAct == 1 && audition.isPrincipal == rolePart::principal &&
-           (audition.funnelStage == stage::invited || audition.funnelStage == stage::booked);
+           (audition.funnelStage == funnel::invited || audition.funnelStage == funnel::booked);
   });
   return std::max<std::int64_t>(roles, rolesWithoutStress) - rolesWithoutStress;
 }

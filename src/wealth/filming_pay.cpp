@@ -67,7 +67,7 @@ void payFilming(Game& game) {
   WorldState& world = game.world;
   const std::size_t before = world.saveAllWeeklyEarnings.size();
   for (const Audition& project : world.saveAllAuditionList) {
-    if (project.funnelStage != stage::wrapped) continue;
+    if (project.funnelStage != funnel::wrapped) continue;
     if (project.weekToWork + 1 == world.weekNumberForTracking) {
       paySession(game, project);
     } else if (const std::int64_t weeks = weekOfCheck(world, project); weeks > 0) {

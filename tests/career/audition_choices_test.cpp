@@ -18,7 +18,7 @@ struct AuditionChoices : test::RuleTest {
 };
 
 TEST_F(AuditionChoices, RehearsalsGetDearerAndEndWithTheNinth) {
-  Audition& project = add({.weekAudition = 10, .funnelStage = stage::invited, .rehearsalRating = 20});
+  Audition& project = add({.weekAudition = 10, .funnelStage = funnel::invited, .rehearsalRating = 20});
   const std::int64_t prices[] = {4, 6, 7, 9, 10, 12, 13, 15, 16};
   world.totalEnergyAvailable = 4 + 6 + 7 + 9 + 10 + 12 + 13 + 15 + 16;
   for (const std::int64_t price : prices) {
@@ -36,7 +36,7 @@ TEST_F(AuditionChoices, RehearsalsGetDearerAndEndWithTheNinth) {
 }
 
 TEST_F(AuditionChoices, RehearsalEndsAtAFullRatingAndAfterItsWeek) {
-  Audition& project = add({.weekAudition = 10, .funnelStage = stage::invited, .rehearsalRating = 99.9});
+  Audition& project = add({.weekAudition = 10, .funnelStage = funnel::invited, .rehearsalRating = 99.9});
   EXPECT_TRUE(boostOf(world, project));
   project.rehearsalRating = 100;
   EXPECT_FALSE(boostOf(world, project));
@@ -46,7 +46,7 @@ TEST_F(AuditionChoices, RehearsalEndsAtAFullRatingAndAfterItsWeek) {
 }
 
 TEST_F(AuditionChoices, ThePerformanceIsBuiltUpUntilTheWrap) {
-  Audition& project = add({.weekToWork = 10, .funnelStage = stage::booked, .performanceRating = 30});
+  Audition& project = add({.weekToWork = 10, .funnelStage = funnel::booked, .performanceRating = 30});
   EXPECT_EQ(boostOf(world, project)->kind, BoostKind::performance);
   EXPECT_EQ(boostOf(world, project)->energyPrice, 17);
   world.totalEnergyAvailable = 16;
@@ -68,7 +68,7 @@ TEST_F(AuditionChoices, ThePerformanceIsBuiltUpUntilTheWrap) {
 
 TEST_F(AuditionChoices, PromotionIsForPrincipalsOfFilmsAndSeriesBeforeTheRelease) {
   Audition& project = add(
-      {.typeOfFilm = filmType::series, .isPrincipal = 1, .weekReleased = 11, .funnelStage = stage::wrapped});
+      {.typeOfFilm = filmType::series, .isPrincipal = 1, .weekReleased = 11, .funnelStage = funnel::wrapped});
   EXPECT_EQ(boostOf(world, project)->kind, BoostKind::promote);
   EXPECT_EQ(boostOf(world, project)->energyPrice, 25);
   EXPECT_FALSE(buyBoost(game, 0));
@@ -87,7 +87,7 @@ TEST_F(AuditionChoices, PromotionIsForPrincipalsOfFilmsAndSeriesBeforeTheRelease
   EXPECT_FALSE(isBoosted([](Audition& a) { a.isPrincipal = rolePart::background; }));
   EXPECT_FALSE(isBoosted([](Audition& a) { a.isPrincipal = rolePart::ownProduction; }));
   EXPECT_FALSE(isBoosted([](Audition& a) { a.weekReleased = 10; }));
-  for (const std::int64_t waiting : {stage::submitted, stage::closed}) {
+  for (const std::int64_t waiting : {funnel::submitted, funnel::closed}) {
     EXPECT_FALSE(isBoosted([=](Audition& a) { a = {.weekAudition = 20, .funnelStage = waiting}; }));
   }
 }
@@ -117,15 +117,15 @@ TEST_F(AuditionChoices, TheBribeDoublesItsPriceAndSpeaksByItsStrength) {
   EXPECT_EQ(bribeCastingDirector(game, 8).title, "💰 Not Enough Cash 💰");
   EXPECT_EQ(unlucky.didBribe, 0);
   EXPECT_EQ(world.saveBribePrice, price);
-  unlucky.funnelStage = stage::invited;
+  unlucky.funnelStage = funnel::invited;
   EXPECT_FALSE(isBribeOffered(unlucky));
 }
 
 TEST_F(AuditionChoices, WithdrawingCostsUpToAHundredthOfTheFansAtAnyStage) {
   world.totalFans = 1099;
   add({.filmId = 1});
-  add({.filmId = 2, .title = "Saltwater", .funnelStage = stage::booked});
-  add({.filmId = 3, .funnelStage = stage::wrapped});
+  add({.filmId = 2, .title = "Saltwater", .funnelStage = funnel::booked});
+  add({.filmId = 3, .funnelStage = funnel::wrapped});
   random.range(11, 10).range(50, 0);
   withdrawFromRole(game, 2);
   EXPECT_EQ(world.saveAllAuditionList.size(), 2u);

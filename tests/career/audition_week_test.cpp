@@ -36,14 +36,14 @@ struct AuditionWeek : test::RuleTest {
   }
   Audition invited() {
     Audition project = submitted();
-    project.funnelStage = stage::invited;
+    project.funnelStage = funnel::invited;
     project.weekAudition = 10;
     project.rehearsalRating = 25.9;
     return project;
   }
   Audition booked() {
     Audition project = submitted();
-    project.funnelStage = stage::booked;
+    project.funnelStage = funnel::booked;
     project.weekToWork = 10;
     return project;
   }
@@ -74,7 +74,7 @@ struct AuditionWeek : test::RuleTest {
   double agentsMood() const { return world.saveAllTalentAgents[1].relationship - 65; }
 
   void expectInvited(const Audition& after) {
-    EXPECT_EQ(after.funnelStage, stage::invited);
+    EXPECT_EQ(after.funnelStage, funnel::invited);
     EXPECT_EQ(agentsMood(), 2);
     EXPECT_EQ(world.WeekFeed, (TextList{"You were invited to audition for Saltwater in 3 week(s)."}));
     EXPECT_EQ(world.activityTracker,
@@ -91,16 +91,16 @@ struct AuditionWeek : test::RuleTest {
 TEST_F(AuditionWeek, NothingMovesBeforeItsWeekAndALateSubmissionClosesInSilence) {
   Audition late = submitted();
   late.weekAudition = 10;
-  expectSilence(live(late), stage::closed);
+  expectSilence(live(late), funnel::closed);
   EXPECT_EQ(agentsMood(), 0);
   for (const std::int64_t week : {9, 11}) {  // an invitation of last week was turned down, for ever
     Audition project = invited();
     project.weekAudition = week;
-    expectSilence(live(project), stage::invited);
+    expectSilence(live(project), funnel::invited);
   }
   Audition project = booked();
   project.weekToWork = 11;
-  expectSilence(live(project), stage::booked);
+  expectSilence(live(project), funnel::booked);
   EXPECT_TRUE(world.saveAllFilmList.empty());
 }
 
@@ -136,7 +136,7 @@ TEST_F(AuditionWeek, ASubmissionIsInvitedByItsScoreAndTheDieOrABribe) {
       expectInvited(live(project));
     } else {
       random.range(3, 0);
-      expectSilence(live(project), stage::submitted);
+      expectSilence(live(project), funnel::submitted);
       EXPECT_EQ(agentsMood(), 0);
     }
   }
@@ -148,17 +148,17 @@ TEST_F(AuditionWeek, AnExtremeDifficultyStillDrawsFromARange) {
   project.didBribe = 99;
   project.auditionDifficulty = 200;
   random.range(201, 200).range(21, 0).range(200, 98).range(3, 0);  // 99 is not below 99
-  expectSilence(live(project), stage::submitted);
+  expectSilence(live(project), funnel::submitted);
   project = submitted();
   project.auditionDifficulty = 0;
   random.range(1, 0).range(21, 0).range(3, 0).range(3, 2);
-  expectSilence(live(project), stage::submitted);
+  expectSilence(live(project), funnel::submitted);
 }
 
 TEST_F(AuditionWeek, OneAnswerInThreeIsSilence) {
   const Draws refused = {.chance = 30, .score = 0, .letThrough = 20};
   scriptSubmission(refused).range(3, 1).range(25, 0);
-  EXPECT_EQ(live(submitted()).funnelStage, stage::closed);
+  EXPECT_EQ(live(submitted()).funnelStage, funnel::closed);
   EXPECT_EQ(world.WeekFeed, (TextList{"You never heard back after applying for Saltwater."}));
   EXPECT_EQ(world.activityTracker, (TextList{"The trail went cold after you applied to Saltwater."}));
   EXPECT_EQ(agentsMood(), -1);
@@ -176,19 +176,19 @@ TEST_F(AuditionWeek, WithoutThePerformerAProjectIsCastWithoutADieOrAWord) {
   Audition financed = submitted();
   financed.didAct = 0;
   random.range(31, 30);
-  expectSilence(live(financed), stage::invited);
+  expectSilence(live(financed), funnel::invited);
   EXPECT_EQ(agentsMood(), 2);
   Audition own = financed;  // is never invited
   own.isPrincipal = rolePart::ownProduction;
   random.range(31, 0);
-  expectSilence(live(own), stage::submitted);
+  expectSilence(live(own), funnel::submitted);
   EXPECT_EQ(agentsMood(), 2);
 
   Audition commercial = financed;  // of which the performer hears all the same, if late
   commercial.typeOfFilm = filmType::commercial;
   commercial.weekAudition = 11;
   random.range(31, 30).range(25, 0);
-  EXPECT_EQ(live(commercial).funnelStage, stage::invited);
+  EXPECT_EQ(live(commercial).funnelStage, funnel::invited);
   EXPECT_EQ(world.WeekFeed, (TextList{"You were invited to audition for a commercial in 0 week(s)."}));
   EXPECT_DOUBLE_EQ(world.experience, 30.9 * 0.25);
 }
@@ -197,7 +197,7 @@ TEST_F(AuditionWeek, WithoutThePerformerOnlyACommercialTellsOfItsOffer) {
   Audition project = invited();
   project.didAct = 0;
   scriptAudition({.chance = 30, .score = 0});
-  expectSilence(live(project), stage::booked);
+  expectSilence(live(project), funnel::booked);
   EXPECT_EQ(agentsMood(), 5);
   project.typeOfFilm = filmType::commercial;
   scriptAudition({.chance = 30, .score = 0});
@@ -221,7 +221,7 @@ TEST_F(AuditionWeek, AnAuditionIsWonByTheRehearsalAndTheDie) {
   for (const Case& each : cases) {
     world.isSAG = each.isSAG;
     scriptAudition(each.draws);
-    EXPECT_EQ(live(invited()).funnelStage, each.isBooked ? stage::booked : stage::invited);
+    EXPECT_EQ(live(invited()).funnelStage, each.isBooked ? funnel::booked : funnel::invited);
     ASSERT_EQ(world.WeekFeed.size(), 1u);
     EXPECT_TRUE(
         world.WeekFeed[0].ends_with(each.isBooked ? "begins in 9 week(s)." : "not selected for the role."));
@@ -258,7 +258,7 @@ TEST_F(AuditionWeek, TheWrapMakesAFilmAndIsToldByWhatThePerformerDidInIt) {
     project.didAct = each.didAct;
     random.any(each.draws);
     if (each.experience > 0) random.unit(each.share);
-    EXPECT_EQ(live(project).funnelStage, stage::wrapped);
+    EXPECT_EQ(live(project).funnelStage, funnel::wrapped);
     EXPECT_EQ(world.saveAllFilmList[0].filmId, 1);
     ASSERT_EQ(world.WeekFeed.size(), 1u);
     EXPECT_TRUE(world.WeekFeed[0].ends_with(each.told)) << world.WeekFeed[0];
@@ -289,7 +289,7 @@ TEST_F(AuditionWeek, ARecordThatMovedOnWaitsForTheNextWeek) {
   world.weekNumberForTracking = 11;
   random.range(31, 0).range(1, 0).range(3, 1);
   resolveAuditionsForWeek(game);
-  EXPECT_EQ(world.saveAllAuditionList[0].funnelStage, stage::booked);
+  EXPECT_EQ(world.saveAllAuditionList[0].funnelStage, funnel::booked);
 }
 
 TEST_F(AuditionWeek, TheAgentHearsOfAllProjectsAtOnceAndOnlyTheSignedOne) {
@@ -313,7 +313,7 @@ TEST_F(AuditionWeek, FansOfTitlesArePaidAgainEveryWeekThatHasAProject) {
   resolveAuditionsForWeek(game);
   EXPECT_EQ(world.totalFans, 0);
   Audition closed = submitted();
-  closed.funnelStage = stage::closed;
+  closed.funnelStage = funnel::closed;
   live(closed);
   live(closed);
   EXPECT_EQ(world.totalFans, 200);
@@ -324,7 +324,7 @@ TEST_F(AuditionWeek, FansOfTitlesArePaidAgainEveryWeekThatHasAProject) {
 TEST_F(AuditionWeek, AReleaseBringsItsFansInTheSameWeek) {
   world.agentFanBonus = 1;
   Audition project = booked();
-  project.funnelStage = stage::wrapped;
+  project.funnelStage = funnel::wrapped;
   project.weekReleased = 10;
   project.budget = 400'000;
   world.saveAllFilmList.push_back({.filmId = 1, .typeOfFilm = filmType::shortFilm});

@@ -36,7 +36,7 @@ struct Renewals : test::RuleTest {
             .budget = 400'000,
             .source = "The Agency",
             .sourceId = 77,
-            .funnelStage = stage::wrapped,
+            .funnelStage = funnel::wrapped,
             .didBribe = 30,
             .rehearsalBoostCount = 4,
             .performanceBoostCount = 5,
@@ -68,7 +68,7 @@ TEST_F(Renewals, OnlyAReleasedSeriesOfAPrincipalIsJudgedFromTheEleventhWeek) {
     expectNothingTold();
   };
   Audition project = series();
-  project.funnelStage = stage::booked;
+  project.funnelStage = funnel::booked;
   give(project, 9);
   expectLeft(0);
   project = series();

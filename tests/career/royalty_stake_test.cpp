@@ -73,9 +73,9 @@ TEST_F(Stake, AMoreDaringAskIsWonLessOften) {
   EXPECT_EQ(percentAsked(offer, 0), 1.25);
   EXPECT_NEAR(percentAsked(offer, 4), 1.75, 1e-12);
   EXPECT_EQ(percentAsked(offer, mostStakeSteps), 2.5);
-  EXPECT_EQ(chanceOfStake(0), 100);
-  EXPECT_EQ(chanceOfStake(4), 60);
-  EXPECT_EQ(chanceOfStake(mostStakeSteps), 0);
+  EXPECT_EQ(chanceOfNegotiation(0), 100);
+  EXPECT_EQ(chanceOfNegotiation(4), 60);
+  EXPECT_EQ(chanceOfNegotiation(mostStakeSteps), 0);
 }
 
 TEST_F(Stake, TheAgentsBonusTurnsTheRollsNextToTheChance) {
@@ -113,7 +113,7 @@ TEST_F(Stake, SuccessBooksTheRoleFromTheWeekOfTheSignature) {
   ASSERT_EQ(world.saveAllAuditionList.size(), 1U);
   const Audition& project = world.saveAllAuditionList.front();
   EXPECT_EQ(project.filmId, 41);
-  EXPECT_EQ(project.funnelStage, stage::booked);
+  EXPECT_EQ(project.funnelStage, funnel::booked);
   EXPECT_NEAR(project.royalty, 0.3, 1e-12);
   EXPECT_EQ(project.source, "Northlight");
   EXPECT_EQ(project.sourceId, 5);

@@ -84,10 +84,12 @@ struct Cards : test::RuleTest {
 
 TEST_F(Cards, TheConsensusFollowsTheWholePercent) {
   const std::pair<double, Bank> cases[] = {
-      {0, Bank::criticConsensus0},     {19.9, Bank::criticConsensus0},  {20, Bank::criticConsensus20},
-      {39, Bank::criticConsensus20},   {40, Bank::criticConsensus40},   {59, Bank::criticConsensus40},
-      {60, Bank::criticConsensus60},   {74.9, Bank::criticConsensus60}, {75, Bank::criticConsensus75},
-      {89.9, Bank::criticConsensus75}, {90, Bank::criticConsensus90},   {118, Bank::criticConsensus90}};
+      {0, Bank::criticConsensusBank0},   {19.9, Bank::criticConsensusBank0},
+      {20, Bank::criticConsensusBank20}, {39, Bank::criticConsensusBank20},
+      {40, Bank::criticConsensusBank40}, {59, Bank::criticConsensusBank40},
+      {60, Bank::criticConsensusBank60}, {74.9, Bank::criticConsensusBank60},
+      {75, Bank::criticConsensusBank75}, {89.9, Bank::criticConsensusBank75},
+      {90, Bank::criticConsensusBank90}, {118, Bank::criticConsensusBank90}};
   for (const auto& [percent, bank] : cases) {
     random.range(14, 3);
     EXPECT_EQ(drawConsensus(game, film, percent), fill(rowsOf(bank)[3], {{"title", "Zoo"}})) << percent;
@@ -122,9 +124,9 @@ TEST_F(Cards, CriticsSpeakByTheScoreOfAllCritics) {
     EXPECT_NEAR(drawn[1].stars, row.highest, 1e-9) << row.percent;
     EXPECT_EQ(drawn[0].image, "critic_m (35).png");
     EXPECT_EQ(drawn[1].image, "critic_f (1).png");
-    EXPECT_EQ(drawn[0].name, rowsOf(Bank::maleFirstNames)[5] + " " + rowsOf(Bank::lastNames)[7]);
-    EXPECT_EQ(drawn[1].name, rowsOf(Bank::femaleFirstNames)[5] + " " + rowsOf(Bank::lastNames)[7]);
-    EXPECT_EQ(drawn[0].newsOutlet, rowsOf(Bank::reviewerCompanies)[3]);
+    EXPECT_EQ(drawn[0].name, rowsOf(Bank::maleFirstNames)[5] + " " + rowsOf(Bank::lastNameBank)[7]);
+    EXPECT_EQ(drawn[1].name, rowsOf(Bank::femaleFirstNames)[5] + " " + rowsOf(Bank::lastNameBank)[7]);
+    EXPECT_EQ(drawn[0].newsOutlet, rowsOf(Bank::reviewerCompanyBank)[3]);
     // Released two weeks ago, in the 52nd of the year before.
     EXPECT_EQ(drawn[0].date.month + " " + drawn[0].date.dayAndYear, "December 25, 2026");
   }

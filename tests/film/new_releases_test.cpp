@@ -42,11 +42,11 @@ TEST_F(NewReleases, AreOfferedForAWrappedProjectThatCameOutLastWeek) {
     std::int64_t typeOfFilm, funnelStage, weekReleased;
     bool offered;
   };
-  const Case cases[] = {{filmType::series, stage::wrapped, 19, true},
-                        {filmType::series, stage::wrapped, 20, false},
-                        {filmType::series, stage::wrapped, 18, false},
-                        {filmType::series, stage::booked, 19, false},
-                        {filmType::commercial, stage::wrapped, 19, false}};
+  const Case cases[] = {{filmType::series, funnel::wrapped, 19, true},
+                        {filmType::series, funnel::wrapped, 20, false},
+                        {filmType::series, funnel::wrapped, 18, false},
+                        {filmType::series, funnel::booked, 19, false},
+                        {filmType::commercial, funnel::wrapped, 19, false}};
   for (const auto& [type, funnel_stage, week, offered] : cases) {
     world.saveAllAuditionList = {{.typeOfFilm = type, .weekReleased = week, .funnelStage = funnel_stage}};
     world.releaseOffered = false;
@@ -73,8 +73,8 @@ TEST_F(NewReleases, EachHasACriticWithANameAPaperAndAReview) {
       .reviewString = fill(
           bank[1],
           {{"title", "Salt Road"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}, {"genre", "Western"}}),
-      .reviewerName = rowsOf(Bank::femaleFirstNames)[3] + " " + rowsOf(Bank::lastNames)[9],
-      .reviewerCompany = rowsOf(Bank::reviewerCompanies)[2],
+      .reviewerName = rowsOf(Bank::femaleFirstNames)[3] + " " + rowsOf(Bank::lastNameBank)[9],
+      .reviewerCompany = rowsOf(Bank::reviewerCompanyBank)[2],
       .starString = "★★★★",
       .filmType = "Movie",
       .description = "A long walk.",

@@ -4,6 +4,7 @@
 #include "film/promotion.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 #include "film/catalogue.h"
 #include "tests/film/wrapped_project.h"
@@ -101,6 +102,20 @@ TEST(Catalogue, TheTablesOfAllTimeAreRankedAndAddUp) {
   EXPECT_TRUE(std::ranges::is_sorted(tvRecords(), std::greater{}, &TVRecord::imdbRating));
   EXPECT_EQ(tvRecords().front().imdbRating, 9.6);
   EXPECT_EQ(tvRecords().back().rank, 250);
+}
+
+TEST(Catalogue, NoTwoTitlesThatAPlayerMeetsAreTheSame) {
+  std::set<std::string> titles;
+  const auto add = [&](const auto& rows) {
+    for (const auto& row : rows) EXPECT_TRUE(titles.insert(row.title).second) << row.title;
+  };
+  add(movies());
+  add(royaltyMovies());
+  add(investmentMovies());
+  add(movieFranchises());
+  add(movieRecords());
+  add(tvRecords());
+  add(rateMovieCatalogue());
 }
 
 TEST(Catalogue, TheStarsRatingsAreDrawnAnewEachTime) {

@@ -28,7 +28,7 @@ struct ReleasedGame : ScratchGame {
     world.agentFanBonus = 1;
     world.yearNumber = 2030;
     world.weekNumberForTracking = releaseWeek;
-    work.funnelStage = stage::wrapped;
+    work.funnelStage = funnel::wrapped;
     work.weekReleased = releaseWeek;
     world.saveAllFilmList = {{.filmId = work.filmId,
                               .typeOfFilm = work.typeOfFilm,

@@ -22,7 +22,7 @@ Audition bookedLead(std::int64_t filmId, std::int64_t typeOfFilm, const std::str
           .payment = 9'000,
           .royalty = 2,
           .budget = 40e6,
-          .funnelStage = stage::booked,
+          .funnelStage = funnel::booked,
           .hypeRating = 50,
           .directorRating = 80,
           .directorName = "Mina Falk"};

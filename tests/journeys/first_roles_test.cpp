@@ -136,7 +136,7 @@ TEST_F(FirstRoles, AMemberLeadsASeriesIntoItsSecondSeason) {
   // In the eleventh week the verdict, with 6 above the low draw.
   liveWeekThatTells(title + " has been renewed for season 2!");
   ASSERT_EQ(device.world().saveAllAuditionList.size(), 2u);
-  EXPECT_EQ(device.project(1).funnelStage, stage::booked);
+  EXPECT_EQ(device.project(1).funnelStage, funnel::booked);
   EXPECT_NEAR(device.project(1).budget, 110'000, 1e-6);
   EXPECT_NEAR(device.project(1).payment, 1282 * 0.8, 1e-6);
   openProject(title + " Season 2");

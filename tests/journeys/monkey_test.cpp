@@ -96,7 +96,7 @@ void expectFilmsInStep(const WorldState& world) {
   for (const Film& film : world.saveAllFilmList) {
     const auto project = std::ranges::find(world.saveAllAuditionList, film.filmId, &Audition::filmId);
     ASSERT_NE(project, world.saveAllAuditionList.end()) << film.title;
-    ASSERT_EQ(project->funnelStage, stage::wrapped) << film.title;
+    ASSERT_EQ(project->funnelStage, funnel::wrapped) << film.title;
   }
 }
 

@@ -79,7 +79,7 @@ void addProduction(WorldState& world, std::int64_t id, std::int64_t typeOfFilm, 
                                        .isPrincipal = rolePart::ownProduction,
                                        .title = title,
                                        .weekReleased = weekReleased,
-                                       .funnelStage = stage::wrapped});
+                                       .funnelStage = funnel::wrapped});
   Film film{.filmId = id, .typeOfFilm = typeOfFilm, .title = title, .weekReleased = weekReleased};
   if (weekReleased < world.weekNumberForTracking) {
     film.imbdRating = 9.9;

@@ -17,7 +17,7 @@ struct FilmingPay : test::RuleTest {
   }
 
   Audition& wrapped(Audition project) {
-    project.funnelStage = stage::wrapped;
+    project.funnelStage = funnel::wrapped;
     world.saveAllAuditionList.push_back(std::move(project));
     return world.saveAllAuditionList.edit(world.saveAllAuditionList.size() - 1);
   }
@@ -77,7 +77,7 @@ TEST_F(FilmingPay, TheLastDuesCrossTheLifetimeSumAndThenTheyStop) {
 TEST_F(FilmingPay, OnlyTheWeekAfterTheWrapPays) {
   wrapped({.weekToWork = now, .payment = 1});
   wrapped({.weekToWork = now - 2, .payment = 1});
-  wrapped({.weekToWork = now - 1, .payment = 1}).funnelStage = stage::booked;
+  wrapped({.weekToWork = now - 1, .payment = 1}).funnelStage = funnel::booked;
   payFilming(game);
   EXPECT_TRUE(world.saveAllWeeklyEarnings.empty());
 }

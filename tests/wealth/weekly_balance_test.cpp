@@ -91,7 +91,7 @@ TEST_F(Balance, BillsAreStillDueWithoutCash) {
 
 TEST_F(Balance, APaidSessionAndAReleaseOfTheWeekAreFoundInOnePass) {
   world.saveAllAuditionList = {
-      {.weekToWork = now - 1, .weekReleased = now - 1, .payment = 800, .funnelStage = stage::wrapped}};
+      {.weekToWork = now - 1, .weekReleased = now - 1, .payment = 800, .funnelStage = funnel::wrapped}};
   EXPECT_EQ(balanceWeek(game).income, 800);
   EXPECT_TRUE(world.releaseOffered);
 }

@@ -27,13 +27,13 @@ inline constexpr std::int64_t ownProduction = 2;  // the performer directs and p
 }  // namespace rolePart
 
 // Audition::funnelStage. A wrapped project stays wrapped for good; release is told by its weekReleased.
-namespace stage {
+namespace funnel {
 inline constexpr std::int64_t closed = -1;
 inline constexpr std::int64_t submitted = 0;
 inline constexpr std::int64_t invited = 1;
 inline constexpr std::int64_t booked = 2;
 inline constexpr std::int64_t wrapped = 3;
-}  // namespace stage
+}  // namespace funnel
 
 // A project that the performer is attached to as actor, director or investor, from submission on.
 struct Audition {
@@ -66,7 +66,7 @@ struct Audition {
   double budget = 0;
   std::string source;                // "The Backstage", or the agency's name
   std::int64_t sourceId = 0;         // 0 for a submission of the performer's own, else the agent's id
-  std::int64_t funnelStage = 0;      // stage
+  std::int64_t funnelStage = 0;      // funnel
   std::int64_t funnelStageSent = 0;  // always 0
   std::int64_t didBribe = 0;         // 0, or the bribe's strength 10 to 99
   double rehearsalRating = 0;        // strength of the audition

@@ -27,8 +27,8 @@ std::vector<std::size_t> productions(const WorldState& world) {
 }
 
 std::string progressOf(const WorldState& world, const Audition& project) {
-  if (project.funnelStage == stage::closed) return "Shelved";
-  if (project.funnelStage < stage::wrapped) return "Wraps " + whenIs(world, project.weekToWork);
+  if (project.funnelStage == funnel::closed) return "Shelved";
+  if (project.funnelStage < funnel::wrapped) return "Wraps " + whenIs(world, project.weekToWork);
   return isReleased(world, project) ? "Released" : "Opens " + whenIs(world, project.weekReleased);
 }
 

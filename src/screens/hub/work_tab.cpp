@@ -33,11 +33,11 @@ std::string projectsSummary(const WorldState& world) {
   };
   // Who was turned down stays among the invited, with an audition that is past.
   const auto invited = std::ranges::count_if(world.saveAllAuditionList, [&](const Audition& project) {
-    return project.funnelStage == stage::invited && project.didAct == 1 &&
+    return project.funnelStage == funnel::invited && project.didAct == 1 &&
            project.weekAudition >= world.weekNumberForTracking;
   });
-  return std::format("{} submitted • {} invited • {} booked", at(stage::submitted), invited,
-                     at(stage::booked));
+  return std::format("{} submitted • {} invited • {} booked", at(funnel::submitted), invited,
+                     at(funnel::booked));
 }
 
 std::string jobSummary(const WorldState& world) {

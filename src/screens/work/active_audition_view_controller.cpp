@@ -24,21 +24,21 @@ struct FunnelList {
 
 constexpr std::array<FunnelList, 4> funnelLists = {{
     {.title = "All Applications",
-     .lowestStage = stage::closed,
-     .highestStage = stage::wrapped,
+     .lowestStage = funnel::closed,
+     .highestStage = funnel::wrapped,
      .whenEmpty = "You have not applied for anything yet. The casting network is behind the B at the hub's "
                   "top right."},
     {.title = "Upcoming Auditions",
-     .lowestStage = stage::invited,
-     .highestStage = stage::invited,
+     .lowestStage = funnel::invited,
+     .highestStage = funnel::invited,
      .whenEmpty = "Nobody has asked you in yet."},
     {.title = "Bookings",
-     .lowestStage = stage::booked,
-     .highestStage = stage::booked,
+     .lowestStage = funnel::booked,
+     .highestStage = funnel::booked,
      .whenEmpty = "You are not booked for anything."},
     {.title = "Releases",
-     .lowestStage = stage::wrapped,
-     .highestStage = stage::wrapped,
+     .lowestStage = funnel::wrapped,
+     .highestStage = funnel::wrapped,
      .whenEmpty = "Nothing of yours has wrapped yet."},
 }};
 

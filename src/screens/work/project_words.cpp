@@ -47,13 +47,13 @@ std::string whenIs(const WorldState& world, std::int64_t week) {
 
 std::string progressWords(const WorldState& world, const Audition& project) {
   switch (project.funnelStage) {
-    case stage::submitted:
+    case funnel::submitted:
       return "Waiting to hear";
-    case stage::invited:
+    case funnel::invited:
       return invitedWords(world, project);
-    case stage::booked:
+    case funnel::booked:
       return "Wraps " + whenIs(world, project.weekToWork);
-    case stage::wrapped:
+    case funnel::wrapped:
       return wrappedWords(world, project);
     default:
       return "Never heard back";
@@ -61,13 +61,13 @@ std::string progressWords(const WorldState& world, const Audition& project) {
 }
 
 bool isReleased(const WorldState& world, const Audition& project) {
-  return project.funnelStage == stage::wrapped && project.weekReleased < world.weekNumberForTracking;
+  return project.funnelStage == funnel::wrapped && project.weekReleased < world.weekNumberForTracking;
 }
 
 bool isOver(const WorldState& world, const Audition& project) {
   const bool turned_down =
-      project.funnelStage == stage::invited && project.weekAudition < world.weekNumberForTracking;
-  return project.funnelStage == stage::closed || turned_down;
+      project.funnelStage == funnel::invited && project.weekAudition < world.weekNumberForTracking;
+  return project.funnelStage == funnel::closed || turned_down;
 }
 
 view::Picture posterOf(const std::string& imageString) {
