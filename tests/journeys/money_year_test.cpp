@@ -8,6 +8,7 @@
 #include "core/number_style.h"
 #include "tests/journeys/books.h"
 #include "tests/journeys/device.h"
+#include "wealth/net_worth.h"
 
 namespace tb {
 namespace {
@@ -42,9 +43,12 @@ void takeAJob(test::Device& device) {
   ASSERT_FALSE(device.world().weeklyJobTitle.empty());
 }
 
-// Opens a page of the wealth tab, reads it, and leaves it.
+// Opens a page of the wealth tab, reads it, and leaves it. The tab alone finds out what the performer is
+// worth.
 void readWealth(test::Device& device, const std::string& page, std::initializer_list<std::string> texts) {
-  device.player().follow({"Wealth", page});
+  device.player().press("Wealth");
+  EXPECT_EQ(device.world().saveNetworth, netWorth(device.world()).total());
+  device.player().press(page);
   device.player().expectSees(texts);
   device.player().press("Back");
 }

@@ -203,6 +203,7 @@ TEST_F(Week, BestFiguresArePutForwardOnceUntilTheFlagClears) {
   refreshInWeek(16);
   EXPECT_EQ(world.bestNetworth, 1000);
   EXPECT_EQ(world.bestBoxOffice, 77);
+  expectSaved<&WorldState::bestNetworth, &WorldState::bestBoxOffice>();
   world.saveNetworth = 2000;
   refreshInWeek(16);
   EXPECT_EQ(world.bestNetworth, 1000);
