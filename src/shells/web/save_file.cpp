@@ -15,7 +15,8 @@ std::string importSave(SaveStore& store, std::span<const std::byte> file) {
   // Any property list that is a dictionary could be stored. Only a career says whether its form was filled
   // in.
   const auto* values = read->as<plist::Dictionary>();
-  const plist::Value* started = values ? read->find(variableOf<&WorldState::enterPlayerDetails>->key) : nullptr;
+  const plist::Value* started =
+      values ? read->find(variableOf<&WorldState::enterPlayerDetails>->key) : nullptr;
   if (!started || !started->as<std::int64_t>()) return "This file holds no career.";
 
   store.replace(*values);
