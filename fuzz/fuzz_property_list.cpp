@@ -61,7 +61,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto file = std::as_bytes(std::span(data, size));
   tb::fuzzValue(file);
   tb::fuzzRecords(file);
-  tb::fuzzValues<bool>(file);
   tb::fuzzValues<std::int64_t>(file);
   tb::fuzzValues<double>(file);
   tb::fuzzValues<std::string>(file);
