@@ -4,6 +4,7 @@
 #include <expected>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -20,6 +21,9 @@ using Form = ValueType::Form;
 void* memberOf(WorldState& world, const Variable& variable) {
   return reinterpret_cast<std::byte*>(&world) + variable.offset;
 }
+
+// A list stands where what it shares with all others stands.
+static_assert(std::is_standard_layout_v<RealList> && sizeof(RealList) == sizeof(ListBase));
 
 ListBase& listOf(WorldState& world, const Variable& variable) {
   return *static_cast<ListBase*>(memberOf(world, variable));

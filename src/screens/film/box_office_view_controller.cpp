@@ -2,7 +2,6 @@
 
 #include <format>
 
-#include "core/number_style.h"
 #include "screens/film/box_office_parts.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"

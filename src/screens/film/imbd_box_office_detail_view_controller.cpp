@@ -1,10 +1,8 @@
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 
 #include <algorithm>
-#include <format>
 #include <functional>
 
-#include "core/number_style.h"
 #include "film/box_office_tables.h"
 #include "film/film_record.h"
 #include "screens/film/box_office_parts.h"

@@ -1,7 +1,6 @@
 #include "screens/talent/showreel_footage_view_controller.h"
 
 #include <algorithm>
-#include <format>
 
 #include "career/showreel.h"
 #include "core/number_style.h"
