@@ -48,10 +48,8 @@ void makeStar(const std::filesystem::path& folder, RandomSource& random) {
   game.world.showreelScore = 95;
   for (const Trait& trait : traits) {
     game.world.*trait.points = 95;
-    trait.save(game);
   }
-  save<&WorldState::myName, &WorldState::enterPlayerDetails, &WorldState::isSAG, &WorldState::showreelScore>(
-      game);
+  saveChanges(game);
   if (!store.commit()) std::exit(1);
 }
 

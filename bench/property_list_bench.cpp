@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "core/fields/fields.h"
 #include "core/record_codec.h"
 #include "core/records/film.h"
 

@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "core/fields/fields.h"
 #include "core/list.h"
 #include "core/property_list.h"
-#include "core/records/fields.h"
 
 namespace tb::test {
 

@@ -1,7 +1,5 @@
 #include "career/audition_cleanup.h"
 
-#include "core/save.h"
-
 namespace tb {
 
 namespace {
@@ -24,7 +22,6 @@ void cleanUpAuditions(Game& game) {
   world.saveAllAuditionList.erase_if(
       [&](const Audition& audition) { return isForgotten(audition, world.weekNumberForTracking); });
   world.save = world.saveAllAuditionList;
-  save<&WorldState::save, &WorldState::activityTracker>(game);
 }
 
 }  // namespace tb

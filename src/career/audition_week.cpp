@@ -6,7 +6,6 @@
 #include "banks/banks.h"
 #include "core/debug_log.h"
 #include "core/log.h"
-#include "core/save.h"
 #include "core/signed_agent.h"
 #include "film/box_office.h"
 #include "film/film_record.h"
@@ -214,7 +213,6 @@ void changeAgentsMood(Pass& pass) {
   const auto agent = signedAgent(pass.world);
   if (pass.agentRelationshipDelta == 0 || !agent) return;
   pass.world.saveAllTalentAgents.edit(*agent).relationship += pass.agentRelationshipDelta;
-  save<&WorldState::saveAllTalentAgents>(pass.game);
 }
 
 }  // namespace
@@ -223,12 +221,10 @@ void resolveAuditionsForWeek(Game& game) {
   Pass pass{.game = game};
   const std::size_t records = game.world.saveAllAuditionList.size();
   for (std::size_t index = 0; index < records; ++index) liveWeek(pass, index);
-  save<&WorldState::saveAllAuditionList, &WorldState::saveAllFilmList>(game);
   changeAgentsMood(pass);
 
   // The carry is paid, not spent: what a title brought comes in every week until the game is closed.
   if (records > 0) game.world.totalFans += game.world.fanGainCarry;
-  save<&WorldState::totalFans, &WorldState::experience, &WorldState::activityTracker>(game);
   postBoxOfficeChirp(game);
 }
 

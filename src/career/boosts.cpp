@@ -1,7 +1,6 @@
 #include "career/boosts.h"
 
 #include "core/house_notices.h"
-#include "core/save.h"
 #include "film/promotion.h"
 
 namespace tb {
@@ -74,7 +73,6 @@ Refusal buyBoost(Game& game, std::size_t auditionIndex) {
       world.selectedAuditionIndex = static_cast<std::int64_t>(auditionIndex);
       break;
   }
-  save<&WorldState::totalEnergyAvailable, &WorldState::saveAllAuditionList>(game);
   return {};
 }
 

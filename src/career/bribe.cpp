@@ -5,7 +5,6 @@
 
 #include "core/bands.h"
 #include "core/house_notices.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -44,7 +43,6 @@ Notice bribeCastingDirector(Game& game, std::size_t auditionIndex) {
   world.saveBribePrice *= 2;
   const std::int64_t strength = RandomRange(game.random, strengths);
   world.saveAllAuditionList.edit(auditionIndex).didBribe = strength + weakestBribe;
-  save<&WorldState::totalCashAvailable, &WorldState::saveBribePrice, &WorldState::saveAllAuditionList>(game);
   return {.title = "🤝 BRIBED 🤝",
           .message =
               std::format("You bribed the Casting Director and {}.\n\nThis does not mean you automatically "

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "career/casting_terms.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -38,7 +37,6 @@ CastingListing drawListing(Game& game, const CastingBoard& board, std::int64_t f
 
 CastingBoard openCastingNetwork(Game& game) {
   game.world.filmId += 1;
-  save<&WorldState::filmId>(game);
   const std::int64_t listings = RandomBetween(game.random, fewestListings, mostListings);
   CastingBoard board;
   for (std::int64_t place = 1; place <= listings; ++place) {

@@ -7,7 +7,6 @@
 #include "core/bands.h"
 #include "core/house_notices.h"
 #include "core/log.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -112,8 +111,6 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
               fill(drawRow(game.random, Bank::classSignUp), {{"title", option.offered->title},
                                                              {"code", option.offered->classCode},
                                                              {"weeks", std::to_string(option.weeks)}}));
-  save<&WorldState::totalCashAvailable, &WorldState::saveAllCompletedClasses, &WorldState::activityTracker>(
-      game);
   return {};
 }
 
@@ -128,7 +125,6 @@ void advanceClasses(Game& game) {
     logLine(world, std::format("You finished Drama {}", finished == nullptr ? "" : finished->classCode));
     world.experience += running.experience;
   }
-  save<&WorldState::saveAllCompletedClasses, &WorldState::experience, &WorldState::activityTracker>(game);
 }
 
 }  // namespace tb

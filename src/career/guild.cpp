@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "core/save.h"
-
 namespace tb {
 
 std::int64_t guildEligibility(const WorldState& world) {
@@ -31,8 +29,6 @@ Refusal joinGuild(Game& game) {
                                           .year = world.yearNumber,
                                           .isExpense = true,
                                           .typeOfExpense = 1});
-  save<&WorldState::totalCashAvailable, &WorldState::isSAG, &WorldState::memberSince,
-       &WorldState::saveAllWeeklyLineItems>(game);
   return {};
 }
 

@@ -5,7 +5,6 @@
 
 #include "banks/banks.h"
 #include "core/log.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -88,8 +87,6 @@ Refusal acceptJob(Game& game, const JobOffer& offer) {
   world.weeklyJobContractRemaining = offer.contractWeeks;
   logActivity(world, std::format("You accepted a temp job as a {} for {} weeks.", offer.job.jobTitle,
                                  offer.contractWeeks));
-  save<&WorldState::weeklyJobTitle, &WorldState::weeklyJobIncome, &WorldState::weeklyEnergyCost,
-       &WorldState::weeklyJobContractRemaining, &WorldState::activityTracker>(game);
   return {};
 }
 

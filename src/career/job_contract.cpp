@@ -1,7 +1,5 @@
 #include "career/job_contract.h"
 
-#include "core/save.h"
-
 namespace tb {
 
 void advanceJobContract(Game& game) {
@@ -15,8 +13,6 @@ void advanceJobContract(Game& game) {
     if (world.weeklyJobContractRemaining == 0)
       world.WeekFeed.push_back("The contract for your job has ended");
   }
-  save<&WorldState::weeklyJobContractRemaining, &WorldState::weeklyJobTitle, &WorldState::totalCashAvailable,
-       &WorldState::weeklyJobIncome, &WorldState::weeklyEnergyCost>(game);
 }
 
 }  // namespace tb

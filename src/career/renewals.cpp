@@ -9,7 +9,6 @@
 #include "career/schedule.h"
 #include "core/bands.h"
 #include "core/log.h"
-#include "core/save.h"
 #include "film/catalogue.h"
 #include "film/film_record.h"
 
@@ -218,7 +217,6 @@ void decide(Game& game, std::int64_t typeOfFilm, Bank endBank, CarryOn carryOn) 
     decided = decided || verdict != Verdict::wait;
   }
   if (!decided) return;
-  save<&WorldState::saveAllAuditionList, &WorldState::filmId, &WorldState::activityTracker>(game);
 }
 
 }  // namespace

@@ -10,7 +10,6 @@
 #include "career/schedule.h"
 #include "core/house_notices.h"
 #include "core/log.h"
-#include "core/save.h"
 #include "core/signed_agent.h"
 #include "film/catalogue.h"
 #include "social/inbox.h"
@@ -76,7 +75,6 @@ Notice book(Game& game, Audition project, double percent) {
                                 {{"title", project.title}, {"percent", std::format("{:.2f}%", percent)}});
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));
-  save<&WorldState::filmId, &WorldState::saveAllAuditionList, &WorldState::activityTracker>(game);
   return {.title = "🎬 Booked 🎬", .message = "\n" + line};
 }
 
@@ -120,7 +118,6 @@ StakeAnswer negotiateStake(Game& game, std::int64_t emailId, std::int64_t steps)
   }
   const Audition offer = *stakeOffer(world, emailId);
   world.totalEnergyAvailable -= stakeNegotiationEnergy;
-  save<&WorldState::totalEnergyAvailable>(game);
   const bool agreed =
       chanceOfNegotiation(steps) + negotiationBonus(world) > RandomRange(game.random, 100) + 1;
   Notice notice = agreed ? book(game, offer, percentAsked(offer, steps))

@@ -6,7 +6,6 @@
 #include "banks/banks.h"
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "core/talent_scores.h"
 
 namespace tb {
@@ -69,8 +68,6 @@ std::vector<std::size_t> allPerformanceFootage(const WorldState& world) {
 }
 
 void openShowreel(Game& game) {
-  load<&WorldState::existingFootageScore, &WorldState::newScenesProduced, &WorldState::newSceneDescriptions>(
-      game);
   // A save from elsewhere can hold one list without the other: scenes that can't be told are no scenes.
   WorldState& world = game.world;
   while (world.newScenesProduced.size() > world.newSceneDescriptions.size())
@@ -110,7 +107,6 @@ Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmI
   world.showreelScore = tempScore;
   logActivity(world, std::format("You updated your showreel using existing footage, and it’s now rated {}",
                                  world.showreelScore));
-  save<&WorldState::totalCashAvailable, &WorldState::showreelScore, &WorldState::activityTracker>(game);
   return {};
 }
 
@@ -141,8 +137,6 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
                           {{"amount", currency(game.locale, package.cost, 0)},
                            {"description", joinedWithAnd(sceneDescriptions)},
                            {"n", std::to_string(world.showreelScore)}}));
-  save<&WorldState::totalCashAvailable, &WorldState::existingFootageScore, &WorldState::newScenesProduced,
-       &WorldState::newSceneDescriptions, &WorldState::showreelScore, &WorldState::activityTracker>(game);
   return {};
 }
 

@@ -6,7 +6,6 @@
 #include "career/project_start.h"
 #include "core/audition_list.h"
 #include "core/log.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -51,8 +50,6 @@ Refusal submitToCastingListing(Game& game, const CastingListing& listing) {
   world.filmId = std::max(world.filmId, listing.filmId);  // listings are answered in any order; it only rises
   world.saveAllAuditionList.push_back(submittedRecord(game, listing));
   logActivity(world, fill(drawRow(game.random, Bank::submission), {{"title", listing.movie->title}}));
-  save<&WorldState::totalEnergyAvailable, &WorldState::filmId, &WorldState::saveAllAuditionList,
-       &WorldState::activityTracker>(game);
   return {};
 }
 

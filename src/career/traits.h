@@ -17,7 +17,6 @@ struct Trait {
   std::int64_t WorldState::* points;  // 1 and up
   std::int64_t WorldState::* price;   // energy for the next purchase
   std::int64_t pricePerPoint;         // the new value is the price paid, divided by this
-  void (*save)(Game&);
 };
 
 extern const std::array<Trait, 5> traits;

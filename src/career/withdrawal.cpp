@@ -6,7 +6,6 @@
 #include "banks/banks.h"
 #include "core/audition_list.h"
 #include "core/log.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -26,8 +25,6 @@ void withdrawFromRole(Game& game, std::int64_t filmId) {
   world.trackFans.push_back(world.totalFans);
   logActivity(world,
               fill(drawRow(game.random, Bank::withdrawal), {{"title", title}, {"n", std::to_string(lost)}}));
-  save<&WorldState::saveAllAuditionList, &WorldState::totalFans, &WorldState::trackFans,
-       &WorldState::activityTracker>(game);
 }
 
 }  // namespace tb

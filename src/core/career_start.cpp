@@ -1,11 +1,11 @@
 #include "core/career_start.h"
 
 #include <algorithm>
-#include <type_traits>
 #include <utility>
 
-#include "core/save.h"
+#include "core/save_store.h"
 #include "core/signed_agent.h"
+#include "core/variables.h"
 
 namespace tb {
 
@@ -16,25 +16,18 @@ constexpr Real basicNeedsAmount = 50.0;  // a week
 constexpr Real fanBonusWithoutAgent = 1.0;
 
 // What outlives a career. Before the table's values are set, because they empty the vault.
-void carryOver(Game& game) {
-  WorldState& world = game.world;
+void carryOver(WorldState& world) {
   world.totalCashAvailable = world.myVault;
   world.totalEnergyMax = startingEnergy + std::max<Int>(world.permanentEnergyUpgrade, 0);
   world.totalEnergyAvailable = world.totalEnergyMax;
   world.experience = static_cast<Real>(std::max<Int>(world.permanentExperience, 0));
-  save<&WorldState::totalCashAvailable, &WorldState::totalEnergyMax, &WorldState::totalEnergyAvailable,
-       &WorldState::experience>(game);
 }
 
-void setRestartValues(Game& game) {
-  forEachVariable([&]<auto Member>(const auto&, const auto& restart, Load) {
-    if constexpr (!std::is_same_v<decltype(restart), const Kept&>) game.world.*Member = restart;
-  });
-  forEachRuntimeVariable([&]<auto Member>(const auto&, const auto& restart) {
-    if constexpr (!std::is_same_v<decltype(restart), const Kept&>) game.world.*Member = restart;
-  });
-  for (const Variable& variable : variables) {
-    if (!variable.isKept) saveVariables(game, {{&variable}});
+// What no launch reads back is not in memory, where its change would show: it leaves the store with its
+// career.
+void forgetUnread(SaveStore& store) {
+  for (const Variable& variable : variables()) {
+    if (!variable.isKept && variable.load == Load::never) store.remove(variable.key);
   }
 }
 
@@ -43,13 +36,9 @@ void setRestartValues(Game& game) {
 void chooseAge(Game& game, Int age) {
   game.world.ageCount = age;
   game.world.birthYear = firstYear - age;
-  save<&WorldState::ageCount, &WorldState::birthYear>(game);
 }
 
-void chooseHeadshot(Game& game, Image headshot) {
-  game.world.headshotImage = std::move(headshot);
-  save<&WorldState::headshotImage>(game);
-}
+void chooseHeadshot(Game& game, Image headshot) { game.world.headshotImage = std::move(headshot); }
 
 Refusal confirmNewCareer(Game& game, const NewCareerForm& form) {
   if (form.myName.empty()) return Notice{"⚠️ Name Needed ⚠️", "Please enter your stage name/name."};
@@ -59,15 +48,14 @@ Refusal confirmNewCareer(Game& game, const NewCareerForm& form) {
   world.yearNumber = firstYear;
   world.enterPlayerDetails = 1;
   world.aboutDescription = form.aboutDescription;
-  save<&WorldState::enterPlayerDetails, &WorldState::yearNumber, &WorldState::isMale, &WorldState::birthYear,
-       &WorldState::aboutDescription, &WorldState::myName>(game);
   normaliseAgentFanBonus(game);
   return std::nullopt;
 }
 
 void restartCareer(Game& game) {
-  carryOver(game);
-  setRestartValues(game);
+  carryOver(game.world);
+  setRestartValues(game.world);
+  forgetUnread(game.store);
   ensureBasicNeeds(game);
 }
 
@@ -83,13 +71,11 @@ void ensureBasicNeeds(Game& game) {
                    .isExpense = true,
                    .typeOfExpense = WeeklyLineItem::basicNeedsType,
                    .energyBoost = 0});
-  save<&WorldState::saveAllWeeklyLineItems>(game);
 }
 
 void normaliseAgentFanBonus(Game& game) {
   if (signedAgent(game.world)) return;
   game.world.agentFanBonus = fanBonusWithoutAgent;
-  save<&WorldState::agentFanBonus>(game);
 }
 
 }  // namespace tb

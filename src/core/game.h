@@ -4,16 +4,18 @@
 
 #include "core/locale.h"
 #include "core/random.h"
-#include "core/save_store.h"
 #include "core/world_state.h"
 
 namespace tb {
+
+class SaveStore;
 
 struct Game {
   SaveStore& store;
   RandomSource& random;
   Locale locale = {};
   WorldState world = {};
+  WorldState stored = {};  // the plain variables as the store holds them (core/save.h); its lists stay empty
 };
 
 }  // namespace tb

@@ -1,27 +1,33 @@
 #include "core/list.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace tb {
 
 ListBase::ListBase(const ListBase& other) : operations_(other.operations_) { copyElements(other); }
 
 ListBase& ListBase::operator=(const ListBase& other) {
-  if (this != &other) {
-    destroyElements();
-    copyElements(other);
-  }
+  if (this == &other) return *this;
+  destroyElements();
+  copyElements(other);
+  changed_ = true;
   return *this;
 }
 
 ListBase::~ListBase() { destroyElements(); }
 
 void ListBase::copyElements(const ListBase& other) {
-  for (const Slot& slot : other.slots_) slots_.push_back({operations_->copy(slot.element), 0});
-  replaceStored();
+  for (const Slot& slot : other.slots_) slots_.push_back({operations_->copy(slot.element), slot.piece});
+  pieces_ = other.pieces_;
+  std::erase_if(pieces_, [](const Piece& piece) { return piece.count == 0; });
+  for (Piece& piece : pieces_) piece.changed = true;
+  replaces_stored_ = true;
+  changed_ = changed_ || !empty();
 }
 
 void ListBase::destroyElements() {
+  ids_ = {};
   for (const Slot& slot : slots_) operations_->destroy(slot.element);
   slots_.clear();
 }
@@ -33,6 +39,7 @@ ListBase::Piece& ListBase::pieceOf(std::int64_t number) {
 void* ListBase::editSlot(std::size_t index) {
   const Slot& slot = slots_[index];
   pieceOf(slot.piece).changed = true;
+  changed_ = true;
   return slot.element;
 }
 
@@ -46,6 +53,7 @@ void ListBase::pushBack(void* element) {
   slots_.push_back({element, piece.number});
   piece.count += 1;
   piece.changed = true;
+  changed_ = true;
 }
 
 void ListBase::pushFront(void* element) {
@@ -56,14 +64,18 @@ void ListBase::pushFront(void* element) {
   }
   Piece& piece = pieces_.front();
   slots_.push_front({element, piece.number});
+  ids_ = {};
   piece.count += 1;
   piece.changed = true;
+  changed_ = true;
 }
 
 void ListBase::leaveOut(std::size_t from) {
+  ids_ = {};
   Piece& piece = pieceOf(slots_[from].piece);
   piece.count -= 1;
   piece.changed = true;
+  changed_ = true;
   operations_->destroy(slots_[from].element);
 }
 
@@ -77,14 +89,79 @@ void ListBase::erase_at(std::size_t index) {
 }
 
 void ListBase::clear() {
+  if (empty()) return;
   destroyElements();
   replaceStored();
+  changed_ = true;
 }
 
 void ListBase::takeElements(ListBase& other) {
   slots_.swap(other.slots_);
+  ids_ = {};
   replaceStored();
+  changed_ = true;
 }
+
+// --- Finding by id ---
+
+namespace {
+
+// A table is worth its memory when ids are not much more than there are elements, and a walk is as good as a
+// table in a list of a few pieces.
+constexpr std::size_t mostIdsPerElement = 16;
+constexpr std::size_t shortList = 2 * ListBase::pieceLength;
+
+}  // namespace
+
+std::int64_t ListBase::idAt(std::size_t field, std::size_t index) const {
+  std::int64_t id = 0;
+  std::memcpy(&id, static_cast<const std::byte*>(slots_[index].element) + field, sizeof id);
+  return id;
+}
+
+// Brings the index up to the list's end. False when the ids do not suit a table.
+bool ListBase::indexIds(std::size_t field) const {
+  if (ids_.field != field) ids_ = {.field = field, .first = {}, .last = {}, .next = {}};
+  for (std::size_t index = ids_.next.size(); index < size(); ++index) {
+    const std::int64_t id = idAt(field, index);
+    if (id < 0 || static_cast<std::size_t>(id) > mostIdsPerElement * size()) return false;
+    const auto entry = static_cast<std::size_t>(id);
+    if (entry >= ids_.first.size()) {
+      ids_.first.resize(entry + 1, IdIndex::none);
+      ids_.last.resize(entry + 1, IdIndex::none);
+    }
+    const auto here = static_cast<std::uint32_t>(index);
+    if (ids_.last[entry] == IdIndex::none) {
+      ids_.first[entry] = here;
+    } else {
+      ids_.next[ids_.last[entry]] = here;
+    }
+    ids_.last[entry] = here;
+    ids_.next.push_back(IdIndex::none);
+  }
+  return true;
+}
+
+std::optional<std::size_t> ListBase::walkToId(std::size_t field, std::int64_t id, std::size_t from) const {
+  for (std::size_t index = from; index < size(); ++index) {
+    if (idAt(field, index) == id) return index;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::size_t> ListBase::firstWithId(std::size_t field, std::int64_t id) const {
+  if (size() <= shortList || !indexIds(field)) return walkToId(field, id, 0);
+  if (id < 0 || static_cast<std::size_t>(id) >= ids_.first.size()) return std::nullopt;
+  const std::uint32_t first = ids_.first[static_cast<std::size_t>(id)];
+  return first == IdIndex::none ? std::nullopt : std::optional<std::size_t>(first);
+}
+
+std::optional<std::size_t> ListBase::nextWithId(std::size_t field, std::size_t index) const {
+  if (size() <= shortList || !indexIds(field)) return walkToId(field, idAt(field, index), index + 1);
+  return ids_.next[index] == IdIndex::none ? std::nullopt : std::optional<std::size_t>(ids_.next[index]);
+}
+
+// --- For saving and loading ---
 
 std::vector<ListBase::Change> ListBase::changes() const {
   std::vector<Change> changed;
@@ -98,6 +175,7 @@ std::vector<ListBase::Change> ListBase::changes() const {
 
 void ListBase::changesSaved() {
   replaces_stored_ = false;
+  changed_ = false;
   std::erase_if(pieces_, [](const Piece& piece) { return piece.count == 0; });
   for (Piece& piece : pieces_) piece.changed = false;
 }
@@ -121,8 +199,10 @@ void* ListBase::addLoaded(std::int64_t piece) {
 
 void ListBase::takeLoaded(ListBase& loaded) {
   slots_.swap(loaded.slots_);
+  ids_ = {};
   pieces_.swap(loaded.pieces_);
   replaces_stored_ = false;
+  changed_ = false;
 }
 
 }  // namespace tb

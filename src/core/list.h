@@ -19,10 +19,22 @@
 #include <deque>
 #include <initializer_list>
 #include <iterator>
+#include <optional>
 #include <utility>
 #include <vector>
 
 namespace tb {
+
+// Where the elements with an id stand. Made for ids that are small counts, such as the ids of films: it is a
+// table by id. It grows as elements are added at the end; anything else that moves elements clears it.
+struct IdIndex {
+  static constexpr std::uint32_t none = ~std::uint32_t{0};
+
+  std::size_t field = 0;             // where the id stands in an element, in bytes
+  std::vector<std::uint32_t> first;  // by id: the first element that has it, or `none`
+  std::vector<std::uint32_t> last;   // by id: the last one so far
+  std::vector<std::uint32_t> next;   // by element: the next one with the same id, or `none`
+};
 
 // What lists of all types share: everything but the type. It is compiled once, which spares the page a
 // quarter of its program.
@@ -45,8 +57,9 @@ class ListBase {
   };
 
   explicit ListBase(const ElementOperations& operations) : operations_(&operations) {}
-  // A copy is new to the store, wherever it came from: it is saved whole. So is a list that is moved into,
-  // which is why there is no move of its own: pieces belong to the key that they are stored under.
+  // A copy is new to the store, wherever it came from: it is saved whole, in the pieces of the list that it
+  // is a copy of. So is a list that is moved into, which is why there is no move of its own: pieces belong to
+  // the key that they are stored under.
   ListBase(const ListBase& other);
   ListBase& operator=(const ListBase& other);
   ~ListBase();
@@ -59,6 +72,12 @@ class ListBase {
   void pop_back() { erase_at(size() - 1); }
   void clear();
 
+  // Where the first element stands whose integer at `field` bytes is `id`, and the next such one behind
+  // `index`; nothing when there is none. Fast in long lists. An id never changes while its element is in a
+  // list. For find() in core/find.h.
+  [[nodiscard]] std::optional<std::size_t> firstWithId(std::size_t field, std::int64_t id) const;
+  [[nodiscard]] std::optional<std::size_t> nextWithId(std::size_t field, std::size_t index) const;
+
   // --- For saving and loading (core/save.h); rules have no use for what follows. ---
 
   [[nodiscard]] const void* element(std::size_t index) const { return slots_[index].element; }
@@ -67,6 +86,9 @@ class ListBase {
   // True when every stored piece of this list has to be forgotten before the changes are stored: the list
   // was replaced as a whole, or what the store holds could not be read.
   [[nodiscard]] bool replacesStored() const { return replaces_stored_; }
+
+  // False when nothing was done to the list since it was loaded or last saved.
+  [[nodiscard]] bool changed() const { return changed_; }
 
   // The pieces that changed since changesSaved(), front to back. An empty list that replaces the stored one
   // has no changes.
@@ -109,12 +131,18 @@ class ListBase {
   };
 
   Piece& pieceOf(std::int64_t number);
+  [[nodiscard]] std::int64_t idAt(std::size_t field, std::size_t index) const;
+  [[nodiscard]] bool indexIds(std::size_t field) const;
+  [[nodiscard]] std::optional<std::size_t> walkToId(std::size_t field, std::int64_t id,
+                                                    std::size_t from) const;
   void copyElements(const ListBase& other);
   void destroyElements();
 
   const ElementOperations* operations_;
   Slots slots_;
   std::deque<Piece> pieces_;  // by rising number
+  mutable IdIndex ids_;
+  bool changed_ = false;
   bool replaces_stored_ = true;
 };
 

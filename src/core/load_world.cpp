@@ -1,5 +1,7 @@
 #include "core/load_world.h"
 
+#include <memory>
+
 #include "core/career_start.h"
 #include "core/save.h"
 
@@ -7,18 +9,20 @@ namespace tb {
 
 namespace {
 
-void loadAll(Game& game, Load wanted) {
-  for (const Variable& variable : variables) {
-    if (variable.load == wanted) loadVariables(game, {{&variable}});
-  }
+// In place, not by assignment: a list that was assigned to counts as changed.
+void startOver(WorldState& world) {
+  std::destroy_at(&world);
+  std::construct_at(&world);
 }
 
 }  // namespace
 
 void loadWorld(Game& game) {
-  game.world = WorldState{};
-  loadAll(game, Load::atStart);
-  loadAll(game, Load::lists);
+  startOver(game.world);
+  startOver(game.stored);
+  for (const Variable& variable : variables()) {
+    if (variable.load == Load::atStart) loadVariable(game, variable);
+  }
   ensureBasicNeeds(game);
   normaliseAgentFanBonus(game);
 }

@@ -17,11 +17,7 @@
 #include <variant>
 #include <vector>
 
-namespace tb {
-
-using Bytes = std::vector<std::byte>;
-
-}  // namespace tb
+#include "core/plain_types.h"
 
 namespace tb::plist {
 
@@ -29,18 +25,6 @@ struct Value;
 
 using Array = std::vector<Value>;
 using Dictionary = std::vector<std::pair<std::string, Value>>;  // in the order written; no key twice
-
-// Raw bytes, such as an encoded record list.
-struct Data {
-  Bytes bytes;
-  bool operator==(const Data&) const = default;
-};
-
-// Seconds since 2001-01-01 00:00:00 UTC, the format's own epoch.
-struct Date {
-  double seconds = 0;
-  bool operator==(const Date&) const = default;
-};
 
 struct Value {
   // Integers above the signed 64-bit range are outside the game's numbers; the reader refuses them.

@@ -19,7 +19,7 @@
 #include "core/property_list.h"
 #include "core/property_list_objects.h"
 #include "core/property_list_writer.h"
-#include "core/records/fields.h"
+#include "core/record_fields.h"
 #include "core/value_conversion.h"
 #include "core/value_type.h"
 

@@ -10,6 +10,7 @@
 
 #include "core/debug_log.h"
 #include "core/record_codec.h"
+#include "core/save_store.h"
 #include "core/value_conversion.h"
 
 namespace tb {
@@ -18,43 +19,8 @@ namespace {
 
 using Form = ValueType::Form;
 
-void* memberOf(WorldState& world, const Variable& variable) {
-  return reinterpret_cast<std::byte*>(&world) + variable.offset;
-}
-
-// A list stands where what it shares with all others stands.
-static_assert(std::is_standard_layout_v<RealList> && sizeof(RealList) == sizeof(ListBase));
-
-ListBase& listOf(WorldState& world, const Variable& variable) {
-  return *static_cast<ListBase*>(memberOf(world, variable));
-}
-
 Shape shapeOf(const Variable& list) {
   return list.type->form == Form::record ? Shape::recordList : Shape::plainList;
-}
-
-// Calls visit(value) with the variable, as what it is. Plain variables are of six types.
-template <class Visit>
-auto visitPlain(Form form, void* value, Visit visit) {
-  switch (form) {
-    case Form::boolean:
-      return visit(*static_cast<bool*>(value));
-    case Form::integer:
-      return visit(*static_cast<std::int64_t*>(value));
-    case Form::real:
-      return visit(*static_cast<double*>(value));
-    case Form::text:
-      return visit(*static_cast<std::string*>(value));
-    case Form::data:
-      return visit(*static_cast<plist::Data*>(value));
-    case Form::date:
-      return visit(*static_cast<plist::Date*>(value));
-    case Form::optional:
-    case Form::list:
-    case Form::record:
-      break;  // no variable is of such a type
-  }
-  std::unreachable();
 }
 
 // --- Saving ---
@@ -65,7 +31,9 @@ Bytes encodePiece(const ValueType& type, const ListBase& list, std::size_t first
   return encoder.finish();
 }
 
-void saveList(SaveStore& store, const Variable& variable, ListBase& list) {
+// Says whether the list had changed.
+bool saveList(SaveStore& store, const Variable& variable, ListBase& list) {
+  if (!list.changed()) return false;
   // Changes can only be added to pieces that are there.
   const Shape shape = shapeOf(variable);
   const SaveStore::Entry* const stored = store.entry(variable.key);
@@ -74,7 +42,6 @@ void saveList(SaveStore& store, const Variable& variable, ListBase& list) {
   std::vector<SaveStore::PieceWrite> writes;
   if (list.empty()) {
     // An empty list is one empty piece, so that the key is there.
-    if (!list.replacesStored() && changes.empty()) return;
     writes.push_back({.piece = 0, .bytes = encodePiece(*variable.type, list, 0, 0)});
     store.putPieces(variable.key, shape, true, std::move(writes));
   } else {
@@ -86,6 +53,18 @@ void saveList(SaveStore& store, const Variable& variable, ListBase& list) {
     store.putPieces(variable.key, shape, list.replacesStored(), std::move(writes));
   }
   list.changesSaved();
+  return true;
+}
+
+// Says whether the variable had changed.
+bool savePlain(Game& game, const Variable& variable) {
+  return visitPlain(variable.type->form, memberOf(game.world, variable), [&]<class T>(const T& value) {
+    T& stored = *static_cast<T*>(memberOf(game.stored, variable));
+    if (value == stored) return false;
+    game.store.put(variable.key, toValue(value));
+    stored = value;
+    return true;
+  });
 }
 
 // --- Loading ---
@@ -149,44 +128,41 @@ LoadFailure loadList(const Variable& variable, const SaveStore::Entry& stored, L
   return failure;
 }
 
-LoadFailure loadPlain(const Variable& variable, const SaveStore::Entry& stored, void* value) {
+LoadFailure loadPlain(Game& game, const Variable& variable, const SaveStore::Entry& stored) {
   if (stored.shape != Shape::plain) return otherKind;
   const auto held = plist::read(stored.pieces.begin()->second);
   if (!held) return std::string(plist::describe(held.error()));
-  return visitPlain(variable.type->form, value, [&]<class T>(T& plain) -> LoadFailure {
-    auto read = valueAs<T>(*held);
-    if (!read) return otherKind;
-    plain = *std::move(read);
-    return std::nullopt;
-  });
+  return visitPlain(variable.type->form, memberOf(game.world, variable),
+                    [&]<class T>(T& value) -> LoadFailure {
+                      auto read = valueAs<T>(*held);
+                      if (!read) return otherKind;
+                      value = *std::move(read);
+                      *static_cast<T*>(memberOf(game.stored, variable)) = value;
+                      return std::nullopt;
+                    });
 }
+
+}  // namespace
 
 // Nothing that a player wrote is lost because this build can't read it.
 void loadVariable(Game& game, const Variable& variable) {
   const SaveStore::Entry* const stored = game.store.entry(variable.key);
   if (stored == nullptr) return;
   const LoadFailure failure = variable.isList ? loadList(variable, *stored, listOf(game.world, variable))
-                                              : loadPlain(variable, *stored, memberOf(game.world, variable));
+                                              : loadPlain(game, variable, *stored);
   if (!failure) return;
   game.store.keepAside(variable.key);
   debugLog(std::string(variable.key) + ": " + *failure);
 }
 
-}  // namespace
-
-void saveVariables(Game& game, std::span<const Variable* const> which) {
-  for (const Variable* const variable : which) {
-    if (variable->isList) {
-      saveList(game.store, *variable, listOf(game.world, *variable));
-    } else {
-      visitPlain(variable->type->form, memberOf(game.world, *variable),
-                 [&](const auto& plain) { game.store.put(variable->key, toValue(plain)); });
-    }
+bool saveChanges(Game& game) {
+  bool any = false;
+  for (const Variable& variable : variables()) {
+    const bool saved = variable.isList ? saveList(game.store, variable, listOf(game.world, variable))
+                                       : savePlain(game, variable);
+    any = any || saved;
   }
-}
-
-void loadVariables(Game& game, std::span<const Variable* const> which) {
-  for (const Variable* const variable : which) loadVariable(game, *variable);
+  return any;
 }
 
 }  // namespace tb

@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "banks/banks.h"
+#include "core/find.h"
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "film/box_office_payouts.h"
 #include "film/fan_gain.h"
 #include "film/film_record.h"
@@ -58,13 +58,12 @@ void takeWeek(const WorldState& world, const Film& film, std::int64_t weeksSince
 // Says what the film took so far.
 double takeWeekInAllMarkets(WorldState& world, const Film& film, std::int64_t weeksSinceRelease) {
   double gross = 0;
-  for (std::size_t index = 0; index < world.saveAllBoxOfficeList.size(); ++index) {
-    if (world.saveAllBoxOfficeList[index].filmId != film.filmId) continue;
+  forEachWith(world.saveAllBoxOfficeList, &BoxOffice::filmId, film.filmId, [&](std::size_t index) {
     BoxOffice& market = world.saveAllBoxOfficeList.edit(index);
     takeWeek(world, film, weeksSinceRelease, market);
     gross += market.totalGross;
     if (market.countryId == domesticMarket) world.chirpId += 1;  // a number goes by, though nothing is posted
-  }
+  });
   return gross;
 }
 
@@ -96,7 +95,6 @@ void openBoxOffice(Game& game, const Audition& project) {
     }
     if (market.countryId == domesticMarket) keepOpeningPost(game, project, gross);
   }
-  save<&WorldState::saveAllBoxOfficeList, &WorldState::chirpId>(game);
 }
 
 void advanceBoxOffice(Game& game, const Audition& project, std::int64_t weeksSinceRelease) {
@@ -107,7 +105,6 @@ void advanceBoxOffice(Game& game, const Audition& project, std::int64_t weeksSin
   gainFansOfTitle(game, project, qualityOf(film), freshness);
   const double gross = takeWeekInAllMarkets(game.world, film, weeksSinceRelease);
   if (weeksSinceRelease == lastWeekOfRun) payStakes(game, film, gross);
-  save<&WorldState::saveAllBoxOfficeList, &WorldState::chirpId>(game);
 }
 
 void postBoxOfficeChirp(Game& game) {
@@ -116,21 +113,19 @@ void postBoxOfficeChirp(Game& game) {
   game.world.openingChirp.clear();
   drawCrowdReach(game.random, post);
   game.world.saveAllChirpList.push_back(std::move(post));
-  save<&WorldState::saveAllChirpList>(game);
 }
 
 void closeBoxOffice(Game& game) {
   for (std::size_t index = 0; index < game.world.saveAllFilmList.size(); ++index) {
     if (isDueToClose(game.world, game.world.saveAllFilmList[index])) closeRun(game, index);
   }
-  save<&WorldState::saveAllFilmList, &WorldState::saveAllBoxOfficeList, &WorldState::activityTracker>(game);
 }
 
 std::optional<double> grossOf(const WorldState& world, std::int64_t filmId) {
   std::optional<double> gross;
-  for (const BoxOffice& market : world.saveAllBoxOfficeList) {
-    if (market.filmId == filmId) gross = gross.value_or(0) + market.totalGross;
-  }
+  const List<BoxOffice>& records = world.saveAllBoxOfficeList;
+  forEachWith(records, &BoxOffice::filmId, filmId,
+              [&](std::size_t index) { gross = gross.value_or(0) + records[index].totalGross; });
   return gross;
 }
 

@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 
+#include "core/find.h"
 #include "film/networks.h"
 
 namespace tb {
@@ -95,13 +96,11 @@ void makeFilm(Game& game, const Audition& project) {
 }
 
 std::size_t filmIndex(const WorldState& world, std::int64_t filmId) {
-  const List<Film>& films = world.saveAllFilmList;
-  return static_cast<std::size_t>(std::ranges::find(films, filmId, &Film::filmId) - films.begin());
+  return find(world.saveAllFilmList, &Film::filmId, filmId).value_or(world.saveAllFilmList.size());
 }
 
 std::size_t filmIndexOfTitle(const WorldState& world, std::string_view title) {
-  const List<Film>& films = world.saveAllFilmList;
-  return static_cast<std::size_t>(std::ranges::find(films, title, &Film::title) - films.begin());
+  return find(world.saveAllFilmList, &Film::title, title).value_or(world.saveAllFilmList.size());
 }
 
 bool isOut(const WorldState& world, const Film& film) {

@@ -4,7 +4,6 @@
 
 #include "banks/banks.h"
 #include "core/house_notices.h"
-#include "core/save.h"
 #include "core/text.h"
 
 namespace tb {
@@ -29,7 +28,6 @@ constexpr std::array<SentenceBanks, 5> sentencesOfLevels = {{
 void rateFilm(Game& game, std::size_t filmIndex, std::int64_t stars) {
   if (game.world.saveAllFilmList[filmIndex].myRating != 0) return;
   game.world.saveAllFilmList.edit(filmIndex).myRating = static_cast<double>(stars);
-  save<&WorldState::saveAllFilmList>(game);
 }
 
 Refusal startReview(Game& game) {
@@ -37,7 +35,6 @@ Refusal startReview(Game& game) {
     return notEnoughEnergy("\nYou don't have the energy to review a title right now.");
   }
   game.world.totalEnergyAvailable -= reviewEnergy;
-  save<&WorldState::totalEnergyAvailable>(game);
   return {};
 }
 
@@ -71,7 +68,6 @@ Refusal submitReview(Game& game, const std::string& title, std::int64_t rating, 
                                         .weekNumber = world.weekNumber,
                                         .yearNumber = world.yearNumber,
                                         .weekNumberForTracking = world.weekNumberForTracking});
-  save<&WorldState::saveAllMovieReviews>(game);
   return {};
 }
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "core/save.h"
-
 namespace tb {
 
 namespace {
@@ -43,7 +41,6 @@ void driftPopularity(Game& game) {
   for (std::size_t index = 0; index < films.size(); ++index) {
     if (drifts(game.world, films[index])) drift(game, films.edit(index));
   }
-  save<&WorldState::saveAllFilmList>(game);
 }
 
 }  // namespace tb

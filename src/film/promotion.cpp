@@ -4,7 +4,6 @@
 
 #include "banks/banks.h"
 #include "core/bands.h"
-#include "core/save.h"
 #include "social/chirps.h"
 
 namespace tb {
@@ -78,8 +77,6 @@ Refusal promoteFilm(Game& game, std::size_t auditionIndex, const Interview& inte
   keepQuote(game.world, project, interview, said);
   project.promoteHypeCount = 1;
   project.hypeRating += static_cast<double>(interview.totalHype);
-  save<&WorldState::saveAllAuditionList, &WorldState::saveAllQuotes, &WorldState::saveAllChirpList,
-       &WorldState::chirpId>(game);
   return {};
 }
 

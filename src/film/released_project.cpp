@@ -1,5 +1,7 @@
 #include "film/released_project.h"
 
+#include <algorithm>
+
 #include "film/box_office.h"
 #include "film/fan_gain.h"
 #include "film/film_record.h"
@@ -14,6 +16,14 @@ constexpr std::int64_t weeksInTheaters = 7;  // after the opening
 
 // A title of this quality keeps exactly the popularity that its hype promised.
 constexpr double qualityAsExpected = 75;
+
+// In weeks after the release; 0 for what is released and has no run.
+std::int64_t lastWeekOfRun(const Audition& project) {
+  if (project.typeOfFilm == filmType::feature) return weeksInTheaters;
+  if (project.typeOfFilm == filmType::series)
+    return std::max<std::int64_t>(project.numberOfEpisodesTotal - 1, 0);
+  return 0;
+}
 
 void publishScores(Game& game, const Audition& project, Film& film) {
   Scores scores = rollScores(game, project);
@@ -45,16 +55,13 @@ void release(Game& game, std::size_t auditionIndex, Film& film) {
 void advanceReleasedProject(Game& game, std::size_t auditionIndex) {
   const Audition& project = game.world.saveAllAuditionList[auditionIndex];
   const std::int64_t weeks = game.world.weekNumberForTracking - project.weekReleased;
+  if (weeks < 0 || weeks > lastWeekOfRun(project)) return;
   const std::size_t film = filmIndex(game.world, project.filmId);
-  if (weeks < 0 || film == game.world.saveAllFilmList.size()) return;
+  if (film == game.world.saveAllFilmList.size()) return;
 
   if (weeks == 0) return release(game, auditionIndex, game.world.saveAllFilmList.edit(film));
-  if (project.typeOfFilm == filmType::feature && weeks <= weeksInTheaters) {
-    advanceBoxOffice(game, project, weeks);
-  }
-  if (project.typeOfFilm == filmType::series && weeks < project.numberOfEpisodesTotal) {
-    advanceSeries(game, project, weeks);
-  }
+  if (project.typeOfFilm == filmType::feature) advanceBoxOffice(game, project, weeks);
+  if (project.typeOfFilm == filmType::series) advanceSeries(game, project, weeks);
 }
 
 }  // namespace tb

@@ -6,9 +6,9 @@
 
 #include "banks/banks.h"
 #include "core/bands.h"
+#include "core/find.h"
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "film/fan_gain.h"
 #include "film/film_record.h"
 #include "film/score_roll.h"
@@ -101,7 +101,6 @@ void premiereSeries(Game& game, const Audition& project) {
   season.adRates = project.hypeRating / 100 / 10 + 0.01 + crewBonus(game, project) / 100;
   game.world.saveAllRatings.push_back(std::move(season));
   logPremiere(game, project, views);
-  save<&WorldState::saveAllRatings>(game);
 }
 
 void advanceSeries(Game& game, const Audition& project, std::int64_t weeksSinceRelease) {
@@ -110,11 +109,8 @@ void advanceSeries(Game& game, const Audition& project, std::int64_t weeksSinceR
   if (at == world.saveAllFilmList.size()) return;
   const Film& film = world.saveAllFilmList[at];
   gainFansOfTitle(game, project, qualityOf(film), 1);
-  const auto season = std::ranges::find(world.saveAllRatings, project.filmId, &Ratings::filmId);
-  if (season == world.saveAllRatings.end()) return;
-  const auto index = static_cast<std::size_t>(season - world.saveAllRatings.begin());
-  airEpisode(game, film, weeksSinceRelease, world.saveAllRatings.edit(index));
-  save<&WorldState::saveAllRatings>(game);
+  const auto season = find(world.saveAllRatings, &Ratings::filmId, project.filmId);
+  if (season) airEpisode(game, film, weeksSinceRelease, world.saveAllRatings.edit(*season));
 }
 
 }  // namespace tb

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "core/save.h"
 #include "core/signed_agent.h"
 
 namespace tb {
@@ -40,22 +39,17 @@ RoyaltyPayout royaltyShare(const WorldState& world, const Film& film, const Proc
           .totalDealGross = proceeds.gross};
 }
 
-void keepPayout(Game& game, EquityPayout payout) {
-  game.world.saveAllEquityPayouts.push_back(payout);
-  save<&WorldState::saveAllEquityPayouts>(game);
-}
+void keepPayout(Game& game, EquityPayout payout) { game.world.saveAllEquityPayouts.push_back(payout); }
 
 void keepPayout(Game& game, RoyaltyPayout payout) {
   creditAgent(game, payout.agentEarnings);
   game.world.saveAllRoyaltyPayouts.push_back(std::move(payout));
-  save<&WorldState::saveAllRoyaltyPayouts>(game);
 }
 
 void creditAgent(Game& game, double commission) {
   const auto agent = signedAgent(game.world);
   if (!agent) return;
   game.world.saveAllTalentAgents.edit(*agent).totalAgentEarnings += commission;
-  save<&WorldState::saveAllTalentAgents>(game);
 }
 
 }  // namespace tb

@@ -5,9 +5,9 @@
 
 #include "banks/banks.h"
 #include "core/ended_week.h"
+#include "core/find.h"
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "film/film_record.h"
 #include "film/syndication_payouts.h"
 
@@ -37,7 +37,6 @@ void announce(Game& game, const Syndication& title, const NetworkDeal& deal) {
   logLine(game.world,
           fill(drawRow(game.random, Bank::syndicationDealBank),
                {{"title", title.filmName}, {"amount", amount}, {"network", deal.network}, {"years", years}}));
-  save<&WorldState::activityTracker>(game);
 }
 
 void bringBackToMind(Game& game, std::size_t filmAt) {
@@ -47,7 +46,6 @@ void bringBackToMind(Game& game, std::size_t filmAt) {
   film.lastWeekPopularity = film.currentPopularity;
   film.currentPopularity =
       film.currentPopularity < hit ? film.currentPopularity + static_cast<double>(years) : allTheTalk;
-  save<&WorldState::saveAllFilmList>(game);
 }
 
 // Any of the bidders wins, the lowest as soon as the highest: what they talk about is not only money.
@@ -104,16 +102,15 @@ double hoursOfReruns(Game& game, const Syndication& title, double lastHours) {
 
 void showReruns(Game& game, const Syndication& title) {
   WorldState& world = game.world;
-  const auto season = std::ranges::find(world.saveAllRatings, title.filmId, &Ratings::filmId);
-  if (season == world.saveAllRatings.end() || season->hoursWatched.empty()) return;
-  if (season->hoursWatched.back() < audienceOfReruns) return;
-  const double hours = hoursOfReruns(game, title, static_cast<double>(season->hoursWatched.back()));
+  const auto season = find(world.saveAllRatings, &Ratings::filmId, title.filmId);
+  if (!season) return;
+  const std::vector<std::int64_t>& watched = world.saveAllRatings[*season].hoursWatched;
+  if (watched.empty() || watched.back() < audienceOfReruns) return;
+  const double hours = hoursOfReruns(game, title, static_cast<double>(watched.back()));
   if (hours <= 0) return;
-  Ratings& counted =
-      world.saveAllRatings.edit(static_cast<std::size_t>(season - world.saveAllRatings.begin()));
+  Ratings& counted = world.saveAllRatings.edit(*season);
   counted.hoursWatched.push_back(static_cast<std::int64_t>(hours));
   counted.weeksTracked.push_back(endedTrackingWeek(world));
-  save<&WorldState::saveAllRatings>(game);
 }
 
 void runWeek(Game& game, Syndication& title) {
@@ -131,7 +128,6 @@ void advanceSyndicationDeals(Game& game) {
     if (isReadyToSign(game.world, titles[index])) sign(game, titles.edit(index));
     if (titles[index].didAcceptOffer) runWeek(game, titles.edit(index));
   }
-  if (!titles.empty()) save<&WorldState::saveAllSyndication>(game);
 }
 
 }  // namespace tb

@@ -8,7 +8,7 @@
 
 #include "core/bands.h"
 #include "core/debug_log.h"
-#include "core/save.h"
+#include "core/find.h"
 #include "film/box_office.h"
 #include "film/networks.h"
 
@@ -55,10 +55,11 @@ double scoresOf(const Film& film) { return film.imbdRating + static_cast<double>
 
 // The part of the first night's audience that was there at the end; nothing for a series that nobody counted.
 std::optional<double> retentionOf(const WorldState& world, const Film& film) {
-  const auto season = std::ranges::find(world.saveAllRatings, film.filmId, &Ratings::filmId);
-  if (season == world.saveAllRatings.end() || season->premiereViews.empty()) return std::nullopt;
-  if (season->premiereViews.front() <= 0) return std::nullopt;
-  return season->premiereViews.back() / season->premiereViews.front();
+  const auto season = find(world.saveAllRatings, &Ratings::filmId, film.filmId);
+  if (!season) return std::nullopt;
+  const std::vector<double>& views = world.saveAllRatings[*season].premiereViews;
+  if (views.empty() || views.front() <= 0) return std::nullopt;
+  return views.back() / views.front();
 }
 
 double worthOfSeries(const WorldState& world, const Film& film) {
@@ -68,7 +69,9 @@ double worthOfSeries(const WorldState& world, const Film& film) {
 }
 
 double worthOfMovie(const WorldState& world, const Film& film) {
-  const double profit = grossOf(world, film.filmId).value_or(0) / film.budget - 1;
+  const bool has_closed = film.boxOfficeGross > 0;
+  const double gross = has_closed ? film.boxOfficeGross : grossOf(world, film.filmId).value_or(0);
+  const double profit = gross / film.budget - 1;
   return (std::max(profit * 0.5, 0.0) + scoresOf(film) / 20) * (film.budget * 0.25);
 }
 
@@ -114,11 +117,6 @@ std::optional<Bid> drawBid(Game& game, const Film& film, bool isFirst) {
 
 // --- The records ---
 
-std::size_t recordIndex(const WorldState& world, std::int64_t filmId) {
-  const List<Syndication>& records = world.saveAllSyndication;
-  return static_cast<std::size_t>(std::ranges::find(records, filmId, &Syndication::filmId) - records.begin());
-}
-
 void enter(const Bid& bid, Syndication& record) {
   record.networkNames.emplace_back(networks[bid.network]);
   record.networkOffers.push_back(bid.price);
@@ -143,33 +141,29 @@ bool hasHadItsRun(const WorldState& world, const Film& film) {
   return is_shown_again && world.weekNumberForTracking - film.weekReleased >= weeksOfFirstRun;
 }
 
-// Says whether there was a bid.
-bool takeBid(Game& game, const Film& film) {
+void takeBid(Game& game, const Film& film) {
   List<Syndication>& records = game.world.saveAllSyndication;
-  const std::size_t at = recordIndex(game.world, film.filmId);
+  const std::size_t at = find(records, &Syndication::filmId, film.filmId).value_or(records.size());
   const bool is_first = at == records.size();
-  if (!is_first && records[at].didAcceptOffer) return false;
+  if (!is_first && records[at].didAcceptOffer) return;
   const auto bid = drawBid(game, film, is_first);
-  if (!bid) return false;
+  if (!bid) return;
   if (is_first) {
     records.push_back(newRecord(game.world, film));
   } else if (std::ranges::contains(records[at].networkNames, networks[bid->network])) {
-    return false;
+    return;
   }
   enter(*bid, records.edit(at));
-  return true;
 }
 
 }  // namespace
 
 void takeSyndicationBids(Game& game) {
-  bool any = false;
   for (const Film& film : game.world.saveAllFilmList) {
     if (!hasHadItsRun(game.world, film)) continue;
     if (RandomUnit(game.random, leastInterest, mostInterest) >= film.currentPopularity) continue;
-    any = takeBid(game, film) || any;
+    takeBid(game, film);
   }
-  if (any) save<&WorldState::saveAllSyndication>(game);
 }
 
 }  // namespace tb

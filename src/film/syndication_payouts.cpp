@@ -7,7 +7,6 @@
 #include "core/guild_dues.h"
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "film/stakes.h"
 
 namespace tb {
@@ -81,7 +80,6 @@ void paySyndicationResidual(Game& game, const Syndication& title) {
                                          .residualsEarned = net,
                                          .yearNumber = world.yearNumber,
                                          .weekNumberForTracking = world.weekNumberForTracking});
-  save<&WorldState::saveAllWeeklyEarnings, &WorldState::workDuesPaidSAG>(game);
 }
 
 }  // namespace tb

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "career/classes.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -32,7 +31,6 @@ void refillEnergy(Game& game) {
   // Whoever holds more than the ceiling keeps the surplus, and is not refilled.
   const std::int64_t full = std::max(world.totalEnergyMax, world.totalEnergyAvailable);
   world.totalEnergyAvailable = std::max<std::int64_t>(full - weeklyEnergyDrain(world), 0);
-  save<&WorldState::totalEnergyAvailable>(game);
 }
 
 void ageEnergyCeiling(WorldState& world) {

@@ -4,7 +4,10 @@
 #include <utility>
 
 #include "core/load_world.h"
+#include "core/save.h"
+#include "core/save_store.h"
 #include "screens/hub/view_controller.h"
+#include "week/end_week.h"
 
 namespace tb {
 
@@ -15,6 +18,7 @@ App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<
     : game_{.store = store, .random = random, .locale = std::move(locale)}, stage_(game_) {
   loadWorld(game_);
   stage_.open(std::move(first));
+  saveChanges(game_);
   endAction();
 }
 
@@ -73,8 +77,17 @@ void App::tell(Notice notice) {
   laid_out_.reset();
 }
 
+void App::saveAndRefresh() {
+  if (!saveChanges(game_)) return;
+  refreshHub(game_, HubRefresh::worldChanged);
+  saveChanges(game_);
+}
+
+// The year turns before the screens that were opened appear, and again after what they did as they appeared.
 void App::endAction() {
+  saveAndRefresh();
   stage_.settle();
+  saveAndRefresh();
   laid_out_.reset();
   if (!game_.store.hasUncommitted()) return;
   if (const auto saved = game_.store.commit(); saved) {

@@ -46,6 +46,7 @@ class App {
  private:
   template <class Kind, class... Values>
   void use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&... values);
+  void saveAndRefresh();
   void endAction();
 
   Game game_;

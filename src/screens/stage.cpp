@@ -1,7 +1,5 @@
 #include "screens/stage.h"
 
-#include "week/end_week.h"
-
 namespace tb {
 
 void Stage::open(std::unique_ptr<Screen> screen) {
@@ -39,8 +37,6 @@ void Stage::ask(Notice question, std::vector<view::Button> answers) {
 void Stage::dismiss() {
   if (!dialogs_.empty()) dialogs_.erase(dialogs_.begin());
 }
-
-void Stage::worldChanged() { refreshHub(game_, HubRefresh::worldChanged); }
 
 void Stage::settle() {
   // Appearing may open a further screen, which then appears in its turn.

@@ -59,9 +59,6 @@ class Stage {
   // Takes the notice on top away; does nothing when there is none.
   void dismiss();
 
-  // Says that a screen changed the state of the game: the hub refreshes, and with it the year.
-  void worldChanged();
-
   // Lets screens that came to the top appear. Ends every action.
   void settle();
 

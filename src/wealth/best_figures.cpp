@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
-#include "core/save.h"
-
 namespace tb {
 
 void keepBestFigures(Game& game) {
   WorldState& world = game.world;
   world.bestNetworth = std::max(world.bestNetworth, static_cast<std::int64_t>(world.saveNetworth));
   world.bestBoxOffice = std::max(world.bestBoxOffice, world.saveBoxOffice);
-  save<&WorldState::bestNetworth, &WorldState::bestBoxOffice>(game);
 }
 
 }  // namespace tb

@@ -4,7 +4,6 @@
 #include "core/guild_dues.h"
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -75,7 +74,6 @@ void payFilming(Game& game) {
     }
   }
   if (world.saveAllWeeklyEarnings.size() == before) return;
-  save<&WorldState::saveAllWeeklyEarnings, &WorldState::activityTracker, &WorldState::workDuesPaidSAG>(game);
 }
 
 }  // namespace tb

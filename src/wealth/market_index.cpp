@@ -1,7 +1,5 @@
 #include "wealth/market_index.h"
 
-#include "core/save.h"
-
 namespace tb {
 
 namespace {
@@ -35,12 +33,8 @@ void move(RandomSource& random, const Corridor& corridor, double& index, RealLis
 
 void moveRealEstateIndex(Game& game) {
   move(game.random, realEstate, game.world.realEstateIndex, game.world.trackRealEstateIndex);
-  save<&WorldState::realEstateIndex, &WorldState::trackRealEstateIndex>(game);
 }
 
-void moveCardIndex(Game& game) {
-  move(game.random, cards, game.world.cardIndex, game.world.trackCardIndex);
-  save<&WorldState::cardIndex, &WorldState::trackCardIndex>(game);
-}
+void moveCardIndex(Game& game) { move(game.random, cards, game.world.cardIndex, game.world.trackCardIndex); }
 
 }  // namespace tb

@@ -1,6 +1,5 @@
 #include "wealth/net_worth.h"
 
-#include "core/save.h"
 #include "platform/share_register.h"
 
 namespace tb {
@@ -72,9 +71,6 @@ NetWorth netWorth(const WorldState& world) {
           .platform = platformStake(world)};
 }
 
-void keepNetWorth(Game& game) {
-  game.world.saveNetworth = netWorth(game.world).total();
-  save<&WorldState::saveNetworth>(game);
-}
+void keepNetWorth(Game& game) { game.world.saveNetworth = netWorth(game.world).total(); }
 
 }  // namespace tb

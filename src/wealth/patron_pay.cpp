@@ -4,7 +4,6 @@
 
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -53,8 +52,6 @@ double payPatron(Game& game) {
                                       .moneyEarned = payment,
                                       .subtitle = "Subscription income from your film reviews"});
   }
-  save<&WorldState::totalPatronEarnings, &WorldState::trackPatronEarnings, &WorldState::activityTracker>(
-      game);
   return payment;
 }
 

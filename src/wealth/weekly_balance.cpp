@@ -5,7 +5,6 @@
 
 #include "core/log.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "film/new_releases.h"
 #include "wealth/filming_pay.h"
 #include "wealth/line_items.h"
@@ -38,7 +37,6 @@ double collectRent(Game& game) {
     let.rentEarned += let.weeklyRent;
     rent += let.weeklyRent;
   }
-  save<&WorldState::saveAllPropertyList>(game);
   return rent;
 }
 
@@ -133,7 +131,6 @@ WeekBalance balanceWeek(Game& game) {
   world.yearToDatePaycheck += world.weeklyJobIncome;
   tellOfResiduals(game, earned.residuals);
   world.totalCashAvailable += balance.income - balance.expenses;
-  save<&WorldState::totalCashAvailable, &WorldState::yearToDatePaycheck, &WorldState::activityTracker>(game);
   return balance;
 }
 

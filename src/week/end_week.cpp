@@ -8,7 +8,6 @@
 #include "career/job_contract.h"
 #include "career/renewals.h"
 #include "core/ended_week.h"
-#include "core/save.h"
 #include "film/box_office.h"
 #include "film/popularity_drift.h"
 #include "film/syndication_deals.h"
@@ -34,8 +33,6 @@ void advanceClock(Game& game) {
   game.world.weekNumber += 1;
   game.world.weekNumberForTracking += 1;
   game.world.saveLastWeekTrackerCount = game.world.lastWeekTrackerCount;
-  save<&WorldState::saveLastWeekTrackerCount, &WorldState::weekNumber, &WorldState::weekNumberForTracking>(
-      game);
 }
 
 void rollYearOver(WorldState& world) {
@@ -94,9 +91,6 @@ void closeSummary(Game& game) {
 
 void refreshHub(Game& game, HubRefresh reason) {
   if (game.world.weekNumber >= weekAfterTheLast) rollYearOver(game.world);
-  save<&WorldState::ageCount, &WorldState::saveAgeLoss, &WorldState::yearNumber,
-       &WorldState::yearToDatePaycheck, &WorldState::saveLastYTDPaycheck, &WorldState::weekNumber,
-       &WorldState::totalEnergyMax>(game);
   putBestFiguresForward(game, reason);
 }
 

@@ -22,7 +22,8 @@ void closeSummary(Game& game);
 
 enum class HubRefresh : std::uint8_t { launch, worldChanged };
 
-// The hub is drawn anew: at launch, and whenever a screen changed the world. The one place where a year ends.
+// The hub is drawn anew: at launch, and after every action that changed the state. The one place where a year
+// ends.
 void refreshHub(Game& game, HubRefresh reason);
 
 }  // namespace tb

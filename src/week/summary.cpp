@@ -3,7 +3,6 @@
 #include "banks/banks.h"
 #include "core/calendar.h"
 #include "core/log.h"
-#include "core/save.h"
 
 namespace tb {
 
@@ -25,7 +24,6 @@ void keepWeeksNet(Game& game) {
   RealList& earnings = game.world.saveWeeklyEarnings;
   earnings.push_back(game.world.weekNetIncome);
   if (earnings.size() > weeksOfEarnings) earnings.pop_front();
-  save<&WorldState::saveWeeklyEarnings>(game);
 }
 
 void closeActivityLog(Game& game) {
@@ -35,7 +33,6 @@ void closeActivityLog(Game& game) {
   if (!something_happened && date.empty()) return;
   if (!something_happened) logActivity(world, "Nothing significant happened this week");
   logActivity(world, date);
-  save<&WorldState::activityTracker>(game);
 }
 
 }  // namespace tb

@@ -32,7 +32,6 @@ TEST_F(AuditionChoices, RehearsalsGetDearerAndEndWithTheNinth) {
   EXPECT_FALSE(boostOf(world, project));
   EXPECT_FALSE(buyBoost(game, 0));
   EXPECT_EQ(project.rehearsalBoostCount, 9);
-  expectSaved<&WorldState::saveAllAuditionList, &WorldState::totalEnergyAvailable>();
 }
 
 TEST_F(AuditionChoices, RehearsalEndsAtAFullRatingAndAfterItsWeek) {
@@ -134,7 +133,6 @@ TEST_F(AuditionChoices, WithdrawingCostsUpToAHundredthOfTheFansAtAnyStage) {
   expectToldInTheLogAlone(
       "You withdrew from \"Saltwater\" after booking the role, and fans are not taking it well — 10 fans "
       "lost.");
-  expectSaved<&WorldState::totalFans, &WorldState::trackFans, &WorldState::saveAllAuditionList>();
   withdrawFromRole(game, 3);  // wrapped: too late
   withdrawFromRole(game, 2);  // gone
   EXPECT_EQ(world.saveAllAuditionList.size(), 2u);

@@ -77,7 +77,6 @@ TEST_F(Talent, ATraitTracksItsPrice) {
   random.range(10, 0);
   EXPECT_FALSE(buyTrait(game, 1));
   EXPECT_EQ(world.talentTrait1, 4);
-  expectSaved<&WorldState::talentTrait1, &WorldState::talentTraitCost1, &WorldState::totalEnergyAvailable>();
 }
 
 TEST_F(Talent, TraitsStopAt100AndAtTheEndOfTheEnergy) {
@@ -219,10 +218,8 @@ TEST_F(Talent, NewScenesAreShotRatedAndReplaceTheLastReel) {
 TEST_F(Talent, ASaveThatLostScoresOfScenesOpensWithTheScenesThatHaveOne) {
   world.newSceneDescriptions = {"a waiter quits", "a queen waits"};
   world.newScenesProduced = {21};
-  save<&WorldState::newSceneDescriptions, &WorldState::newScenesProduced>(game);
   openShowreel(game);
   EXPECT_EQ(world.newSceneDescriptions, (TextList{"a waiter quits"}));
-  store.remove("newSceneDescriptions");
   world.newSceneDescriptions.clear();
   openShowreel(game);
   EXPECT_TRUE(world.newScenesProduced.empty());

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/property_list.h"
-#include "core/records/fields.h"
+#include "core/record_fields.h"
 
 namespace tb {
 

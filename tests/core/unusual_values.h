@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "core/record_fields.h"
 #include "core/world_state.h"
 
 namespace tb::test {

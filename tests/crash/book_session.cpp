@@ -25,6 +25,7 @@ class BookSession : public Session {
       store_.replace(store_.dictionary());
       loadWorld(game_);
     }
+    saveChanges(game_);
     commit();
   }
 
@@ -35,8 +36,6 @@ class BookSession : public Session {
     world.totalFans = number;
     world.totalCashAvailable = static_cast<Real>(number);
     world.myName = "Action " + std::to_string(number);
-    save<&WorldState::weekNumber, &WorldState::totalFans, &WorldState::totalCashAvailable,
-         &WorldState::myName>(game_);
   }
 
   void writeLists(Int number) {
@@ -51,7 +50,6 @@ class BookSession : public Session {
     if (films.size() > 300) films.erase_if([&](const Film&) { return oneIn(2); });
     films.edit(index(films.size())).title = "Recut " + std::to_string(number);
     if (oneIn(3)) films.erase_at(index(films.size()));
-    save<&WorldState::trackFans, &WorldState::activityTracker, &WorldState::saveAllFilmList>(game_);
   }
 
   void commit() {

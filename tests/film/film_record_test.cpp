@@ -6,6 +6,7 @@
 #include <ranges>
 #include <set>
 
+#include "core/fields/career.h"
 #include "film/cast_list.h"
 #include "film/catalogue.h"
 #include "tests/core/unusual_values.h"

@@ -49,7 +49,6 @@ TEST_F(Bids, TheFirstOneOpensARecordAtWhatTheTitleIsWorth) {
             "(filmId 7, filmName Salt Road, filmReleased 31, networkNames [HPO Max], networkOffers [225000], "
             "networkYears [2], networkImages [imbdHpoMax.png], weekOfFirstOffer 60, payment 9000, "
             "residualRate 0.02, royaltyRate 1.5, sourceId 4)");
-  expectSaved<&WorldState::saveAllSyndication>();
 }
 
 TEST_F(Bids, AFilmThatLostMoneyIsWorthItsScoresAndASeriesTheAudienceThatItKept) {

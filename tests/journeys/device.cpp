@@ -44,7 +44,7 @@ void Device::begin(const std::function<void(WorldState&)>& prepare) {
   game.world.myName = "Ada Quinn";
   game.world.enterPlayerDetails = 1;
   prepare(game.world);
-  forEachVariable([&]<auto Member>(const auto&, const auto&, Load) { save<Member>(game); });
+  saveChanges(game);
   EXPECT_TRUE(store.commit());
   launch();
 }

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "core/records/fields.h"
-
 namespace tb {
 
 // Audition::typeOfFilm, and the same field wherever a title is spoken of.
@@ -88,14 +86,6 @@ struct Audition {
   std::int64_t franchiseId = -1;  // id of the saga; -1 when none
   bool operator==(const Audition&) const = default;
 };
-RECORD_FIELDS(Audition, filmId, imageString, typeOfFilm, isPrincipal, isUnion, title, description,
-              roleDescription, genres, role, characterName, numberOfEpisodesActed, numberOfEpisodesTotal,
-              parentSeriesFilmId, isContinued, seasonNumber, submittedYear, workYear, weekSubmitted,
-              weekAudition, weekToWork, weekReleased, payment, buyout, residual, royalty, budget, source,
-              sourceId, funnelStage, funnelStageSent, didBribe, rehearsalRating, rehearsalBoostCount,
-              performanceRating, performanceBoostCount, promoteHypeCount, hypeRating, auditionDifficulty,
-              directorRating, directorName, writerName, writerRating, didNegotiate, didAct, equityPercentage,
-              equityDollarsInvested, franchise, franchiseId);
 
 // A class signed up for. It stays in the list as done when weeksRemaining reaches 0.
 struct ActingClass {
@@ -109,8 +99,6 @@ struct ActingClass {
   std::int64_t yearStarted = 0;
   bool operator==(const ActingClass&) const = default;
 };
-RECORD_FIELDS(ActingClass, classId, energyCost, weeksTotal, weeksRemaining, experience, level, cost,
-              yearStarted);
 
 // An agent who offered to represent the performer. At most one is signed.
 struct TalentAgent {
@@ -139,17 +127,12 @@ struct TalentAgent {
   double totalAgentEarnings = 0;
   bool operator==(const TalentAgent&) const = default;
 };
-RECORD_FIELDS(TalentAgent, id, name, agency, typeOfAgent, image, commissionPercentage, residualBonus,
-              royaltyBonus, negotiationBonus, rating, fanBonus, maxBudget, weekSigned, contractYears,
-              weekContractEnds, penaltyForBreakingContract, yearSigned, bookingRequirement, relationship,
-              isSigned, weekToSendAudition, bookings, totalAgentEarnings);
 
 // A business manager. The save format has a list of them; no rule makes one, and the list is always empty.
 struct Manager {
   std::int64_t id = 0;
   bool operator==(const Manager&) const = default;
 };
-RECORD_FIELDS(Manager, id);
 
 // The project that an e-mail offers to an investor, or to an actor who takes a stake. In memory only: made
 // when its screen is first opened, and the same whenever it is opened again.

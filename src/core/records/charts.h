@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "core/records/fields.h"
-
 namespace tb {
 
 // A place on the weekly chart.
@@ -36,9 +34,6 @@ struct TopTen {
   std::string description;
   bool operator==(const TopTen&) const = default;
 };
-RECORD_FIELDS(TopTen, filmId, title, director, totalViews, totalWeeklyViews, duration, rankLastWeek,
-              rankThisWeek, weeksOnChart, peakPosition, yearDebut, weekNumber, weeksAtOne, longestWeekOnChart,
-              currentPopularity, lastWeekPopularity, imageString, description);
 
 // A title's dealings with networks. The four lists of bids run in step; so do the three of finished deals.
 struct Syndication {
@@ -65,10 +60,6 @@ struct Syndication {
   std::int64_t sourceId = 0;
   bool operator==(const Syndication&) const = default;
 };
-RECORD_FIELDS(Syndication, filmId, filmName, filmType, filmReleased, networkNames, networkOffers,
-              networkYears, networkImages, didAcceptOffer, networkIndexWon, weekOfFirstOffer, weekStarted,
-              weeksRemaining, totalEarnings, networkNameSigned, networkOfferSigned, networkYearSigned,
-              payment, residualRate, royaltyRate, sourceId);
 
 // A nomination, its outcome already settled.
 struct Award {
@@ -88,7 +79,5 @@ struct Award {
   std::string description;
   bool operator==(const Award&) const = default;
 };
-RECORD_FIELDS(Award, id, awardOptionId, filmId, filmType, filmTitle, seasonNumber, nameOfAward, awardShow,
-              yearAwarded, name, isWinner, otherNomineeNames, otherNomineeFilm, description);
 
 }  // namespace tb

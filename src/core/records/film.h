@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "core/property_list.h"
-#include "core/records/fields.h"
 
 namespace tb {
 
@@ -65,13 +64,6 @@ struct Film {
   std::optional<plist::Data> customPosterData;  // always absent: no rule makes a poster
   bool operator==(const Film&) const = default;
 };
-RECORD_FIELDS(Film, filmId, imageString, typeOfFilm, role, isPrincipal, title, movieDescription, cast, genres,
-              featuredReviews, didWriteReview, characterName, ageRating, lengthMinutes, numberOfEpisodes,
-              parentSeriesId, directorName, writerName, yearReleased, yearsRunning, weekReleased, weekEnded,
-              budget, boxOfficeGross, imbdRating, numImbdRatings, imbdMetascore, numMetascoreRatings,
-              currentPopularity, lastWeekPopularity, payment, residualRate, royaltyRate, sourceId, parentId,
-              seasonNumber, sequelNumber, myRating, didAct, equityPercentage, equityDollarsInvested,
-              numOfTheatres, franchise, franchiseId, debutNetwork, debutImageString, customPosterData);
 
 // A feature film's run in one market.
 struct BoxOffice {
@@ -88,8 +80,6 @@ struct BoxOffice {
   std::int64_t numOfTheatres = -1;
   bool operator==(const BoxOffice&) const = default;
 };
-RECORD_FIELDS(BoxOffice, filmId, countryId, countryName, title, year, weekNumberForTracking, openingWeekend,
-              totalGross, boxOfficeWeeklyEarnings, weeksTracked, numOfTheatres);
 
 // The viewing history of a series' season; no review score.
 struct Ratings {
@@ -105,8 +95,6 @@ struct Ratings {
   double adRates = 0;
   bool operator==(const Ratings&) const = default;
 };
-RECORD_FIELDS(Ratings, filmId, parentSeriesId, seasonNumber, title, year, weekNumberForTracking,
-              premiereViews, hoursWatched, weeksTracked, adRates);
 
 // A review that the player wrote. Newest first.
 struct MovieReview {
@@ -118,7 +106,6 @@ struct MovieReview {
   std::int64_t weekNumberForTracking = 0;
   bool operator==(const MovieReview&) const = default;
 };
-RECORD_FIELDS(MovieReview, title, review, rating, weekNumber, yearNumber, weekNumberForTracking);
 
 // A press line that the player gave in a promotion.
 struct Quote {
@@ -129,7 +116,6 @@ struct Quote {
   std::string question;
   bool operator==(const Quote&) const = default;
 };
-RECORD_FIELDS(Quote, filmId, filmName, character, quote, question);
 
 // A critic's card on the new-release screen. In memory only.
 struct MetReview {

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "core/records/fields.h"
-
 namespace tb {
 
 // Matches::relationshipState. The partner is the first record from `dating` up.
@@ -52,11 +50,6 @@ struct Matches {
   std::int64_t timeToBirth = -1;       // weeks left of a pregnancy; -1 when none runs
   bool operator==(const Matches&) const = default;
 };
-RECORD_FIELDS(Matches, matchId, name, matchImage, matchPrompt, matchPromptResponse, matchComment, occupation,
-              weekMatched, weekStartedDating, weekEndedDating, energyBonus, relationshipStatus, age,
-              chemistry, beauty, intelligence, personality, maintenance, weeklyEarnings, igFollowers,
-              interests, interested, pickupLineResponse, breakupLine, relationshipState, timeToPropose,
-              timeToBirth);
 
 struct Child {
   std::int64_t id = 0;
@@ -88,9 +81,5 @@ struct Child {
   std::string extraTwo;  // always empty
   bool operator==(const Child&) const = default;
 };
-RECORD_FIELDS(Child, id, name, gender, birthYear, birthWeek, birthWeekForTracking, relationship, partnerName,
-              artistName, weeklyEnergyCost, weeklyFinancialCost, imageString, occupation, songWriting,
-              virality, vocals, rhythm, charisma, totalEnergyMax, admiration, weeklyAdmirationLoss, followers,
-              typeOfRelationship, ageofDeath, causeOfDeath, relationshipTracker, extraTwo);
 
 }  // namespace tb

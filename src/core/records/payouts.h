@@ -6,8 +6,6 @@
 #include <cstdint>
 #include <string>
 
-#include "core/records/fields.h"
-
 namespace tb {
 
 // RoyaltyPayout::typeOfPayment and EquityPayout::typeOfPayment.
@@ -30,8 +28,6 @@ struct WeeklyEarnings {
   std::int64_t weekNumberForTracking = 0;
   bool operator==(const WeeklyEarnings&) const = default;
 };
-RECORD_FIELDS(WeeklyEarnings, filmId, filmTitle, filmType, sessionEarned, buyoutEarned, residualsEarned,
-              royaltyEarned, earningDescription, yearNumber, weekNumberForTracking);
 
 struct RoyaltyPayout {
   std::int64_t id = 0;  // filmId + 100
@@ -48,8 +44,6 @@ struct RoyaltyPayout {
   std::string syndicationName;        // empty for box office
   bool operator==(const RoyaltyPayout&) const = default;
 };
-RECORD_FIELDS(RoyaltyPayout, id, filmId, title, yearNumber, weekNumberForTracking, payout, typeOfPayment,
-              sourceId, agentEarnings, totalDealGross, syndicationYears, syndicationName);
 
 struct EquityPayout {
   std::int64_t id = 0;  // filmId + 100
@@ -62,7 +56,5 @@ struct EquityPayout {
   double managerEarnings = 0;      // -1 for box office of the player's own production, else 0
   bool operator==(const EquityPayout&) const = default;
 };
-RECORD_FIELDS(EquityPayout, id, filmId, yearNumber, weekNumberForTracking, payOut, typeOfPayment, sourceId,
-              managerEarnings);
 
 }  // namespace tb

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "core/records/fields.h"
-
 namespace tb {
 
 // One of the executive team. Who leaves stays in the list, and stays a shareholder.
@@ -29,8 +27,6 @@ struct Employee {
   std::int64_t yearEnded = stillActive;
   bool operator==(const Employee&) const = default;
 };
-RECORD_FIELDS(Employee, id, name, salary, department, imageString, originalRating, rating, motiviation,
-              yearSigned, weekSigned, sharesOwned, energyBoost, yearEnded);
 
 // A tier of technology that the company owns, one a category.
 struct StreamingTechUpgrade {
@@ -46,8 +42,6 @@ struct StreamingTechUpgrade {
   double bonus = 0;  // rolled at purchase, on top of that of the tier replaced
   bool operator==(const StreamingTechUpgrade&) const = default;
 };
-RECORD_FIELDS(StreamingTechUpgrade, uniqueId, title, categoryId, category, tier, cost, weeklyCost,
-              requiredSubscribers, description, bonus);
 
 // A capital raise. Open while the deadline lies ahead and nobody has invested; its shares count from then on.
 struct FundraisingRound {
@@ -63,8 +57,6 @@ struct FundraisingRound {
   std::int64_t weeksToClose = 0;  // the week of the deadline, in spite of its name
   bool operator==(const FundraisingRound&) const = default;
 };
-RECORD_FIELDS(FundraisingRound, id, equityOffered, valuationOffered, cashOffered, sharesToIssue, interest,
-              investorName, investorAmount, investorValuation, weeksToClose);
 
 // RivalPlatform::status.
 namespace rivalStatus {
@@ -87,8 +79,6 @@ struct RivalPlatform {
   std::int64_t status = 0;           // rivalStatus
   bool operator==(const RivalPlatform&) const = default;
 };
-RECORD_FIELDS(RivalPlatform, id, name, subscribers, weeklyRevenue, weeklyCosts, cashOnHand,
-              infrastructureValue, growthRate, sharesOutstanding, specialty, priceHistory, status);
 
 // The company's shares in a rival.
 struct RivalHolding {
@@ -97,6 +87,5 @@ struct RivalHolding {
   double costBasis = 0;
   bool operator==(const RivalHolding&) const = default;
 };
-RECORD_FIELDS(RivalHolding, rivalId, shares, costBasis);
 
 }  // namespace tb

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "core/records/fields.h"
-
 namespace tb {
 
 // SharkBoxDeal::exitType.
@@ -31,7 +29,6 @@ struct SharkBoxRound {
   bool isDown = false;  // valued below the round before
   bool operator==(const SharkBoxRound&) const = default;
 };
-RECORD_FIELDS(SharkBoxRound, name, week, valuation, dilution, isDown);
 
 struct SharkBoxDeal {
   std::int64_t id = 0;
@@ -65,10 +62,5 @@ struct SharkBoxDeal {
   std::int64_t grossMargin = 0;  // percent
   bool operator==(const SharkBoxDeal&) const = default;
 };
-RECORD_FIELDS(SharkBoxDeal, id, productName, tagline, category, colorSeed, founderName, founderTitle,
-              founderMonogram, founderImage, askAmount, askEquity, investedAmount, equity, weekAccepted,
-              rounds, roundsResolved, stakeHistory, lastOfferedRound, exitWeek, exitType, exitMultiple,
-              status, realizedCash, weekLastViewed, modelVersion, quality, ttmRevenue, growthPct,
-              grossMargin);
 
 }  // namespace tb

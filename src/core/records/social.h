@@ -6,7 +6,6 @@
 #include <string>
 
 #include "core/property_list.h"
-#include "core/records/fields.h"
 
 namespace tb {
 
@@ -31,9 +30,6 @@ struct Chirp {
   std::int64_t filmId = -1;        // the title that it speaks of; -1 when none
   bool operator==(const Chirp&) const = default;
 };
-RECORD_FIELDS(Chirp, id, artistId, chirpName, message, isPinned, weekNumberForTracking, yearNumber,
-              commentCount, reChirpCount, likeCount, news, imageString, typeOfAccount, timestamp,
-              filmResponse, filmId);
 
 // Email::typeOfDeal.
 namespace deal {
@@ -63,8 +59,6 @@ struct Email {
   std::int64_t weekNumberForTracking = 0;
   bool operator==(const Email&) const = default;
 };
-RECORD_FIELDS(Email, id, typeOfDeal, title, message, connectingId, isAccepted, weekNumber, yearNumber,
-              weekNumberForTracking);
 
 // One week of cameo sales.
 struct Cameos {
@@ -75,6 +69,5 @@ struct Cameos {
   double averageRating = 0;  // 4.5 to 5
   bool operator==(const Cameos&) const = default;
 };
-RECORD_FIELDS(Cameos, weekNumberForTracking, yearNumber, numberOfPurchases, totalPriceEarned, averageRating);
 
 }  // namespace tb

@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "core/records/fields.h"
-
 namespace tb {
 
 // A recurring weekly item.
@@ -24,7 +22,6 @@ struct WeeklyLineItem {
   std::int64_t energyBoost = 0;    // what it adds to totalEnergyMax while held
   bool operator==(const WeeklyLineItem&) const = default;
 };
-RECORD_FIELDS(WeeklyLineItem, category, title, amount, year, isExpense, typeOfExpense, energyBoost);
 
 // A tile of the weekly summary. In memory only.
 struct Analytics {
@@ -61,9 +58,6 @@ struct Property {
   std::int64_t energyBonus = 0;        // added to totalEnergyMax while it is the residence
   bool operator==(const Property&) const = default;
 };
-RECORD_FIELDS(Property, propertyTitle, propertyId, propertyLocation, pricePaid, realEstateIndex, bedrooms,
-              bathrooms, sqft, acres, propertyTax, weeklyRent, rentEarned, rentalWeeksRemaining, propertyType,
-              imageName, transactionFee, isPrimary, upgradesCost, upgrades, desirability, energyBonus);
 
 // A vehicle, boat or plane that the player owns.
 struct Transportation {
@@ -79,8 +73,6 @@ struct Transportation {
   std::int64_t energyBonus = 0;  // added to totalEnergyMax while it is the primary one
   bool operator==(const Transportation&) const = default;
 };
-RECORD_FIELDS(Transportation, title, id, pricePaid, economyIndex, transportationType, weeklyCost, imageName,
-              yearPurchased, isPrimary, energyBonus);
 
 // A collectible card in the vault. Its value now is valueAtPull · (the market index / its own).
 struct MyCard {
@@ -101,8 +93,6 @@ struct MyCard {
   double odds = 0;       // the percent chance shown
   bool operator==(const MyCard&) const = default;
 };
-RECORD_FIELDS(MyCard, cert, title, type, number, year, imageString, isHolo, isRare, isEnglish, isFirst, grade,
-              cost, valueAtPull, cardIndex, odds);
 
 struct CardTransactions {
   std::int64_t cert = 0;
@@ -119,7 +109,5 @@ struct CardTransactions {
   double salePrice = 0;
   bool operator==(const CardTransactions&) const = default;
 };
-RECORD_FIELDS(CardTransactions, cert, name, weekNumberForTracking, yearNumber, weekNumber, type, cost, resale,
-              rarity, cardIndex, imageString, salePrice);
 
 }  // namespace tb

@@ -16,7 +16,6 @@ void submit(Stage& stage, const CastingListing& listing) {
   stage.show(Notice{
       .title = "🎬 Sent 🎬",
       .message = std::format("\nYour headshot and showreel are on their way to {}.", listing.movie->title)});
-  stage.worldChanged();
 }
 
 }  // namespace

@@ -72,7 +72,6 @@ Choice EnterPlayerDetailsViewController::headshots(const Game& game) {
 
 void EnterPlayerDetailsViewController::confirm(Stage& stage) {
   if (Refusal refusal = confirmNewCareer(stage.game(), form_)) return stage.show(std::move(refusal));
-  stage.worldChanged();
   stage.close();
 }
 

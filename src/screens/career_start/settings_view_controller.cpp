@@ -11,7 +11,6 @@ namespace {
 
 void restart(Stage& stage) {
   restartCareer(stage.game());
-  stage.worldChanged();
   stage.close();
 }
 

@@ -22,7 +22,6 @@ void PromoteFilmViewController::post(Stage& stage) {
       .title = "🎤 That's a Take 🎤",
       .message = std::format("\nYour interview on {} added {} to the hype for {}.", interview_.talkShow,
                              interview_.totalHype, stage.game().world.saveAllAuditionList[audition_].title)});
-  stage.worldChanged();
   stage.close();
 }
 

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "core/calendar.h"
-#include "core/save.h"
 #include "screens/backstage/backstage_view_controller.h"
 #include "screens/career_start/enter_player_details_view_controller.h"
 #include "screens/career_start/settings_view_controller.h"
@@ -15,10 +14,7 @@
 
 namespace tb {
 
-void ViewController::load(Stage& stage) {
-  tb::load<&WorldState::headshotImage>(stage.game());
-  refreshHub(stage.game(), HubRefresh::launch);
-}
+void ViewController::load(Stage& stage) { refreshHub(stage.game(), HubRefresh::launch); }
 
 void ViewController::appear(Stage& stage) {
   if (stage.game().world.enterPlayerDetails == 0) {
@@ -38,7 +34,6 @@ void ViewController::show(Stage& stage, Tab tab) {
 void ViewController::endWeekButton(Stage& stage) {
   endWeek(stage.game());
   stage.open(std::make_unique<WeeklySummaryViewController>());
-  stage.worldChanged();
 }
 
 view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {

@@ -70,7 +70,6 @@ void askForRating(Stage& stage, const std::string& title, std::int64_t filmId) {
     answers.push_back(
         {.label = std::format("{} {}", stars, starsOf(stars)), .press = [filmId, stars](Stage& asked) {
            rateFilm(asked.game(), filmIndex(asked.game().world, filmId), stars);
-           asked.worldChanged();
          }});
   }
   answers.push_back({.label = "Cancel", .weight = Button::Weight::quiet});

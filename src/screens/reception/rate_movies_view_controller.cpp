@@ -36,7 +36,6 @@ void RateMoviesViewController::submit(Stage& stage) {
                     .message = std::format("\nYour fans can read your review of {}. You have written {} in "
                                            "all.",
                                            title_->title, reviews)});
-  stage.worldChanged();
   stage.close();
 }
 
@@ -62,7 +61,6 @@ Page RateMoviesViewController::view(const Game&) {
 
 void openReview(Stage& stage) {
   if (Refusal refusal = startReview(stage.game())) return stage.show(std::move(refusal));
-  stage.worldChanged();
   stage.open(std::make_unique<RateMoviesViewController>());
 }
 

@@ -46,7 +46,6 @@ void ActingClassesViewController::signUp(Stage& stage, const ClassOption& option
   stage.show(Notice{.title = "🎭 Signed Up 🎭",
                     .message = std::format("\n{} begins this week and runs for {} weeks.",
                                            nameOf(*option.offered), option.weeks)});
-  stage.worldChanged();
 }
 
 Card ActingClassesViewController::optionCard(const Game& game, const ClassOption& option) {

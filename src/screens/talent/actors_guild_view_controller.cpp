@@ -5,7 +5,6 @@
 
 #include "career/guild.h"
 #include "core/number_style.h"
-#include "core/save.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -14,10 +13,7 @@ using namespace view;
 
 namespace {
 
-void join(Stage& stage) {
-  stage.show(joinGuild(stage.game()));
-  stage.worldChanged();
-}
+void join(Stage& stage) { stage.show(joinGuild(stage.game())); }
 
 Card membersCard(const Game& game) {
   const WorldState& world = game.world;
@@ -48,10 +44,7 @@ Section wayIn(const Game& game, std::int64_t eligibility) {
 
 }  // namespace
 
-void ActorsGuildViewController::load(Stage& stage) {
-  tb::load<&WorldState::memberSince>(stage.game());
-  eligibility_ = guildEligibility(stage.game().world);
-}
+void ActorsGuildViewController::load(Stage& stage) { eligibility_ = guildEligibility(stage.game().world); }
 
 Page ActorsGuildViewController::view(const Game& game) {
   Page page{.title = "Actor's Guild"};

@@ -20,7 +20,6 @@ void ShowreelFootageViewController::build(Stage& stage) {
     return stage.show(std::move(refusal));
   }
   chosen_->filmIds.clear();
-  stage.worldChanged();
   stage.close();
 }
 

@@ -42,7 +42,6 @@ void ShowreelViewController::produce(Stage& stage) {
   stage.show(
       Notice{.title = "🎬 That's a Wrap 🎬",
              .message = std::format("\nYour new showreel is rated {}.", stage.game().world.showreelScore)});
-  stage.worldChanged();
 }
 
 Section ShowreelViewController::footage() const {

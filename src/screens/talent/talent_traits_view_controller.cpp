@@ -20,11 +20,7 @@ std::string whyNot(const WorldState& world, const Trait& trait) {
 Button trainButton(const WorldState& world, int k) {
   const Trait& trait = traits[static_cast<std::size_t>(k - 1)];
   return {.label = std::format("Train to {}", nextValue(world, trait)),
-          .press =
-              [k](Stage& stage) {
-                stage.show(buyTrait(stage.game(), k));
-                stage.worldChanged();
-              },
+          .press = [k](Stage& stage) { stage.show(buyTrait(stage.game(), k)); },
           .price = energyPrice(world.*trait.price),
           .offReason = whyNot(world, trait)};
 }

@@ -67,7 +67,6 @@ void boost(Stage& stage, std::int64_t filmId, BoostKind kind) {
   const auto index = auditionIndex(stage.game().world, filmId);
   if (!index) return;
   if (Refusal refusal = buyBoost(stage.game(), *index)) return stage.show(std::move(refusal));
-  stage.worldChanged();
   if (kind == BoostKind::promote) stage.open(std::make_unique<PromoteFilmViewController>());
 }
 
@@ -75,12 +74,10 @@ void bribe(Stage& stage, std::int64_t filmId) {
   const auto index = auditionIndex(stage.game().world, filmId);
   if (!index) return;
   stage.show(bribeCastingDirector(stage.game(), *index));
-  stage.worldChanged();
 }
 
 void withdraw(Stage& stage, std::int64_t filmId) {
   withdrawFromRole(stage.game(), filmId);
-  stage.worldChanged();
   stage.close();
 }
 

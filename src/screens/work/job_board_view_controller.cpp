@@ -26,7 +26,6 @@ void JobBoardViewController::load(Stage& stage) { board_ = openJobBoard(stage.ga
 
 void JobBoardViewController::accept(Stage& stage, const JobOffer& offer) {
   if (Refusal refusal = acceptJob(stage.game(), offer)) return stage.show(std::move(refusal));
-  stage.worldChanged();
 }
 
 Card JobBoardViewController::offerCard(const Game& game, const JobOffer& offer) {

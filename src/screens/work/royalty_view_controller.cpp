@@ -45,7 +45,6 @@ void RoyaltyViewController::negotiate(Stage& stage) {
   StakeAnswer answer = negotiateStake(stage.game(), email_, steps_);
   stage.show(std::move(answer.notice));
   if (!answer.isFinal) return;
-  stage.worldChanged();
   stage.close();
 }
 

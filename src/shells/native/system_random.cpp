@@ -8,13 +8,18 @@
 namespace tb {
 
 std::uint64_t SystemRandom::next() {
-  std::uint64_t word = 0;
+  if (used_ == words_.size()) fill();
+  return words_[used_++];
+}
+
+void SystemRandom::fill() {
   for (;;) {
     // So few bytes come all at once; only the wait for the first entropy after a boot can be interrupted.
-    const ssize_t got = getrandom(&word, sizeof word, 0);
-    if (got == static_cast<ssize_t>(sizeof word)) return word;
+    const ssize_t got = getrandom(words_.data(), sizeof words_, 0);
+    if (got == static_cast<ssize_t>(sizeof words_)) break;
     if (got < 0 && errno != EINTR) stopTheGame("the system gives no random numbers");
   }
+  used_ = 0;
 }
 
 }  // namespace tb

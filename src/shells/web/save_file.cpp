@@ -2,8 +2,6 @@
 
 #include <cstdint>
 
-#include "core/world_state.h"
-
 namespace tb {
 
 Bytes exportedSave(const SaveStore& store) { return plist::write(plist::Value{store.dictionary()}); }
@@ -15,8 +13,7 @@ std::string importSave(SaveStore& store, std::span<const std::byte> file) {
   // Any property list that is a dictionary could be stored. Only a career says whether its form was filled
   // in.
   const auto* values = read->as<plist::Dictionary>();
-  const plist::Value* started =
-      values ? read->find(variableOf<&WorldState::enterPlayerDetails>->key) : nullptr;
+  const plist::Value* started = values ? read->find("enterPlayerDetails") : nullptr;
   if (!started || !started->as<std::int64_t>()) return "This file holds no career.";
 
   store.replace(*values);

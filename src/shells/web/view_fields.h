@@ -12,7 +12,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "core/records/fields.h"
+#include "core/record_fields.h"
 #include "screens/view.h"
 
 namespace tb {

@@ -1,0 +1,48 @@
+#pragma once
+
+// Finding a record of a list by a field. The one way to do it: a position, or nothing.
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "core/list.h"
+
+namespace tb {
+
+// Where the first record whose field has this value stands; nothing when there is none.
+template <class Record, class Field, class Value>
+[[nodiscard]] std::optional<std::size_t> find(const List<Record>& list, Field Record::* field,
+                                              const Value& value) {
+  for (std::size_t index = 0; index < list.size(); ++index) {
+    if (list[index].*field == value) return index;
+  }
+  return std::nullopt;
+}
+
+// Where an integer field stands in a record, in bytes.
+template <class Record>
+[[nodiscard]] std::size_t offsetOf(const Record& record, std::int64_t Record::* field) {
+  return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(record.*field)) -
+                                  reinterpret_cast<const std::byte*>(&record));
+}
+
+// The same by an id, which never changes while its record is in the list. Long lists have an index of ids
+// that are small counts: a career has thousands of titles, and tens of thousands of market records.
+template <class Record>
+[[nodiscard]] std::optional<std::size_t> find(const List<Record>& list, std::int64_t Record::* id,
+                                              std::int64_t value) {
+  if (list.empty()) return std::nullopt;
+  return list.firstWithId(offsetOf(list.front(), id), value);
+}
+
+// Calls visit(index) for every record with this id, front to back. The visit may edit records but neither add
+// nor erase any.
+template <class Record, class Visit>
+void forEachWith(const List<Record>& list, std::int64_t Record::* id, std::int64_t value, Visit visit) {
+  if (list.empty()) return;
+  const std::size_t field = offsetOf(list.front(), id);
+  for (auto at = list.firstWithId(field, value); at; at = list.nextWithId(field, *at)) visit(*at);
+}
+
+}  // namespace tb

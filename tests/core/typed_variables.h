@@ -1,0 +1,49 @@
+#pragma once
+
+// The table of variables once more, with each variable's own type: what the program itself walks as data
+// (core/variables.h), its tests compare value by value.
+
+#include <string_view>
+
+#include "core/variables.h"
+
+namespace tb::test {
+
+// In the restart column: a restart leaves the variable as it is.
+struct Kept {
+  explicit constexpr Kept(bool) {}
+};
+inline constexpr Kept kept{true};
+
+template <class Type>
+Type rowValue(Type value) {
+  return value;
+}
+template <class Type>
+Kept rowValue(Kept value) {
+  return value;
+}
+
+// Calls visit.template operator()<Member>(key, start, restart, load) for every persisted row, in the order of
+// the table; `restart` is a value of the variable's type, or `kept`.
+template <class Visit>
+void forEachVariable(Visit&& visit) {
+#define VARIABLE(Type, key, start, restart, load)                                            \
+  visit.template operator()<&WorldState::key>(std::string_view(#key), rowValue<Type>(start), \
+                                              rowValue<Type>(restart), Load::load);
+#define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
+#define RUNTIME(Type, name, start, restart)
+#include "core/world_variables.def"
+}
+
+// The same for the run-time rows: visit.template operator()<Member>(start, restart).
+template <class Visit>
+void forEachRuntimeVariable(Visit&& visit) {
+#define VARIABLE(Type, key, start, restart, load)
+#define RECORDS(Record, key, restart, load)
+#define RUNTIME(Type, name, start, restart) \
+  visit.template operator()<&WorldState::name>(rowValue<Type>(start), rowValue<Type>(restart));
+#include "core/world_variables.def"
+}
+
+}  // namespace tb::test
