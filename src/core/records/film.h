@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/property_list.h"
+#include "core/plain_types.h"
 
 namespace tb {
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/property_list.h"
+#include "core/plain_types.h"
 
 namespace tb {
 
