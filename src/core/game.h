@@ -5,6 +5,7 @@
 #include "core/locale.h"
 #include "core/random.h"
 #include "core/save_store.h"
+#include "core/told_rows.h"
 #include "core/world_state.h"
 
 namespace tb {
@@ -14,6 +15,7 @@ struct Game {
   RandomSource& random;
   Locale locale = {};
   WorldState world = {};
+  ToldRows told = {};
 };
 
 }  // namespace tb

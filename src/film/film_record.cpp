@@ -99,11 +99,6 @@ std::size_t filmIndex(const WorldState& world, std::int64_t filmId) {
   return static_cast<std::size_t>(std::ranges::find(films, filmId, &Film::filmId) - films.begin());
 }
 
-std::size_t filmIndexOfTitle(const WorldState& world, std::string_view title) {
-  const List<Film>& films = world.saveAllFilmList;
-  return static_cast<std::size_t>(std::ranges::find(films, title, &Film::title) - films.begin());
-}
-
 bool isOut(const WorldState& world, const Film& film) {
   return film.weekReleased < world.weekNumberForTracking;
 }
