@@ -13,6 +13,8 @@
 namespace tb::test {
 
 struct ScratchGame {
+  explicit ScratchGame(Unscripted unscripted = Unscripted::fails) : random(unscripted) {}
+
   MemoryPort port;
   SaveStore store{port};
   ScriptedRandom random;

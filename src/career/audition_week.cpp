@@ -3,7 +3,7 @@
 #include <format>
 #include <string>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/debug_log.h"
 #include "core/log.h"
 #include "core/signed_agent.h"
@@ -84,8 +84,8 @@ void invite(Pass& pass, std::size_t index) {
       const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
       pass.world.WeekFeed.push_back(
           std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
-      logActivity(pass.world, fill(drawRow(pass.game.random, Bank::invitation),
-                                   {{"title", project.title}, {"n", weeks}}));
+      logActivity(pass.world,
+                  fill(tellRow(pass.game, Bank::invitation), {{"title", project.title}, {"n", weeks}}));
       pass.world.experience += project.auditionDifficulty * experienceOfInvitation;
     }
   }
@@ -98,7 +98,7 @@ void leaveUnanswered(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::closed);
   pass.world.WeekFeed.push_back(std::format("You never heard back after applying for {}.", nameOf(project)));
-  logActivity(pass.world, fill(drawRow(pass.game.random, Bank::silence), {{"title", project.title}}));
+  logActivity(pass.world, fill(tellRow(pass.game, Bank::silence), {{"title", project.title}}));
   pass.tellAgent(index, agentTakes::silence);
 }
 
@@ -173,8 +173,8 @@ void tellOfOwnProduction(Pass& pass, const Audition& project) {
 
 void tellOfInvestment(Pass& pass, const Audition& project) {
   const std::string stake = std::format("{:.0f}%", project.equityPercentage);
-  logLine(pass.world, fill(drawRow(pass.game.random, Bank::investmentWrap),
-                           {{"title", project.title}, {"stake", stake}}));
+  logLine(pass.world,
+          fill(tellRow(pass.game, Bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
 }
 
 void wrap(Pass& pass, std::size_t index) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "career/casting_terms.h"
+#include "career/new_title.h"
 
 namespace tb {
 
@@ -12,21 +13,22 @@ constexpr std::int64_t fewestListings = 5;
 constexpr std::int64_t mostListings = 8;
 constexpr int mostRedraws = 10;  // of a title that is on the board already; then it stands there twice
 
-const Movie& drawMovie(Game& game, const CastingBoard& board) {
-  const Movie* movie = &RandomElement(game.random, movies());
-  const auto is_taken = [&] {
+const Movie& drawMovie(Game& game, const CastingBoard& board, const MadeTitles& made) {
+  const auto is_taken = [&](const Movie& movie) {
     return std::ranges::any_of(
-        board, [&](const CastingListing& taken) { return taken.movie->title == movie->title; });
+        board, [&](const CastingListing& taken) { return taken.movie->title == movie.title; });
   };
-  for (int redraw = 0; redraw < mostRedraws && is_taken(); ++redraw)
+  const Movie* movie = &RandomElement(game.random, movies());
+  for (int redraw = 0; redraw < mostRedraws && is_taken(*movie); ++redraw)
     movie = &RandomElement(game.random, movies());
-  return *movie;
+  return newTitle(movies(), *movie, made, is_taken);
 }
 
-CastingListing drawListing(Game& game, const CastingBoard& board, std::int64_t filmId) {
+CastingListing drawListing(Game& game, const CastingBoard& board, const MadeTitles& made,
+                           std::int64_t filmId) {
   CastingListing listing{.filmId = filmId, .isPrincipal = RandomRange(game.random, 2)};
   const TvRole& tv_role = drawTvRole(game);
-  listing.movie = &drawMovie(game, board);
+  listing.movie = &drawMovie(game, board, made);
   listing.role = drawRole(game, listing.isPrincipal);
   listing.isUnion = drawUnionFlag(game);
   completeListing(game, listing, tv_role);
@@ -38,9 +40,10 @@ CastingListing drawListing(Game& game, const CastingBoard& board, std::int64_t f
 CastingBoard openCastingNetwork(Game& game) {
   game.world.filmId += 1;
   const std::int64_t listings = RandomBetween(game.random, fewestListings, mostListings);
+  const MadeTitles made = madeTitles(game.world);
   CastingBoard board;
   for (std::int64_t place = 1; place <= listings; ++place) {
-    board.push_back(drawListing(game, board, game.world.filmId + place));
+    board.push_back(drawListing(game, board, made, game.world.filmId + place));
   }
   return board;
 }

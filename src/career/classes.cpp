@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <format>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/bands.h"
 #include "core/house_notices.h"
 #include "core/log.h"
@@ -107,8 +107,7 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
                                            .level = option.offered->classLevel,
                                            .cost = static_cast<std::int64_t>(option.cost),
                                            .yearStarted = world.yearNumber});
-  logActivity(world,
-              fill(drawRow(game.random, Bank::classSignUp), {{"title", option.offered->title},
+  logActivity(world, fill(tellRow(game, Bank::classSignUp), {{"title", option.offered->title},
                                                              {"code", option.offered->classCode},
                                                              {"weeks", std::to_string(option.weeks)}}));
   return {};

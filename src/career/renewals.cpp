@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "career/colleagues.h"
 #include "career/preparation.h"
 #include "career/schedule.h"
@@ -161,7 +161,7 @@ void renew(WorldState& world, std::size_t index, Audition next) {
 void end(Game& game, std::size_t index, Bank bank) {
   Audition& project = game.world.saveAllAuditionList.edit(index);
   project.isContinued = endedForGood;
-  logLine(game.world, fill(drawRow(game.random, bank), {{"title", project.title}}));
+  logLine(game.world, fill(tellRow(game, bank), {{"title", project.title}}));
 }
 
 // --- Series ---
@@ -170,7 +170,7 @@ void orderSeason(Game& game, std::size_t index) {
   WorldState& world = game.world;
   Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
   setEpisodes(game, next);
-  logLine(world, fill(drawRow(game.random, Bank::seriesRenewal),
+  logLine(world, fill(tellRow(game, Bank::seriesRenewal),
                       {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
   renew(world, index, std::move(next));
 }
@@ -195,7 +195,7 @@ void orderFilm(Game& game, std::size_t index, const MovieFranchise& entry) {
   next.genres = entry.genre;
   next.franchise = entry.movieNumber;
   next.franchiseId = entry.id;
-  logLine(world, fill(drawRow(game.random, Bank::sagaRenewal),
+  logLine(world, fill(tellRow(game, Bank::sagaRenewal),
                       {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
   renew(world, index, std::move(next));
 }

@@ -4,8 +4,9 @@
 #include <format>
 #include <utility>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "career/casting_terms.h"
+#include "career/new_title.h"
 #include "career/project_start.h"
 #include "career/schedule.h"
 #include "core/house_notices.h"
@@ -42,7 +43,9 @@ double drawPercent(Game& game, const TalentAgent& agent) {
 // A role as the casting board has them, without its money.
 Audition drawProject(Game& game, double percent) {
   CastingListing listing{.isPrincipal = rolePart::principal};
-  listing.movie = &RandomElement(game.random, royaltyMovies());
+  const Movie& drawn = RandomElement(game.random, royaltyMovies());
+  listing.movie =
+      &newTitle(royaltyMovies(), drawn, madeTitles(game.world), [](const Movie&) { return false; });
   listing.role = drawRole(game, listing.isPrincipal);
   listing.isUnion = drawUnionFlag(game);
   completeListing(game, listing, drawTvRole(game));
@@ -71,7 +74,7 @@ Notice book(Game& game, Audition project, double percent) {
   project.weekToWork = schedule.weekToWork;
   startProject(game, project);
 
-  const std::string line = fill(drawRow(game.random, Bank::royaltySignedBank),
+  const std::string line = fill(tellRow(game, Bank::royaltySignedBank),
                                 {{"title", project.title}, {"percent", std::format("{:.2f}%", percent)}});
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));

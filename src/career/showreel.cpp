@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <format>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/log.h"
 #include "core/number_style.h"
 #include "core/talent_scores.h"
@@ -46,8 +46,8 @@ Refusal payFor(Game& game, double cost) {
 Refusal checkScenes(const ScenePackage& package, std::size_t scenes) {
   if (scenes > package.scenes) {
     return Notice{.title = "🎥 Too Many Scenes 🎥",
-                  .message = std::format("\nYou can only have up to {} scene{} for this package.",
-                                         package.scenes, package.scenes == 1 ? "" : "s")};
+                  .message = std::format("\nYou can only have up to {} for this package.",
+                                         counted(static_cast<std::int64_t>(package.scenes), "scene"))};
   }
   if (scenes == 0) {
     return Notice{.title = "🎥 No Scene Written 🎥",
@@ -133,10 +133,10 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
 
   constexpr double worstCutOfScenes = 0;
   world.showreelScore = reelScore(game, sum, worstCutOfScenes);
-  logActivity(world, fill(drawRow(game.random, Bank::showreelScene),
-                          {{"amount", currency(game.locale, package.cost, 0)},
-                           {"description", joinedWithAnd(sceneDescriptions)},
-                           {"n", std::to_string(world.showreelScore)}}));
+  logActivity(world,
+              fill(tellRow(game, Bank::showreelScene), {{"amount", currency(game.locale, package.cost, 0)},
+                                                        {"description", joinedWithAnd(sceneDescriptions)},
+                                                        {"n", std::to_string(world.showreelScore)}}));
   return {};
 }
 

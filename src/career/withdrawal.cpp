@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/audition_list.h"
 #include "core/log.h"
 
@@ -18,13 +18,14 @@ void withdrawFromRole(Game& game, std::int64_t filmId) {
 
   constexpr double mostOfFans = 0.01;
   const std::string title = world.saveAllAuditionList[*index].title;
+  const Subject subject = subjectOf(world.saveAllAuditionList[*index]);
   world.saveAllAuditionList.erase_at(*index);
   const auto most = static_cast<std::int64_t>(static_cast<double>(world.totalFans) * mostOfFans);
   const std::int64_t lost = RandomBetween(game.random, 0, std::max<std::int64_t>(most, 0));
   world.totalFans -= lost;
   world.trackFans.push_back(world.totalFans);
-  logActivity(world,
-              fill(drawRow(game.random, Bank::withdrawal), {{"title", title}, {"n", std::to_string(lost)}}));
+  logActivity(
+      world, fill(tellRow(game, Bank::withdrawal, subject), {{"title", title}, {"n", std::to_string(lost)}}));
 }
 
 }  // namespace tb

@@ -1,13 +1,15 @@
 #include "core/calendar.h"
 
+#include <array>
 #include <chrono>
 #include <format>
 
-#include "core/text.h"
-
 namespace tb {
 
-std::optional<DateLabel> dateLabel(const Locale& locale, std::int64_t week, std::int64_t year) {
+namespace {
+
+// The Friday of a week, or nothing for a week that no year has.
+std::optional<std::chrono::year_month_day> fridayOf(std::int64_t week, std::int64_t year) {
   using namespace std::chrono;
   constexpr std::int64_t weeksInTheLongestYear = 53;
   if (week < 1 || week > weeksInTheLongestYear) return std::nullopt;
@@ -15,17 +17,29 @@ std::optional<DateLabel> dateLabel(const Locale& locale, std::int64_t week, std:
 
   const sys_days new_year = std::chrono::year{static_cast<int>(year)} / January / 1;
   const sys_days first_sunday = new_year - (weekday{new_year} - Sunday);
-  const year_month_day friday{first_sunday + weeks{week - 1} + (Friday - Sunday)};
-  const unsigned month = static_cast<unsigned>(friday.month());
-  return DateLabel{.month = locale.months[month - 1],
-                   .dayAndYear = std::format("{}, {}", static_cast<unsigned>(friday.day()),
-                                             static_cast<int>(friday.year()))};
+  return year_month_day{first_sunday + weeks{week - 1} + (Friday - Sunday)};
+}
+
+DateLabel labelOf(std::chrono::year_month_day day, const std::array<std::string, 12>& months) {
+  return {
+      .month = months[static_cast<unsigned>(day.month()) - 1],
+      .dayAndYear = std::format("{}, {}", static_cast<unsigned>(day.day()), static_cast<int>(day.year()))};
+}
+
+}  // namespace
+
+std::optional<DateLabel> dateLabel(const Locale& locale, std::int64_t week, std::int64_t year) {
+  const auto friday = fridayOf(week, year);
+  if (!friday) return std::nullopt;
+  return labelOf(*friday, locale.months);
 }
 
 std::string dateHeading(const Locale& locale, std::int64_t week, std::int64_t year,
                         const std::string& between) {
-  const auto label = dateLabel(locale, week, year);
-  return label ? upperCase(label->month) + between + label->dayAndYear : "";
+  const auto friday = fridayOf(week, year);
+  if (!friday) return "";
+  const DateLabel label = labelOf(*friday, locale.monthCapitals);
+  return label.month + between + label.dayAndYear;
 }
 
 }  // namespace tb

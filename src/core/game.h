@@ -4,6 +4,7 @@
 
 #include "core/locale.h"
 #include "core/random.h"
+#include "core/told_rows.h"
 #include "core/world_state.h"
 
 namespace tb {
@@ -16,6 +17,7 @@ struct Game {
   Locale locale = {};
   WorldState world = {};
   WorldState stored = {};  // the plain variables as the store holds them (core/save.h); its lists stay empty
+  ToldRows told = {};
 };
 
 }  // namespace tb

@@ -17,6 +17,10 @@ struct Locale {
   std::array<std::string, 12> months = {"January",   "February", "March",    "April",
                                         "May",       "June",     "July",     "August",
                                         "September", "October",  "November", "December"};
+  // The same in capitals, as the device's language writes them.
+  std::array<std::string, 12> monthCapitals = {"JANUARY",   "FEBRUARY", "MARCH",    "APRIL",
+                                               "MAY",       "JUNE",     "JULY",     "AUGUST",
+                                               "SEPTEMBER", "OCTOBER",  "NOVEMBER", "DECEMBER"};
 };
 
 }  // namespace tb

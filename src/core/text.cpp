@@ -13,8 +13,7 @@ char32_t twoByteLetter(std::string_view text, std::size_t place) {
   return static_cast<char32_t>((lead & 0x1F) << 6 | (next & 0x3F));
 }
 
-// Latin-1 and Latin Extended-A, where small letters stand a fixed step from their capitals. The names of
-// months need no more.
+// Latin-1 and Latin Extended-A, where small letters stand a fixed step from their capitals.
 char32_t capital(char32_t letter) {
   if (letter >= 0xE0 && letter <= 0xFE && letter != 0xF7) return letter - 0x20;
   if (letter == 0xFF) return 0x178;
@@ -67,6 +66,14 @@ std::string joinedWithAnd(std::span<const std::string> parts) {
     joined += parts[index];
   }
   return joined;
+}
+
+std::string plural(std::int64_t count, std::string_view noun) {
+  return std::string(noun) + (count == 1 ? "" : "s");
+}
+
+std::string counted(std::int64_t count, std::string_view noun) {
+  return std::to_string(count) + " " + plural(count, noun);
 }
 
 std::string fill(std::string_view row, std::initializer_list<Filling> values) {

@@ -4,12 +4,13 @@
 #include <array>
 #include <format>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "banks/names.h"
 #include "core/bands.h"
 #include "core/text.h"
 #include "film/banana_scores.h"
 #include "film/film_record.h"
+#include "film/review_words.h"
 #include "film/user_reviews.h"
 
 namespace tb {
@@ -66,7 +67,7 @@ Review criticCard(Game& game, const Film& film, double criticScore, const std::v
   }
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.name = inventedName(game.random, is_male);
-  card.newsOutlet = drawRow(game.random, Bank::reviewerCompanyBank);
+  card.newsOutlet = tellRow(game, Bank::reviewerCompanyBank);
   card.image = drawPortrait(game.random, is_male ? portraitsOfMen : portraitsOfWomen, others);
   return card;
 }

@@ -5,7 +5,7 @@
 #include <limits>
 #include <optional>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/bands.h"
 #include "core/number_style.h"
 #include "core/text.h"
@@ -88,7 +88,7 @@ std::int64_t wholePercent(double score) { return static_cast<std::int64_t>(score
 
 std::string drawConsensus(Game& game, const Film& film, double criticScore) {
   const ConsensusBand* const band = bandOf(consensusBands, wholePercent(criticScore));
-  return fill(drawRow(game.random, band->bank), {{"title", film.title}});
+  return fill(tellRow(game, band->bank), {{"title", film.title}});
 }
 
 std::string criticCount(const Locale& locale, const Film& film) {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/log.h"
 #include "core/number_style.h"
 #include "core/signed_agent.h"
@@ -24,7 +24,7 @@ void announceEquity(Game& game, const Film& film, double payout, double gross) {
   } else if (gross > film.budget) {
     // A loss goes unmentioned: the record alone tells of it.
     logLine(game.world,
-            fill(drawRow(game.random, Bank::equityPaidBank), {{"title", film.title}, {"amount", amount}}));
+            fill(tellRow(game, Bank::equityPaidBank), {{"title", film.title}, {"amount", amount}}));
   }
 }
 
@@ -54,7 +54,7 @@ void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds) {
   const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
   logLine(
       game.world,
-      fill(drawRow(game.random, Bank::royaltyPaidBank),
+      fill(tellRow(game, Bank::royaltyPaidBank),
            {{"title", film.title}, {"amount", royalty}, {"gross", shortMoney(game.locale, proceeds.gross)}}));
   keepPayout(game, std::move(payout));
 }

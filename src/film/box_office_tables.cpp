@@ -20,6 +20,7 @@ struct Takings {
   double latest = 0;
   double total = 0;
   double domestic = 0;
+  std::int64_t year = 0;  // of the opening
   bool isBlockbuster = false;
 };
 
@@ -31,6 +32,7 @@ std::map<std::int64_t, Takings> takingsByFilm(const WorldState& world) {
     film.opening += market.openingWeekend;
     film.latest += weeks.empty() ? market.openingWeekend : weeks.back();
     film.total += market.totalGross;
+    film.year = market.year;
     if (market.countryId == domesticMarket) film.domestic += market.totalGross;
     film.isBlockbuster = film.isBlockbuster || market.openingWeekend > blockbusterOpening;
   }
@@ -40,7 +42,7 @@ std::map<std::int64_t, Takings> takingsByFilm(const WorldState& world) {
 BoxOfficeWeekends rowOf(const Film& film, const Takings& takings) {
   return {.filmId = film.filmId,
           .title = film.title,
-          .yearReleased = film.yearReleased,
+          .yearReleased = takings.year,
           .weekendEarnings = takings.opening,
           .totalGross = takings.total,
           .domesticGross = takings.domestic,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <string_view>
 
 #include "banks/banks.h"
@@ -74,7 +75,8 @@ Movie movieOf(Columns& columns) {
           .type = columns.number(),
           .genre = columns.names(),
           .longSummaryTemplate = columns.text(),
-          .imageString = columns.text()};
+          .imageString = columns.text(),
+          .sights = {.prop = columns.text(), .place = columns.text()}};
 }
 
 MovieFranchise franchiseOf(Columns& columns) {
@@ -85,7 +87,8 @@ MovieFranchise franchiseOf(Columns& columns) {
           .type = columns.number(),
           .genre = columns.names(),
           .longSummaryTemplate = columns.text(),
-          .imageString = columns.text()};
+          .imageString = columns.text(),
+          .sights = {.prop = columns.text(), .place = columns.text()}};
 }
 
 MovieRecord movieRecordOf(Columns& columns) {
@@ -150,6 +153,20 @@ std::span<const Movie> investmentMovies() {
 std::span<const MovieFranchise> movieFranchises() {
   static const std::vector<MovieFranchise> rows = table(Bank::movieFranchises, franchiseOf);
   return rows;
+}
+
+const Sights& sightsOf(std::string_view title) {
+  static const std::map<std::string_view, const Sights*> known = [] {
+    std::map<std::string_view, const Sights*> all;
+    for (const auto table : {movies(), royaltyMovies(), investmentMovies()}) {
+      for (const Movie& movie : table) all[movie.title] = &movie.sights;
+    }
+    for (const MovieFranchise& entry : movieFranchises()) all[entry.title] = &entry.sights;
+    return all;
+  }();
+  static const Sights ofAnyTitle = {.prop = "letter", .place = "hallway"};
+  const auto found = known.find(title);
+  return found == known.end() ? ofAnyTitle : *found->second;
 }
 
 std::span<const MovieRecord> movieRecords() {

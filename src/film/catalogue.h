@@ -6,11 +6,18 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/random.h"
 
 namespace tb {
+
+// What is seen in a title, as it stands after "the": a thing and a place. Reviews speak of both.
+struct Sights {
+  std::string prop;   // "parcel"
+  std::string place;  // "megacity"
+};
 
 // A project that can be cast.
 struct Movie {
@@ -20,6 +27,7 @@ struct Movie {
   std::vector<std::string> genre;
   std::string longSummaryTemplate;  // with "{name}" where the character's name goes
   std::string imageString;          // poster
+  Sights sights;
 };
 
 // An entry of a saga. The next one has the same id and a higher movieNumber.
@@ -32,6 +40,7 @@ struct MovieFranchise {
   std::vector<std::string> genre;
   std::string longSummaryTemplate;
   std::string imageString;
+  Sights sights;
 };
 
 // realOrGame of the two tables of all time.
@@ -88,6 +97,9 @@ struct Bankable {
 
 // 22 entries of sagas, each saga in order.
 [[nodiscard]] std::span<const MovieFranchise> movieFranchises();
+
+// What is seen in a title of those four tables. A title that stands in none has what all titles have.
+[[nodiscard]] const Sights& sightsOf(std::string_view title);
 
 // 250 films by worldwide gross and 250 series by rating, best first.
 [[nodiscard]] std::span<const MovieRecord> movieRecords();

@@ -99,10 +99,6 @@ std::size_t filmIndex(const WorldState& world, std::int64_t filmId) {
   return find(world.saveAllFilmList, &Film::filmId, filmId).value_or(world.saveAllFilmList.size());
 }
 
-std::size_t filmIndexOfTitle(const WorldState& world, std::string_view title) {
-  return find(world.saveAllFilmList, &Film::title, title).value_or(world.saveAllFilmList.size());
-}
-
 bool isOut(const WorldState& world, const Film& film) {
   return film.weekReleased < world.weekNumberForTracking;
 }

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "core/game.h"
 
@@ -17,10 +16,6 @@ void makeFilm(Game& game, const Audition& project);
 
 // Where the film of a project stands in `saveAllFilmList`, or the length of the list when it is not there.
 [[nodiscard]] std::size_t filmIndex(const WorldState& world, std::int64_t filmId);
-
-// Where the first film with this title stands, the latest wrap: the newest season of a series. Or the length
-// of the list.
-[[nodiscard]] std::size_t filmIndexOfTitle(const WorldState& world, std::string_view title);
 
 // True from the week after the release on, when the scores are there to be seen.
 [[nodiscard]] bool isOut(const WorldState& world, const Film& film);

@@ -1,8 +1,9 @@
 #include "film/movie_reviews.h"
 
 #include <array>
+#include <format>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/house_notices.h"
 #include "core/text.h"
 
@@ -47,11 +48,11 @@ Refusal needsRating(std::int64_t rating) {
   return Notice{.title = "⭐️ Choose a Rating! ⭐️", .message = "\nYou need to choose a rating first."};
 }
 
-std::string generatedReview(RandomSource& random, std::int64_t rating) {
+std::string generatedReview(Game& game, std::int64_t rating) {
   const SentenceBanks& sentences = sentencesOfLevels[static_cast<std::size_t>((rating - 1) / 2)];
-  const std::string& first = drawRow(random, Bank::reviewFirstSentence);
-  const std::string& middle = drawRow(random, sentences.middle);
-  return first + " " + middle + " " + drawRow(random, sentences.last);
+  const std::string_view first = tellRow(game, Bank::reviewFirstSentence);
+  const std::string_view middle = tellRow(game, sentences.middle);
+  return std::format("{} {} {}", first, middle, tellRow(game, sentences.last));
 }
 
 Refusal submitReview(Game& game, const std::string& title, std::int64_t rating, const std::string& text) {

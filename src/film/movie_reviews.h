@@ -30,7 +30,7 @@ void rateFilm(Game& game, std::size_t filmIndex, std::int64_t stars);
 [[nodiscard]] Refusal needsRating(std::int64_t rating);
 
 // A review made up to go with a rating of 1 to 10 stars.
-[[nodiscard]] std::string generatedReview(RandomSource& random, std::int64_t rating);
+[[nodiscard]] std::string generatedReview(Game& game, std::int64_t rating);
 
 // Publishes a review of a title: the newest of `saveAllMovieReviews`, which is written. Refused without a
 // rating (0) or without a word.

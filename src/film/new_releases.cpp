@@ -4,12 +4,12 @@
 #include <array>
 #include <string_view>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "banks/names.h"
 #include "core/bands.h"
 #include "core/ended_week.h"
 #include "film/film_record.h"
-#include "film/user_reviews.h"
+#include "film/review_words.h"
 
 namespace tb {
 
@@ -42,7 +42,7 @@ MetReview cardOf(Game& game, const Film& film) {
                  .season = film.seasonNumber};
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.reviewerName = inventedName(game.random, is_male);
-  card.reviewerCompany = drawRow(game.random, Bank::reviewerCompanyBank);
+  card.reviewerCompany = tellRow(game, Bank::reviewerCompanyBank);
   const double score = (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
   if (const StarBand* const band = bandOf(starBands, score)) {
     card.starString = band->stars;

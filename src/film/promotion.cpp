@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/bands.h"
 #include "social/chirps.h"
 
@@ -54,13 +54,13 @@ void postAnswer(Game& game, const Audition& project, const std::string& answer) 
 }  // namespace
 
 Interview openInterview(Game& game, const Audition& project) {
-  Interview interview{.talkShow = drawRow(game.random, Bank::talkShows)};
-  interview.question = fill(drawRow(game.random, Bank::promotionQuestions), {{"title", project.title}});
+  Interview interview{.talkShow = std::string(tellRow(game, Bank::talkShows))};
+  interview.question = fill(tellRow(game, Bank::promotionQuestions), {{"title", project.title}});
   interview.totalHype = hypeOfInterview(game);
   return interview;
 }
 
-std::string suggestedAnswer(Game& game) { return drawRow(game.random, Bank::promotionAnswers); }
+std::string suggestedAnswer(Game& game) { return std::string(tellRow(game, Bank::promotionAnswers)); }
 
 Refusal promoteFilm(Game& game, std::size_t auditionIndex, const Interview& interview,
                     const std::string& answer) {

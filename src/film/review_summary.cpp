@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/bands.h"
 #include "core/text.h"
 
@@ -123,16 +123,36 @@ constexpr std::array<Mood, 5> moods = {{
 
 // --- Reading ---
 
-// All reviews in one piece, in lower case.
+// All reviews in one piece, in lower case. A word ends with its review.
 std::string joined(std::span<const std::string> reviews) {
   std::string text;
-  for (const std::string& review : reviews) text += lowerCase(trimmed(review));
+  for (const std::string& review : reviews) {
+    const std::string trimmed_review = trimmed(review);
+    if (!trimmed_review.empty()) text += lowerCase(trimmed_review) + "\n";
+  }
   return text;
 }
 
-// How many of the words occur, be it inside of another word. How often one occurs makes no difference.
+bool isLetterAt(std::string_view text, std::size_t place) {
+  if (place >= text.size()) return false;
+  const char c = text[place];
+  const bool is_accented =
+      static_cast<unsigned char>(c) >= 0x80;  // a byte of a letter beyond ASCII, or emoji
+  return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || is_accented;
+}
+
+// True when the word stands in the text as a word of its own, and not inside of another.
+bool hasWord(std::string_view text, std::string_view word) {
+  for (std::size_t at = text.find(word); at != std::string_view::npos; at = text.find(word, at + 1)) {
+    const bool begins_word = at == 0 || !isLetterAt(text, at - 1);
+    if (begins_word && !isLetterAt(text, at + word.size())) return true;
+  }
+  return false;
+}
+
+// How many of the words occur. How often one occurs makes no difference.
 std::int64_t wordsIn(const std::string& text, Words keywords) {
-  return std::ranges::count_if(keywords, [&](std::string_view word) { return text.contains(word); });
+  return std::ranges::count_if(keywords, [&](std::string_view word) { return hasWord(text, word); });
 }
 
 // The topics that come up, the most discussed first, or `otherwise`.
@@ -149,7 +169,7 @@ std::string topicsIn(const std::string& text, std::span<const Topic> topics, std
 
 }  // namespace
 
-std::string summarizeReviews(RandomSource& random, std::span<const std::string> reviews,
+std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
                              const std::optional<std::string>& title) {
   const std::string text = joined(reviews);
   if (text.empty()) return "Not enough reviews to generate a summary yet.";
@@ -163,10 +183,10 @@ std::string summarizeReviews(RandomSource& random, std::span<const std::string> 
   const std::string bad =
       topicsIn(text, complaintTopics, is_casual ? "a couple rough spots" : "a few rough edges");
 
-  const std::string verdict = fill(drawRow(random, banks.verdict), {{"subject", subject}});
-  const std::string balance = fill(drawRow(random, banks.balance), {{"good", good}, {"bad", bad}});
-  const std::string consensus = fill(drawRow(random, banks.consensus), {{"label", mood.label}});
-  const std::string& advice = drawRow(random, banks.advice);
+  const std::string verdict = fill(tellRow(game, banks.verdict), {{"subject", subject}});
+  const std::string balance = fill(tellRow(game, banks.balance), {{"good", good}, {"bad", bad}});
+  const std::string consensus = fill(tellRow(game, banks.consensus), {{"label", mood.label}});
+  const std::string_view advice = tellRow(game, banks.advice);
   return std::format("{} {} {} {}", verdict, balance, consensus, advice);
 }
 

@@ -5,6 +5,7 @@
 
 #include "banks/banks.h"
 #include "core/bands.h"
+#include "film/review_words.h"
 
 namespace tb {
 
@@ -83,10 +84,7 @@ const Audience* audienceOf(const Standing& standing, std::int64_t typeOfFilm) {
 
 std::string featuredReview(Game& game, const Standing& standing, const Audition& project) {
   const std::string genre = project.genres.empty() ? "Drama" : project.genres.front();
-  return fill(drawRow(game.random, standing.review), {{"title", project.title},
-                                                      {"director", project.directorName},
-                                                      {"name", game.world.myName},
-                                                      {"genre", genre}});
+  return drawReview(game, standing.review, project, genre);
 }
 
 // Nobody is perfect, and nobody is far from it for trying.

@@ -1,9 +1,8 @@
 #include "film/syndication_deals.h"
 
 #include <algorithm>
-#include <format>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/ended_week.h"
 #include "core/find.h"
 #include "core/log.h"
@@ -33,9 +32,9 @@ constexpr std::int64_t audienceOfReruns = 100'000;  // hours watched; with fewer
 
 void announce(Game& game, const Syndication& title, const NetworkDeal& deal) {
   const std::string amount = shortMoney(game.locale, static_cast<double>(deal.price));
-  const std::string years = std::format("{} year{}", deal.years, deal.years == 1 ? "" : "s");
+  const std::string years = counted(deal.years, "year");
   logLine(game.world,
-          fill(drawRow(game.random, Bank::syndicationDealBank),
+          fill(tellRow(game, Bank::syndicationDealBank),
                {{"title", title.filmName}, {"amount", amount}, {"network", deal.network}, {"years", years}}));
 }
 

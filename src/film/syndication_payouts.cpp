@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/guild_dues.h"
 #include "core/log.h"
 #include "core/number_style.h"
@@ -72,7 +72,7 @@ void paySyndicationResidual(Game& game, const Syndication& title) {
   const double gross = rate * title.payment;
   // Dues are owed on residuals by everybody, member of the guild or not, and once.
   const double net = gross - takeGuildDues(world, gross) - takeCommission(game, title, gross);
-  world.WeekFeed.push_back(fill(drawRow(game.random, Bank::residualPaidBank),
+  world.WeekFeed.push_back(fill(tellRow(game, Bank::residualPaidBank),
                                 {{"title", title.filmName}, {"amount", shortMoney(game.locale, net)}}));
   world.saveAllWeeklyEarnings.push_back({.filmId = title.filmId,
                                          .filmTitle = title.filmName,

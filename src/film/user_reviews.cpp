@@ -5,6 +5,9 @@
 #include <functional>
 #include <numeric>
 
+#include "banks/banks.h"
+#include "film/review_words.h"
+
 namespace tb {
 
 namespace {
@@ -16,6 +19,7 @@ constexpr double oddOpinions = 0.08;  // the part of the audience that rates at 
 constexpr double leastShown = 1.18;   // shown ratings to given ones, for a metascore of 0
 constexpr std::size_t mostReviews = 5;
 constexpr int drawsForReviews = 25;
+constexpr std::int64_t partThatIsHeard = 20;  // one rating in twenty
 
 // What audiences write, by level of liking: 1-2, 3-4, 5-6, 7-8 and 9-10 stars.
 struct LevelBanks {
@@ -57,6 +61,12 @@ std::array<std::size_t, starsOfRating> byFraction(const StarShares& fractions) {
   return order;
 }
 
+// Stars that few gave have nobody to speak for them, so that a flop reads like one.
+bool isHeard(const StarHistogram& histogram, std::size_t star) {
+  const std::int64_t ratings = std::accumulate(histogram.begin(), histogram.end(), std::int64_t{0});
+  return histogram[star] > 0 && histogram[star] * partThatIsHeard >= ratings;
+}
+
 Reviews reviewOf(Game& game, const Film& film, std::size_t star) {
   const LevelBanks& level = levels[star / 2];
   Reviews review{.rating = static_cast<std::int64_t>(star + 1)};
@@ -93,7 +103,7 @@ std::vector<Reviews> drawUserReviews(Game& game, const Film& film, const StarHis
   if (film.numImbdRatings == 0) return reviews;
   for (int draw = 0; draw < drawsForReviews && reviews.size() < mostReviews; ++draw) {
     const auto star = static_cast<std::size_t>(RandomRange(game.random, starsOfRating));
-    if (histogram[star] > 0) reviews.push_back(reviewOf(game, film, star));
+    if (isHeard(histogram, star)) reviews.push_back(reviewOf(game, film, star));
   }
   return reviews;
 }
@@ -103,13 +113,6 @@ Bank snippetsOfLevel(std::size_t level) { return levels[level].snippets; }
 std::string drawHandle(RandomSource& random) {
   const std::string& first = drawRow(random, Bank::handleFirstParts);
   return first + drawRow(random, Bank::handleSecondParts);
-}
-
-std::string drawReview(Game& game, Bank bank, const Film& film, const std::string& genre) {
-  return fill(drawRow(game.random, bank), {{"title", film.title},
-                                           {"director", film.directorName},
-                                           {"name", game.world.myName},
-                                           {"genre", genre}});
 }
 
 }  // namespace tb

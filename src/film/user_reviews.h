@@ -31,7 +31,8 @@ struct Reviews {
 using StarHistogram = std::array<std::int64_t, starsOfRating>;
 [[nodiscard]] StarHistogram starHistogram(const Film& film);
 
-// Up to five reviews, each of a number of stars that somebody gave; none before the release.
+// Up to five reviews, each of a number of stars that at least one rating in twenty gave; none before the
+// release.
 [[nodiscard]] std::vector<Reviews> drawUserReviews(Game& game, const Film& film,
                                                    const StarHistogram& histogram);
 
@@ -40,9 +41,5 @@ using StarHistogram = std::array<std::int64_t, starsOfRating>;
 
 // The name under which somebody of the audience writes.
 [[nodiscard]] std::string drawHandle(RandomSource& random);
-
-// A row of a bank of reviews, with the title, its director and the performer filled in. Banks of critics
-// also speak of the `genre`.
-[[nodiscard]] std::string drawReview(Game& game, Bank bank, const Film& film, const std::string& genre = "");
 
 }  // namespace tb

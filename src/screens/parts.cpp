@@ -5,6 +5,7 @@
 #include <format>
 
 #include "core/number_style.h"
+#include "core/text.h"
 
 namespace tb {
 
@@ -58,7 +59,7 @@ std::vector<double> roundValues(double lowest, double highest) {
 
 std::string placeInHistory(std::string_view unit, std::size_t before) {
   if (before == 0) return "latest";
-  return std::format("{} {}{} before", before, unit, before == 1 ? "" : "s");
+  return counted(static_cast<std::int64_t>(before), unit) + " before";
 }
 
 }  // namespace
@@ -79,7 +80,7 @@ std::vector<Chart::Tick> roundScale(double lowest, double highest, const ValueTe
 std::string jobWeeksLeft(const WorldState& world) {
   const std::int64_t weeks = world.weeklyJobContractRemaining;
   if (weeks < 1) return "The contract has run out";
-  return std::format("{} week{} left", weeks, weeks == 1 ? "" : "s");
+  return counted(weeks, "week") + " left";
 }
 
 Chart historyChart(std::string title, std::string_view unit, std::span<const double> values,
@@ -96,9 +97,8 @@ Chart historyChart(std::string title, std::string_view unit, std::span<const dou
   }
   const auto [lowest, highest] = std::ranges::minmax(values);
   chart.scale = roundScale(lowest, highest, textOf);
-  chart.summary = std::format("{} {}{}, from {} to {}; lowest {}, highest {}.", values.size(), unit,
-                              values.size() == 1 ? "" : "s", textOf(values.front()), textOf(values.back()),
-                              textOf(lowest), textOf(highest));
+  chart.summary = std::format("{}, from {} to {}; lowest {}, highest {}.", counted(std::ssize(values), unit),
+                              textOf(values.front()), textOf(values.back()), textOf(lowest), textOf(highest));
   return chart;
 }
 
@@ -106,7 +106,7 @@ Chart barChart(std::string title, std::span<const double> values,
                const std::function<std::string(std::size_t)>& nameOf, const ValueText& textOf) {
   Chart chart{.kind = Chart::Kind::bar, .title = std::move(title)};
   if (values.empty()) {
-    chart.summary = "There are no figures.";
+    chart.summary = "Nothing to chart yet.";
     return chart;
   }
   for (std::size_t index = 0; index < values.size(); ++index) {

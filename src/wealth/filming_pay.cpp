@@ -1,6 +1,6 @@
 #include "wealth/filming_pay.h"
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/guild_dues.h"
 #include "core/log.h"
 #include "core/number_style.h"
@@ -28,7 +28,7 @@ WeeklyEarnings earningsOf(const WorldState& world, const Audition& project) {
 }
 
 void tellOfPayday(Game& game, const Audition& project, double earned) {
-  logActivity(game.world, fill(drawRow(game.random, Bank::payday),
+  logActivity(game.world, fill(tellRow(game, Bank::payday),
                                {{"title", project.title}, {"amount", shortMoney(game.locale, earned)}}));
 }
 

@@ -1,6 +1,6 @@
 #include "week/summary.h"
 
-#include "banks/banks.h"
+#include "banks/draw.h"
 #include "core/calendar.h"
 #include "core/log.h"
 
@@ -15,7 +15,7 @@ constexpr std::size_t weeksOfEarnings = 52;
 void showFeed(Game& game, WeekSummary& summary) {
   TextList& feed = game.world.WeekFeed;
   summary.hasNews = !feed.empty();
-  if (!summary.hasNews) feed.push_back(drawRow(game.random, Bank::weeklyTips));
+  if (!summary.hasNews) feed.push_back(std::string(tellRow(game, Bank::weeklyTips)));
   summary.feed.assign(feed.begin(), feed.end());
   feed.clear();
 }

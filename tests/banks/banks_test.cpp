@@ -1,10 +1,11 @@
-#include "banks/banks.h"
-
 #include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 #include <ranges>
 #include <set>
 #include <sstream>
+
+#include "banks/draw.h"
 
 namespace tb {
 namespace {
@@ -75,6 +76,121 @@ TEST(Banks, NeverSayTheSameThingTwice) {
       }
       sentences.push_back(words);
     }
+  }
+}
+
+// A page of five never runs out of rows that are true of a beginner.
+TEST(Banks, MarkRowsAsTheDrawReadsThemAndKeepEnoughForEverybody) {
+  constexpr std::ptrdiff_t onAPage = 5;
+  for (const BankRow& bank : allBanks) {
+    std::ptrdiff_t marked = 0;
+    for (const std::string& row : rowsOf(bank.bank)) {
+      EXPECT_FALSE(markedRow(row).text.starts_with('@')) << bank.name << ": " << row;
+      marked += markedRow(row).needs != 0 ? 1 : 0;
+    }
+    const bool is_table = bank.placeholders == "name";
+    if (!is_table && marked > 0) EXPECT_GE(std::ssize(rowsOf(bank.bank)) - marked, onAPage) << bank.name;
+  }
+}
+
+// How long a row is without its marks and its placeholders, in bytes.
+std::size_t ownWords(const std::string& row) {
+  std::size_t length = 0;
+  bool inside = false;
+  for (const char c : markedRow(row).text) {
+    inside = inside || c == '{';
+    length += inside ? 0 : 1;
+    inside = inside && c != '}';
+  }
+  return length;
+}
+
+// A log line is met again and again: a quarter of each bank is plain and short.
+TEST(Banks, KeepAQuarterOfTheLogShort) {
+  constexpr std::size_t shortRow = 50;
+  for (const Bank bank :
+       {Bank::submission, Bank::silence, Bank::invitation, Bank::investmentWrap, Bank::payday,
+        Bank::withdrawal, Bank::seriesCancellation, Bank::seriesRenewal, Bank::sagaRenewal, Bank::sagaEnding,
+        Bank::premiere, Bank::closing, Bank::residualPaidBank, Bank::equityPaidBank, Bank::royaltyPaidBank,
+        Bank::royaltySignedBank, Bank::syndicationDealBank, Bank::showreelScene, Bank::classSignUp}) {
+    const auto plain =
+        std::ranges::count_if(rowsOf(bank), [](const std::string& row) { return ownWords(row) <= shortRow; });
+    EXPECT_GE(plain * 4, std::ssize(rowsOf(bank))) << rowsOf(bank).front();
+  }
+}
+
+// No pair of names that can be drawn is a living person of note.
+TEST(Names, NoPairIsALivingPersonOfNote) {
+  // With some first name or other of the banks each of these makes somebody well known.
+  for (const std::string_view surname :
+       {"Andersson", "Becker", "Nguyen", "Tran", "Cardoso", "Marchetti", "Richter", "Espinoza", "Agarwal",
+        "Rosendahl", "Jadhav", "Almeida", "Abbott"}) {
+    EXPECT_FALSE(std::ranges::contains(rowsOf(Bank::lastNameBank), surname)) << surname;
+  }
+  constexpr std::pair<std::string_view, std::string_view> refused[] = {{"Simon", "Grayson"},
+                                                                       {"Yuki", "Hayashi"},
+                                                                       {"Julian", "Kang"},
+                                                                       {"Miguel", "Ibarra"},
+                                                                       {"José", "Manzanares"},
+                                                                       {"Diego", "Serna"},
+                                                                       {"Carlos", "Renteria"},
+                                                                       {"Kasper", "Nielsen"},
+                                                                       {"Ivan", "Petrov"},
+                                                                       {"Emmanuel", "Laurent"},
+                                                                       {"Sebastian", "Fontaine"},
+                                                                       {"Jordan", "Calloway"},
+                                                                       {"Mehmet", "Yilmaz"},
+                                                                       {"Zachary", "McKinstry"},
+                                                                       {"Simone", "Bevilacqua"},
+                                                                       {"Julian", "Carranza"},
+                                                                       {"Miguel", "Aguilar"},
+                                                                       {"Ethan", "Hawke"},
+                                                                       {"Finn", "Wolfhard"},
+                                                                       {"Hugo", "Weaving"},
+                                                                       {"Liam", "Neeson"},
+                                                                       {"Noah", "Centineo"},
+                                                                       {"Omar", "Sy"},
+                                                                       {"Owen", "Wilson"},
+                                                                       {"Theo", "James"},
+                                                                       {"Audrey", "Tautou"},
+                                                                       {"Emilia", "Clarke"},
+                                                                       {"Greta", "Gerwig"},
+                                                                       {"Naomi", "Watts"},
+                                                                       {"Olivia", "Colman"},
+                                                                       {"Rachel", "Weisz"},
+                                                                       {"Ruth", "Negga"},
+                                                                       {"Serena", "Williams"},
+                                                                       {"Sofia", "Coppola"},
+                                                                       {"Tessa", "Thompson"},
+                                                                       {"Lars", "Ulrich"},
+                                                                       {"Neil", "Gaiman"},
+                                                                       {"Henry", "Cavill"},
+                                                                       {"Caleb", "Landry Jones"},
+                                                                       {"Grace", "Gummer"},
+                                                                       {"Lucas", "Hedges"},
+                                                                       {"Simon", "Pegg"},
+                                                                       {"Julia", "Roberts"},
+                                                                       {"Jesse", "Eisenberg"},
+                                                                       {"Javier", "Bardem"},
+                                                                       {"Marcus", "Rashford"},
+                                                                       {"Gabriel", "Byrne"},
+                                                                       {"Diego", "Luna"},
+                                                                       {"Carlos", "Alcaraz"},
+                                                                       {"Omar", "Epps"},
+                                                                       {"Anthony", "Hopkins"},
+                                                                       {"Adrian", "Lyne"},
+                                                                       {"Fiona", "Shaw"},
+                                                                       {"Isabel", "Allende"},
+                                                                       {"Ivy", "George"},
+                                                                       {"Rosa", "Salazar"},
+                                                                       {"Stella", "McCartney"},
+                                                                       {"Willa", "Fitzgerald"}};
+  for (const auto& [first, last] : refused) {
+    const bool is_first_name =
+        std::ranges::any_of(std::array{Bank::firstNames, Bank::maleFirstNames, Bank::femaleFirstNames},
+                            [&](Bank bank) { return std::ranges::contains(rowsOf(bank), first); });
+    EXPECT_FALSE(is_first_name && std::ranges::contains(rowsOf(Bank::lastNameBank), last))
+        << first << " " << last;
   }
 }
 

@@ -68,6 +68,7 @@ struct AuditionWeek : test::RuleTest {
     world.WeekFeed.clear();
     world.activityTracker.clear();
     world.experience = 0;
+    game.told = {};
     resolveAuditionsForWeek(game);
     return world.saveAllAuditionList[0];
   }

@@ -4,6 +4,7 @@
 
 #include "career/casting_terms.h"
 #include "career/colleagues.h"
+#include "career/new_title.h"
 #include "tests/scratch_game.h"
 
 namespace tb {
@@ -152,7 +153,7 @@ TEST_F(CastingNetwork, MakesABoardOfProjectsOfTheirOwn) {
   EXPECT_EQ(board[0].weekAudition, 115);
   EXPECT_EQ(board[0].weekToWork, 135);
   EXPECT_EQ(board[0].directorRating, 3);
-  EXPECT_EQ(board[0].directorName, "Abbas Abbott");
+  EXPECT_EQ(board[0].directorName, "Abbas Abendroth");
 }
 
 TEST_F(CastingNetwork, DrawsATakenTitleAgainTenTimesAndThenLetsItStand) {
@@ -186,7 +187,7 @@ TEST_F(CastingNetwork, MatchesThePerformersGuildThreeTimesInFour) {
     const CastingBoard board = openCastingNetwork(game);
     for (std::size_t flag = 0; flag < 3; ++flag) EXPECT_EQ(board[flag].isUnion, member);
     EXPECT_EQ(board[3].isUnion, 1 - member);
-    EXPECT_EQ(board[0].characterName, member == 0 ? "Aaron Abbott" : "Aaliyah Abbott");
+    EXPECT_EQ(board[0].characterName, member == 0 ? "Aaron Abendroth" : "Aaliyah Abendroth");
   }
 }
 
@@ -202,6 +203,26 @@ TEST_F(CastingNetwork, GivesPrincipalsOfSeriesTheirOwnRoles) {
   EXPECT_EQ(board[0].role, "Recurring");
   EXPECT_EQ(board[1].role, "Lead");
   EXPECT_EQ(board[2].role, "Extra");
+}
+
+TEST_F(Casting, ATitleThatWasMadeGivesWayToTheNextOfItsTypeThatWasNot) {
+  const std::span<const Movie> table = movies();
+  const auto nobody = [](const Movie&) { return false; };
+  const auto drawn = [&](std::size_t row) -> const std::string& {
+    return newTitle(table, table[row], madeTitles(world), nobody).title;
+  };
+  EXPECT_EQ(drawn(61), table[61].title);
+  world.saveAllFilmList = {{.title = table[61].title}};  // the last feature film of the table
+  world.saveAllAuditionList = {{.title = table[0].title, .funnelStage = funnel::booked},
+                               {.title = table[1].title, .funnelStage = funnel::submitted}};
+  EXPECT_EQ(drawn(61), table[1].title);  // a submission is no film yet
+  EXPECT_EQ(drawn(0), table[1].title);
+  EXPECT_EQ(newTitle(table, table[0], madeTitles(world),
+                     [&](const Movie& movie) { return movie.title == table[1].title; })
+                .title,
+            table[2].title);
+  for (const Movie& movie : table) world.saveAllFilmList.push_back({.title = movie.title});
+  EXPECT_EQ(drawn(5), table[5].title);  // with all of them made it comes again
 }
 
 }  // namespace

@@ -173,7 +173,7 @@ TEST(RoyaltyScreen, TheAskIsRaisedLoweredAndPutToTheTeamOnce) {
   EXPECT_EQ(player.title(), "Desk");
   EXPECT_EQ(app.game().world.saveAllAuditionList.back().title, offer.title);
   player.press("Open");
-  player.expectSees({"This offer is not on the table any more."});
+  player.expectSees({"This offer is not on the table anymore."});
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ struct Submission : test::RuleTest {
                             .residual = 0.01,
                             .numberOfEpisodesActed = 4,
                             .directorRating = 6,
-                            .directorName = "Abbas Abbott",
+                            .directorName = "Abbas Abendroth",
                             .characterName = "{title} Vale"};
 
   void scriptSubmission() {
@@ -58,8 +58,8 @@ TEST_F(Submission, WritesTheWholeRecord) {
             "numberOfEpisodesTotal 12, isContinued 0, seasonNumber 1, submittedYear 2030, workYear 2031, "
             "weekSubmitted 1, weekAudition 5, weekToWork 20, weekReleased 35, payment 1482, residual 0.01, "
             "budget 300000, source The Backstage, rehearsalRating 0.69, performanceRating 0.5175, "
-            "hypeRating 3, auditionDifficulty 60, directorRating 6, directorName Abbas Abbott, "
-            "writerName Abbas Abbott, writerRating 4)");
+            "hypeRating 3, auditionDifficulty 60, directorRating 6, directorName Abbas Abendroth, "
+            "writerName Abbas Abendroth, writerRating 4)");
   EXPECT_EQ(world.totalEnergyAvailable, 0);
   expectToldInTheLogAlone("You submitted for Neon Horizon today, and it feels good to finally press send.");
 }

@@ -91,6 +91,7 @@ TEST_F(Cards, TheConsensusFollowsTheWholePercent) {
       {75, Bank::criticConsensusBank75}, {89.9, Bank::criticConsensusBank75},
       {90, Bank::criticConsensusBank90}, {118, Bank::criticConsensusBank90}};
   for (const auto& [percent, bank] : cases) {
+    game.told = {};
     random.range(14, 3);
     EXPECT_EQ(drawConsensus(game, film, percent), fill(rowsOf(bank)[3], {{"title", "Zoo"}})) << percent;
   }
@@ -109,17 +110,21 @@ TEST_F(Cards, CriticsSpeakByTheScoreOfAllCritics) {
       {80, Bank::longReviewBank4, 26, 2.44, 3.2}, {100.9, Bank::longReviewBank5, 30, 3.24, 4},
   };
   film.numMetascoreRatings = 2;
+  film.isPrincipal = rolePart::principal;
   for (const Case& row : cases) {
+    game.told = {};
     for (const std::int64_t woman : {0, 1}) {
       random.range(row.rows, 2).unit(static_cast<double>(woman)).range(2, woman);
       random.range(120, 5).range(254, 7).range(27, 3).range(woman == 1 ? 24 : 35, woman == 1 ? 0 : 34);
     }
     const std::vector<Review> drawn = drawCriticCards(game, film, row.percent);
     ASSERT_EQ(drawn.size(), 2U);
-    EXPECT_EQ(
-        drawn[0].review,
-        fill(rowsOf(row.bank)[2],
-             {{"title", "Zoo"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}, {"genre", "sci-fi"}}));
+    EXPECT_EQ(drawn[0].review, fill(rowsOf(row.bank)[2], {{"title", "Zoo"},
+                                                          {"director", "Mina Falk"},
+                                                          {"name", "Ada Quinn"},
+                                                          {"genre", "sci-fi"},
+                                                          {"prop", "letter"},
+                                                          {"place", "hallway"}}));
     EXPECT_NEAR(drawn[0].stars, row.lowest, 1e-9) << row.percent;
     EXPECT_NEAR(drawn[1].stars, row.highest, 1e-9) << row.percent;
     EXPECT_EQ(drawn[0].image, "critic_m (35).png");
@@ -168,6 +173,7 @@ TEST_F(Cards, TastesOfTheAudienceDifferByAStarAroundTheScore) {
                         Bank::userReviewSnippet4, Bank::userReviewSnippet5};
   film.numImbdRatings = 3;
   for (const auto& [percent, stars] : cases) {
+    game.told = {};
     for (const std::int64_t taste : {0, 1, 2}) {
       random.range(3, taste).range(49, 6).range(60, 0).range(80, 0).range(2, 1);
     }
@@ -175,9 +181,11 @@ TEST_F(Cards, TastesOfTheAudienceDifferByAStarAroundTheScore) {
     ASSERT_EQ(drawn.size(), 3U);
     for (std::size_t card = 0; card < 3; ++card) {
       EXPECT_EQ(drawn[card].stars, stars[card]) << percent;
-      EXPECT_EQ(drawn[card].review,
-                fill(rowsOf(banks[stars[card] - 1])[6],
-                     {{"title", "Zoo"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}}));
+      EXPECT_EQ(drawn[card].review, fill(rowsOf(banks[stars[card] - 1])[6], {{"title", "Zoo"},
+                                                                             {"director", "Mina Falk"},
+                                                                             {"name", "Ada Quinn"},
+                                                                             {"prop", "letter"},
+                                                                             {"place", "hallway"}}));
       EXPECT_EQ(drawn[card].name, "sofacritic");
       EXPECT_EQ(drawn[card].date.dayAndYear, "1, 2027");  // the week after the release
     }

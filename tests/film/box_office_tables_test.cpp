@@ -20,6 +20,7 @@ void addMarket(WorldState& world, std::int64_t id, std::int64_t country, double 
   for (const double takings : weeks) total += takings;
   world.saveAllBoxOfficeList.push_back({.filmId = id,
                                         .countryId = country,
+                                        .year = 2031,
                                         .openingWeekend = opening,
                                         .totalGross = total,
                                         .boxOfficeWeeklyEarnings = std::move(weeks)});
@@ -57,6 +58,7 @@ TEST(BoxOfficeTables, OwnFilmsAreRankedByGrossWithWhatTheyTookAtHome) {
   const std::vector<BoxOfficeWeekends> rows = filmsByGross(world);
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0].title, "Big");
+  EXPECT_EQ(rows[0].yearReleased, 2031);  // it wrapped in 2030 and opened in the year after
   EXPECT_EQ(rows[0].weekendEarnings, 130);
   EXPECT_EQ(rows[0].totalGross, 160);
   EXPECT_EQ(rows[0].domesticGross, 120);

@@ -92,7 +92,7 @@ TEST(Opening, JojoPostsTheLastOpeningOfTheWeekOnce) {
   postBoxOfficeChirp(film.game);
   ASSERT_EQ(film.world.saveAllChirpList.size(), 1U);
   const Chirp& post = film.world.saveAllChirpList.front();
-  EXPECT_EQ(post.message, "Opening weekend numbers are in — \"Second\" debuts with $110K ");
+  EXPECT_EQ(post.message, "Gerald the calculator has spoken. \"Second\": $110K in three days. ");
   EXPECT_EQ(post.id, 2);
   EXPECT_EQ(post.artistId, -1);
   EXPECT_EQ(post.chirpName, "Box Office Jojo");

@@ -80,8 +80,13 @@ TEST(Catalogue, EveryRowCanBeCast) {
       EXPECT_TRUE(row.type >= filmType::feature && row.type <= filmType::shortFilm) << row.title;
       EXPECT_TRUE(row.longSummaryTemplate.contains("{name}")) << row.title;
       EXPECT_TRUE(row.imageString.ends_with(".png")) << row.title;
+      EXPECT_FALSE(row.title.ends_with('.')) << row.title << " ends the sentences that it stands in";
+      EXPECT_FALSE(row.sights.prop.empty() || row.sights.place.empty()) << row.title;
     }
   }
+  EXPECT_EQ(sightsOf("Neon Horizon").prop, "parcel");
+  EXPECT_EQ(sightsOf("Nightglass: Dead Frequency").place, "highway");
+  EXPECT_FALSE(sightsOf("A title of another game").prop.empty());
   EXPECT_EQ(movies().front().genre, (std::vector<std::string>{"Sci-Fi", "Thriller"}));
 }
 

@@ -23,6 +23,7 @@ struct ScoreRoll : test::RuleTest {
   Scores rolled(std::int64_t typeOfFilm, std::int64_t directorRating) {
     Audition project = test::projectOf(typeOfFilm);
     project.directorRating = directorRating;
+    project.isPrincipal = rolePart::principal;
     return rollScores(game, project);
   }
   // The draws that every release makes before its band is looked up: rating, metascore, both counts.
@@ -66,9 +67,12 @@ TEST_F(ScoreRoll, EachStandingHasItsReviewsItsScoresAndItsAudience) {
     EXPECT_EQ(scores.imbdMetascore, band.metascore.most());
     EXPECT_EQ(scores.numImbdRatings, band.ratings.least);
     EXPECT_EQ(scores.numMetascoreRatings, band.critics.least);
-    EXPECT_EQ(scores.featuredReview,
-              fill(rowsOf(band.review).back(),
-                   {{"title", "Salt Road"}, {"director", "Mina Falk"}, {"name", ""}, {"genre", "Western"}}));
+    EXPECT_EQ(scores.featuredReview, fill(rowsOf(band.review).back(), {{"title", "Salt Road"},
+                                                                       {"director", "Mina Falk"},
+                                                                       {"name", ""},
+                                                                       {"genre", "Western"},
+                                                                       {"prop", "letter"},
+                                                                       {"place", "hallway"}}));
   }
 }
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/scripted_random.h"
+#include "tests/scratch_game.h"
 
 namespace tb {
 namespace {
@@ -18,9 +18,9 @@ struct Paragraph {
 
 std::string summed(const std::vector<std::string>& reviews, const std::optional<std::string>& title,
                    const std::vector<std::int64_t>& rows, const std::vector<std::int64_t>& draws) {
-  test::ScriptedRandom random;
-  for (std::size_t bank = 0; bank < rows.size(); ++bank) random.range(rows[bank], draws[bank]);
-  return summarizeReviews(random, reviews, title);
+  test::ScratchGame scratch;
+  for (std::size_t bank = 0; bank < rows.size(); ++bank) scratch.random.range(rows[bank], draws[bank]);
+  return summarizeReviews(scratch.game, reviews, title);
 }
 
 const std::vector<std::int64_t> casual = {15, 8, 6, 2};
@@ -29,7 +29,7 @@ const std::vector<std::int64_t> formalAndBad = {14, 7, 6, 1};
 
 TEST(ReviewSummary, SpeaksTheLanguageOfTheReviewsAndNamesWhatTheyLikeAndWhatNot) {
   const Paragraph paragraphs[] = {
-      // ngl, lowkey and the w in it; love, loved, iconic, amazing; no topic on either side.
+      // ngl and lowkey; loved, iconic, amazing; no topic on either side.
       {{"  Ngl I loved it. ", "", "Lowkey iconic, amazing."},
        casual,
        {0, 3, 0, 0},
@@ -45,17 +45,17 @@ TEST(ReviewSummary, SpeaksTheLanguageOfTheReviewsAndNamesWhatTheyLikeAndWhatNot)
        casual,
        {2, 1, 4, 0},
        {"It's a coin toss with", "Love for performances and story, smoke for a couple rough spots."}},
-      // bop, vibe, the w of slow; bad.
+      // bop and vibe; bad.
       {{"Bop soundtrack, slow drag, bad vibe."},
        casual,
        {0, 5, 0, 1},
        {"fumbled it", "What bugged everyone: pacing. What almost saved it: soundtrack.",
         "mixed-to-negative, said with a wince."}},
-      // The "ate" of hated counts as slang and as a word for performances; lazy writing before the rest.
-      {{"Hated it, trash, what a waste. Cooked. Boring, lazy writing, confusing."},
+      // cooked and ngl; the "ate" of hated is no word; lazy writing before the rest.
+      {{"Hated it, trash, what a waste. Cooked, ngl. Boring, lazy writing, confusing."},
        casual,
        {12, 3, 1, 0},
-       {"took the L", "The rap sheet: writing and pacing.", "performances and story, allegedly.", "Skip it"}},
+       {"took the L", "The rap sheet: writing and pacing.", "story, allegedly.", "Skip it"}},
       // beautiful, solid, excellent; shot, shots and gorgeous before acting.
       {{"A beautiful, solid piece. Truly excellent acting and gorgeous shots."},
        formal,
@@ -72,12 +72,12 @@ TEST(ReviewSummary, SpeaksTheLanguageOfTheReviewsAndNamesWhatTheyLikeAndWhatNot)
        formalAndBad,
        {1, 6, 2, 0},
        {"falls somewhat short", "Held back by: tone and writing. Helped a little by: story."}},
-      // terrible, awful, pain; plot hole, plot holes and no sense; cgi, effects and green screen.
+      // terrible, awful, pain; cgi, effects and green screen before plot holes and no sense.
       {{"Terrible, awful, a pain. The green screen effects and the cgi are a disaster, and the plot holes "
         "make no sense."},
        formalAndBad,
        {13, 0, 5, 0},
-       {"Warnings to other viewers", "Complaints about plot and cgi dominate, and mentions of story"}},
+       {"Warnings to other viewers", "Complaints about cgi and plot dominate, and mentions of story"}},
   };
   for (const Paragraph& each : paragraphs) {
     const std::string paragraph = summed(each.reviews, "Salt Road", each.rows, each.draws);
@@ -108,6 +108,13 @@ TEST(ReviewSummary, TheLabelTurnsAtItsThresholds) {
     const std::string paragraph = summed({row.review}, "It", row.rows, {0, 0, 0, 0});
     EXPECT_TRUE(paragraph.contains(row.label)) << row.review << ": " << paragraph;
   }
+}
+
+TEST(ReviewSummary, OnlyWholeWordsCount) {
+  // No love in gloves, no waste in wasted, no mid in amid, no w in wow; and a word ends with its review.
+  EXPECT_TRUE(summed({"Gloves, a wasted scoreboard amid wow", "fr", "npc."}, "It", casual, {0, 0, 0, 0})
+                  .contains("some moments"));
+  EXPECT_TRUE(summed({"It's great-ish."}, "It", formal, {0, 0, 0, 0}).contains(" positive"));
 }
 
 TEST(ReviewSummary, OneWordOfSlangDoesNotMakeItCasualAndBlankReviewsAreNotEnough) {

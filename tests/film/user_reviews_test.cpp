@@ -11,7 +11,11 @@ namespace tb {
 namespace {
 
 Film rated(double rating, std::int64_t ratings) {
-  return {.title = "Salt Road", .directorName = "Mina Falk", .imbdRating = rating, .numImbdRatings = ratings};
+  return {.isPrincipal = rolePart::principal,
+          .title = "Salt Road",
+          .directorName = "Mina Falk",
+          .imbdRating = rating,
+          .numImbdRatings = ratings};
 }
 
 TEST(StarHistogram, SpreadsTheRatingsInABellAroundTheMean) {
@@ -63,7 +67,11 @@ TEST_F(UserReviewCards, SpeakInTheWordsOfTheirStars) {
   const std::vector<Reviews> reviews = drawUserReviews(game, rated(7, 10), everybody);
   ASSERT_EQ(reviews.size(), 5U);  // and no draw more
   const auto filled = [](const std::string& row) {
-    return fill(row, {{"title", "Salt Road"}, {"director", "Mina Falk"}, {"name", "Ada Quinn"}});
+    return fill(row, {{"title", "Salt Road"},
+                      {"director", "Mina Falk"},
+                      {"name", "Ada Quinn"},
+                      {"prop", "letter"},
+                      {"place", "hallway"}});
   };
   for (std::size_t index = 0; index < reviews.size(); ++index) {
     EXPECT_EQ(reviews[index].rating, levels[index].star + 1);
@@ -71,6 +79,17 @@ TEST_F(UserReviewCards, SpeakInTheWordsOfTheirStars) {
     EXPECT_EQ(reviews[index].review, filled(rowsOf(levels[index].bodies).back()));
     EXPECT_EQ(reviews[index].username, "midnightWaffle");
   }
+}
+
+TEST_F(UserReviewCards, StarsThatFewerThanOneRatingInTwentyGaveAreDrawnInVain) {
+  StarHistogram flop{};
+  flop[0] = 95;
+  flop[9] = 5;
+  for (int draw = 0; draw < 5; ++draw) random.range(10, 9).any(4);
+  EXPECT_EQ(drawUserReviews(game, rated(1, 100), flop).size(), 5U);  // five in a hundred are heard
+  flop[0] = 96;
+  for (int draw = 0; draw < 25; ++draw) random.range(10, 9);
+  EXPECT_TRUE(drawUserReviews(game, rated(1, 101), flop).empty());
 }
 
 TEST_F(UserReviewCards, StarsThatNobodyGaveAreDrawnInVain) {

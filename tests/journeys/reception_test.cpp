@@ -119,9 +119,26 @@ TEST(ReceptionPages, BeforeTheReleaseTheyWaitForIt) {
   const view::Page page = stage.top().view(stage.game());
   EXPECT_EQ(page.title, "Not Yet");
   EXPECT_EQ(page.nodes.size(), 3U);  // poster, a word that nobody has seen it, storyline
-  RottenBananaDetailViewController bananas("Not Yet");
+  RottenBananaDetailViewController bananas(13);
   bananas.load(stage);
   EXPECT_EQ(bananas.view(stage.game()).nodes.size(), 2U);
+}
+
+TEST(ReceptionPages, ASeasonHasBananasOfItsOwn) {
+  test::ScratchGame scratch(test::Unscripted::low);
+  scratch.world.weekNumberForTracking = 20;
+  addProduction(scratch.world, 11, filmType::series, "Low Tide", 9);
+  addProduction(scratch.world, 12, filmType::series, "Low Tide", 19);  // the next season, and the first found
+  scratch.world.saveAllFilmList.edit(0).numMetascoreRatings = 4;
+  Stage stage(scratch.game);
+  const auto reviews = [&](std::int64_t filmId) {
+    RottenBananaDetailViewController bananas(filmId);
+    bananas.load(stage);
+    const view::Page page = bananas.view(stage.game());
+    return std::get<view::Section>(page.nodes[4].node).nodes.size();
+  };
+  EXPECT_EQ(reviews(11), 2U);
+  EXPECT_EQ(reviews(12), 4U);
 }
 
 TEST_F(Reception, AYearLaterTheScoresStandAndThePopularityHasMoved) {

@@ -6,9 +6,10 @@ namespace tb {
 
 namespace {
 
-const std::array<std::string, 12> french = {"janvier",   "février", "mars",     "avril",
-                                            "mai",       "juin",    "juillet",  "août",
-                                            "septembre", "octobre", "novembre", "décembre"};
+const MonthNames russian = {.months = {"январь", "февраль", "март", "апрель", "май", "июнь", "июль", "август",
+                                       "сентябрь", "октябрь", "ноябрь", "декабрь"},
+                            .capitals = {"ЯНВАРЬ", "ФЕВРАЛЬ", "МАРТ", "АПРЕЛЬ", "МАЙ", "ИЮНЬ", "ИЮЛЬ",
+                                         "АВГУСТ", "СЕНТЯБРЬ", "ОКТЯБРЬ", "НОЯБРЬ", "ДЕКАБРЬ"}};
 
 }  // namespace
 
@@ -21,13 +22,14 @@ TEST(SystemLocale, MoneyAndMonthsAreThoseOfThePlayersCountry) {
   conventions.negative_sign = minus;
   conventions.p_cs_precedes = 0;
   conventions.p_sep_by_space = 1;
-  const Locale locale = localeFrom(conventions, french);
+  const Locale locale = localeFrom(conventions, russian);
   EXPECT_EQ(locale.currencySymbol, "€");
   EXPECT_FALSE(locale.currencyBeforeAmount);
   EXPECT_EQ(locale.currencyGap, "\u00A0");
   EXPECT_EQ(locale.decimalPoint, ",");
   EXPECT_EQ(locale.groupSeparator, "\u202f");
-  EXPECT_EQ(locale.months[7], "août");
+  EXPECT_EQ(locale.months[7], "август");
+  EXPECT_EQ(locale.monthCapitals[7], "АВГУСТ");
 }
 
 TEST(SystemLocale, WhatTheSystemLeavesOpenIsAsAlways) {
@@ -38,6 +40,7 @@ TEST(SystemLocale, WhatTheSystemLeavesOpenIsAsAlways) {
   EXPECT_EQ(locale.currencyGap, usual.currencyGap);
   EXPECT_EQ(locale.groupSeparator, usual.groupSeparator);
   EXPECT_EQ(locale.months, usual.months);
+  EXPECT_EQ(locale.monthCapitals, usual.monthCapitals);
 }
 
 }  // namespace tb

@@ -87,9 +87,13 @@ test("money, numbers and months are written as the device writes them", () => {
   assert.deepEqual(localeFields("pt-BR").slice(0, 5), ["R$", "1", "\u00a0", ",", "."]);
   assert.equal(localeFields("en-CA")[0], "$");
   assert.equal(localeFields("ja")[0], "￥"); // a language without a region means its usual one
+  const capitals = (tag: string) => localeFields(tag).slice(6 + 12);
+  assert.equal(capitals("ru-RU")[0], "ЯНВАРЬ"); // in every script, as its language does it
+  assert.equal(capitals("tr-TR")[3], "NİSAN");
+  assert.equal(capitals("el-GR")[0], "ΙΑΝΟΥΑΡΙΟΣ");
   for (const tag of ["en", "ar-EG", "fa-IR", "hi-IN", "de-CH", "fr-FR", "tr-TR", "th-TH", "und", "eo"]) {
     const fields = localeFields(tag);
-    assert.equal(fields.length, 6 + 12, tag);
+    assert.equal(fields.length, 6 + 2 * 12, tag);
     assert(fields.slice(6).every((month) => month !== ""), tag);
     assert(fields[0] !== "", tag);
   }

@@ -44,8 +44,8 @@ Card jobCard(const Game& game) {
 
 // The log mixes lines and, over the lines of each week, its date: "JANUARY 2, 2026".
 bool isDateHeading(const Locale& locale, const std::string& line) {
-  for (const std::string& month : locale.months) {
-    const std::string start = upperCase(month) + " ";
+  for (const std::string& month : locale.monthCapitals) {
+    const std::string start = month + " ";
     if (line.starts_with(start) &&
         line.find_first_not_of("0123456789, ", start.size()) == std::string::npos) {
       return true;
@@ -65,8 +65,7 @@ PagedList activityLog(const Game& game) {
   return {.key = "activity",
           .size = game.world.activityTracker.size(),
           .nodeAt = [&game](std::size_t index) { return activityNode(game, index); },
-          .whenEmpty =
-              "Your story starts here. Everything that happens in your career is written down in this log."};
+          .whenEmpty = "Your story starts here. This log keeps what your career brings, week by week."};
 }
 
 }  // namespace

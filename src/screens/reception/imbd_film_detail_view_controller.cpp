@@ -35,13 +35,15 @@ std::string kindOf(const Film& film) {
 // --- Scores ---
 
 Tiles scores(const Game& game, const Film& film, std::optional<std::size_t> place) {
-  return {{{.label = "Imbd",
-            .value = std::format("{:.1f}", film.imbdRating),
-            .detail = plainCount(game.locale, shownRatings(film)) + " ratings"},
-           {.label = "Metascore",
-            .value = std::to_string(film.imbdMetascore),
-            .detail = plainCount(game.locale, film.numMetascoreRatings) + " critics"},
-           {.label = "Top 250", .value = place ? std::format("#{}", *place) : "Unranked"}}};
+  return {
+      {{.label = "Imbd",
+        .value = std::format("{:.1f}", film.imbdRating),
+        .detail = plainCount(game.locale, shownRatings(film)) + " " + plural(shownRatings(film), "rating")},
+       {.label = "Metascore",
+        .value = std::to_string(film.imbdMetascore),
+        .detail = plainCount(game.locale, film.numMetascoreRatings) + " " +
+                  plural(film.numMetascoreRatings, "critic")},
+       {.label = "Top 250", .value = place ? std::format("#{}", *place) : "Unranked"}}};
 }
 
 Meter popularity(const Film& film) {
@@ -141,8 +143,8 @@ Section critics(const Film& film) {
   }
   section.nodes.push_back(Row{.label = "RottenBanana",
                               .detail = "What critics and audiences make of it",
-                              .press = [title = film.title](Stage& stage) {
-                                stage.open(std::make_unique<RottenBananaDetailViewController>(title));
+                              .press = [id = film.filmId](Stage& stage) {
+                                stage.open(std::make_unique<RottenBananaDetailViewController>(id));
                               }});
   return section;
 }
@@ -177,7 +179,7 @@ void ImbdFilmDetailViewController::load(Stage& stage) {
   if (reviews_.empty()) return;
   std::vector<std::string> texts;
   for (const Reviews& review : reviews_) texts.push_back(review.review);
-  summary_ = summarizeReviews(game.random, texts, film.title);
+  summary_ = summarizeReviews(game, texts, film.title);
 }
 
 Section ImbdFilmDetailViewController::audience() const {

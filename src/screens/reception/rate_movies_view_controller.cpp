@@ -24,7 +24,7 @@ Choice RateMoviesViewController::stars() {
 
 void RateMoviesViewController::generate(Stage& stage) {
   if (Refusal refusal = needsRating(rating_)) return stage.show(std::move(refusal));
-  review_ = generatedReview(stage.game().random, rating_);
+  review_ = generatedReview(stage.game(), rating_);
 }
 
 void RateMoviesViewController::submit(Stage& stage) {

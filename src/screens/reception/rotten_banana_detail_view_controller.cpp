@@ -68,7 +68,7 @@ Section cards(std::string heading, const std::vector<Written>& reviews, Draw dra
 
 void RottenBananaDetailViewController::load(Stage& stage) {
   Game& game = stage.game();
-  const Film& film = game.world.saveAllFilmList[filmIndexOfTitle(game.world, title_)];
+  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
   if (!isOut(game.world, film)) return;
   scores_ = bananaScores(film);
   consensus_ = drawConsensus(game, film, scores_.critic);
@@ -77,7 +77,7 @@ void RottenBananaDetailViewController::load(Stage& stage) {
 }
 
 Page RottenBananaDetailViewController::view(const Game& game) {
-  const Film& film = game.world.saveAllFilmList[filmIndexOfTitle(game.world, title_)];
+  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
   Page page{
       .title = titleWithSeason(film), .subtitle = "RottenBanana", .nodes = {posterOf(film.imageString)}};
   if (consensus_.empty()) {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "film/banana_reviews.h"
@@ -10,16 +10,16 @@
 
 namespace tb {
 
-// What critics and audiences make of a title, in percent and in their own words. A title is looked up by its
-// name, so the page of a series is that of its newest season. The texts are drawn as the page opens.
+// What critics and audiences make of a film, in percent and in their own words. The texts are drawn as the
+// page opens.
 class RottenBananaDetailViewController : public Screen {
  public:
-  explicit RottenBananaDetailViewController(std::string title) : title_(std::move(title)) {}
+  explicit RottenBananaDetailViewController(std::int64_t filmId) : film_id_(filmId) {}
   void load(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
 
  private:
-  std::string title_;
+  std::int64_t film_id_;
   BananaScores scores_;
   std::string consensus_;
   std::vector<Review> critics_;

@@ -15,7 +15,7 @@ std::string nameOf(const JulliardClass& row) { return std::format("Drama {}: {}"
 
 Row takenRow(const ActingClass& taken) {
   const JulliardClass* row = classWithId(taken.classId);
-  Row shown{.label = row == nullptr ? "A class of old" : nameOf(*row)};
+  Row shown{.label = row == nullptr ? "An earlier class" : nameOf(*row)};
   if (taken.weeksRemaining > 0) {
     shown.value = std::format("{} of {} weeks left", taken.weeksRemaining, taken.weeksTotal);
     shown.detail = std::format("-{} energy each week", taken.energyCost);

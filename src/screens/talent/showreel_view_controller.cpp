@@ -59,8 +59,9 @@ Choice ShowreelViewController::packages(const Game& game) {
   for (std::size_t index = 0; index < scenePackages.size(); ++index) {
     const ScenePackage& package = scenePackages[index];
     choice.options.push_back(
-        {.label = std::format("{} • {} scene{} • {}", package.title, package.scenes,
-                              package.scenes == 1 ? "" : "s", currency(game.locale, package.cost, 0)),
+        {.label = std::format("{} • {} • {}", package.title,
+                              counted(static_cast<std::int64_t>(package.scenes), "scene"),
+                              currency(game.locale, package.cost, 0)),
          .chosen = index == package_,
          .press = [this, index](Stage&) { package_ = index; }});
   }

@@ -26,7 +26,7 @@ constexpr std::array<FunnelList, 4> funnelLists = {{
     {.title = "All Applications",
      .lowestStage = funnel::closed,
      .highestStage = funnel::wrapped,
-     .whenEmpty = "You have not applied for anything yet. The casting network is behind the B at the hub's "
+     .whenEmpty = "You have not applied for anything yet. Roles to submit for are behind the B at the "
                   "top right."},
     {.title = "Upcoming Auditions",
      .lowestStage = funnel::invited,

@@ -136,7 +136,7 @@ Button withdrawal(const Audition& project) {
 
 Page AuditionDetailViewController::view(const Game& game) {
   const auto index = auditionIndex(game.world, filmId_);
-  if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list any more.")}};
+  if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list anymore.")}};
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
             .subtitle = std::format("{} • {}", typeName(project.typeOfFilm), guildWords(project.isUnion))};

@@ -62,7 +62,7 @@ bool hasFigures(const Audition& project) {
 
 Page PostReleaseAuditionViewController::view(const Game& game) {
   const auto index = auditionIndex(game.world, filmId_);
-  if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list any more.")}};
+  if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list anymore.")}};
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
             .subtitle = std::format("{} • {} • {}", typeName(project.typeOfFilm), project.role,

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/number_style.h"
+#include "core/text.h"
 
 namespace tb {
 
@@ -12,8 +13,6 @@ namespace {
 
 // By filmType.
 constexpr std::array typeNames = {"Feature Film", "TV-Series", "Commercial", "Student Film", "Short Film"};
-
-std::string weeks(std::int64_t count) { return std::format("{} week{}", count, count == 1 ? "" : "s"); }
 
 std::string invitedWords(const WorldState& world, const Audition& project) {
   if (isOver(world, project)) return "Not selected";
@@ -42,7 +41,7 @@ std::string guildWords(std::int64_t isUnion) { return isUnion == 1 ? "Union" : "
 std::string whenIs(const WorldState& world, std::int64_t week) {
   const std::int64_t ahead = week - world.weekNumberForTracking;
   if (ahead == 0) return "this week";
-  return ahead > 0 ? "in " + weeks(ahead) : weeks(-ahead) + " ago";
+  return ahead > 0 ? "in " + counted(ahead, "week") : counted(-ahead, "week") + " ago";
 }
 
 std::string progressWords(const WorldState& world, const Audition& project) {

@@ -27,7 +27,13 @@ Section theProject(const Game& game, const Audition& offer) {
           .nodes = {Text{.text = offer.description}, Row{.label = "Director", .value = offer.directorName},
                     Row{.label = "Genre", .value = joinedWithAnd(offer.genres)},
                     Row{.label = "Budget", .value = shortMoney(game.locale, offer.budget)},
-                    Row{.label = "Pay", .value = "A share of the gross, no fee"}}};
+                    Row{.label = "Pay", .value = "A share of what it earns, no fee"}}};
+}
+
+// A series has no box office: it pays when a network buys its reruns.
+std::string shareOf(const Audition& offer) {
+  return offer.typeOfFilm == filmType::series ? "of the price when it is syndicated"
+                                              : "of the box office, and of the price when it is syndicated";
 }
 
 std::string chanceWords(std::int64_t chance, std::int64_t bonus) {
@@ -53,7 +59,7 @@ Section RoyaltyViewController::theAsk(const Game& game, const Audition& offer) {
   return {.heading = "YOUR ASK",
           .nodes = {Tiles{{{.label = "Royalty",
                             .value = std::format("{:.2f}%", percentAsked(offer, steps_)),
-                            .detail = "of the gross, and of the price when it is syndicated"}}},
+                            .detail = shareOf(offer)}}},
                     Meter{.label = "They agree",
                           .value = static_cast<double>(chanceOfNegotiation(steps_) + bonus),
                           .maximum = 100,
@@ -74,7 +80,7 @@ Section RoyaltyViewController::theAsk(const Game& game, const Audition& offer) {
 Page RoyaltyViewController::view(const Game& game) {
   const Audition* const offer = stakeOffer(game.world, email_);
   if (offer == nullptr)
-    return {.title = "Royalty", .nodes = {caption("This offer is not on the table any more.")}};
+    return {.title = "Royalty", .nodes = {caption("This offer is not on the table anymore.")}};
   return {.title = offer->title,
           .subtitle = std::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
           .nodes = {posterOf(offer->imageString), theMessage(game.world, email_), theAsk(game, *offer),

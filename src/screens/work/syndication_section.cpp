@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/number_style.h"
+#include "core/text.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -12,10 +13,6 @@ namespace tb {
 using namespace view;
 
 namespace {
-
-std::string counted(std::int64_t count, const std::string& unit) {
-  return std::format("{} {}{}", count, unit, count == 1 ? "" : "s");
-}
 
 Row networkRow(const Game& game, const std::string& network, std::int64_t price, std::string detail) {
   return {.label = network,

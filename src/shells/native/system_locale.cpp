@@ -1,6 +1,9 @@
 #include "shells/native/system_locale.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <cwchar>
+#include <cwctype>
 #include <langinfo.h>
 #include <string_view>
 
@@ -11,12 +14,33 @@ namespace {
 constexpr const char* noBreakSpace = "\u00A0";
 
 // Standing alone ("LLLL"), not as in a date, where the language makes a difference.
-std::array<std::string, 12> monthNames() {
+std::array<std::string, 12> monthsAsWritten() {
   constexpr nl_item items[] = {ALTMON_1, ALTMON_2, ALTMON_3, ALTMON_4,  ALTMON_5,  ALTMON_6,
                                ALTMON_7, ALTMON_8, ALTMON_9, ALTMON_10, ALTMON_11, ALTMON_12};
   std::array<std::string, 12> months;
   std::ranges::transform(items, months.begin(), [](nl_item item) { return std::string(nl_langinfo(item)); });
   return months;
+}
+
+// A name in the capitals of the language that is set. Empty when the name is no text of its encoding.
+std::string capitalsOf(const std::string& name) {
+  std::wstring wide(name.size(), L'\0');
+  const std::size_t letters = std::mbstowcs(wide.data(), name.c_str(), wide.size());
+  if (letters == static_cast<std::size_t>(-1)) return "";
+  wide.resize(letters);
+  for (wchar_t& letter : wide) letter = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(letter)));
+  std::string capitals(letters * MB_CUR_MAX, '\0');
+  const std::size_t bytes = std::wcstombs(capitals.data(), wide.c_str(), capitals.size());
+  if (bytes == static_cast<std::size_t>(-1)) return "";
+  capitals.resize(bytes);
+  return capitals;
+}
+
+MonthNames monthNames() {
+  const std::array<std::string, 12> months = monthsAsWritten();
+  MonthNames names{.months = months};
+  std::ranges::transform(months, names.capitals.begin(), capitalsOf);
+  return names;
 }
 
 bool isUtf8OfSomewhere() {
@@ -35,7 +59,7 @@ void take(std::string& into, const char* first, const char* second) {
 
 }  // namespace
 
-Locale localeFrom(const lconv& conventions, const std::array<std::string, 12>& months) {
+Locale localeFrom(const lconv& conventions, const MonthNames& names) {
   Locale locale;
   take(locale.decimalPoint, conventions.mon_decimal_point, conventions.decimal_point);
   take(locale.groupSeparator, conventions.mon_thousands_sep, conventions.thousands_sep);
@@ -45,7 +69,13 @@ Locale localeFrom(const lconv& conventions, const std::array<std::string, 12>& m
     locale.currencyBeforeAmount = conventions.p_cs_precedes != 0;
     locale.currencyGap = conventions.p_sep_by_space == 1 ? noBreakSpace : "";
   }
-  if (std::ranges::none_of(months, &std::string::empty)) locale.months = months;
+  const auto is_complete = [](const auto& months) {
+    return std::ranges::none_of(months, &std::string::empty);
+  };
+  if (is_complete(names.months) && is_complete(names.capitals)) {
+    locale.months = names.months;
+    locale.monthCapitals = names.capitals;
+  }
   return locale;
 }
 

@@ -13,7 +13,12 @@ namespace tb {
 // again afterwards: numbers in files do not depend on where the player lives.
 [[nodiscard]] Locale systemLocale();
 
-// The same from what localeconv() says; what it leaves empty is as in the defaults.
-[[nodiscard]] Locale localeFrom(const lconv& conventions, const std::array<std::string, 12>& months);
+struct MonthNames {
+  std::array<std::string, 12> months;
+  std::array<std::string, 12> capitals;  // the same months
+};
+
+// The same from what localeconv() says; what it or `names` leave empty is as in the defaults.
+[[nodiscard]] Locale localeFrom(const lconv& conventions, const MonthNames& names);
 
 }  // namespace tb

@@ -89,6 +89,7 @@ Locale readLocale(std::span<const std::byte> message) {
   locale.groupSeparator = reader.text();
   locale.minusSign = reader.text();
   for (std::string& month : locale.months) month = reader.text();
+  for (std::string& month : locale.monthCapitals) month = reader.text();
   return locale;
 }
 

@@ -49,6 +49,7 @@ TEST(Message, theDevicesWayOfWritingMoneyArrives) {
   MessageWriter writer;
   for (const std::string_view text : {"€", "0", "\u00A0", ",", ".", "−"}) writer.text(text);
   for (int month = 1; month <= 12; ++month) writer.text("month " + std::to_string(month));
+  for (int month = 1; month <= 12; ++month) writer.text("MONTH " + std::to_string(month));
   const Locale locale = readLocale(writer.message());
   EXPECT_EQ(locale.currencySymbol, "€");
   EXPECT_FALSE(locale.currencyBeforeAmount);
@@ -56,6 +57,7 @@ TEST(Message, theDevicesWayOfWritingMoneyArrives) {
   EXPECT_EQ(locale.groupSeparator, ".");
   EXPECT_EQ(locale.minusSign, "−");
   EXPECT_EQ(locale.months[11], "month 12");
+  EXPECT_EQ(locale.monthCapitals[0], "MONTH 1");
 }
 
 }  // namespace

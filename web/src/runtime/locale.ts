@@ -28,6 +28,7 @@ export function localeFields(tag: string): string[] {
     signs.find((part) => part.type === type)?.value ?? usual;
 
   const month = new Intl.DateTimeFormat(tag, { month: "long", timeZone: "UTC" });
+  const months = twelveMonths.map((date) => month.format(date));
   return [
     parts[symbolAt]?.value ?? "$",
     before ? "1" : "0",
@@ -35,6 +36,7 @@ export function localeFields(tag: string): string[] {
     sign("decimal", "."),
     sign("group", ","),
     sign("minusSign", "-"),
-    ...twelveMonths.map((date) => month.format(date)),
+    ...months,
+    ...months.map((name) => name.toLocaleUpperCase(tag)),
   ];
 }

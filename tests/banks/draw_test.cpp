@@ -1,0 +1,83 @@
+// Rows that are told: not the same one again soon, and none that is not true.
+
+#include "banks/draw.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+#include "tests/scratch_game.h"
+#include "tests/seeded_random.h"
+
+namespace tb {
+namespace {
+
+struct Telling : test::RuleTest {
+  std::string_view rowAt(Bank bank, std::size_t row) { return markedRow(rowsOf(bank)[row]).text; }
+};
+
+TEST_F(Telling, TheNextRowStandsInForOneToldAmongTheLastHalfOfItsBank) {
+  const auto tell = [&](std::int64_t drawn) {
+    random.range(20, drawn);
+    return tellRow(game, Bank::talkShows);
+  };
+  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 18));
+  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 19));
+  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 0));  // after the last row comes the first
+  for (std::int64_t row = 1; row <= 7; ++row)
+    EXPECT_EQ(tell(row), rowAt(Bank::talkShows, static_cast<std::size_t>(row)));
+  EXPECT_EQ(tell(8), rowAt(Bank::talkShows, 8));  // ten others since: the first one may come again
+  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 18));
+  random.range(20, 3);
+  Game next{.store = store, .random = random};  // the next launch has told nothing
+  EXPECT_EQ(tellRow(next, Bank::talkShows), rowAt(Bank::talkShows, 3));
+}
+
+TEST_F(Telling, NeverMoreThanTheLastTwentyAreHeldBack) {
+  for (std::int64_t row = 0; row < 21; ++row) {
+    random.range(60, row);
+    static_cast<void>(tellRow(game, Bank::submission));
+  }
+  random.range(60, 0);
+  EXPECT_EQ(tellRow(game, Bank::submission), rowAt(Bank::submission, 0));
+}
+
+TEST_F(Telling, ARowIsToldOnlyWhereItIsTrue) {
+  EXPECT_EQ(markedRow("@agent @fame Hello {title}").text, "Hello {title}");
+  test::SeededRandom chance(3);
+  Game beginners{.store = store, .random = chance};
+  Game stars{.store = store, .random = chance};
+  stars.world.totalFans = 1'000'000;
+  stars.world.weeklyJobContractRemaining = 2;
+  stars.world.saveAllTalentAgents = {{.isSigned = 1}};
+  stars.world.saveAllFilmList = {{.didAct = 1}};
+  for (const Bank bank : {Bank::reviewFirstSentence, Bank::withdrawal, Bank::longReviewBank5}) {
+    std::set<std::string_view> all;
+    for (int draw = 0; draw < 1'000; ++draw) {
+      const MarkedRow row = markedRow(tellRow(beginners, bank, {.isPrincipal = false}));
+      EXPECT_FALSE(row.text.contains("{name}")) << row.text;
+      all.insert(tellRow(stars, bank, {.isPrincipal = true, .isBooked = true}));
+    }
+    EXPECT_EQ(all.size(), rowsOf(bank).size());
+  }
+  const auto tells = [&](Game& game, std::string_view word) {
+    for (int draw = 0; draw < 300; ++draw) {
+      if (tellRow(game, Bank::reviewFirstSentence).contains(word)) return true;
+    }
+    return false;
+  };
+  for (const std::string_view word : {"agent", "last set", "stage door"}) {
+    EXPECT_FALSE(tells(beginners, word)) << word;
+    EXPECT_TRUE(tells(stars, word)) << word;
+  }
+}
+
+TEST(SubjectOf, APrincipalIsSeenAndAnInvestorOrADirectorIsNot) {
+  EXPECT_TRUE(subjectOf(Film{.isPrincipal = 1, .didAct = 1}).isPrincipal);
+  EXPECT_FALSE(subjectOf(Film{.isPrincipal = 0, .didAct = 1}).isPrincipal);
+  EXPECT_FALSE(subjectOf(Film{.isPrincipal = 2, .didAct = 0}).isPrincipal);
+  EXPECT_FALSE(subjectOf(Audition{.isPrincipal = 1, .funnelStage = 1}).isBooked);
+  EXPECT_TRUE(subjectOf(Audition{.isPrincipal = 1, .funnelStage = 2}).isBooked);
+}
+
+}  // namespace
+}  // namespace tb
