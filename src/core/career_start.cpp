@@ -46,21 +46,17 @@ void chooseAge(Game& game, Int age) {
   save<&WorldState::ageCount, &WorldState::birthYear>(game);
 }
 
-void chooseHeadshot(Game& game, Image headshot) {
-  game.world.headshotImage = std::move(headshot);
-  save<&WorldState::headshotImage>(game);
-}
-
 Refusal confirmNewCareer(Game& game, const NewCareerForm& form) {
   if (form.myName.empty()) return Notice{"⚠️ Name Needed ⚠️", "Please enter your stage name/name."};
   WorldState& world = game.world;
   world.myName = form.myName;
   world.isMale = form.isMale;
+  world.headshotImage = form.headshotImage;
   world.yearNumber = firstYear;
   world.enterPlayerDetails = 1;
   world.aboutDescription = form.aboutDescription;
   save<&WorldState::enterPlayerDetails, &WorldState::yearNumber, &WorldState::isMale, &WorldState::birthYear,
-       &WorldState::aboutDescription, &WorldState::myName>(game);
+       &WorldState::aboutDescription, &WorldState::myName, &WorldState::headshotImage>(game);
   normaliseAgentFanBonus(game);
   return std::nullopt;
 }
