@@ -38,13 +38,12 @@ void chooseAge(Game& game, Int age) {
   game.world.birthYear = firstYear - age;
 }
 
-void chooseHeadshot(Game& game, Image headshot) { game.world.headshotImage = std::move(headshot); }
-
 Refusal confirmNewCareer(Game& game, const NewCareerForm& form) {
   if (form.myName.empty()) return Notice{"⚠️ Name Needed ⚠️", "Please enter your stage name/name."};
   WorldState& world = game.world;
   world.myName = form.myName;
   world.isMale = form.isMale;
+  world.headshotImage = form.headshotImage;
   world.yearNumber = firstYear;
   world.enterPlayerDetails = 1;
   world.aboutDescription = form.aboutDescription;

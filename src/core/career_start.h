@@ -11,22 +11,20 @@ namespace tb {
 // The year in which every career begins.
 inline constexpr Int firstYear = 2026;
 
-// What the form holds when it is confirmed. Age and picture are not in it: they are written when chosen.
+// What the form holds when it is confirmed. The age is not in it: it is written when chosen.
 struct NewCareerForm {
   String myName;
   String aboutDescription;
   Flag isMale = true;
+  Image headshotImage;  // empty while none is chosen
 };
 
 // Sets the performer's age in years, and the year of birth to match, and writes both. A form whose age is
 // never touched leaves the start values, 18 and 2005, which do not match.
 void chooseAge(Game& game, Int age);
 
-// Sets and writes the performer's picture.
-void chooseHeadshot(Game& game, Image headshot);
-
-// Starts the career of the form: sets and writes name, biography, gender and year, and marks the form as
-// done. Refused, with nothing changed, while the name is empty; a name of blanks passes.
+// Starts the career of the form: sets and writes name, biography, gender, picture and year, and marks the
+// form as done. Refused, with nothing changed, while the name is empty; a name of blanks passes.
 Refusal confirmNewCareer(Game& game, const NewCareerForm& form);
 
 // Wipes the career: every variable takes and writes the table's value at a restart. The vault becomes the

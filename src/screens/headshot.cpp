@@ -21,13 +21,22 @@ Image headshotImage(const std::string& name) {
   return {.bytes = Bytes(bytes.begin(), bytes.end())};
 }
 
-std::string chosenHeadshot(const WorldState& world) {
-  const Bytes& bytes = world.headshotImage.bytes;
+std::string headshotIn(const Image& image) {
+  const Bytes& bytes = image.bytes;
   const auto is_letter = [](std::byte byte) { return byte >= std::byte{0x20} && byte < std::byte{0x7F}; };
   if (bytes.size() > longestName || !std::ranges::all_of(bytes, is_letter)) return "";
   std::string name;
   for (const std::byte byte : bytes) name += static_cast<char>(byte);
   return name;
+}
+
+view::Picture headshotPicture(const std::string& name, std::int64_t age) {
+  return {.kind = view::PictureKind::avatar, .name = name, .age = static_cast<int>(age)};
+}
+
+view::Picture performerPicture(const WorldState& world) {
+  const std::string chosen = headshotIn(world.headshotImage);
+  return headshotPicture(chosen.empty() ? headshotName(world.isMale, 1) : chosen, world.ageCount);
 }
 
 }  // namespace tb

@@ -43,11 +43,22 @@ enum class Band : std::uint8_t { poor, fair, good, great };
 
 enum class PictureKind : std::uint8_t { avatar, poster, logo, house, vehicle, card, photo, icon };
 
-// Drawn from its name: the same picture for the same name, every time, everywhere.
+// What a poster is made for; each has a look of its own.
+enum class PosterFormat : std::uint8_t { feature, series, commercial, student, shortFilm };
+
+// Drawn from its fields: the same picture for the same fields, every time, everywhere.
 struct Picture {
   PictureKind kind = PictureKind::photo;
   std::string name;
   std::string description;  // for those who do not see it; empty when the text beside it says the same
+  // Of a poster; the others leave them as they are.
+  std::string title;  // as it is lettered; empty for none
+  std::string genre;  // one of the catalogue's; any other, or none, leaves the choice to the name
+  PosterFormat format = PosterFormat::feature;
+  int season = 0;      // of a series, from 2 on
+  std::string billed;  // the performer, where the part is one that a poster names; else empty
+  // Of an avatar: in years; 0 for an age that nobody knows.
+  int age = 0;
 };
 
 struct Text {

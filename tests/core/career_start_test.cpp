@@ -30,8 +30,10 @@ TEST_F(CareerStart, The_confirmed_form_is_there_after_a_launch) {
   loadWorld(game);
   world.yearNumber = 2031;  // of a career that ended without a restart of the clock
   chooseAge(game, 31);
-  chooseHeadshot(game, Image{Bytes(2, std::byte{7})});
-  EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada 🎭", .aboutDescription = "Reads.", .isMale = false}));
+  EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada 🎭",
+                                       .aboutDescription = "Reads.",
+                                       .isMale = false,
+                                       .headshotImage = Image{Bytes(2, std::byte{7})}}));
   const WorldState found = relaunched();
   EXPECT_EQ(found.myName, "Ada 🎭");
   EXPECT_EQ(found.aboutDescription, "Reads.");
@@ -40,6 +42,7 @@ TEST_F(CareerStart, The_confirmed_form_is_there_after_a_launch) {
   EXPECT_EQ(found.yearNumber, 2026);
   EXPECT_EQ(found.ageCount, 31);
   EXPECT_EQ(found.birthYear, 1995);
+  EXPECT_EQ(found.headshotImage.bytes.size(), 2U);
 }
 
 TEST_F(CareerStart, An_age_that_is_never_touched_stays_18_and_born_in_2005) {

@@ -80,10 +80,18 @@ export interface Buttons {
 
 export type PictureKind = "avatar" | "poster" | "logo" | "house" | "vehicle" | "card" | "photo" | "icon";
 
+export type PosterFormat = "feature" | "series" | "commercial" | "student" | "shortFilm";
+
 export interface Picture {
   readonly kind: PictureKind;
   readonly name: string;
   readonly description: string;
+  readonly title: string;
+  readonly genre: string;
+  readonly format: PosterFormat;
+  readonly season: number;
+  readonly billed: string;
+  readonly age: number;
 }
 
 export interface Row {

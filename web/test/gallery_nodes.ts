@@ -45,7 +45,16 @@ export const stars = (label: string, value: number, outOf = 5) => node("stars", 
 export const buttons = (...buttons: View.Button[]) => node("buttons", { buttons })();
 export const choice = (label: string, options: readonly View.ChoiceOption[], several = false) =>
   node("choice", { label, options, several })();
-export const picture = (kind: View.PictureKind, name: string, description = "") => ({ kind, name, description });
+const usualPicture: View.Picture = {
+  kind: "photo", name: "", description: "", title: "", genre: "", format: "feature", season: 0, billed: "", age: 0,
+};
+export const picture = (kind: View.PictureKind, name: string, description = ""): View.Picture => ({
+  ...usualPicture, kind, name, description,
+});
+// The poster of a title of the catalogue's kind.
+export const poster = (title: string, genre: string, rest: Partial<View.Picture> = {}): View.Picture => ({
+  ...usualPicture, kind: "poster", name: `${title}.png`, title, genre, ...rest,
+});
 export const pictureNode = (...shown: Parameters<typeof picture>) => node("picture", picture(...shown))();
 export const bubble = (speaker: string, text: string, mine = false) => node("bubble", { speaker, text, mine })();
 export const happened = (when: string, text: string) => node("timelineEntry", { when, text })();

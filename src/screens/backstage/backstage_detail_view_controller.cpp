@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "screens/backstage/listing_parts.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/work/project_words.h"
 
 namespace tb {
@@ -42,12 +43,9 @@ Section theProject(const Game& game, const CastingListing& listing) {
 
 Page BackstageDetailViewController::view(const Game& game) {
   Page page{.title = listing_.movie->title, .subtitle = listingSummary(listing_)};
-  page.nodes = {posterOf(listing_.movie->imageString),
-                Text{.text = listing_.movie->shortSummary},
-                theRole(listing_),
-                theProject(game, listing_),
-                energyMeter(game.world),
-                submitButton(game.world, listing_)};
+  page.nodes = {posterOf(*listing_.movie), Text{.text = listing_.movie->shortSummary},
+                theRole(listing_),         theProject(game, listing_),
+                energyMeter(game.world),   submitButton(game.world, listing_)};
   if (isSubmitted(game.world, listing_)) page.nodes.push_back(submittedCaption());
   return page;
 }

@@ -5,6 +5,7 @@
 #include "screens/backstage/backstage_detail_view_controller.h"
 #include "screens/backstage/listing_parts.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/work/project_words.h"
 
 namespace tb {
@@ -16,7 +17,7 @@ void CastingNetworkViewController::load(Stage& stage) { board_ = openCastingNetw
 Card CastingNetworkViewController::listingCard(const Game& game, const CastingListing& listing) const {
   Card card{.title = listing.movie->title,
             .subtitle = listingSummary(listing),
-            .picture = {posterOf(listing.movie->imageString)},
+            .picture = {posterOf(*listing.movie)},
             .nodes = {Text{.text = listing.movie->shortSummary},
                       Row{.label = "Pay",
                           .value = payWords(game.locale, {.fee = listing.payment,

@@ -14,7 +14,7 @@ namespace {
 
 constexpr Int youngestStart = 18;
 constexpr Int oldestStart = 60;
-constexpr int headshotsOnOffer = 6;
+constexpr int headshotsOnOffer = 12;
 
 Slider ageSlider(const Game& game) {
   return {.label = "Age",
@@ -34,25 +34,28 @@ Slider ageSlider(const Game& game) {
 
 void EnterPlayerDetailsViewController::load(Stage& stage) {
   const WorldState& world = stage.game().world;
-  form_ = {.myName = world.myName, .aboutDescription = world.aboutDescription, .isMale = world.isMale};
+  form_ = {.myName = world.myName,
+           .aboutDescription = world.aboutDescription,
+           .isMale = world.isMale,
+           .headshotImage = world.headshotImage};
 }
 
 // The other gender has headshots of its own: the one chosen gives way to the one in its place, or the career
 // would begin with a picture that the form no longer shows.
-void EnterPlayerDetailsViewController::chooseGender(Stage& stage, bool isMale) {
-  const std::string chosen = chosenHeadshot(stage.game().world);
+void EnterPlayerDetailsViewController::chooseGender(bool isMale) {
+  const std::string chosen = headshotIn(form_.headshotImage);
   for (int number = 1; number <= headshotsOnOffer; ++number) {
-    if (chosen != headshotName(!isMale, number)) continue;
-    chooseHeadshot(stage.game(), headshotImage(headshotName(isMale, number)));
+    if (chosen == headshotName(!isMale, number))
+      form_.headshotImage = headshotImage(headshotName(isMale, number));
   }
   form_.isMale = isMale;
 }
 
 Choice EnterPlayerDetailsViewController::genders() {
   const auto option = [this](const char* label, bool isMale) {
-    return Choice::Option{.label = label,
-                          .chosen = form_.isMale == isMale,
-                          .press = [this, isMale](Stage& stage) { chooseGender(stage, isMale); }};
+    return Choice::Option{.label = label, .chosen = form_.isMale == isMale, .press = [this, isMale](Stage&) {
+                            chooseGender(isMale);
+                          }};
   };
   return {.label = "Gender", .options = {option("Male", true), option("Female", false)}};
 }
@@ -61,11 +64,10 @@ Choice EnterPlayerDetailsViewController::headshots(const Game& game) {
   Choice choice{.label = "Headshot"};
   for (int number = 1; number <= headshotsOnOffer; ++number) {
     const std::string name = headshotName(form_.isMale, number);
-    choice.options.push_back(
-        {.label = std::format("Headshot {}", number),
-         .chosen = chosenHeadshot(game.world) == name,
-         .press = [name](Stage& stage) { chooseHeadshot(stage.game(), headshotImage(name)); },
-         .picture = {{.kind = PictureKind::avatar, .name = name}}});
+    choice.options.push_back({.label = std::format("Headshot {}", number),
+                              .chosen = headshotIn(form_.headshotImage) == name,
+                              .press = [this, name](Stage&) { form_.headshotImage = headshotImage(name); },
+                              .picture = {headshotPicture(name, game.world.ageCount)}});
   }
   return choice;
 }

@@ -18,7 +18,7 @@ class EnterPlayerDetailsViewController : public Screen {
 
  private:
   [[nodiscard]] view::Choice genders();
-  void chooseGender(Stage& stage, bool isMale);
+  void chooseGender(bool isMale);
   [[nodiscard]] view::Choice headshots(const Game& game);
   void confirm(Stage& stage);
 

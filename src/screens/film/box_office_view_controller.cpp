@@ -5,6 +5,7 @@
 #include "screens/film/box_office_parts.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 
 namespace tb {
 
@@ -15,7 +16,7 @@ namespace {
 Card theaterCard(const Game& game, const InTheaters& film) {
   return {.title = film.title,
           .subtitle = film.description,
-          .picture = {{.kind = PictureKind::poster, .name = film.imageString}},
+          .picture = {posterOfFilm(game.world, film.filmId, film.imageString)},
           .nodes = {Tiles{{{.label = "Weekend", .value = shownMoney(game.locale, film.weekendEarnings)},
                            {.label = "Total", .value = shownMoney(game.locale, film.totalGross)}}}},
           .press = [id = film.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }};
@@ -30,7 +31,7 @@ Row rankedRow(const Game& game, std::size_t place, const BoxOfficeWeekends& film
   const std::string gain = returnText(film.totalGross, film.budget);
   if (!gain.empty()) row.detail += " " + gain;
   row.tone = Tone::accent;
-  row.picture = {{.kind = PictureKind::poster, .name = film.imageString}};
+  row.picture = {posterOfFilm(game.world, film.filmId, film.imageString)};
   row.press = [id = film.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); };
   return row;
 }

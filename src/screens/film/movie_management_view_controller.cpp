@@ -7,6 +7,7 @@
 #include "screens/film/box_office_parts.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/reception/imbd_film_detail_view_controller.h"
 #include "screens/work/project_words.h"
 
@@ -38,7 +39,7 @@ Card productionCard(const Game& game, const Audition& project) {
       .title = project.title,
       .subtitle = std::format("{} • {}", own ? "Directed and produced by you" : "Financed by you",
                               progressOf(game.world, project)),
-      .picture = {{.kind = PictureKind::poster, .name = project.imageString}},
+      .picture = {posterOf(game.world, project)},
       .nodes = {
           caption(project.description),
           Tiles{{{.label = "Budget", .value = shownMoney(game.locale, project.budget)},

@@ -9,6 +9,7 @@
 #include "film/new_releases.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/reception/imbd_film_detail_view_controller.h"
 
 namespace tb {
@@ -44,7 +45,7 @@ Tiles figuresOf(const Game& game, const Film& film) {
 Card releaseCard(const Game& game, const Film& film, const MetReview& card) {
   Card shown{.title = card.filmTitle,
              .subtitle = kindOf(film, card),
-             .picture = {{.kind = PictureKind::poster, .name = card.imageString}},
+             .picture = {posterOf(game.world, film)},
              .nodes = {caption(card.description),
                        Stars{.label = card.reviewerCompany,
                              .value = static_cast<double>(card.starString.size() / oneStar.size())}}};

@@ -3,6 +3,7 @@
 #include <format>
 
 #include "screens/parts.h"
+#include "screens/poster.h"
 
 namespace tb {
 
@@ -27,23 +28,23 @@ void PromoteFilmViewController::post(Stage& stage) {
 
 Page PromoteFilmViewController::view(const Game& game) {
   const Audition& project = game.world.saveAllAuditionList[audition_];
+  Picture poster = posterOf(game.world, project);
+  poster.description = project.title;
   return {.title = interview_.talkShow,
           .subtitle = "Promoting " + project.title,
-          .nodes = {
-              Picture{.kind = PictureKind::poster, .name = project.imageString, .description = project.title},
-              Bubble{.speaker = interview_.talkShow, .text = interview_.question},
-              Field{.label = "Your answer",
-                    .value = answer_,
-                    .type = [this](Stage&, const std::string& text) { answer_ = text; },
-                    .hint = "Everything you say will be quoted",
-                    .maximumLength = 280,
-                    .severalLines = true},
-              Buttons{{{.label = "Suggest an answer",
-                        .press = [this](Stage& stage) { answer_ = suggestedAnswer(stage.game()); },
-                        .weight = Button::Weight::quiet},
-                       {.label = "Post",
-                        .press = [this](Stage& stage) { post(stage); },
-                        .weight = Button::Weight::primary}}}}};
+          .nodes = {poster, Bubble{.speaker = interview_.talkShow, .text = interview_.question},
+                    Field{.label = "Your answer",
+                          .value = answer_,
+                          .type = [this](Stage&, const std::string& text) { answer_ = text; },
+                          .hint = "Everything you say will be quoted",
+                          .maximumLength = 280,
+                          .severalLines = true},
+                    Buttons{{{.label = "Suggest an answer",
+                              .press = [this](Stage& stage) { answer_ = suggestedAnswer(stage.game()); },
+                              .weight = Button::Weight::quiet},
+                             {.label = "Post",
+                              .press = [this](Stage& stage) { post(stage); },
+                              .weight = Button::Weight::primary}}}}};
 }
 
 }  // namespace tb

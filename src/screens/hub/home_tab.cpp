@@ -26,12 +26,9 @@ Tiles careerTiles(const Game& game) {
 }
 
 Card profile(const WorldState& world) {
-  // Who chose no headshot gets the first that the form has on offer.
-  const std::string headshot = chosenHeadshot(world);
   return {.title = std::format("{} years old", world.ageCount),
           .subtitle = world.aboutDescription,
-          .picture = {{.kind = PictureKind::avatar,
-                       .name = headshot.empty() ? headshotName(world.isMale, 1) : headshot}}};
+          .picture = {performerPicture(world)}};
 }
 
 Card jobCard(const Game& game) {

@@ -14,6 +14,7 @@
 #include "film/top_titles.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/reception/quotes_view_controller.h"
 #include "screens/reception/rotten_banana_detail_view_controller.h"
 #include "screens/reception/top250_movies_view_controller.h"
@@ -191,7 +192,7 @@ Section ImbdFilmDetailViewController::audience() const {
 
 Page ImbdFilmDetailViewController::view(const Game& game) {
   const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
-  Page page{.title = titleWithSeason(film), .subtitle = kindOf(film), .nodes = {posterOf(film.imageString)}};
+  Page page{.title = titleWithSeason(film), .subtitle = kindOf(film), .nodes = {posterOf(game.world, film)}};
   if (film.numImbdRatings == 0) {
     page.nodes.push_back(caption("Nobody has seen it yet. The ratings come with the release."));
     page.nodes.push_back(storyline(film));

@@ -4,7 +4,7 @@
 
 #include "film/movie_reviews.h"
 #include "screens/parts.h"
-#include "screens/work/project_words.h"
+#include "screens/poster.h"
 
 namespace tb {
 
@@ -44,7 +44,7 @@ Page RateMoviesViewController::view(const Game&) {
           .subtitle =
               "As your fanbase grows, you can earn weekly income from reviews. Fans want to know your "
               "thoughts",
-          .nodes = {posterOf(title_->imageString), caption(title_->description), stars(),
+          .nodes = {posterOf(*title_), caption(title_->description), stars(),
                     Field{.label = "Your review",
                           .value = review_,
                           .type = [this](Stage&, const std::string& text) { review_ = text; },

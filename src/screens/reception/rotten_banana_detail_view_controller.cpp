@@ -7,6 +7,7 @@
 
 #include "film/film_record.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/work/project_words.h"
 
 namespace tb {
@@ -79,7 +80,7 @@ void RottenBananaDetailViewController::load(Stage& stage) {
 Page RottenBananaDetailViewController::view(const Game& game) {
   const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
   Page page{
-      .title = titleWithSeason(film), .subtitle = "RottenBanana", .nodes = {posterOf(film.imageString)}};
+      .title = titleWithSeason(film), .subtitle = "RottenBanana", .nodes = {posterOf(game.world, film)}};
   if (consensus_.empty()) {
     page.nodes.push_back(caption("Critics and audiences are waiting for its release."));
     return page;

@@ -4,8 +4,8 @@
 
 #include "screens/film/box_office_parts.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/reception/imbd_film_detail_view_controller.h"
-#include "screens/work/project_words.h"
 
 namespace tb {
 
@@ -15,24 +15,24 @@ namespace {
 
 // A title of the player's stands out and leads to its page.
 template <class Title>
-Row rowOf(std::size_t place, const Title& title) {
+Row rowOf(const WorldState& world, std::size_t place, const Title& title) {
   Row row{.label = std::format("{}. {}", place, title.title)};
   if (title.filmId < 0) return row;
   row.tone = Tone::accent;
-  row.picture = {posterOf(title.imageString)};
+  row.picture = {posterOfFilm(world, title.filmId, title.imageString)};
   row.press = [id = title.filmId](Stage& stage) { openTitlePage(stage, id); };
   return row;
 }
 
-Row movieRow(const Locale& locale, std::size_t place, const BoxOfficeWeekends& movie) {
-  Row row = rowOf(place, movie);
-  row.value = shownMoney(locale, movie.totalGross);
+Row movieRow(const Game& game, std::size_t place, const BoxOfficeWeekends& movie) {
+  Row row = rowOf(game.world, place, movie);
+  row.value = shownMoney(game.locale, movie.totalGross);
   row.detail = std::to_string(movie.yearReleased);
   return row;
 }
 
-Row showRow(std::size_t place, const TopShow& show) {
-  Row row = rowOf(place, show);
+Row showRow(const WorldState& world, std::size_t place, const TopShow& show) {
+  Row row = rowOf(world, place, show);
   row.value = std::format("{:.1f}", show.imdbRating);
   if (show.seasonNumber >= 1) row.detail = std::format("Season {}", show.seasonNumber);
   return row;
@@ -53,8 +53,8 @@ Choice Top250MoviesViewController::choice() {
 Page Top250MoviesViewController::view(const Game& game) {
   const bool is_movies = shown_ == TopList::movies;
   const auto nodeAt = [this, &game, is_movies](std::size_t index) -> Node {
-    return is_movies ? movieRow(game.locale, index + 1, lists_.movies[index])
-                     : showRow(index + 1, lists_.shows[index]);
+    return is_movies ? movieRow(game, index + 1, lists_.movies[index])
+                     : showRow(game.world, index + 1, lists_.shows[index]);
   };
   return {
       .title = is_movies ? "TOP 250 Movies" : "TOP 250 Shows",

@@ -5,6 +5,7 @@
 #include "career/showreel.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 
 namespace tb {
 
@@ -23,12 +24,12 @@ void ShowreelFootageViewController::build(Stage& stage) {
   stage.close();
 }
 
-Row ShowreelFootageViewController::footageRow(const Audition& work) {
+Row ShowreelFootageViewController::footageRow(const WorldState& world, const Audition& work) {
   const bool chosen = std::ranges::contains(chosen_->filmIds, work.filmId);
   return {.label = work.title,
           .value = std::to_string(static_cast<std::int64_t>(work.performanceRating)),
           .detail = (chosen ? "✓ In the reel • " : "") + work.role,
-          .picture = {{.kind = PictureKind::poster, .name = work.imageString}},
+          .picture = {posterOf(world, work)},
           .tone = chosen ? Tone::accent : Tone::plain,
           .press = [this, id = work.filmId](Stage& stage) { choose(stage, id); }};
 }
@@ -38,12 +39,14 @@ Page ShowreelFootageViewController::view(const Game& game) {
   Page page{.title = "Existing Footage", .subtitle = "Up to three scenes of your finished work"};
   page.nodes = {scoreMeter("Your showreel", game.world.showreelScore)};
   if (!chosen_->filmIds.empty()) page.nodes.push_back(scoreMeter("This cut", chosen_->preview));
-  page.nodes.push_back(PagedList{
-      .key = "footage",
-      .size = footage.size(),
-      .nodeAt = [this, &game, footage](
-                    std::size_t index) { return footageRow(game.world.saveAllAuditionList[footage[index]]); },
-      .whenEmpty = "There is no footage of you yet. It comes with your first wrap."});
+  page.nodes.push_back(
+      PagedList{.key = "footage",
+                .size = footage.size(),
+                .nodeAt =
+                    [this, &game, footage](std::size_t index) {
+                      return footageRow(game.world, game.world.saveAllAuditionList[footage[index]]);
+                    },
+                .whenEmpty = "There is no footage of you yet. It comes with your first wrap."});
   page.nodes.push_back(Button{.label = "Cut this reel",
                               .press = [this](Stage& stage) { build(stage); },
                               .price = currency(game.locale, footageReelCost, 0),

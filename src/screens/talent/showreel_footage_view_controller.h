@@ -16,7 +16,7 @@ class ShowreelFootageViewController : public Screen {
   [[nodiscard]] view::Page view(const Game& game) override;
 
  private:
-  [[nodiscard]] view::Row footageRow(const Audition& work);
+  [[nodiscard]] view::Row footageRow(const WorldState& world, const Audition& work);
   void choose(Stage& stage, std::int64_t filmId);
   void build(Stage& stage);
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/work/audition_detail_view_controller.h"
 #include "screens/work/post_release_audition_view_controller.h"
 #include "screens/work/project_words.h"
@@ -65,7 +66,7 @@ Row projectRow(const WorldState& world, const Audition& project) {
   return {.label = titleWithSeason(project),
           .value = progressWords(world, project),
           .detail = std::format("{} • {}", typeName(project.typeOfFilm), project.role),
-          .picture = {posterOf(project.imageString)},
+          .picture = {posterOf(world, project)},
           .tone = isOver(world, project) ? Tone::quiet : Tone::plain,
           .press = [id = project.filmId, released = isReleased(world, project)](Stage& stage) {
             openProject(stage, id, released);

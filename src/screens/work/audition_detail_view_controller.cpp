@@ -10,6 +10,7 @@
 #include "core/text.h"
 #include "screens/film/promote_film_view_controller.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/work/project_words.h"
 
 namespace tb {
@@ -140,7 +141,7 @@ Page AuditionDetailViewController::view(const Game& game) {
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
             .subtitle = std::format("{} • {}", typeName(project.typeOfFilm), guildWords(project.isUnion))};
-  page.nodes = {posterOf(project.imageString), theState(game.world, project),
+  page.nodes = {posterOf(game.world, project), theState(game.world, project),
                 Text{.text = project.description}, thePreparation(project)};
   page.nodes.append_range(actions(game, project));
   page.nodes.append_range(

@@ -5,6 +5,7 @@
 #include "core/audition_list.h"
 #include "film/film_record.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/reception/imbd_film_detail_view_controller.h"
 #include "screens/work/project_words.h"
 #include "screens/work/release_figures.h"
@@ -46,7 +47,7 @@ Section whatCameBefore(const WorldState& world, const Audition& project) {
     if (!cameBefore(earlier, project)) continue;
     section.nodes.push_back(Row{.label = titleWithSeason(earlier),
                                 .value = progressWords(world, earlier),
-                                .picture = {posterOf(earlier.imageString)},
+                                .picture = {posterOf(world, earlier)},
                                 .press = [id = earlier.filmId](Stage& stage) {
                                   stage.open(std::make_unique<PostReleaseAuditionViewController>(id));
                                 }});
@@ -67,7 +68,7 @@ Page PostReleaseAuditionViewController::view(const Game& game) {
   Page page{.title = titleWithSeason(project),
             .subtitle = std::format("{} • {} • {}", typeName(project.typeOfFilm), project.role,
                                     progressWords(game.world, project))};
-  page.nodes = {posterOf(project.imageString)};
+  page.nodes = {posterOf(game.world, project)};
   if (hasFigures(project)) {
     const ReleaseFigures figures = figuresOf(game.world, project);
     page.nodes.push_back(figureTiles(game, project, figures));

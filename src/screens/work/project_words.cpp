@@ -69,10 +69,6 @@ bool isOver(const WorldState& world, const Audition& project) {
   return project.funnelStage == funnel::closed || turned_down;
 }
 
-view::Picture posterOf(const std::string& imageString) {
-  return {.kind = view::PictureKind::poster, .name = imageString};
-}
-
 view::Section roleSection(const Audition& project) {
   view::Section section{.heading = "YOUR ROLE",
                         .nodes = {view::Row{.label = project.characterName, .value = project.role},

@@ -32,8 +32,6 @@ namespace tb {
 // True for a project that came to nothing: no answer to the submission, or not selected at the audition.
 [[nodiscard]] bool isOver(const WorldState& world, const Audition& project);
 
-[[nodiscard]] view::Picture posterOf(const std::string& imageString);
-
 // The character, the role and its description, and the episodes that the performer is in.
 [[nodiscard]] view::Section roleSection(const Audition& project);
 

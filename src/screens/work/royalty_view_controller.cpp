@@ -8,6 +8,7 @@
 #include "core/signed_agent.h"
 #include "core/text.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/work/project_words.h"
 
 namespace tb {
@@ -83,7 +84,7 @@ Page RoyaltyViewController::view(const Game& game) {
     return {.title = "Royalty", .nodes = {caption("This offer is not on the table anymore.")}};
   return {.title = offer->title,
           .subtitle = std::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
-          .nodes = {posterOf(offer->imageString), theMessage(game.world, email_), theAsk(game, *offer),
+          .nodes = {posterOf(game.world, *offer), theMessage(game.world, email_), theAsk(game, *offer),
                     roleSection(*offer), theProject(game, *offer)}};
 }
 

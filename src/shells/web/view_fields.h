@@ -67,11 +67,12 @@ namespace tb {
 
 VIEW_ENUM(Tone, plain, quiet, good, warning, accent);
 VIEW_ENUM(PictureKind, avatar, poster, logo, house, vehicle, card, photo, icon);
+VIEW_ENUM(PosterFormat, feature, series, commercial, student, shortFilm);
 VIEW_ENUM(Text::Style, body, large, caption, quotation);
 VIEW_ENUM(Button::Weight, normal, primary, quiet, destructive);
 VIEW_ENUM(Chart::Kind, line, bar, pie, histogram);
 
-VIEW_STRUCT(Picture, kind, name, description);
+VIEW_STRUCT(Picture, kind, name, description, title, genre, format, season, billed, age);
 VIEW_STRUCT(Text, text, style, tone);
 VIEW_STRUCT(StatTile, label, value, detail, tone);
 VIEW_STRUCT(Tiles, tiles);

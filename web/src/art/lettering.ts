@@ -1,6 +1,7 @@
 // An alphabet of our own, drawn by the pen: each letter is the way of the pen's point, so that one alphabet
 // gives thin, heavy, round and inlined letters that look the same on every system.
 
+import { Chance } from "./random";
 import { element, group, n } from "./svg";
 import type { Attributes } from "./svg";
 
@@ -61,6 +62,10 @@ export interface Hand {
   readonly round: boolean; // ends and corners
   readonly inline: boolean; // a thin line of the ground down the middle of a heavy stroke
   readonly slant: number; // degrees
+  readonly contrast: number; // stems to hairlines, 1 for a pen that is the same all over
+  readonly serif: boolean; // a stop across the end of each stem
+  readonly wild: number; // how far the pen slips, of a height of 10
+  readonly dance: number; // degrees that letters lean to and fro
 }
 
 const hand = (pen: number, gap: number, narrow: number, more: Partial<Hand> = {}): Hand => ({
@@ -70,6 +75,10 @@ const hand = (pen: number, gap: number, narrow: number, more: Partial<Hand> = {}
   round: false,
   inline: false,
   slant: 0,
+  contrast: 1,
+  serif: false,
+  wild: 0,
+  dance: 0,
   ...more,
 });
 
@@ -77,10 +86,19 @@ export const hands = {
   slim: hand(0.8, 4, 0.9),
   plain: hand(1.5, 3, 0.9),
   heavy: hand(2.5, 3.6, 0.95),
-  tall: hand(2, 3, 0.56),
+  tall: hand(1.5, 2.7, 0.56),
   round: hand(2.1, 3.6, 0.95, { round: true }),
   inline: hand(2.7, 3.9, 1, { inline: true }),
   racing: hand(2.2, 3.4, 0.95, { slant: -12 }),
+  wide: hand(1.1, 6, 1.15),
+  roman: hand(0.75, 4.6, 0.92, { serif: true, contrast: 2.3 }),
+  book: hand(0.6, 3.6, 0.74, { serif: true, contrast: 2 }),
+  slab: hand(1.5, 4.6, 0.72, { serif: true, contrast: 1.5 }),
+  italic: hand(0.62, 3.8, 0.86, { serif: true, contrast: 2.1, slant: -14 }),
+  merry: hand(2.4, 3.9, 0.92, { round: true, dance: 5 }),
+  claw: hand(1.5, 3, 0.62, { wild: 0.55 }),
+  marker: hand(1.3, 3.2, 0.86, { round: true, wild: 0.35, dance: 3 }),
+  poster: hand(2, 3.1, 0.66),
 } as const satisfies Record<string, Hand>;
 
 // The letters of a text as they can be drawn; empty where the alphabet does not have them.
@@ -101,24 +119,72 @@ function widthOf(text: string, { gap, narrow }: Hand): number {
 
 const step = /([MLHVCSZ])([^MLHVCSZ]*)/gu; // one command of a way, and its figures
 
-// A command made narrower and moved to the right. The pen keeps its width: only the way is changed.
-function placed(command: string, narrow: number, right: number): string {
+const figuresOf = (command: string): number[] =>
+  (command.slice(1).match(/-?(?:\d+\.?\d*|\.\d+)/gu) ?? []).map(Number);
+const isAcross = (letter: string, index: number): boolean =>
+  letter === "H" || (letter !== "V" && index % 2 === 0);
+
+// A command made narrower and moved to the right. The pen keeps its width: only the way is changed. `slip` is
+// asked for each figure how far the pen is off.
+function placed(command: string, narrow: number, right: number, slip: () => number): string {
   const letter = command.charAt(0);
-  const figures = (command.slice(1).match(/-?(?:\d+\.?\d*|\.\d+)/gu) ?? []).map(Number);
-  const isAcross = (index: number): boolean => letter === "H" || (letter !== "V" && index % 2 === 0);
   return (
-    letter + figures.map((figure, index) => n(isAcross(index) ? figure * narrow + right : figure)).join(" ")
+    letter +
+    figuresOf(command)
+      .map((figure, index) => n((isAcross(letter, index) ? figure * narrow + right : figure) + slip()))
+      .join(" ")
   );
+}
+
+const halfSerif = 1.15; // of a letter's height of 10
+
+// The stops at the ends of a letter's straight strokes: across the foot and head of a stem, down from a bar.
+function serifs(way: string, narrow: number, right: number, contrast: number): string {
+  let art = "";
+  for (const stroke of way.split(/(?=M)/u)) {
+    const commands = stroke.match(step) ?? [];
+    if (/[CSZ]/u.test(commands[1]?.charAt(0) ?? "Z")) continue;
+    const corners: [number, number][] = [];
+    for (const command of commands) {
+      const [x, y] = corners.at(-1) ?? [0, 0];
+      const figures = figuresOf(command);
+      const letter = command.charAt(0);
+      if (letter === "H") corners.push([figures[0]!, y]);
+      else if (letter === "V") corners.push([x, figures[0]!]);
+      else if (letter !== "Z") corners.push([figures.at(-2)!, figures.at(-1)!]);
+    }
+    const straight = !/[CSZ]/u.test(commands.at(-1)!.charAt(0));
+    const ends: [[number, number], [number, number]][] = [[corners[0]!, corners[1]!]];
+    if (straight) ends.push([corners.at(-1)!, corners.at(-2)!]);
+    for (const [[x, y], [, from]] of ends) {
+      if (y !== 0 && y !== 10) continue;
+      const at = x * narrow + right;
+      art +=
+        y === from
+          ? `M${n(at)} ${y}v${y === 0 ? 2 : -2}`
+          : `M${n(at - halfSerif / contrast)} ${y}h${n((2 * halfSerif) / contrast)}`;
+    }
+  }
+  return art;
 }
 
 // One line of drawable letters, its top left at 0, 0 and 10 high.
 function line(text: string, hand: Hand, ink: string, ground: string): string {
+  const chance = new Chance(text);
+  const slip = hand.wild === 0 ? () => 0 : () => chance.between(-hand.wild, hand.wild);
+  const narrow = hand.narrow / hand.contrast;
   let x = 0;
   let ways = "";
   for (const letter of text) {
     const [width, way] = letters[letter] ?? [blank, ""];
-    if (way !== "") ways += element("path", { d: way.replace(step, (from) => placed(from, hand.narrow, x)) });
-    x += width * hand.narrow + hand.gap;
+    if (way !== "") {
+      const feet = hand.serif ? serifs(way, narrow, x, hand.contrast) : "";
+      const d = way.replace(step, (from) => placed(from, narrow, x, slip)) + feet;
+      const lean = hand.dance * (chance.likely(0.5) ? 1 : -1) * chance.between(0.4, 1);
+      const middle = n(x + (width * narrow) / 2);
+      ways += element("path", hand.dance === 0 ? { d } : { d, transform: `rotate(${n(lean)} ${middle} 5)` });
+    }
+    x += width * narrow + hand.gap / hand.contrast;
   }
   const looks: Attributes = {
     fill: "none",
@@ -129,7 +195,11 @@ function line(text: string, hand: Hand, ink: string, ground: string): string {
   };
   const outer = group(ways, { stroke: ink, ...looks });
   const inner = hand.inline ? group(ways, { stroke: ground, ...looks, "stroke-width": hand.pen * 0.22 }) : "";
-  return hand.slant === 0 ? outer + inner : group(outer + inner, { transform: `skewX(${hand.slant})` });
+  const changes = [
+    hand.slant === 0 ? "" : `skewX(${hand.slant})`,
+    hand.contrast === 1 ? "" : `scale(${hand.contrast} 1)`,
+  ].join("");
+  return changes === "" ? outer + inner : group(outer + inner, { transform: changes });
 }
 
 // Words in so many lines that the letters come out as large as the box allows.
@@ -158,16 +228,16 @@ export interface Box {
 
 const leading = 1.36; // from line to line, of a letter's height
 
-interface Setting {
+interface Rows {
   readonly rows: string[];
   readonly size: number; // height of a letter
 }
 
-function setIn(box: Box, words: readonly string[], hand: Hand): Setting {
-  let best: Setting = { rows: [], size: 0 };
+function setIn(box: Box, words: readonly string[], hand: Hand): Rows {
+  let best: Rows = { rows: [], size: 0 };
   for (let count = 1; count <= Math.min(words.length, 5); ++count) {
     const rows = broken(words, count);
-    const width = Math.max(...rows.map((row) => widthOf(row, hand) + hand.pen));
+    const width = Math.max(...rows.map((row) => widthOf(row, hand) + hand.pen * hand.contrast));
     const height = 10 * (1 + (rows.length - 1) * leading) + hand.pen;
     const size = Math.min((box.width / width) * 10, (box.height / height) * 10);
     if (size > best.size * 1.02) best = { rows, size };
@@ -175,15 +245,21 @@ function setIn(box: Box, words: readonly string[], hand: Hand): Setting {
   return best;
 }
 
-// The text as large as the box allows, centred in it; at its foot where `atFoot` says so. Letters that the
-// alphabet does not have are left to the system's own face.
+export interface Setting {
+  readonly atFoot?: boolean; // of the box, not in its middle
+  readonly onTop?: boolean;
+  readonly fromLeft?: boolean; // not centred
+}
+
+// The text as large as the box allows, centred in it unless told otherwise. Letters that the alphabet does not
+// have are left to the system's own face.
 export function lettering(
   text: string,
   box: Box,
   hand: Hand,
   ink: string,
   ground: string,
-  atFoot = false,
+  { atFoot = false, onTop = false, fromLeft = false }: Setting = {},
 ): string {
   const words = drawable(text)
     .split(" ")
@@ -193,10 +269,11 @@ export function lettering(
   const scale = size / 10;
   const height = size * (1 + (rows.length - 1) * leading);
   const rest = box.height - height - hand.pen * scale;
-  const top = box.y + (hand.pen * scale) / 2 + (atFoot ? rest : rest / 2);
+  const top = box.y + (hand.pen * scale) / 2 + (atFoot ? rest : onTop ? 0 : rest / 2);
   return rows
     .map((row, index) => {
-      const left = box.x + (box.width - widthOf(row, hand) * scale) / 2;
+      const free = box.width - widthOf(row, hand) * scale;
+      const left = box.x + (fromLeft ? (hand.pen * hand.contrast * scale) / 2 : free / 2);
       const place = `translate(${n(left)} ${n(top + index * size * leading)})scale(${scale.toFixed(4)})`;
       return group(line(row, hand, ink, ground), { transform: place });
     })

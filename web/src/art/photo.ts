@@ -2,7 +2,7 @@
 
 import { kindIn } from "./names";
 import { palettes } from "./palettes";
-import { figure } from "./poster_scenes";
+import { person } from "./posters/stage";
 import { Chance } from "./random";
 import { bush, ground, groundLine, height, hills, lightOf, palmTree, roundTree, sky, width } from "./scenery";
 import { circle, ellipse, fall, group, many, mix, n, path, picture, polygon, rect, stroke } from "./svg";
@@ -119,8 +119,8 @@ const wedding: View = (chance, id) => {
     arch +
     flowers +
     chairs +
-    figure(76, 94, 25, "#2a2433") +
-    figure(85, 94, 24, "#ffffff") +
+    person(76, 94, 25, "#2a2433") +
+    person(85, 94, 24, "#ffffff") +
     bush(40, 5, light) +
     bush(116, 5, light)
   );
@@ -143,7 +143,7 @@ const stage: View = (chance, id) => {
     curtains +
     rect(0, 88, width, 24, mix(p.deep, "#000000", 0.3)) +
     ellipse(80, 91, 34, 5, p.light) +
-    figure(80, 92, 40, p.night) +
+    person(80, 92, 40, p.night) +
     crowd
   );
 };
@@ -270,7 +270,7 @@ const film: View = (chance, id) => {
     circle(80, 56, 44, p.pop, { opacity: 0.5 }) +
     rect(0, 100, width, 12, p.night) +
     camera +
-    figure(30, 102, 44, p.night) +
+    person(30, 102, 44, p.night) +
     group(rect(-9, -6, 18, 12, "#ffffff") + path("M-10-7L8-13L10-8L-8-4Z", p.night), {
       transform: "translate(42 74)",
     })

@@ -1,6 +1,6 @@
-// The art of every kind of picture, drawn from its name alone.
+// The art of every kind of picture, drawn from what the picture is told, and from nothing else.
 
-import type { PictureKind } from "../view_types";
+import type { Picture, PictureKind } from "../view_types";
 import { avatar } from "./avatar";
 import { house } from "./house";
 import { icon } from "./icon";
@@ -10,28 +10,16 @@ import { poster } from "./poster";
 import { tradingCard } from "./trading_card";
 import { vehicle } from "./vehicle";
 
-const artists: Readonly<Record<PictureKind, (name: string) => string>> = {
-  avatar,
+const artists: Readonly<Record<PictureKind, (shown: Picture) => string>> = {
+  avatar: ({ name, age }) => avatar(name, age),
   poster,
-  logo,
-  house,
-  vehicle,
-  card: tradingCard,
-  photo,
-  icon,
+  logo: ({ name }) => logo(name),
+  house: ({ name }) => house(name),
+  vehicle: ({ name }) => vehicle(name),
+  card: ({ name }) => tradingCard(name),
+  photo: ({ name }) => photo(name),
+  icon: ({ name }) => icon(name),
 };
 
-// Pictures come again with every page that is drawn; a career meets some hundreds of them.
-const drawn = new Map<string, string>();
-const mostKept = 600;
-
-// The picture as an SVG document. The same for the same kind and name, every time and everywhere.
-export function pictureArt(kind: PictureKind, name: string): string {
-  const key = `${kind} ${name}`;
-  const kept = drawn.get(key);
-  if (kept !== undefined) return kept;
-  if (drawn.size >= mostKept) drawn.clear();
-  const art = artists[kind](name);
-  drawn.set(key, art);
-  return art;
-}
+// The picture as an SVG document. The same for the same picture, every time and everywhere.
+export const pictureArt = (shown: Picture): string => artists[shown.kind](shown);

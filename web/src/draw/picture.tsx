@@ -1,13 +1,30 @@
-// A picture by its kind and name, in the size that its place asks for.
+// A picture in the size that its place asks for. Its place is kept while it is not drawn.
 
-import { pictureArt } from "../art/picture_art";
+import { useEffect, useRef, useState } from "preact/hooks";
+
 import type * as View from "../view_types";
+import { addressIfDrawn, draw, drawWhenNear, keyOf } from "./drawn_pictures";
 
 type Size = "row" | "card" | "option" | "full";
 
-export function Picture({ kind, name, description, size }: View.Picture & { readonly size: Size }) {
-  const art = { __html: pictureArt(kind, name) };
-  const look = `picture picture-${kind} size-${size}`;
-  if (description === "") return <span class={look} aria-hidden="true" dangerouslySetInnerHTML={art} />;
-  return <span class={look} role="img" aria-label={description} dangerouslySetInnerHTML={art} />;
+const nothing = "data:image/svg+xml,<svg xmlns='http://www.w3.org/2000/svg'/>";
+
+// The address of the image. A large picture is what its page is about: it is there at once.
+function useAddress(shown: View.Picture, size: Size) {
+  const place = useRef<HTMLImageElement>(null);
+  const [, show] = useState("");
+  const key = keyOf(shown);
+  const address = size === "full" ? draw(shown) : addressIfDrawn(key);
+  const missing = address === undefined;
+  useEffect(() => {
+    if (missing) return drawWhenNear(place.current!, shown, () => show(key));
+    return undefined;
+  }, [key, missing]);
+  return { place, address };
+}
+
+export function Picture({ size, ...shown }: View.Picture & { readonly size: Size }) {
+  const { place, address } = useAddress(shown, size);
+  const look = `picture picture-${shown.kind} size-${size}${address === undefined ? " is-missing" : ""}`;
+  return <img ref={place} class={look} src={address ?? nothing} alt={shown.description} decoding="async" />;
 }
