@@ -1,5 +1,6 @@
 #include "career/job_contract.h"
 
+#include "core/log.h"
 #include "core/save.h"
 
 namespace tb {
@@ -13,7 +14,7 @@ void advanceJobContract(Game& game) {
   } else {
     world.weeklyJobContractRemaining -= 1;
     if (world.weeklyJobContractRemaining == 0)
-      world.WeekFeed.push_back("The contract for your job has ended");
+      feedLine(world, {.kind = NewsKind::jobEnded}, "The contract for your job has ended");
   }
   save<&WorldState::weeklyJobContractRemaining, &WorldState::weeklyJobTitle, &WorldState::totalCashAvailable,
        &WorldState::weeklyJobIncome, &WorldState::weeklyEnergyCost>(game);

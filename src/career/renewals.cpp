@@ -162,7 +162,8 @@ void renew(WorldState& world, std::size_t index, Audition next) {
 void end(Game& game, std::size_t index, Bank bank) {
   Audition& project = game.world.saveAllAuditionList.edit(index);
   project.isContinued = endedForGood;
-  logLine(game.world, fill(drawRow(game.random, bank), {{"title", project.title}}));
+  logLine(game.world, {.kind = NewsKind::cancellation, .filmId = project.filmId},
+          fill(drawRow(game.random, bank), {{"title", project.title}}));
 }
 
 // --- Series ---
@@ -171,8 +172,9 @@ void orderSeason(Game& game, std::size_t index) {
   WorldState& world = game.world;
   Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
   setEpisodes(game, next);
-  logLine(world, fill(drawRow(game.random, Bank::seriesRenewal),
-                      {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
+  logLine(world, {.kind = NewsKind::renewal, .filmId = next.filmId},
+          fill(drawRow(game.random, Bank::seriesRenewal),
+               {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
   renew(world, index, std::move(next));
 }
 
@@ -196,8 +198,9 @@ void orderFilm(Game& game, std::size_t index, const MovieFranchise& entry) {
   next.genres = entry.genre;
   next.franchise = entry.movieNumber;
   next.franchiseId = entry.id;
-  logLine(world, fill(drawRow(game.random, Bank::sagaRenewal),
-                      {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
+  logLine(world, {.kind = NewsKind::renewal, .filmId = next.filmId},
+          fill(drawRow(game.random, Bank::sagaRenewal),
+               {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
   renew(world, index, std::move(next));
 }
 

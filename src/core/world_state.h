@@ -10,8 +10,10 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/list.h"
+#include "core/news.h"
 #include "core/property_list.h"
 #include "core/records/records.h"
 #include "core/value_type.h"

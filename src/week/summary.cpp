@@ -16,9 +16,11 @@ constexpr std::size_t weeksOfEarnings = 52;
 void showFeed(Game& game, WeekSummary& summary) {
   TextList& feed = game.world.WeekFeed;
   summary.hasNews = !feed.empty();
+  summary.frontPage = layFrontPage(game);
   if (!summary.hasNews) feed.push_back(drawRow(game.random, Bank::weeklyTips));
   summary.feed.assign(feed.begin(), feed.end());
   feed.clear();
+  game.world.weekFeedNews.clear();
 }
 
 void keepWeeksNet(Game& game) {
