@@ -369,3 +369,17 @@ test("a page of 160 rows with pictures is drawn again within a frame", async () 
   console.log(`redraw of ${elements} elements: ${each.toFixed(1)} ms`);
   assert.ok(each <= 16, `${each} ms`);
 });
+
+test("a fold says whether it is open, and keeps the focus as it opens", async () => {
+  const folded = (isOpen: boolean) => [make.fold("4 never wrote back", isOpen, ...(isOpen ? [text("Two Hats")] : []))];
+  const page = await drawn(folded(false));
+  const fold = button(page, "4 never wrote back");
+  assert.equal(await fold.getAttribute("aria-expanded"), "false");
+  await fold.focus();
+  await page.keyboard.press("Enter");
+  assert.deepEqual(await done(page), [["press", 1]]);
+  await again(page, folded(true));
+  assert.equal(await fold.getAttribute("aria-expanded"), "true");
+  assert.equal(await page.locator(`[id="${await fold.getAttribute("aria-controls")}"]`).innerText(), "Two Hats");
+  assert.equal(await focused(page), "4 never wrote back");
+});

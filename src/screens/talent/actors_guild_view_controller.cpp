@@ -6,6 +6,7 @@
 #include "career/guild.h"
 #include "core/number_style.h"
 #include "core/save.h"
+#include "screens/moments.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -16,6 +17,9 @@ namespace {
 
 void join(Stage& stage) {
   stage.show(joinGuild(stage.game()));
+  if (stage.game().world.isSAG == 1) {
+    stage.play(momentOf(NewsKind::guild, "Welcome to the Actor's Guild"));
+  }
   stage.worldChanged();
 }
 

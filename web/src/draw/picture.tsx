@@ -3,7 +3,7 @@
 import { pictureArt } from "../art/picture_art";
 import type * as View from "../view_types";
 
-type Size = "row" | "card" | "option" | "full";
+type Size = "row" | "lead" | "card" | "option" | "full";
 
 export function Picture({ kind, name, description, size }: View.Picture & { readonly size: Size }) {
   const art = { __html: pictureArt(kind, name) };
