@@ -20,6 +20,10 @@ class Walk {
       text_(page.dialog.front().message);
       for (const Button& answer : page.dialog.front().answers) node(answer);
     }
+    for (const Moment& moment : page.moment) {
+      text_(moment.title);
+      text_(moment.line);
+    }
     text_(page.title);
     text_(page.subtitle);
     for (const Tab& icon : page.icons) press(icon.label, icon.handle);
@@ -44,7 +48,10 @@ class Walk {
     for (const StatTile& tile : tiles.tiles) text_(tile.label + ": " + tile.value + " " + tile.detail);
   }
   void node(const Meter& meter) { text_(meter.label + ": " + meter.text); }
-  void node(const Balance& balance) { text_(balance.income + " | " + balance.expenses); }
+  void node(const Balance& balance) {
+    text_(balance.label + ": " + balance.net);
+    text_(balance.income + " | " + balance.expenses);
+  }
   void node(const Stars& stars) { text_(stars.label); }
   void node(const Button& button) {
     press(button.label, button.handle);
@@ -58,6 +65,12 @@ class Walk {
     press(row.label, row.handle);
     text_(row.value);
     text_(row.detail);
+  }
+  void node(const Headline& headline) {
+    text_(headline.stamp);
+    press(headline.text, headline.handle);
+    text_(headline.detail);
+    text_(headline.value);
   }
   void node(const Field& field) {
     text_(field.label + ": " + field.value);
@@ -89,6 +102,10 @@ class Walk {
   void node(const Section& section) {
     text_(section.heading);
     nodes(section.nodes);
+  }
+  void node(const Fold& fold) {
+    press(fold.label, fold.handle);
+    nodes(fold.nodes);
   }
   void node(const Card& card) {
     press(card.title, card.handle);

@@ -82,10 +82,10 @@ void invite(Pass& pass, std::size_t index) {
     pass.moveTo(index, funnel::invited);
     if (isHeardOf(project)) {
       const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
-      pass.world.WeekFeed.push_back(
-          std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
-      logActivity(pass.world,
-                  fill(tellRow(pass.game, Bank::invitation), {{"title", project.title}, {"n", weeks}}));
+      feedLine(pass.world, {.kind = NewsKind::invitation, .filmId = project.filmId},
+               std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
+      logActivity(pass.world, fill(tellRow(pass.game, Bank::invitation),
+                                   {{"title", project.title}, {"n", weeks}}));
       pass.world.experience += project.auditionDifficulty * experienceOfInvitation;
     }
   }
@@ -97,7 +97,8 @@ void leaveUnanswered(Pass& pass, std::size_t index) {
   if (RandomRange(pass.game.random, 3) != 1) return;
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::closed);
-  pass.world.WeekFeed.push_back(std::format("You never heard back after applying for {}.", nameOf(project)));
+  feedLine(pass.world, {.kind = NewsKind::silence, .filmId = project.filmId},
+           std::format("You never heard back after applying for {}.", nameOf(project)));
   logActivity(pass.world, fill(tellRow(pass.game, Bank::silence), {{"title", project.title}}));
   pass.tellAgent(index, agentTakes::silence);
 }
@@ -123,9 +124,10 @@ void offerRole(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::booked);
   if (isHeardOf(project)) {
-    pass.world.WeekFeed.push_back(std::format(
-        "You auditioned for {} and the cast director offered you the role. Shooting begins in {} week(s).",
-        nameOf(project), project.weekToWork - pass.week() - 1));
+    feedLine(pass.world, {.kind = NewsKind::offer, .filmId = project.filmId},
+             std::format("You auditioned for {} and the cast director offered you the role. Shooting begins "
+                         "in {} week(s).",
+                         nameOf(project), project.weekToWork - pass.week() - 1));
     pass.world.experience += project.auditionDifficulty / shareOfOffer;
   }
   pass.tellAgent(index, agentTakes::offer);
@@ -133,8 +135,9 @@ void offerRole(Pass& pass, std::size_t index) {
 
 // The record stays among the invited: its week lies in the past, so it is never auditioned for again.
 void reject(Pass& pass, std::size_t index) {
-  pass.world.WeekFeed.push_back(std::format("You auditioned for {} but you were not selected for the role.",
-                                            nameOf(pass.project(index))));
+  const Audition& project = pass.project(index);
+  feedLine(pass.world, {.kind = NewsKind::refusal, .filmId = project.filmId},
+           std::format("You auditioned for {} but you were not selected for the role.", nameOf(project)));
   pass.tellAgent(index, agentTakes::rejection);
 }
 
@@ -151,30 +154,32 @@ void audition(Pass& pass, std::size_t index) {
 
 // --- Booked ---
 
+News wrapOf(const Audition& project) { return {.kind = NewsKind::wrap, .filmId = project.filmId}; }
+
 void tellOfShoot(Pass& pass, const Audition& project) {
   const bool commercial = project.typeOfFilm == filmType::commercial;
   const std::string season = project.seasonNumber >= 2 ? std::format(" Season {}", project.seasonNumber) : "";
-  pass.world.WeekFeed.push_back(commercial
-                                    ? "You wrapped filming for a commercial."
-                                    : std::format("You wrapped filming for {}{}.", project.title, season));
+  feedLine(pass.world, wrapOf(project),
+           commercial ? "You wrapped filming for a commercial."
+                      : std::format("You wrapped filming for {}{}.", project.title, season));
   pass.world.experience +=
       RandomUnit(pass.game.random, 0, commercial ? mostExperienceOfCommercial : mostExperienceOfShoot);
 }
 
 void tellOfOwnProduction(Pass& pass, const Audition& project) {
-  pass.world.WeekFeed.push_back(
-      project.typeOfFilm == filmType::feature
-          ? std::format("Filming wrapped for {}, a film you directed and produced.", project.title)
-          : std::format(
-                "Filming wrapped for {}, a TV-Series you directed and produced. Pitch it to networks prior "
-                "to release.",
-                project.title));
+  feedLine(pass.world, wrapOf(project),
+           project.typeOfFilm == filmType::feature
+               ? std::format("Filming wrapped for {}, a film you directed and produced.", project.title)
+               : std::format("Filming wrapped for {}, a TV-Series you directed and produced. Pitch it to "
+                             "networks prior to release.",
+                             project.title));
 }
 
 void tellOfInvestment(Pass& pass, const Audition& project) {
   const std::string stake = std::format("{:.0f}%", project.equityPercentage);
-  logLine(pass.world,
-          fill(tellRow(pass.game, Bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
+  logLine(
+      pass.world, wrapOf(project),
+      fill(tellRow(pass.game, Bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
 }
 
 void wrap(Pass& pass, std::size_t index) {

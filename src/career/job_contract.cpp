@@ -1,5 +1,6 @@
 #include "career/job_contract.h"
 
+#include "core/log.h"
 namespace tb {
 
 void advanceJobContract(Game& game) {
@@ -11,7 +12,7 @@ void advanceJobContract(Game& game) {
   } else {
     world.weeklyJobContractRemaining -= 1;
     if (world.weeklyJobContractRemaining == 0)
-      world.WeekFeed.push_back("The contract for your job has ended");
+      feedLine(world, {.kind = NewsKind::jobEnded}, "The contract for your job has ended");
   }
 }
 

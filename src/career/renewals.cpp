@@ -161,7 +161,8 @@ void renew(WorldState& world, std::size_t index, Audition next) {
 void end(Game& game, std::size_t index, Bank bank) {
   Audition& project = game.world.saveAllAuditionList.edit(index);
   project.isContinued = endedForGood;
-  logLine(game.world, fill(tellRow(game, bank), {{"title", project.title}}));
+  logLine(game.world, {.kind = NewsKind::cancellation, .filmId = project.filmId},
+          fill(tellRow(game, bank), {{"title", project.title}}));
 }
 
 // --- Series ---
@@ -170,8 +171,9 @@ void orderSeason(Game& game, std::size_t index) {
   WorldState& world = game.world;
   Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
   setEpisodes(game, next);
-  logLine(world, fill(tellRow(game, Bank::seriesRenewal),
-                      {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
+  logLine(world, {.kind = NewsKind::renewal, .filmId = next.filmId},
+          fill(tellRow(game, Bank::seriesRenewal),
+               {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
   renew(world, index, std::move(next));
 }
 
@@ -195,8 +197,9 @@ void orderFilm(Game& game, std::size_t index, const MovieFranchise& entry) {
   next.genres = entry.genre;
   next.franchise = entry.movieNumber;
   next.franchiseId = entry.id;
-  logLine(world, fill(tellRow(game, Bank::sagaRenewal),
-                      {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
+  logLine(world, {.kind = NewsKind::renewal, .filmId = next.filmId},
+          fill(tellRow(game, Bank::sagaRenewal),
+               {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
   renew(world, index, std::move(next));
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/list.h"
+#include "core/news.h"
 #include "core/plain_types.h"
 #include "core/records/records.h"
 

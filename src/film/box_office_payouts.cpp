@@ -17,13 +17,14 @@ constexpr std::int64_t ownProductionSource = 3;
 constexpr double ownProductionManager = -1;
 
 void announceEquity(Game& game, const Film& film, double payout, double gross) {
+  const News about = {.kind = NewsKind::payday, .filmId = film.filmId, .amount = payout};
   const std::string amount = shortMoney(game.locale, payout);
   if (film.isPrincipal == rolePart::ownProduction) {
-    logLine(game.world,
+    logLine(game.world, about,
             "You received " + amount + " in box office earnings for directing and producing " + film.title);
   } else if (gross > film.budget) {
     // A loss goes unmentioned: the record alone tells of it.
-    logLine(game.world,
+    logLine(game.world, about,
             fill(tellRow(game, Bank::equityPaidBank), {{"title", film.title}, {"amount", amount}}));
   }
 }
@@ -53,7 +54,7 @@ void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds) {
   RoyaltyPayout payout = royaltyShare(game.world, film, proceeds, commissionOf(game.world));
   const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
   logLine(
-      game.world,
+      game.world, {.kind = NewsKind::payday, .filmId = film.filmId, .amount = payout.payout},
       fill(tellRow(game, Bank::royaltyPaidBank),
            {{"title", film.title}, {"amount", royalty}, {"gross", shortMoney(game.locale, proceeds.gross)}}));
   keepPayout(game, std::move(payout));

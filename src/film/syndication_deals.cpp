@@ -33,7 +33,7 @@ constexpr std::int64_t audienceOfReruns = 100'000;  // hours watched; with fewer
 void announce(Game& game, const Syndication& title, const NetworkDeal& deal) {
   const std::string amount = shortMoney(game.locale, static_cast<double>(deal.price));
   const std::string years = counted(deal.years, "year");
-  logLine(game.world,
+  logLine(game.world, {.kind = NewsKind::syndication, .filmId = title.filmId},
           fill(tellRow(game, Bank::syndicationDealBank),
                {{"title", title.filmName}, {"amount", amount}, {"network", deal.network}, {"years", years}}));
 }

@@ -30,6 +30,7 @@ const view::Page& App::view() {
     if (!close.empty() && stage_.depth() > 1) {
       page.close.push_back({.label = close, .press = [](Stage& stage) { stage.close(); }});
     }
+    page.moment = stage_.moment();
     if (!stage_.dialogs().empty()) page.dialog.push_back(stage_.dialogs().front());
     laid_out_ = layOut(std::move(page), stage_);
   }
@@ -42,6 +43,7 @@ void App::use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&.
   if (handle < 1 || static_cast<std::size_t>(handle) > laid_out_->uses.size()) return;
   const Kind operation = laid_out_->uses[static_cast<std::size_t>(handle) - 1].*kind;
   if (!operation) return;
+  stage_.endMoment();
   operation(stage_, values...);
   endAction();
 }

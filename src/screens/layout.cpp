@@ -70,6 +70,13 @@ class Layout {
     for (Button& button : buttons.buttons) visit(button);
   }
   void visit(Row& row) { row.handle = pressable(row.press); }
+  void visit(Headline& headline) { headline.handle = pressable(headline.press); }
+  void visit(Fold& fold) {
+    fold.isOpen = stage_.isFoldOpen(fold.key);
+    fold.handle = add({.press = [key = fold.key](Stage& stage) { stage.turnFold(key); }});
+    if (!fold.isOpen) fold.nodes.clear();
+    visitAll(fold.nodes);
+  }
   void visit(Field& field) { field.handle = add({.type = field.type}); }
   void visit(Slider& slider) { slider.handle = add({.slide = slider.slide}); }
   void visit(Choice& choice) {

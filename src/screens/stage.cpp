@@ -38,6 +38,11 @@ void Stage::dismiss() {
   if (!dialogs_.empty()) dialogs_.erase(dialogs_.begin());
 }
 
+void Stage::play(view::Moment moment) {
+  moment.number = ++played_;
+  moment_ = {std::move(moment)};
+}
+
 void Stage::settle() {
   // Appearing may open a further screen, which then appears in its turn.
   while (!screens_.empty() && !screens_.back().appeared) {
@@ -54,5 +59,12 @@ std::size_t Stage::listPage(const std::string& key) const {
 }
 
 void Stage::turnList(const std::string& key, std::size_t page) { screens_.back().list_pages[key] = page; }
+
+bool Stage::isFoldOpen(const std::string& key) const { return screens_.back().open_folds.contains(key); }
+
+void Stage::turnFold(const std::string& key) {
+  std::set<std::string>& open = screens_.back().open_folds;
+  if (open.erase(key) == 0) open.insert(key);
+}
 
 }  // namespace tb

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -59,6 +60,11 @@ class Stage {
   // Takes the notice on top away; does nothing when there is none.
   void dismiss();
 
+  // Plays a moment over the page that this action leads to; the next action ends it. A second one in the same
+  // action takes the place of the first.
+  void play(view::Moment moment);
+  void endMoment() { moment_.clear(); }
+
   // Lets screens that came to the top appear. Ends every action.
   void settle();
 
@@ -68,9 +74,15 @@ class Stage {
   [[nodiscard]] std::size_t depth() const { return screens_.size(); }
   [[nodiscard]] const std::vector<view::Dialog>& dialogs() const { return dialogs_; }
 
+  [[nodiscard]] const std::vector<view::Moment>& moment() const { return moment_; }  // none or one
+
   // How far the player has paged through a list of the screen on top, in pages from 0.
   [[nodiscard]] std::size_t listPage(const std::string& key) const;
   void turnList(const std::string& key, std::size_t page);
+
+  // Which folds of the screen on top are open.
+  [[nodiscard]] bool isFoldOpen(const std::string& key) const;
+  void turnFold(const std::string& key);
 
  private:
   struct Standing {
@@ -78,6 +90,7 @@ class Stage {
     int number = 0;
     bool appeared = false;
     std::map<std::string, std::size_t> list_pages = {};
+    std::set<std::string> open_folds = {};
   };
 
   Game& game_;
@@ -85,6 +98,8 @@ class Stage {
   int opened_ = 0;
   std::vector<std::unique_ptr<Screen>> left_;  // closed during this action; their operation may still run
   std::vector<view::Dialog> dialogs_;
+  std::vector<view::Moment> moment_;
+  int played_ = 0;
 };
 
 }  // namespace tb

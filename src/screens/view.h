@@ -81,9 +81,13 @@ struct Tiles {
   std::vector<StatTile> tiles;
 };
 
-// What came in and what went out, in one line: "$450 | $50". The expenses stand in the warning colour.
+// What is left, large, and under it what came in and what went out, in one line: "$450 | $50". The expenses
+// stand in the warning colour.
 struct Balance {
-  std::string income;  // formatted, as are the expenses
+  std::string label;  // of what is left
+  std::string net;    // formatted, as are the others
+  Tone tone = Tone::plain;
+  std::string income;
   std::string expenses;
 };
 
@@ -126,6 +130,19 @@ struct Row {
   std::vector<Picture> picture;  // none or one
   Tone tone = Tone::plain;
   Operation press;  // may be empty
+  Handle handle = 0;
+};
+
+// A piece of news: a stamp, what happened, and where a press leads.
+struct Headline {
+  std::string stamp;  // a word or two in capitals; may be empty
+  std::string text;
+  std::string detail;
+  std::string value;             // a figure that the news is about
+  std::vector<Picture> picture;  // none or one
+  Tone tone = Tone::plain;       // of the stamp and the value
+  bool isLead = false;           // the one that the page opens with, drawn large
+  Operation press;               // may be empty
   Handle handle = 0;
 };
 
@@ -216,6 +233,15 @@ struct Card {
   Handle handle = 0;
 };
 
+// A row that opens to further nodes, and closes over them again.
+struct Fold {
+  std::string key;  // tells the folds of one screen apart, so that each stays open when drawn again
+  std::string label;
+  std::vector<Node> nodes;  // once laid out: empty while it is closed
+  bool isOpen = false;      // filled in as the page is laid out
+  Handle handle = 0;
+};
+
 // A card that is answered with one of two buttons, or by pushing it aside.
 struct SwipeCard {
   Card card;
@@ -240,8 +266,9 @@ struct ListPage {
 };
 
 struct Node {
-  std::variant<Text, Tiles, Balance, Meter, Stars, Button, Buttons, Row, Field, Slider, Choice, Chart,
-               Picture, Bubble, TimelineEntry, Countdown, Section, Card, SwipeCard, PagedList, ListPage>
+  std::variant<Text, Tiles, Balance, Meter, Stars, Button, Buttons, Row, Headline, Field, Slider, Choice,
+               Chart, Picture, Bubble, TimelineEntry, Countdown, Section, Fold, Card, SwipeCard, PagedList,
+               ListPage>
       node;
   template <class T>
   Node(T kind) : node(std::move(kind)) {}
@@ -263,6 +290,21 @@ struct Dialog {
   std::vector<Button> answers;
 };
 
+// A scene of less than a second over the page, for a first or large thing. It is shown once and skipped by
+// any press; nothing waits for it, and the page says the same in its own words.
+struct Moment {
+  enum class Scene : std::uint8_t {
+    deal,     // the poster is dealt and stamped
+    curtain,  // the curtain parts over the poster
+    marquee,  // the title in lights
+  };
+  Scene scene = Scene::marquee;
+  std::string title;  // a word or two in capitals
+  std::string line;
+  std::vector<Picture> picture;  // none or one
+  int number = 0;                // counts the moments since launch, filled in by the Stage
+};
+
 struct Page {
   std::string title;
   std::string subtitle;
@@ -271,6 +313,7 @@ struct Page {
   std::vector<Tab> tabs;
   std::vector<Button> close;   // none or one: the way back, filled in by the App for screens that can be left
   std::vector<Dialog> dialog;  // none or one
+  std::vector<Moment> moment;  // none or one, filled in by the App for the one page after it was played
   // Which screen this is, filled in by the App: the same number is the same screen, whatever it is called by
   // now, and another number is another one, though it may bear the same title.
   int screen = 0;

@@ -15,9 +15,11 @@ constexpr std::size_t weeksOfEarnings = 52;
 void showFeed(Game& game, WeekSummary& summary) {
   TextList& feed = game.world.WeekFeed;
   summary.hasNews = !feed.empty();
-  if (!summary.hasNews) feed.push_back(std::string(tellRow(game, Bank::weeklyTips)));
+  summary.frontPage = layFrontPage(game);
+  if (!summary.hasNews) feed.push_back(tellRow(game, Bank::weeklyTips));
   summary.feed.assign(feed.begin(), feed.end());
   feed.clear();
+  game.world.weekFeedNews.clear();
 }
 
 void keepWeeksNet(Game& game) {

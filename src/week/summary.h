@@ -8,6 +8,7 @@
 
 #include "core/game.h"
 #include "wealth/weekly_balance.h"
+#include "week/front_page.h"
 
 namespace tb {
 
@@ -17,10 +18,12 @@ struct WeekSummary {
   WeekBalance balance;
   bool hasNews = false;  // false: nothing happened, and the one line is a tip
   std::vector<std::string> feed;
+  FrontPage frontPage;         // the same lines as the review shows them; without a tip
   bool offersRelease = false;  // a title came out, and its screen was not opened yet
 };
 
-// Hands the lines of `WeekFeed` over to the summary and empties it; a week without a line gives a tip.
+// Hands the lines of `WeekFeed` over to the summary, lays out its front page, and empties `WeekFeed`. A week
+// without a line gives a tip.
 void showFeed(Game& game, WeekSummary& summary);
 
 // Adds the week's net to `saveWeeklyEarnings`, which keeps the newest 52, and writes it.

@@ -22,11 +22,33 @@ Section figures() {
                  {.label = "Talent", .value = "38"},
                  {.label = "Age", .value = "21"},
                  {.label = "Earned this year", .value = "$80K", .tone = Tone::good}}},
-          Balance{.income = "$1,450", .expenses = "$70"},
+          Balance{.label = "Net of the week",
+                  .net = "+$1,380",
+                  .tone = Tone::good,
+                  .income = "$1,450",
+                  .expenses = "$70"},
           Meter{.label = "Energy", .value = 72, .maximum = 100, .text = "72 of 100"},
           Meter{.label = "Voice", .value = 140, .maximum = 100, .text = "140", .isScore = true},
           Stars{.label = "Critics", .value = 3.5, .outOf = 5},
           Countdown{.label = "Closing", .secondsLeft = 64.2, .secondsInAll = 120}}};
+}
+
+Headline booking(bool isLead) {
+  return {.stamp = "BOOKED",
+          .text = "You auditioned for The Long Night and the cast director offered you the role.",
+          .detail = "Lead • Feature Film",
+          .value = isLead ? "" : "+$1,200",
+          .picture = {{.kind = PictureKind::poster, .name = "night", .description = "a lamp"}},
+          .tone = Tone::good,
+          .isLead = isLead,
+          .press = nothing};
+}
+
+Section news() {
+  return {
+      .heading = "NEWS",
+      .nodes = {booking(true), booking(false), Headline{.text = "You never heard back.", .tone = Tone::quiet},
+                Fold{.key = "silences", .label = "4 never wrote back"}}};
 }
 
 Section uses() {
@@ -131,13 +153,14 @@ Page gallery() {
           .subtitle = "MARCH\n20, 2026",
           .icons = {{.label = "The Backstage", .icon = "B", .press = nothing},
                     {.label = "Settings", .icon = "⚙️", .press = nothing}},
-          .nodes = {figures(), uses(), charts(), people()},
+          .nodes = {figures(), news(), uses(), charts(), people()},
           .tabs = {{.label = "Home", .icon = "🏠", .current = true, .press = nothing},
                    {.label = "Work", .icon = "🎬", .press = nothing},
                    {.label = "Social", .icon = "💬", .press = nothing},
                    {.label = "Life", .icon = "⚡️", .press = nothing},
                    {.label = "Wealth", .icon = "💰", .press = nothing}},
-          .close = {{.label = "Back", .press = nothing}}};
+          .close = {{.label = "Back", .press = nothing}},
+          .moment = {{.title = "BOOKED", .line = "The Long Night • Lead"}}};
 }
 
 }  // namespace tb::test

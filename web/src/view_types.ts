@@ -23,6 +23,16 @@ export interface Dialog {
   readonly answers: readonly Button[];
 }
 
+export type MomentScene = "deal" | "curtain" | "marquee";
+
+export interface Moment {
+  readonly scene: MomentScene;
+  readonly title: string;
+  readonly line: string;
+  readonly picture: readonly Picture[];
+  readonly number: number;
+}
+
 export interface Page {
   readonly title: string;
   readonly subtitle: string;
@@ -31,6 +41,7 @@ export interface Page {
   readonly tabs: readonly Tab[];
   readonly close: readonly Button[];
   readonly dialog: readonly Dialog[];
+  readonly moment: readonly Moment[];
   readonly screen: number;
 }
 
@@ -56,6 +67,9 @@ export interface Tiles {
 }
 
 export interface Balance {
+  readonly label: string;
+  readonly net: string;
+  readonly tone: Tone;
   readonly income: string;
   readonly expenses: string;
 }
@@ -100,6 +114,17 @@ export interface Row {
   readonly detail: string;
   readonly picture: readonly Picture[];
   readonly tone: Tone;
+  readonly handle: number;
+}
+
+export interface Headline {
+  readonly stamp: string;
+  readonly text: string;
+  readonly detail: string;
+  readonly value: string;
+  readonly picture: readonly Picture[];
+  readonly tone: Tone;
+  readonly isLead: boolean;
   readonly handle: number;
 }
 
@@ -178,6 +203,14 @@ export interface Section {
   readonly nodes: readonly Node[];
 }
 
+export interface Fold {
+  readonly key: string;
+  readonly label: string;
+  readonly nodes: readonly Node[];
+  readonly isOpen: boolean;
+  readonly handle: number;
+}
+
 export interface Card {
   readonly title: string;
   readonly subtitle: string;
@@ -207,6 +240,7 @@ export type Node =
   | { readonly kind: "button"; readonly content: Button }
   | { readonly kind: "buttons"; readonly content: Buttons }
   | { readonly kind: "row"; readonly content: Row }
+  | { readonly kind: "headline"; readonly content: Headline }
   | { readonly kind: "field"; readonly content: Field }
   | { readonly kind: "slider"; readonly content: Slider }
   | { readonly kind: "choice"; readonly content: Choice }
@@ -216,6 +250,7 @@ export type Node =
   | { readonly kind: "timelineEntry"; readonly content: TimelineEntry }
   | { readonly kind: "countdown"; readonly content: Countdown }
   | { readonly kind: "section"; readonly content: Section }
+  | { readonly kind: "fold"; readonly content: Fold }
   | { readonly kind: "card"; readonly content: Card }
   | { readonly kind: "swipeCard"; readonly content: SwipeCard }
   | { readonly kind: "listPage"; readonly content: ListPage };

@@ -371,62 +371,16 @@ test("a page of 160 rows with pictures is drawn again within a frame", async () 
   assert.ok(each <= 16, `${each} ms`);
 });
 
-// A filmography of 44 rows, each with a poster of its own, under the name of another screen.
-const filmography = (from: number) =>
-  make.page({
-    title: `Auditions ${from}`,
-    screen: 100 + from,
-    nodes: [
-      make.section(
-        "PROJECTS",
-        ...Array.from({ length: 44 }, (_, index) =>
-          make.row({
-            label: `Title ${from + index}`,
-            detail: "Feature Film • Support",
-            value: "In 3 weeks",
-            handle: 1,
-            picture: [make.poster(`Title ${from + index}`, ["Drama", "Comedy", "Sci-Fi", "Western"][index % 4]!)],
-          }),
-        ),
-      ),
-    ],
-  });
-
-test("a list of 44 posters opens within a frame, costs one node a picture, and holds its place until it is drawn", async () => {
-  const page = await gallery.open("hub");
-  const milliseconds = await processorTime(page);
-  const open = (next: View.Page) =>
-    page.evaluate((shown) => {
-      window.gallery.show(shown);
-      return document.body.getBoundingClientRect().height; // with its layout
-    }, next);
-  for (let run = 0; run < 12; ++run) await open(filmography(run % 2 === 0 ? -1000 : -2000)); // compiled by now
-  await page.evaluate(() => new Promise((wait) => setTimeout(wait, 600)));
-  let all = 0;
-  for (let run = 0; run < 10; ++run) {
-    const next = filmography(run * 50);
-    const before = await milliseconds();
-    await open(next);
-    all += (await milliseconds()) - before;
-  }
-  const height = await open(filmography(9000));
-  const nodes = await page.evaluate(() => document.querySelectorAll("#app *").length);
-  console.log(`opening 44 posters: ${(all / 10).toFixed(1)} ms, ${nodes} elements`);
-  assert.ok(all / 10 <= 16, `${all / 10} ms`);
-  assert.ok(nodes <= 400, `${nodes} elements`);
-  assert.equal(await page.locator("img.picture").count(), 44);
-  // What is on the screen is drawn soon, what is far below is not; nothing moves.
-  await page.locator(".picture").first().and(page.locator(":not(.is-missing)")).waitFor();
-  await page.evaluate(() => new Promise((wait) => setTimeout(wait, 500)));
-  assert.equal(await page.evaluate(() => document.body.getBoundingClientRect().height), height);
-  assert.ok((await page.locator(".is-missing").count()) > 10);
-  const shown = page.locator(".picture:not(.is-missing)").first();
-  assert.deepEqual(await shown.evaluate((image: HTMLImageElement) => [image.clientWidth, image.clientHeight, image.complete && image.naturalWidth > 0]), [56, 84, true]);
-  // The last ones come when they are scrolled to.
-  await page.locator(".picture").last().scrollIntoViewIfNeeded();
-  await page.locator(".picture").last().and(page.locator(":not(.is-missing)")).waitFor();
-  // What was drawn once is there at once.
-  await open(pages["hub"]!);
-  await open(filmography(9000));
-  assert.ok((await page.locator(".picture:not(.is-missing)").count()) > 10);
+test("a fold says whether it is open, and keeps the focus as it opens", async () => {
+  const folded = (isOpen: boolean) => [make.fold("4 never wrote back", isOpen, ...(isOpen ? [text("Two Hats")] : []))];
+  const page = await drawn(folded(false));
+  const fold = button(page, "4 never wrote back");
+  assert.equal(await fold.getAttribute("aria-expanded"), "false");
+  await fold.focus();
+  await page.keyboard.press("Enter");
+  assert.deepEqual(await done(page), [["press", 1]]);
+  await again(page, folded(true));
+  assert.equal(await fold.getAttribute("aria-expanded"), "true");
+  assert.equal(await page.locator(`[id="${await fold.getAttribute("aria-controls")}"]`).innerText(), "Two Hats");
+  assert.equal(await focused(page), "4 never wrote back");
 });

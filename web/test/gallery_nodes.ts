@@ -20,7 +20,7 @@ const usualField: View.Field = { label: "", value: "", hint: "", maximumLength: 
 const usualSlider: View.Slider = { label: "", value: 50, minimum: 0, maximum: 100, step: 1, text: "", handle: 1 };
 const usualCard: View.Card = { title: "", subtitle: "", picture: [], nodes: [], handle: 0 };
 
-const emptyPage = { title: "Test", subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [], screen: 1 };
+const emptyPage = { title: "Test", subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [], moment: [], screen: 1 };
 
 export const page = part<View.Page>(emptyPage);
 export const plainButton = part(usualButton);
@@ -40,7 +40,14 @@ export const text = (text: string, rest: Partial<View.Text> = {}) =>
   node("text", { text, style: "body", tone: "plain" })(rest);
 export const tiles = (...tiles: View.StatTile[]) => node("tiles", { tiles })();
 export const cash = (value: string) => tiles(tile({ label: "Cash", value }));
-export const balance = (income: string, expenses: string) => node("balance", { income, expenses })();
+export const balance = (net: string, income: string, expenses: string, tone: View.Tone = "plain") =>
+  node("balance", { label: "Net of the week", net, tone, income, expenses })();
+export const headline = node("headline", {
+  stamp: "", text: "", detail: "", value: "", picture: [], tone: "plain", isLead: false, handle: 0,
+});
+export const fold = (label: string, isOpen: boolean, ...nodes: View.Node[]) =>
+  node("fold", { key: label, label, isOpen, nodes, handle: 1 })();
+export const moment = part<View.Moment>({ scene: "deal", title: "", line: "", picture: [], number: 1 });
 export const stars = (label: string, value: number, outOf = 5) => node("stars", { label, value, outOf })();
 export const buttons = (...buttons: View.Button[]) => node("buttons", { buttons })();
 export const choice = (label: string, options: readonly View.ChoiceOption[], several = false) =>

@@ -29,7 +29,7 @@ const hub = page({
   tabs: tabs(0),
   nodes: [
     make.tiles(...tones.map((tone) => tile({ label: `Cash ${tone}`, value: "$1,250", detail: "+312 a week", tone }))),
-    make.balance("$450", "$70"),
+    make.balance("+$380", "$450", "$70", "good"),
     make.meter({ label: "Energy", value: 72, text: "72 of 100" }),
     section(
       "Now playing",
@@ -159,6 +159,38 @@ const latch = page({
   ],
 });
 
+const news = (stamp: string, words: string, rest: Partial<View.Headline> = {}) =>
+  make.headline({ stamp, text: words, picture: poster, handle: 1, ...rest });
+const review = page({
+  title: "REVIEW",
+  subtitle: "Week 4 of 2026",
+  close: back("Close"),
+  nodes: [
+    section("INCOME • EXPENSES", make.balance("-$50", "$0", "$50", "warning")),
+    section(
+      "FEED",
+      news("BOOKED", "You auditioned for Night Train and the cast director offered you the role.", {
+        tone: "good", isLead: true, detail: "Lead • Feature Film",
+      }),
+      ...tones.map((tone) => news(`IT IS ${tone}`, `Told in ${tone}.`, { tone, value: "+$1.1K" })),
+      make.headline({ text: "The contract for your job has ended" }),
+      make.fold("4 never wrote back", false),
+      make.fold("Two Hats said no", true, news("NOT SELECTED", "You were not selected.", { tone: "quiet" })),
+    ),
+    section("", make.meter({ label: "Energy", value: 96, text: "96 of 96" })),
+    button({ label: "Carry on", weight: "primary" }),
+  ],
+});
+const frontPages = page({
+  title: "Front pages",
+  nodes: [
+    ...tones.map((tone) => news(longWord, longText, { tone, isLead: true, value: muchMoney, detail: longWord })),
+    news(longWord, longText, { value: muchMoney, detail: longWord }),
+    make.headline({ stamp: "WRAPPED", text: "Without a picture, and nowhere to go.", isLead: true, detail: "As is" }),
+    make.fold(longText, true, news("", longWord)),
+  ],
+});
+
 const letters = (...labels: string[]) => labels.map((label, index) => make.option({ label, chosen: index === 1 }));
 const form = page({
   title: "New career",
@@ -212,7 +244,7 @@ const extreme = page({
     ),
     make.tiles(tile({ label: "Alone", value: "$999,999,999" })),
     make.tiles(),
-    make.balance(`-${muchMoney}`, muchMoney),
+    make.balance(`-${muchMoney}`, `-${muchMoney}`, muchMoney, "warning"),
     make.meter({ label: longWord, value: 1e12, text: "1,000,000,000,000 of 100" }),
     make.meter({ label: "Nothing", maximum: 0, text: "0 of 0" }),
     make.stars(longWord, 7.3, 10),
@@ -284,6 +316,8 @@ export const pages: Readonly<Record<string, View.Page>> = {
   film,
   charts,
   latch,
+  review,
+  frontPages,
   form,
   pictures,
   extreme,

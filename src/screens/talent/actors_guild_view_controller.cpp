@@ -5,6 +5,7 @@
 
 #include "career/guild.h"
 #include "core/number_style.h"
+#include "screens/moments.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -13,7 +14,12 @@ using namespace view;
 
 namespace {
 
-void join(Stage& stage) { stage.show(joinGuild(stage.game())); }
+void join(Stage& stage) {
+  stage.show(joinGuild(stage.game()));
+  if (stage.game().world.isSAG == 1) {
+    stage.play(momentOf(NewsKind::guild, "Welcome to the Actor's Guild"));
+  }
+}
 
 Card membersCard(const Game& game) {
   const WorldState& world = game.world;

@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "screens/film/new_release_view_controller.h"
 #include "screens/parts.h"
+#include "screens/week/front_page_nodes.h"
 #include "week/end_week.h"
 
 namespace tb {
@@ -22,24 +23,34 @@ StatTile balanceTile(const Game& game, const Analytics& item) {
 }
 
 Section balance(const Game& game, const WeekBalance& balance) {
-  Section section{.heading = "INCOME • EXPENSES",
-                  .nodes = {Balance{.income = currency(game.locale, balance.income, 0),
-                                    .expenses = currency(game.locale, balance.expenses, 0)}}};
+  const double net = balance.income - balance.expenses;
+  const std::string amount = currency(game.locale, net, 0);
+  return {.heading = "INCOME • EXPENSES",
+          .nodes = {Balance{.label = "Net of the week",
+                            .net = net > 0 ? "+" + amount : amount,
+                            .tone = net > 0   ? Tone::good
+                                    : net < 0 ? Tone::warning
+                                              : Tone::plain,
+                            .income = currency(game.locale, balance.income, 0),
+                            .expenses = currency(game.locale, balance.expenses, 0)}}};
+}
+
+// Where the week's income came from, and what is left of the energy.
+Section figures(const Game& game) {
+  Section section;
   Tiles tiles;
   for (const Analytics& item : game.world.weekBalanceItems) tiles.tiles.push_back(balanceTile(game, item));
   if (!tiles.tiles.empty()) section.nodes.push_back(std::move(tiles));
-  return section;
-}
-
-Section feed(const WeekSummary& summary) {
-  Section section{.heading = summary.hasNews ? "FEED" : ""};
-  for (const std::string& line : summary.feed) section.nodes.push_back(Text{.text = line});
+  section.nodes.push_back(energyMeter(game.world));
   return section;
 }
 
 }  // namespace
 
-void WeeklySummaryViewController::load(Stage& stage) { summary_ = openSummary(stage.game()); }
+void WeeklySummaryViewController::load(Stage& stage) {
+  summary_ = openSummary(stage.game());
+  playHeadline(stage, summary_.frontPage);
+}
 
 void WeeklySummaryViewController::leave(Stage& stage) { closeSummary(stage.game()); }
 
@@ -53,14 +64,23 @@ Button WeeklySummaryViewController::releaseButton() {
           .weight = Button::Weight::primary};
 }
 
+// The headline leads, and what it offers stands under it. A tip stands without the heading.
+Section WeeklySummaryViewController::feed(const Game& game) {
+  Section section{.heading = summary_.hasNews ? "FEED" : ""};
+  for (const Story& story : summary_.frontPage.headline) {
+    section.nodes.push_back(headlineNode(game, story, true));
+  }
+  if (summary_.offersRelease) section.nodes.push_back(releaseButton());
+  for (Node& row : rowNodes(game, summary_.frontPage)) section.nodes.push_back(std::move(row));
+  if (!summary_.hasNews) section.nodes.push_back(Text{.text = summary_.feed.front(), .tone = Tone::quiet});
+  return section;
+}
+
 Page WeeklySummaryViewController::view(const Game& game) {
   Page page{.title = "REVIEW", .subtitle = std::format("Week {} of {}", summary_.week, summary_.year)};
   page.nodes.push_back(balance(game, summary_.balance));
-  page.nodes.push_back(energyMeter(game.world));
-  if (summary_.offersRelease) {
-    page.nodes.push_back(Section{.nodes = {releaseButton()}});
-  }
-  page.nodes.push_back(feed(summary_));
+  page.nodes.push_back(feed(game));
+  page.nodes.push_back(figures(game));
   // Every week ends here: the way on is where the thumb is that ended it.
   page.nodes.push_back(Button{
       .label = "Carry on", .press = [](Stage& stage) { stage.close(); }, .weight = Button::Weight::primary});

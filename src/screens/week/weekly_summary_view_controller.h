@@ -16,6 +16,7 @@ class WeeklySummaryViewController : public Screen {
 
  private:
   [[nodiscard]] view::Button releaseButton();
+  [[nodiscard]] view::Section feed(const Game& game);
 
   WeekSummary summary_;
 };

@@ -7,6 +7,7 @@
 #include "screens/parts.h"
 #include "screens/poster.h"
 #include "screens/work/audition_detail_view_controller.h"
+#include "screens/work/open_project.h"
 #include "screens/work/post_release_audition_view_controller.h"
 #include "screens/work/project_words.h"
 
@@ -54,23 +55,13 @@ std::vector<std::size_t> projectsOf(const WorldState& world, const FunnelList& l
   return places;
 }
 
-void openProject(Stage& stage, std::int64_t filmId, bool released) {
-  if (released) {
-    stage.open(std::make_unique<PostReleaseAuditionViewController>(filmId));
-  } else {
-    stage.open(std::make_unique<AuditionDetailViewController>(filmId));
-  }
-}
-
 Row projectRow(const WorldState& world, const Audition& project) {
   return {.label = titleWithSeason(project),
           .value = progressWords(world, project),
           .detail = std::format("{} • {}", typeName(project.typeOfFilm), project.role),
           .picture = {posterOf(world, project)},
           .tone = isOver(world, project) ? Tone::quiet : Tone::plain,
-          .press = [id = project.filmId, released = isReleased(world, project)](Stage& stage) {
-            openProject(stage, id, released);
-          }};
+          .press = [id = project.filmId](Stage& stage) { openProject(stage, id); }};
 }
 
 }  // namespace

@@ -144,6 +144,8 @@ void NodePainter::kind(const Tiles& tiles) {
 }
 
 void NodePainter::kind(const Balance& balance) {
+  const Ink ink = balance.tone == Tone::plain ? Ink::strong : inkOf(balance.tone);
+  canvas_.leader(balance.label, balance.net, Ink::plain, ink);
   canvas_.line({{balance.income, Ink::strong}, {" | "}, {balance.expenses, inkOf(Tone::warning)}});
 }
 
@@ -271,6 +273,26 @@ void NodePainter::kind(const Row& row) {
   });
 }
 
+void NodePainter::kind(const Headline& headline) {
+  const std::string mark = targets_.add(headline.handle, {.label = headline.text});
+  const std::string stamp = headline.stamp.empty() ? "" : headline.stamp + ": ";
+  const Ink ink = headline.tone == Tone::quiet ? Ink::quiet : Ink::plain;
+  const auto detail = [&] {
+    if (!headline.detail.empty()) canvas_.text(headline.detail, Ink::quiet);
+    if (const std::string words = inWords(headline.picture); !words.empty()) canvas_.text(words, Ink::quiet);
+  };
+  if (!headline.isLead) {
+    canvas_.leader(stamp + headline.text, headline.value, ink, inkOf(headline.tone), mark);
+    return canvas_.nested("  ", detail);
+  }
+  canvas_.gap();
+  canvas_.framed(headline.stamp, mark, [&] {
+    canvas_.leader(headline.text, headline.value, ink, inkOf(headline.tone));
+    detail();
+  });
+  canvas_.gap();
+}
+
 void NodePainter::kind(const Field& field) {
   const std::string mark = targets_.add(field.handle, {.kind = Target::Kind::field,
                                                        .label = field.label,
@@ -327,6 +349,12 @@ void NodePainter::kind(const Section& section) {
     canvas_.text(section.heading, Ink::strong);
   }
   several(section.nodes);
+}
+
+void NodePainter::kind(const Fold& fold) {
+  const std::string mark = targets_.add(fold.handle, {.label = fold.label});
+  canvas_.text((fold.isOpen ? "- " : "+ ") + fold.label, Ink::quiet, mark, 2);
+  canvas_.nested("  ", [&] { several(fold.nodes); });
 }
 
 void NodePainter::kind(const Card& card) {

@@ -30,6 +30,7 @@ class NodePainter {
   void kind(const view::Button& button);
   void kind(const view::Buttons& buttons);
   void kind(const view::Row& row);
+  void kind(const view::Headline& headline);
   void kind(const view::Field& field);
   void kind(const view::Slider& slider);
   void kind(const view::Choice& choice);
@@ -39,6 +40,7 @@ class NodePainter {
   void kind(const view::TimelineEntry& entry);
   void kind(const view::Countdown& countdown);
   void kind(const view::Section& section);
+  void kind(const view::Fold& fold);
   void kind(const view::Card& card);
   void kind(const view::SwipeCard& swipe);
   void kind(const view::PagedList& list);

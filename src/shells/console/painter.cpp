@@ -59,6 +59,13 @@ std::vector<Line> dialog(const Dialog& asked, const Surface& surface, Targets& t
   return canvas.take();
 }
 
+// A moment is a line with stars around it; what it is about stands on the page as well.
+void drawMoment(Canvas& canvas, const Moment& moment) {
+  const std::string stars = repeated(canvas.glyphs().star, 3);
+  canvas.text(std::format("{} {} {} {} {}", stars, moment.title, stars, moment.line, stars), Ink::accent);
+  canvas.gap();
+}
+
 // The tabs on one line; where their icons leave no room for that, without them.
 std::vector<Line> foot(const Page& page, const Surface& surface, Targets& targets) {
   const auto rowsWith = [&](bool icons) {
@@ -84,6 +91,7 @@ PaintedPage paint(const Page& page, const Surface& surface) {
   Canvas canvas(surface);
   painted.head = head(page, surface, targets);
   NodePainter nodes(canvas, targets);
+  for (const Moment& moment : page.moment) drawMoment(canvas, moment);
   for (const Node& node : page.nodes) nodes.draw(node);
   painted.body = canvas.take();
   painted.counting = nodes.counting();

@@ -71,17 +71,19 @@ VIEW_ENUM(PosterFormat, feature, series, commercial, student, shortFilm);
 VIEW_ENUM(Text::Style, body, large, caption, quotation);
 VIEW_ENUM(Button::Weight, normal, primary, quiet, destructive);
 VIEW_ENUM(Chart::Kind, line, bar, pie, histogram);
+VIEW_ENUM(Moment::Scene, deal, curtain, marquee);
 
 VIEW_STRUCT(Picture, kind, name, description, title, genre, format, season, billed, age);
 VIEW_STRUCT(Text, text, style, tone);
 VIEW_STRUCT(StatTile, label, value, detail, tone);
 VIEW_STRUCT(Tiles, tiles);
-VIEW_STRUCT(Balance, income, expenses);
+VIEW_STRUCT(Balance, label, net, tone, income, expenses);
 VIEW_STRUCT(Meter, label, value, maximum, text, isScore);
 VIEW_STRUCT(Stars, label, value, outOf);
 VIEW_STRUCT(Button, label, press, price, offReason, weight, handle);
 VIEW_STRUCT(Buttons, buttons);
 VIEW_STRUCT(Row, label, value, detail, picture, tone, press, handle);
+VIEW_STRUCT(Headline, stamp, text, detail, value, picture, tone, isLead, press, handle);
 VIEW_STRUCT(Field, label, value, type, hint, maximumLength, severalLines, handle);
 VIEW_STRUCT(Slider, label, value, minimum, maximum, step, text, slide, handle);
 VIEW_STRUCT(Choice::Option, label, chosen, press, picture, handle);
@@ -93,11 +95,13 @@ VIEW_STRUCT(Bubble, speaker, text, mine);
 VIEW_STRUCT(TimelineEntry, when, text);
 VIEW_STRUCT(Countdown, label, secondsLeft, secondsInAll);
 VIEW_STRUCT(Section, heading, nodes);
+VIEW_STRUCT(Fold, key, label, nodes, isOpen, handle);
 VIEW_STRUCT(Card, title, subtitle, picture, nodes, press, handle);
 VIEW_STRUCT(SwipeCard, card, left, right);
 VIEW_STRUCT(ListPage, nodes, position, turns);
 VIEW_STRUCT(Tab, label, icon, current, press, handle);
 VIEW_STRUCT(Dialog, title, message, answers);
-VIEW_STRUCT(Page, title, subtitle, icons, nodes, tabs, close, dialog, screen);
+VIEW_STRUCT(Moment, scene, title, line, picture, number);
+VIEW_STRUCT(Page, title, subtitle, icons, nodes, tabs, close, dialog, moment, screen);
 
 }  // namespace tb

@@ -20,6 +20,10 @@ function heightOf(node: Node): number {
       return heightOfAll(node.content.nodes) + (node.content.turns.length > 0 ? 3 : 0);
     case "card":
       return 4 + heightOfAll(node.content.nodes);
+    case "headline":
+      return node.content.isLead ? 8 : 3;
+    case "fold":
+      return 2 + heightOfAll(node.content.nodes);
     case "choice":
       return 2 + 2 * node.content.options.length;
     case "tiles":

@@ -13,7 +13,10 @@ function nameOf(node: Node): string {
     case "slider":
     case "choice":
     case "countdown":
+    case "fold":
       return node.content.label;
+    case "headline":
+      return node.content.text;
     case "buttons":
       return node.content.buttons[0]?.label ?? "";
     case "section":

@@ -20,6 +20,7 @@ function listen(nodes: readonly Node[], said: Said): void {
         for (const tile of node.content.tiles) said.figures.set(tile.label, tile.value);
         break;
       case "balance":
+        said.figures.set(node.content.label, node.content.net);
         said.figures.set("Income", node.content.income);
         said.figures.set("Expenses", node.content.expenses);
         break;
@@ -62,12 +63,19 @@ function heard(page: Page): Said {
   return said;
 }
 
-// Sentences to read out, the most telling first; none for another screen, whose heading is read anyway.
+// A moment is told on whatever screen it comes.
+function momentBetween(before: Page, after: Page): string[] {
+  const moment = after.moment[0];
+  return moment === undefined || moment.number === before.moment[0]?.number ? [] : [`${moment.title}: ${moment.line}`];
+}
+
+// Sentences to read out, the most telling first; of another screen, whose heading is read anyway, a moment alone.
 export function newsBetween(before: Page, after: Page): string[] {
-  if (screenOf(before) !== screenOf(after)) return [];
+  const moment = momentBetween(before, after);
+  if (screenOf(before) !== screenOf(after)) return moment;
   const old = heard(before);
   const now = heard(after);
-  const news: string[] = [];
+  const news = moment;
   for (const [label, seconds] of now.countdowns) {
     const past = old.countdowns.get(label) ?? 0;
     if (past > lastCall && seconds <= lastCall) news.push(`${label}: ${lastCall} seconds left`);

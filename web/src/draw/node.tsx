@@ -11,6 +11,8 @@ import { Chart } from "./chart";
 import { Choice } from "./choice";
 import { Countdown } from "./countdown";
 import { Field } from "./field";
+import { Fold } from "./fold";
+import { Headline, Headlines } from "./headline";
 import { keysOf, numbered } from "./keys";
 import { ListPage } from "./list_page";
 import { Meter } from "./meter";
@@ -44,6 +46,8 @@ function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
       return <Buttons {...node.content} />;
     case "row":
       return <Row {...node.content} />;
+    case "headline":
+      return <Headline {...node.content} />;
     case "field":
       return <Field {...node.content} />;
     case "slider":
@@ -62,6 +66,8 @@ function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
       return <Countdown {...node.content} />;
     case "section":
       return <Section {...node.content} />;
+    case "fold":
+      return <Fold {...node.content} />;
     case "card":
       return <Card {...node.content} />;
     case "swipeCard":
@@ -74,6 +80,7 @@ function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
 // Kinds that form one list where they follow each other.
 const lists: Partial<Record<Node["kind"], FunctionComponent>> = {
   row: Rows,
+  headline: Headlines,
   card: Cards,
   bubble: Chat,
   timelineEntry: Timeline,

@@ -5,7 +5,7 @@ import { useEffect, useRef, useState } from "preact/hooks";
 import type * as View from "../view_types";
 import { addressIfDrawn, draw, drawWhenNear, keyOf } from "./drawn_pictures";
 
-type Size = "row" | "card" | "option" | "full";
+type Size = "row" | "lead" | "card" | "option" | "full";
 
 const nothing = "data:image/svg+xml,<svg xmlns='http://www.w3.org/2000/svg'/>";
 

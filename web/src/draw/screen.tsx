@@ -8,6 +8,7 @@ import type { Page } from "../view_types";
 import { partsOf } from "./columns";
 import type { Parts } from "./columns";
 import { Dialog } from "./dialog";
+import { MomentOver } from "./moment";
 import { Nodes } from "./node";
 import { Bar, Masthead, Tabs } from "./page_parts";
 import { screenOf } from "./places";
@@ -110,6 +111,7 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
         </main>
         <Tabs tabs={under.tabs} />
         <p class="unseen" aria-live="polite" data-news />
+        <MomentOver page={page} />
         {dialog !== undefined && <Dialog key={`${dialog.title} ${dialog.message}`} {...dialog} />}
       </div>
     </ScreenContext.Provider>

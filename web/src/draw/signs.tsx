@@ -15,4 +15,5 @@ function Sign({ path, name }: SignProps) {
 
 export const Chevron = () => <Sign name="on" path="M9 5l7 7-7 7" />;
 export const Back = () => <Sign name="back" path="M15 5l-7 7 7 7" />;
+export const Turn = () => <Sign name="turn" path="M5 9l7 7 7-7" />;
 export const Check = () => <Sign name="check" path="M5 12.5l4.5 4.5L19 7.5" />;

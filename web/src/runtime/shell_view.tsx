@@ -72,7 +72,7 @@ function Standing({ title, corner, children }: {
 }): JSX.Element {
   return (
     <div class="screen">
-      <Bar page={{ title, subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [], screen: 0 }} />
+      <Bar page={{ title, subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [], moment: [], screen: 0 }} />
       <main class="main">
         <Masthead title={title} subtitle="" />
         <div class="content shell-content">

@@ -1,0 +1,79 @@
+#include "screens/week/front_page_nodes.h"
+
+#include <format>
+
+#include "screens/moments.h"
+#include "screens/parts.h"
+#include "screens/work/open_project.h"
+#include "screens/work/project_words.h"
+#include "week/news_desk.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+std::vector<Picture> pictureOf(const Story& story) {
+  if (story.project.empty()) return {};
+  return {posterOf(story.project.front().imageString)};
+}
+
+std::string partAndType(const Story& story) {
+  if (story.project.empty()) return "";
+  const Audition& project = story.project.front();
+  const std::string type = typeName(project.typeOfFilm);
+  return project.didAct < 1 || project.role.empty() ? type : std::format("{} • {}", project.role, type);
+}
+
+std::string amountWords(const Locale& locale, double amount) {
+  if (amount == 0) return "";
+  return (amount > 0 ? "+" : "") + shownMoney(locale, amount);
+}
+
+std::string momentLine(const Story& story) {
+  if (story.project.empty()) return story.text;
+  const Audition& project = story.project.front();
+  const std::string title = titleWithSeason(project);
+  switch (story.about.kind) {
+    case NewsKind::offer:
+      return project.role.empty() ? title : std::format("{} • {}", title, project.role);
+    case NewsKind::opening:
+    case NewsKind::premiere:
+      return title;
+    default:
+      return story.text;
+  }
+}
+
+}  // namespace
+
+Headline headlineNode(const Game& game, const Story& story, bool isLead) {
+  const News& about = story.about;
+  return {.stamp = std::string(newsRule(about.kind).stamp),
+          .text = story.text,
+          .detail = isLead ? partAndType(story) : "",
+          .value = amountWords(game.locale, about.amount),
+          .picture = pictureOf(story),
+          .tone = toneOf(about.kind),
+          .isLead = isLead,
+          .press = leadingToProject(game.world, about.filmId)};
+}
+
+std::vector<Node> rowNodes(const Game& game, const FrontPage& page) {
+  std::vector<Node> nodes;
+  for (const Story& story : page.rows) nodes.push_back(headlineNode(game, story, false));
+  if (page.folded.empty()) return nodes;
+  Fold fold{.key = "refusals", .label = foldedWords(page.folded)};
+  for (const Story& story : page.folded) fold.nodes.push_back(headlineNode(game, story, false));
+  nodes.push_back(std::move(fold));
+  return nodes;
+}
+
+void playHeadline(Stage& stage, const FrontPage& page) {
+  if (!page.isMoment) return;
+  const Story& story = page.headline.front();
+  stage.play(momentOf(story.about.kind, momentLine(story), pictureOf(story)));
+}
+
+}  // namespace tb

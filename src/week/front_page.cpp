@@ -1,0 +1,119 @@
+#include "week/front_page.h"
+
+#include <algorithm>
+#include <format>
+
+#include "core/number_style.h"
+#include "film/box_office.h"
+#include "film/new_releases.h"
+#include "week/news_desk.h"
+
+namespace tb {
+
+namespace {
+
+constexpr std::ptrdiff_t fewestToFold = 2;
+
+Story storyOf(const WorldState& world, const News& about, std::string text) {
+  Story story{.about = about, .text = std::move(text)};
+  const auto& projects = world.saveAllAuditionList;
+  const auto project = std::ranges::find(projects, about.filmId, &Audition::filmId);
+  if (project != projects.end()) story.project.push_back(*project);
+  return story;
+}
+
+// --- The titles that came out ---
+
+std::string openingWords(const Game& game, const Film& film) {
+  if (film.typeOfFilm != filmType::feature) return film.title + " had its first screening.";
+  const auto gross = grossOf(game.world, film.filmId);
+  if (!gross) return film.title + " is in theaters.";
+  return std::format("{} opened in theaters with {}.", film.title, shortMoney(game.locale, *gross));
+}
+
+std::string premiereWords(const WorldState& world, const Film& film) {
+  const std::string season = film.seasonNumber >= 2 ? std::format(" Season {}", film.seasonNumber) : "";
+  const auto counted = std::ranges::find(world.saveAllRatings, film.filmId, &Ratings::filmId);
+  if (counted == world.saveAllRatings.end()) return std::format("{}{} premiered.", film.title, season);
+  const auto viewers = static_cast<std::int64_t>(counted->premiereViews.front());
+  return std::format("{}{} premiered to {} viewers.", film.title, season, shortCount(viewers));
+}
+
+Story storyOfRelease(const Game& game, const Film& film) {
+  const bool series = film.typeOfFilm == filmType::series;
+  return storyOf(game.world, {.kind = series ? NewsKind::premiere : NewsKind::opening, .filmId = film.filmId},
+                 series ? premiereWords(game.world, film) : openingWords(game, film));
+}
+
+// --- The lines of the feed ---
+
+double sessionPay(const WorldState& world, std::int64_t filmId) {
+  double paid = 0;
+  for (std::size_t index = world.saveAllWeeklyEarnings.size(); index-- > 0;) {
+    const WeeklyEarnings& line = world.saveAllWeeklyEarnings[index];
+    if (line.weekNumberForTracking < world.weekNumberForTracking) break;
+    if (line.filmId == filmId) paid += line.sessionEarned + line.buyoutEarned;
+  }
+  return paid;
+}
+
+Story storyOfLine(const WorldState& world, std::size_t line) {
+  News about = world.weekFeedNews[line];
+  if (about.kind == NewsKind::wrap) about.amount = sessionPay(world, about.filmId);
+  return storyOf(world, about, world.WeekFeed[line]);
+}
+
+std::vector<Story> storiesOf(const Game& game) {
+  std::vector<Story> stories;
+  for (const std::size_t film : newReleases(game.world)) {
+    stories.push_back(storyOfRelease(game, game.world.saveAllFilmList[film]));
+  }
+  for (std::size_t line = 0; line < game.world.WeekFeed.size(); ++line) {
+    stories.push_back(storyOfLine(game.world, line));
+  }
+  return stories;
+}
+
+// --- The page ---
+
+bool folds(const Story& story) { return newsRule(story.about.kind).folds; }
+
+std::string countedWords(const std::vector<Story>& folded, NewsKind kind, std::string_view what) {
+  const auto isOfKind = [&](const Story& story) { return story.about.kind == kind; };
+  const auto count = std::ranges::count_if(folded, isOfKind);
+  if (count == 0) return "";
+  const auto first = std::ranges::find_if(folded, isOfKind);
+  if (count > 1 || first->project.empty()) return std::format("{} {}", count, what);
+  const Audition& project = first->project.front();
+  const bool is_commercial = project.typeOfFilm == filmType::commercial;
+  return std::format("{} {}", is_commercial ? "A commercial" : project.title, what);
+}
+
+}  // namespace
+
+FrontPage layFrontPage(const Game& game) {
+  std::vector<Story> stories = storiesOf(game);
+  std::vector<News> week;
+  for (const Story& story : stories) week.push_back(story.about);
+
+  FrontPage page;
+  const std::size_t headline = headlineOf(game.world, week);
+  if (headline < stories.size()) {
+    page.isMoment = isMoment(game.world, week[headline], week);
+    page.headline.push_back(std::move(stories[headline]));
+    stories.erase(stories.begin() + static_cast<std::ptrdiff_t>(headline));
+  }
+  const bool is_folded = std::ranges::count_if(stories, folds) >= fewestToFold;
+  for (Story& story : stories) {
+    (is_folded && folds(story) ? page.folded : page.rows).push_back(std::move(story));
+  }
+  return page;
+}
+
+std::string foldedWords(const std::vector<Story>& folded) {
+  const std::string refused = countedWords(folded, NewsKind::refusal, "said no");
+  const std::string silent = countedWords(folded, NewsKind::silence, "never wrote back");
+  return refused.empty() || silent.empty() ? refused + silent : refused + ", " + silent;
+}
+
+}  // namespace tb
