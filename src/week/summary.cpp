@@ -16,7 +16,7 @@ void showFeed(Game& game, WeekSummary& summary) {
   TextList& feed = game.world.WeekFeed;
   summary.hasNews = !feed.empty();
   summary.frontPage = layFrontPage(game);
-  if (!summary.hasNews) feed.push_back(tellRow(game, Bank::weeklyTips));
+  if (!summary.hasNews) feed.push_back(std::string(tellRow(game, Bank::weeklyTips)));
   summary.feed.assign(feed.begin(), feed.end());
   feed.clear();
   game.world.weekFeedNews.clear();

@@ -4,6 +4,7 @@
 
 #include "screens/moments.h"
 #include "screens/parts.h"
+#include "screens/poster.h"
 #include "screens/work/open_project.h"
 #include "screens/work/project_words.h"
 #include "week/news_desk.h"
@@ -14,9 +15,9 @@ using namespace view;
 
 namespace {
 
-std::vector<Picture> pictureOf(const Story& story) {
+std::vector<Picture> pictureOf(const WorldState& world, const Story& story) {
   if (story.project.empty()) return {};
-  return {posterOf(story.project.front().imageString)};
+  return {posterOf(world, story.project.front())};
 }
 
 std::string partAndType(const Story& story) {
@@ -54,7 +55,7 @@ Headline headlineNode(const Game& game, const Story& story, bool isLead) {
           .text = story.text,
           .detail = isLead ? partAndType(story) : "",
           .value = amountWords(game.locale, about.amount),
-          .picture = pictureOf(story),
+          .picture = pictureOf(game.world, story),
           .tone = toneOf(about.kind),
           .isLead = isLead,
           .press = leadingToProject(game.world, about.filmId)};
@@ -73,7 +74,7 @@ std::vector<Node> rowNodes(const Game& game, const FrontPage& page) {
 void playHeadline(Stage& stage, const FrontPage& page) {
   if (!page.isMoment) return;
   const Story& story = page.headline.front();
-  stage.play(momentOf(story.about.kind, momentLine(story), pictureOf(story)));
+  stage.play(momentOf(story.about.kind, momentLine(story), pictureOf(stage.game().world, story)));
 }
 
 }  // namespace tb
