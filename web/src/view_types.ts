@@ -25,6 +25,22 @@ export interface Dialog {
 
 export type MomentScene = "deal" | "curtain" | "marquee";
 
+export type PictureKind = "avatar" | "poster" | "logo" | "house" | "vehicle" | "card" | "photo" | "icon";
+
+export type PosterFormat = "feature" | "series" | "commercial" | "student" | "shortFilm";
+
+export interface Picture {
+  readonly kind: PictureKind;
+  readonly name: string;
+  readonly description: string;
+  readonly title: string;
+  readonly genre: string;
+  readonly format: PosterFormat;
+  readonly season: number;
+  readonly billed: string;
+  readonly age: number;
+}
+
 export interface Moment {
   readonly scene: MomentScene;
   readonly title: string;
@@ -90,22 +106,6 @@ export interface Stars {
 
 export interface Buttons {
   readonly buttons: readonly Button[];
-}
-
-export type PictureKind = "avatar" | "poster" | "logo" | "house" | "vehicle" | "card" | "photo" | "icon";
-
-export type PosterFormat = "feature" | "series" | "commercial" | "student" | "shortFilm";
-
-export interface Picture {
-  readonly kind: PictureKind;
-  readonly name: string;
-  readonly description: string;
-  readonly title: string;
-  readonly genre: string;
-  readonly format: PosterFormat;
-  readonly season: number;
-  readonly billed: string;
-  readonly age: number;
 }
 
 export interface Row {
