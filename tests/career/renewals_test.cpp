@@ -96,6 +96,7 @@ TEST_F(Renewals, OnlyAReleasedSeriesOfAPrincipalIsJudgedFromTheEleventhWeek) {
 
 TEST_F(Renewals, ARatingUpToFourEndsTheSeriesAndMoreGivesItAChance) {
   for (const double rating : {1.0, 4.0}) {
+    game.told = {};
     give(series(), rating);
     random.range(49, 0);
     renewSeries(game);

@@ -57,6 +57,7 @@ TEST_F(ScoreRoll, EachStandingHasItsReviewsItsScoresAndItsAudience) {
   };
   for (const Band& band : bands) {
     SCOPED_TRACE(band.directorRating);
+    game.told = {};
     const auto reviews = static_cast<std::int64_t>(rowsOf(band.review).size());
     scriptFirstPair(band.directorRating).range(reviews, reviews - 1);
     random.unit((band.highest - band.lowest) / (band.top - band.lowest));
