@@ -28,6 +28,8 @@ class Player {
   [[nodiscard]] std::vector<std::string> words() const;
   [[nodiscard]] bool sees(const std::string& text) const;
   [[nodiscard]] std::string title() const { return app_.view().title; }
+  // The page as it is laid out; good until the next use of anything.
+  [[nodiscard]] const view::Page& page() const { return app_.view(); }
   void expectSees(std::initializer_list<std::string> texts) const;
   // The title of the notice over the page; empty when there is none.
   [[nodiscard]] std::string notice() const;

@@ -82,7 +82,7 @@ void invite(Pass& pass, std::size_t index) {
     pass.moveTo(index, funnel::invited);
     if (isHeardOf(project)) {
       const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
-      feedLine(pass.world, {.kind = NewsKind::invitation, .filmId = project.filmId},
+      feedLine(pass.world, {NewsKind::invitation, project.filmId},
                std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
       logActivity(pass.world, fill(tellRow(pass.game, Bank::invitation),
                                    {{"title", project.title}, {"n", weeks}}));
@@ -97,7 +97,7 @@ void leaveUnanswered(Pass& pass, std::size_t index) {
   if (RandomRange(pass.game.random, 3) != 1) return;
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::closed);
-  feedLine(pass.world, {.kind = NewsKind::silence, .filmId = project.filmId},
+  feedLine(pass.world, {NewsKind::silence, project.filmId},
            std::format("You never heard back after applying for {}.", nameOf(project)));
   logActivity(pass.world, fill(tellRow(pass.game, Bank::silence), {{"title", project.title}}));
   pass.tellAgent(index, agentTakes::silence);
@@ -124,7 +124,7 @@ void offerRole(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::booked);
   if (isHeardOf(project)) {
-    feedLine(pass.world, {.kind = NewsKind::offer, .filmId = project.filmId},
+    feedLine(pass.world, {NewsKind::offer, project.filmId},
              std::format("You auditioned for {} and the cast director offered you the role. Shooting begins "
                          "in {} week(s).",
                          nameOf(project), project.weekToWork - pass.week() - 1));
@@ -136,7 +136,7 @@ void offerRole(Pass& pass, std::size_t index) {
 // The record stays among the invited: its week lies in the past, so it is never auditioned for again.
 void reject(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
-  feedLine(pass.world, {.kind = NewsKind::refusal, .filmId = project.filmId},
+  feedLine(pass.world, {NewsKind::refusal, project.filmId},
            std::format("You auditioned for {} but you were not selected for the role.", nameOf(project)));
   pass.tellAgent(index, agentTakes::rejection);
 }
@@ -154,7 +154,7 @@ void audition(Pass& pass, std::size_t index) {
 
 // --- Booked ---
 
-News wrapOf(const Audition& project) { return {.kind = NewsKind::wrap, .filmId = project.filmId}; }
+News wrapOf(const Audition& project) { return {NewsKind::wrap, project.filmId}; }
 
 void tellOfShoot(Pass& pass, const Audition& project) {
   const bool commercial = project.typeOfFilm == filmType::commercial;

@@ -121,7 +121,7 @@ void advanceClasses(Game& game) {
     running.weeksRemaining -= 1;
     if (running.weeksRemaining > 0) continue;
     const JulliardClass* finished = classWithId(running.classId);
-    logLine(world, {.kind = NewsKind::classDone},
+    logLine(world, NewsKind::classDone,
             std::format("You finished Drama {}", finished == nullptr ? "" : finished->classCode));
     world.experience += running.experience;
   }

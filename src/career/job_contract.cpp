@@ -12,7 +12,7 @@ void advanceJobContract(Game& game) {
   } else {
     world.weeklyJobContractRemaining -= 1;
     if (world.weeklyJobContractRemaining == 0)
-      feedLine(world, {.kind = NewsKind::jobEnded}, "The contract for your job has ended");
+      feedLine(world, NewsKind::jobEnded, "The contract for your job has ended");
   }
 }
 

@@ -161,7 +161,7 @@ void renew(WorldState& world, std::size_t index, Audition next) {
 void end(Game& game, std::size_t index, Bank bank) {
   Audition& project = game.world.saveAllAuditionList.edit(index);
   project.isContinued = endedForGood;
-  logLine(game.world, {.kind = NewsKind::cancellation, .filmId = project.filmId},
+  logLine(game.world, {NewsKind::cancellation, project.filmId},
           fill(tellRow(game, bank), {{"title", project.title}}));
 }
 
@@ -171,7 +171,7 @@ void orderSeason(Game& game, std::size_t index) {
   WorldState& world = game.world;
   Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
   setEpisodes(game, next);
-  logLine(world, {.kind = NewsKind::renewal, .filmId = next.filmId},
+  logLine(world, {NewsKind::renewal, next.filmId},
           fill(tellRow(game, Bank::seriesRenewal),
                {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
   renew(world, index, std::move(next));
@@ -197,7 +197,7 @@ void orderFilm(Game& game, std::size_t index, const MovieFranchise& entry) {
   next.genres = entry.genre;
   next.franchise = entry.movieNumber;
   next.franchiseId = entry.id;
-  logLine(world, {.kind = NewsKind::renewal, .filmId = next.filmId},
+  logLine(world, {NewsKind::renewal, next.filmId},
           fill(tellRow(game, Bank::sagaRenewal),
                {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
   renew(world, index, std::move(next));

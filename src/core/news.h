@@ -40,10 +40,14 @@ enum class NewsKind : std::uint8_t {
   company,
 };
 
+// There is no news of no kind: a line can't be added without saying what it is about.
 struct News {
+  News(NewsKind kind, std::int64_t filmId = 0, double amount = 0)
+      : kind(kind), filmId(filmId), amount(amount) {}
+
   NewsKind kind;
-  std::int64_t filmId = 0;  // of the project; 0 for none, since projects count from 1
-  double amount = 0;        // dollars that came in, negative for a loss; 0 where no money is meant
+  std::int64_t filmId;  // of the project; 0 for none, since projects count from 1
+  double amount;        // dollars that came in, negative for a loss; 0 where no money is meant
   bool operator==(const News&) const = default;
 };
 

@@ -17,7 +17,7 @@ constexpr std::int64_t ownProductionSource = 3;
 constexpr double ownProductionManager = -1;
 
 void announceEquity(Game& game, const Film& film, double payout, double gross) {
-  const News about = {.kind = NewsKind::payday, .filmId = film.filmId, .amount = payout};
+  const News about = {NewsKind::payday, film.filmId, payout};
   const std::string amount = shortMoney(game.locale, payout);
   if (film.isPrincipal == rolePart::ownProduction) {
     logLine(game.world, about,
@@ -54,7 +54,7 @@ void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds) {
   RoyaltyPayout payout = royaltyShare(game.world, film, proceeds, commissionOf(game.world));
   const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
   logLine(
-      game.world, {.kind = NewsKind::payday, .filmId = film.filmId, .amount = payout.payout},
+      game.world, {NewsKind::payday, film.filmId, payout.payout},
       fill(tellRow(game, Bank::royaltyPaidBank),
            {{"title", film.title}, {"amount", royalty}, {"gross", shortMoney(game.locale, proceeds.gross)}}));
   keepPayout(game, std::move(payout));

@@ -32,8 +32,8 @@ constexpr std::int64_t audienceOfReruns = 100'000;  // hours watched; with fewer
 
 void announce(Game& game, const Syndication& title, const NetworkDeal& deal) {
   const std::string amount = shortMoney(game.locale, static_cast<double>(deal.price));
-  const std::string years = counted(deal.years, "year");
-  logLine(game.world, {.kind = NewsKind::syndication, .filmId = title.filmId},
+  const std::string years = std::format("{} year{}", deal.years, deal.years == 1 ? "" : "s");
+  logLine(game.world, {NewsKind::syndication, title.filmId},
           fill(tellRow(game, Bank::syndicationDealBank),
                {{"title", title.filmName}, {"amount", amount}, {"network", deal.network}, {"years", years}}));
 }

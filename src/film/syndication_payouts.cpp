@@ -19,7 +19,7 @@ void payEquity(Game& game, const Film& film, const Proceeds& proceeds) {
   const EquityPayout payout = equityShare(game.world, film, proceeds);
   const std::string amount = shortMoney(game.locale, payout.payOut);
   logLine(
-      game.world, {.kind = NewsKind::payday, .filmId = film.filmId, .amount = payout.payOut},
+      game.world, {NewsKind::payday, film.filmId, payout.payOut},
       film.isPrincipal == rolePart::ownProduction
           ? "You received " + amount + " in syndication earnings for directing and producing " + film.title
           : "You received a " + amount + " payout for your investment in " + film.title + "'s syndication.");
@@ -31,7 +31,7 @@ void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds, const Ne
   payout.syndicationYears = deal.years;
   payout.syndicationName = deal.network;
   const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
-  logLine(game.world, {.kind = NewsKind::payday, .filmId = film.filmId, .amount = payout.payout},
+  logLine(game.world, {NewsKind::payday, film.filmId, payout.payout},
           "You received a royalty of " + royalty + " for " + film.title + "'s syndication.");
   keepPayout(game, std::move(payout));
 }
@@ -73,7 +73,7 @@ void paySyndicationResidual(Game& game, const Syndication& title) {
   const double gross = rate * title.payment;
   // Dues are owed on residuals by everybody, member of the guild or not, and once.
   const double net = gross - takeGuildDues(world, gross) - takeCommission(game, title, gross);
-  feedLine(world, {.kind = NewsKind::payday, .filmId = title.filmId, .amount = net},
+  feedLine(world, {NewsKind::payday, title.filmId, net},
            fill(tellRow(game, Bank::residualPaidBank),
                 {{"title", title.filmName}, {"amount", shortMoney(game.locale, net)}}));
   world.saveAllWeeklyEarnings.push_back({.filmId = title.filmId,

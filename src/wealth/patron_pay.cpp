@@ -40,7 +40,7 @@ double payPatron(Game& game) {
   if (world.saveAllMovieReviews.size() < reviewsNeeded) return 0;
   const double payment = subscriptions(world);
   if (world.trackPatronEarnings.empty()) {
-    logLine(world, {.kind = NewsKind::payday, .amount = payment},
+    logLine(world, {NewsKind::payday, 0, payment},
             "You received your first weekly payment from Patron - " + shortMoney(game.locale, payment));
   }
   world.totalPatronEarnings += payment;

@@ -41,7 +41,7 @@ std::string premiereWords(const WorldState& world, const Film& film) {
 
 Story storyOfRelease(const Game& game, const Film& film) {
   const bool series = film.typeOfFilm == filmType::series;
-  return storyOf(game.world, {.kind = series ? NewsKind::premiere : NewsKind::opening, .filmId = film.filmId},
+  return storyOf(game.world, {series ? NewsKind::premiere : NewsKind::opening, film.filmId},
                  series ? premiereWords(game.world, film) : openingWords(game, film));
 }
 

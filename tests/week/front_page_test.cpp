@@ -27,8 +27,7 @@ struct FrontPages : test::RuleTest {
     return world.saveAllAuditionList.edit(count);
   }
   void tell(NewsKind kind, std::int64_t filmId = 0, double amount = 0) {
-    feedLine(world, {.kind = kind, .filmId = filmId, .amount = amount},
-             "line " + std::to_string(world.WeekFeed.size() + 1));
+    feedLine(world, {kind, filmId, amount}, "line " + std::to_string(world.WeekFeed.size() + 1));
   }
   [[nodiscard]] FrontPage lay() const { return layFrontPage(game); }
 

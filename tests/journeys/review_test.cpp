@@ -1,0 +1,137 @@
+// What a player sees when a week ends: the front page, the scene over it, and where its lines lead.
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+#include "tests/journeys/device.h"
+
+namespace tb {
+namespace {
+
+using test::Player;
+
+struct Review : testing::Test {
+  test::ScriptedRandom chance{test::Unscripted::low};
+  test::Device device{chance};
+
+  static Audition submitted(std::int64_t filmId, const std::string& title) {
+    Audition project = test::bookedLead(filmId, filmType::feature, title);
+    project.imageString = "poster" + std::to_string(filmId);
+    project.weekAudition = 9;
+    project.weekToWork = 12;
+    project.weekReleased = 20;
+    project.funnelStage = funnel::submitted;
+    return project;
+  }
+  void begin(const std::vector<Audition>& projects) {
+    device.begin([&](WorldState& world) {
+      for (const Audition& project : projects) world.saveAllAuditionList.push_back(project);
+    });
+  }
+
+  // The nodes of one kind in the parts of the page on show.
+  template <class Kind>
+  std::vector<Kind> all() {
+    std::vector<Kind> found;
+    for (const view::Node& part : device.player().page().nodes) {
+      const auto* const section = std::get_if<view::Section>(&part.node);
+      if (section == nullptr) continue;
+      for (const view::Node& node : section->nodes) {
+        if (const Kind* const kind = std::get_if<Kind>(&node.node)) found.push_back(*kind);
+      }
+    }
+    return found;
+  }
+};
+
+TEST_F(Review, TheFirstBookingIsTheHeadlineWithItsPosterAndAMoment) {
+  Audition project = submitted(1, "Two Hats");
+  project.funnelStage = funnel::invited;
+  project.weekAudition = 1;
+  begin({project, submitted(2, "Salt Road")});
+  Player& player = device.player();
+  chance.any(2).range(3, 1);  // wins the role
+  chance.any(3).range(3, 1);  // never hears of the other one
+  device.endWeek();
+
+  ASSERT_EQ(player.page().moment.size(), 1u);
+  EXPECT_EQ(player.page().moment[0].title, "BOOKED");
+  EXPECT_EQ(player.page().moment[0].line, "Two Hats • Lead");
+  const auto news = all<view::Headline>();
+  ASSERT_EQ(news.size(), 2u);
+  EXPECT_TRUE(news[0].isLead);
+  EXPECT_EQ(news[0].stamp, "BOOKED");
+  EXPECT_EQ(news[0].tone, view::Tone::good);
+  ASSERT_EQ(news[0].picture.size(), 1u);
+  EXPECT_EQ(news[0].picture[0].name, "poster1");
+  EXPECT_EQ(news[1].text, "You never heard back after applying for Salt Road.");
+  EXPECT_EQ(news[1].tone, view::Tone::quiet);
+  player.expectSees({"FEED", "Net of the week", "Lead • Feature Film"});
+
+  // The headline leads to the project, and the way back shows the same page without the scene.
+  player.press(news[0].text);
+  EXPECT_EQ(player.title(), "Two Hats");
+  EXPECT_TRUE(player.page().moment.empty());
+  player.press("Back");
+  EXPECT_EQ(player.title(), "REVIEW");
+  EXPECT_TRUE(player.page().moment.empty());
+  player.expectSees({"BOOKED"});
+}
+
+TEST_F(Review, AWeekOfSilenceIsOneRowThatOpensAndCloses) {
+  begin({submitted(1, "Two Hats"), submitted(2, "Salt Road")});
+  Player& player = device.player();
+  for (int project = 0; project < 2; ++project) chance.any(3).range(3, 1);
+  device.endWeek();
+  const std::string line = "You never heard back after applying for Salt Road.";
+  player.expectSees({"FEED", "2 never wrote back"});
+  EXPECT_FALSE(player.sees(line));
+  EXPECT_TRUE(all<view::Headline>().empty());
+  EXPECT_TRUE(player.page().moment.empty());
+  player.press("2 never wrote back");
+  player.expectSees({line});
+  player.press(line);
+  EXPECT_EQ(player.title(), "Salt Road");
+  player.press("Back");
+  player.expectSees({line});  // as it was left
+  player.press("2 never wrote back");
+  EXPECT_FALSE(player.sees(line));
+}
+
+TEST_F(Review, AQuietWeekIsATipAndNothingElse) {
+  begin({});
+  device.endWeek();
+  EXPECT_FALSE(device.player().sees("FEED"));
+  device.player().expectSees({"💡 ", "INCOME • EXPENSES"});
+  EXPECT_TRUE(all<view::Headline>().empty() && all<view::Fold>().empty());
+  EXPECT_TRUE(device.player().page().moment.empty());
+}
+
+TEST_F(Review, TheFirstTitleThatOpensIsAMoment) {
+  Audition film = test::bookedLead(1, filmType::studentFilm, "Two Hats");
+  film.weekReleased = 2;
+  begin({film});
+  device.liveWeeks();
+  device.endWeek();
+  ASSERT_EQ(device.player().page().moment.size(), 1u);
+  EXPECT_EQ(device.player().page().moment[0].title, "OPENS");
+  device.player().expectSees({"Two Hats had its first screening.", "New Release"});
+}
+
+TEST_F(Review, JoiningTheGuildIsAMomentAndARefusalIsNot) {
+  device.begin([](WorldState& world) { world.totalCashAvailable = 0; });
+  device.player().follow({"The Backstage", "Actor's Guild", "Join"});
+  EXPECT_TRUE(device.player().page().moment.empty());
+  device.begin([](WorldState& world) {
+    world.totalCashAvailable = 10'000;
+    for (std::int64_t id : {1, 2}) {
+      world.saveAllAuditionList.push_back(test::bookedLead(id, filmType::feature, "Two Hats"));
+    }
+  });
+  device.player().follow({"The Backstage", "Actor's Guild", "Join"});
+  ASSERT_EQ(device.player().page().moment.size(), 1u);
+  EXPECT_EQ(device.player().page().moment[0].title, "MEMBER");
+}
+
+}  // namespace
+}  // namespace tb
