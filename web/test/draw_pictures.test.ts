@@ -71,3 +71,4 @@ test("a list of 44 posters opens within a frame, costs one node a picture, and h
   await open(pages["hub"]!);
   await open(filmography(9000));
   assert.ok((await page.locator(".picture:not(.is-missing)").count()) > 10);
+});
