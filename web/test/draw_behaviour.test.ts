@@ -5,9 +5,8 @@ import { test } from "node:test";
 import type { Page } from "playwright-core";
 
 import type * as View from "../src/view_types";
-import { type Looks, setGallery } from "./draw_browser";
+import { type Looks, processorTime, setGallery } from "./draw_browser";
 import * as make from "./gallery_nodes";
-import { pages } from "./gallery_pages";
 import { cash, row, section, text } from "./gallery_nodes";
 import { phone } from "./inspect";
 
@@ -339,16 +338,6 @@ for (const [still, most] of [[false, 0.2], [true, 0]] as const) {
       await page.close();
     }
   });
-}
-
-// The processor's time, so that a busy machine gives the same answer.
-async function processorTime(page: Page): Promise<() => Promise<number>> {
-  const session = await page.context().newCDPSession(page);
-  await session.send("Performance.enable", { timeDomain: "threadTicks" });
-  return async () => {
-    const { metrics } = await session.send("Performance.getMetrics");
-    return metrics.find(({ name }) => name === "ThreadTime")!.value * 1000;
-  };
 }
 
 test("a page of 160 rows with pictures is drawn again within a frame", async () => {

@@ -3,7 +3,6 @@
 import type { ComponentChildren } from "preact";
 
 import type * as View from "../view_types";
-import { Chevron } from "./signs";
 import { Picture } from "./picture";
 import { usePress } from "./pressing";
 import { Words } from "./words";
@@ -28,14 +27,12 @@ function RowContent({ label, value, detail, picture }: View.Row) {
         </span>
         {detail !== "" && (
           <span class="row-detail">
-            <span class="unseen">, </span>
             <Words text={detail} />
           </span>
         )}
       </span>
       {value !== "" && (
         <span class="row-value">
-          <span class="unseen">, </span>
           <Words text={value} />
         </span>
       )}
@@ -66,7 +63,6 @@ export function Row(row: View.Row) {
     <li class="row-place">
       <button type="button" class={`row row-press ${tint}`} data-handle={row.handle} onClick={press}>
         <RowContent {...row} />
-        <Chevron />
       </button>
     </li>
   );
