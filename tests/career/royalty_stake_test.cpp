@@ -6,9 +6,8 @@
 
 #include "film/catalogue.h"
 #include "screens/work/royalty_view_controller.h"
-#include "tests/player.h"
+#include "tests/journeys/device.h"
 #include "tests/scratch_game.h"
-#include "tests/seeded_random.h"
 
 namespace tb {
 namespace {
@@ -139,12 +138,7 @@ TEST_F(Stake, WithoutTheEnergyTheOfferStands) {
 // A desk with the mail on it.
 class Desk : public Screen {
  public:
-  void load(Stage& stage) override {
-    WorldState& world = stage.game().world;
-    world.saveAllTalentAgents.push_back(signedOne);
-    world.saveAllEmailList = {{.id = mail, .typeOfDeal = deal::royalty, .message = "No fee. Hear me out."}};
-    world.passEmailId = mail;
-  }
+  void load(Stage& stage) override { stage.game().world.passEmailId = mail; }
   view::Page view(const Game&) override {
     const auto open = [](Stage& stage) { stage.open(std::make_unique<RoyaltyViewController>()); };
     return {.title = "Desk", .nodes = {view::Button{.label = "Open", .press = open}}};
@@ -155,6 +149,10 @@ TEST(RoyaltyScreen, TheAskIsRaisedLoweredAndPutToTheTeamOnce) {
   test::MemoryPort port;
   SaveStore store(port);
   test::SeededRandom random(11);
+  test::storeCareer(store, random, [](WorldState& world) {
+    world.saveAllTalentAgents = {signedOne};
+    world.saveAllEmailList = {{.id = mail, .typeOfDeal = deal::royalty, .message = "No fee. Hear me out."}};
+  });
   App app(store, random, {}, std::make_unique<Desk>());
   test::Player player(app);
   player.press("Open");
