@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <format>
 
+#include "core/save_store.h"
 #include "tests/golden.h"
 #include "tests/memory_port.h"
 #include "tests/record_text.h"
@@ -27,6 +28,9 @@ template <class T>
 void addChanges(std::string& text, std::string_view key, const T& before, const T& now) {
   if (!(before == now)) text += std::format("  {} {}\n", key, elementText(now));
 }
+
+// What the lines of the week are about is tried with the front page.
+void addChanges(std::string&, std::string_view, const std::vector<News>&, const std::vector<News>&) {}
 
 // Lists grow at their ends: what is alike at both is left out, and between that element stands against
 // element where their number is the same.
