@@ -1,12 +1,49 @@
 #include "tests/player.h"
 
 #include <algorithm>
+#include <array>
+#include <format>
+#include <map>
+#include <string_view>
+#include <utility>
+
+#include "core/save.h"
+#include "core/save_store.h"
+#include "tests/core/typed_variables.h"
 
 namespace tb::test {
 
 namespace {
 
 using namespace view;
+
+std::string joined(std::initializer_list<std::string> parts) {
+  std::string line;
+  for (const std::string& part : parts) {
+    if (!part.empty()) line += (line.empty() ? "" : " | ") + part;
+  }
+  return line;
+}
+
+// What a shell shows by color alone. Nothing for what is plain.
+std::string toneMark(Tone tone) {
+  constexpr std::array marks = {"", " <quiet>", " <good>", " <warning>", " <accent>"};
+  return marks[static_cast<std::size_t>(tone)];
+}
+std::string weightMark(Button::Weight weight) {
+  constexpr std::array marks = {"", " <primary>", " <quiet>", " <destructive>"};
+  return marks[static_cast<std::size_t>(weight)];
+}
+std::string styleMark(Text::Style style) {
+  constexpr std::array marks = {"", " <large>", " <caption>", " <quotation>"};
+  return marks[static_cast<std::size_t>(style)];
+}
+
+// The text without its figures, which say how far a thing is and not what it is.
+std::string withoutDigits(std::string text) {
+  std::erase_if(text, [](char letter) { return letter >= '0' && letter <= '9'; });
+  return text;
+}
 
 // Walks a laid-out page and hands every text and every usable thing to the visitor.
 template <class OnText, class OnUse>
@@ -21,96 +58,165 @@ class Walk {
       for (const Button& answer : page.dialog.front().answers) node(answer);
     }
     for (const Moment& moment : page.moment) {
-      text_(moment.title);
-      text_(moment.line);
+      constexpr std::array scenes = {"deal", "curtain", "marquee"};
+      text_(joined({scenes[static_cast<std::size_t>(moment.scene)], moment.title, moment.line}));
+      for (const Picture& picture : moment.picture) node(picture);
     }
     text_(page.title);
     text_(page.subtitle);
-    for (const Tab& icon : page.icons) press(icon.label, icon.handle);
+    for (const Tab& icon : page.icons) node(icon);
     for (const Button& close : page.close) node(close);
+    on_page_ = true;
     nodes(page.nodes);
-    for (const Tab& tab : page.tabs) press(tab.label, tab.handle);
+    on_page_ = false;
+    for (const Tab& tab : page.tabs) node(tab);
   }
 
  private:
   using Kind = Player::Usable::Kind;
 
+  void use(Player::Usable usable) {
+    if (usable.handle == 0) return;
+    usable.onPage = on_page_;
+    usable.item = item_;
+    usable.likeness = likeness_;
+    use_(usable);
+  }
   void press(const std::string& label, Handle handle) {
-    text_(label);
-    if (handle != 0) use_({.label = label, .handle = handle, .kind = Kind::press});
+    use({.label = label, .handle = handle, .kind = Kind::press});
   }
   void nodes(const std::vector<Node>& nodes) {
     for (const Node& each : nodes) std::visit([this](const auto& kind) { this->node(kind); }, each.node);
   }
-
-  void node(const Text& text) { text_(text.text); }
-  void node(const Tiles& tiles) {
-    for (const StatTile& tile : tiles.tiles) text_(tile.label + ": " + tile.value + " " + tile.detail);
+  // One of many that look the same. What stands in an item of a list belongs to it.
+  template <class Visit>
+  void asItem(const std::string& likeness, Visit visit) {
+    const std::string outer = likeness_;
+    if (outer.empty()) {
+      item_ += 1;
+      likeness_ = likeness;
+    }
+    visit();
+    likeness_ = outer;
   }
-  void node(const Meter& meter) { text_(meter.label + ": " + meter.text); }
+
+  void node(const Tab& tab) {
+    text_("[" + tab.label + "] " + tab.icon + (tab.current ? " <current>" : ""));
+    press(tab.label, tab.handle);
+  }
+  void node(const Text& text) {
+    if (!text.text.empty()) text_(text.text + styleMark(text.style) + toneMark(text.tone));
+  }
+  void node(const Tiles& tiles) {
+    for (const StatTile& tile : tiles.tiles) {
+      text_(tile.label + ": " + joined({tile.value, tile.detail}) + toneMark(tile.tone));
+    }
+  }
+  void node(const Meter& meter) {
+    text_(std::format("{}: {} ({} of {}{})", meter.label, meter.text, meter.value, meter.maximum,
+                      meter.isScore ? ", score" : ""));
+  }
   void node(const Balance& balance) {
-    text_(balance.label + ": " + balance.net);
+    text_(balance.label + ": " + balance.net + toneMark(balance.tone));
     text_(balance.income + " | " + balance.expenses);
   }
-  void node(const Stars& stars) { text_(stars.label); }
+  void node(const Stars& stars) {
+    text_(std::format("{}: {} of {} stars", stars.label, stars.value, stars.outOf));
+  }
   void node(const Button& button) {
+    text_(joined({"[" + button.label + "]", button.price, button.offReason}) + weightMark(button.weight));
     press(button.label, button.handle);
-    text_(button.price);
-    text_(button.offReason);
   }
   void node(const Buttons& buttons) {
     for (const Button& button : buttons.buttons) node(button);
   }
   void node(const Row& row) {
+    const std::string label = row.press ? "[" + row.label + "]" : row.label;
+    text_(joined({label, row.value, row.detail}) + toneMark(row.tone));
+    for (const Picture& picture : row.picture) node(picture);
     press(row.label, row.handle);
-    text_(row.value);
-    text_(row.detail);
   }
   void node(const Headline& headline) {
-    text_(headline.stamp);
+    const std::string text = headline.press ? "[" + headline.text + "]" : headline.text;
+    text_(joined({headline.stamp, text, headline.detail, headline.value}) + toneMark(headline.tone) +
+          (headline.isLead ? " <lead>" : ""));
+    for (const Picture& picture : headline.picture) node(picture);
     press(headline.text, headline.handle);
-    text_(headline.detail);
-    text_(headline.value);
   }
   void node(const Field& field) {
-    text_(field.label + ": " + field.value);
-    if (field.handle != 0) use_({.label = field.label, .handle = field.handle, .kind = Kind::type});
+    text_(joined(
+        {field.label + ": " + field.value, field.hint, std::format("{} characters", field.maximumLength)}));
+    use({.label = field.label, .handle = field.handle, .kind = Kind::type});
   }
   void node(const Slider& slider) {
-    text_(slider.label + ": " + slider.text);
-    if (slider.handle != 0) {
-      use_({.label = slider.label,
-            .handle = slider.handle,
-            .kind = Kind::slide,
-            .minimum = slider.minimum,
-            .maximum = slider.maximum});
-    }
+    text_(std::format("{}: {} ({}, {} to {} by {})", slider.label, slider.text, slider.value, slider.minimum,
+                      slider.maximum, slider.step));
+    use({.label = slider.label,
+         .handle = slider.handle,
+         .kind = Kind::slide,
+         .minimum = slider.minimum,
+         .maximum = slider.maximum});
   }
   void node(const Choice& choice) {
     text_(choice.label);
-    for (const Choice::Option& option : choice.options) press(option.label, option.handle);
+    for (const Choice::Option& option : choice.options) {
+      asItem(withoutDigits("option " + option.label), [&] {
+        text_("(" + option.label + ")" + (option.chosen ? " <chosen>" : ""));
+        for (const Picture& picture : option.picture) node(picture);
+        press(option.label, option.handle);
+      });
+    }
   }
   void node(const Chart& chart) {
+    constexpr std::array kinds = {"line", "bars", "pie", "histogram"};
     text_(chart.title);
-    text_(chart.summary);
-    for (const Chart::Point& point : chart.points) text_(point.text);
+    text_(joined({kinds[static_cast<std::size_t>(chart.kind)], chart.summary}));
+    std::string scale;
+    for (const Chart::Tick& tick : chart.scale) scale += (scale.empty() ? "scale " : ", ") + tick.text;
+    text_(scale);
+    constexpr std::size_t pointsOnALine = 6;
+    std::string line;
+    for (std::size_t index = 0; index < chart.points.size(); ++index) {
+      const Chart::Point& point = chart.points[index];
+      line += (line.empty() ? "" : "; ") + point.label + " " + point.text;
+      if (index % pointsOnALine == pointsOnALine - 1) text_(std::exchange(line, ""));
+    }
+    text_(line);
   }
-  void node(const Picture& picture) { text_(picture.description); }
-  void node(const Bubble& bubble) { text_(bubble.speaker + ": " + bubble.text); }
+  void node(const Picture& picture) {
+    constexpr std::array kinds = {"avatar", "poster", "logo", "house", "vehicle", "card", "photo", "icon"};
+    constexpr std::array formats = {"", "series", "commercial", "student", "short"};
+    const std::string number = picture.season != 0 ? std::format("season {}", picture.season)
+                               : picture.age != 0  ? std::format("aged {}", picture.age)
+                                                   : "";
+    text_(std::format("({})",
+                      joined({std::string(kinds[static_cast<std::size_t>(picture.kind)]) + " " + picture.name,
+                              picture.title, picture.genre, formats[static_cast<std::size_t>(picture.format)],
+                              number, picture.billed, picture.description})));
+  }
+  void node(const Bubble& bubble) {
+    text_((bubble.mine ? "(mine) " : "") + bubble.speaker + ": " + bubble.text);
+  }
   void node(const TimelineEntry& entry) { text_(entry.when + " " + entry.text); }
-  void node(const Countdown& countdown) { text_(countdown.label); }
+  void node(const Countdown& countdown) {
+    text_(std::format("{} {} of {} s", countdown.label, countdown.secondsLeft, countdown.secondsInAll));
+  }
   void node(const Section& section) {
     text_(section.heading);
     nodes(section.nodes);
   }
   void node(const Fold& fold) {
+    text_("[" + fold.label + "]" + (fold.isOpen ? " <open>" : ""));
     press(fold.label, fold.handle);
     nodes(fold.nodes);
   }
   void node(const Card& card) {
-    press(card.title, card.handle);
-    text_(card.subtitle);
-    nodes(card.nodes);
+    asItem(withoutDigits("card " + card.subtitle), [&] {
+      text_(joined({card.press ? "[" + card.title + "]" : card.title, card.subtitle}));
+      for (const Picture& picture : card.picture) node(picture);
+      press(card.title, card.handle);
+      nodes(card.nodes);
+    });
   }
   void node(const SwipeCard& swipe) {
     node(swipe.card);
@@ -119,16 +225,56 @@ class Walk {
   }
   void node(const PagedList&) { ADD_FAILURE() << "a list that was not laid out"; }
   void node(const ListPage& list) {
-    nodes(list.nodes);
+    for (const Node& each : list.nodes) {
+      const Row* const row = std::get_if<Row>(&each.node);
+      asItem(row != nullptr ? withoutDigits("row " + row->value + " " + row->detail) : "",
+             [&] { std::visit([this](const auto& kind) { this->node(kind); }, each.node); });
+    }
     text_(list.position);
     for (const Button& turn : list.turns) node(turn);
   }
 
   OnText text_;
   OnUse use_;
+  bool on_page_ = false;
+  int item_ = 0;
+  std::string likeness_;
 };
 
 }  // namespace
+
+// The state as the next launch would find it. Only what was written since the last look is decoded again.
+class StoredWorld {
+ public:
+  explicit StoredWorld(const Game& game) : stored_{.store = game.store, .random = game.random} {}
+
+  void expectSameAs(const WorldState& world, const std::string& used) {
+    for (const Variable& variable : variables()) {
+      if (variable.load == Load::atStart && isChanged(variable.key)) loadVariable(stored_, variable);
+    }
+    forEachVariable([&]<auto Member>(std::string_view key, const auto&, const auto&, Load when) {
+      if (when != Load::atStart) return;
+      EXPECT_TRUE(stored_.world.*Member == world.*Member) << key << " is not saved after: " << used;
+    });
+  }
+
+ private:
+  // True when the store holds another value than at the last look.
+  bool isChanged(std::string_view key) {
+    static const SaveStore::Entry none;
+    const SaveStore::Entry* const entry = stored_.store.entry(key);
+    const SaveStore::Entry& now = entry != nullptr ? *entry : none;
+    SaveStore::Entry& seen = seen_[key];
+    if (seen.pieces == now.pieces) return false;
+    seen = now;
+    return true;
+  }
+
+  Game stored_;
+  std::map<std::string_view, SaveStore::Entry> seen_;
+};
+
+Player::Player(App& app) : app_(app), stored_(std::make_shared<StoredWorld>(app.game())) {}
 
 std::vector<std::string> Player::words() const {
   std::vector<std::string> words;
@@ -162,15 +308,28 @@ std::string Player::notice() const {
   return dialog.empty() ? "" : dialog.front().title;
 }
 
-Handle Player::find(const std::string& label, Usable::Kind kind) const {
+Player::Usable Player::find(const std::string& label, Usable::Kind kind) const {
   for (const Usable& usable : this->usable()) {
-    if (usable.label == label && usable.kind == kind) return usable.handle;
+    if (usable.label == label && usable.kind == kind) return usable;
   }
   ADD_FAILURE() << "nothing to use is called " << label << " on " << title();
-  return 0;
+  return {.label = label, .handle = 0, .kind = kind};
 }
 
-void Player::press(const std::string& label) { app_.press(find(label, Usable::Kind::press)); }
+void Player::press(const Usable& usable) {
+  app_.press(usable.handle);
+  stored_->expectSameAs(app_.game().world, usable.label);
+}
+void Player::type(const Usable& usable, const std::string& text) {
+  app_.type(usable.handle, text);
+  stored_->expectSameAs(app_.game().world, usable.label);
+}
+void Player::slide(const Usable& usable, double value) {
+  app_.slide(usable.handle, value);
+  stored_->expectSameAs(app_.game().world, usable.label);
+}
+
+void Player::press(const std::string& label) { press(find(label, Usable::Kind::press)); }
 void Player::follow(std::initializer_list<std::string> labels) {
   for (const std::string& label : labels) press(label);
 }
@@ -179,10 +338,8 @@ void Player::expectTold(const std::string& title) {
   press("OK");
 }
 void Player::type(const std::string& label, const std::string& text) {
-  app_.type(find(label, Usable::Kind::type), text);
+  type(find(label, Usable::Kind::type), text);
 }
-void Player::slide(const std::string& label, double value) {
-  app_.slide(find(label, Usable::Kind::slide), value);
-}
+void Player::slide(const std::string& label, double value) { slide(find(label, Usable::Kind::slide), value); }
 
 }  // namespace tb::test

@@ -1,9 +1,11 @@
 #pragma once
 
-// A player: finds things on the page by what is written on them, and uses them.
+// A player: finds things on the page by what is written on them, and uses them. After each use the test fails
+// where memory and store differ, so no action of a test goes unsaved.
 
 #include <gtest/gtest.h>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -12,9 +14,11 @@
 
 namespace tb::test {
 
+class StoredWorld;
+
 class Player {
  public:
-  explicit Player(App& app) : app_(app) {}
+  explicit Player(App& app);
 
   // Uses the button, row, card, option, tab or icon with this label. Fails the test when there is none, or
   // when it is off.
@@ -24,7 +28,8 @@ class Player {
   void type(const std::string& label, const std::string& text);
   void slide(const std::string& label, double value);
 
-  // Everything that can be read on the page, line by line, the dialog first.
+  // Everything that can be read on the page, line by line, the dialog first. What a shell shows by color or
+  // weight stands behind it in angle brackets, what can be pressed in square ones.
   [[nodiscard]] std::vector<std::string> words() const;
   [[nodiscard]] bool sees(const std::string& text) const;
   [[nodiscard]] std::string title() const { return app_.view().title; }
@@ -43,13 +48,22 @@ class Player {
     enum class Kind : std::uint8_t { press, type, slide } kind;
     double minimum = 0;
     double maximum = 0;
+    bool onPage = false;   // false: a tab, an icon, a way back or an answer, which stand around the page
+    int item = 0;          // the card or list item that it stands in, from 1
+    std::string likeness;  // the same for items that differ in names and figures only; empty outside items
   };
   [[nodiscard]] std::vector<Usable> usable() const;
 
+  // Uses what was found by usable().
+  void press(const Usable& usable);
+  void type(const Usable& usable, const std::string& text);
+  void slide(const Usable& usable, double value);
+
  private:
-  [[nodiscard]] view::Handle find(const std::string& label, Usable::Kind kind) const;
+  [[nodiscard]] Usable find(const std::string& label, Usable::Kind kind) const;
 
   App& app_;
+  std::shared_ptr<StoredWorld> stored_;
 };
 
 }  // namespace tb::test

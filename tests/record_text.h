@@ -19,6 +19,8 @@ inline std::string textOf(bool value) { return value ? "yes" : "no"; }
 inline std::string textOf(const std::string& value) { return value; }
 inline std::string textOf(const plist::Data& value) { return std::format("{} bytes", value.bytes.size()); }
 inline std::string textOf(plist::Date value) { return std::format("{:.10g} s", value.seconds); }
+template <RecordType Record>
+std::string textOf(const Record& record);
 template <class T>
 std::string textOf(const std::optional<T>& value) {
   return value ? textOf(*value) : "none";
@@ -54,6 +56,12 @@ std::string shown(const List<Record>& list) {
   std::string text;
   for (const Record& record : list) text += "(" + shown(record) + ")";
   return text;
+}
+
+// A record inside another one.
+template <RecordType Record>
+std::string textOf(const Record& record) {
+  return "(" + shown(record) + ")";
 }
 
 }  // namespace tb::test

@@ -13,6 +13,8 @@
 namespace tb::test {
 
 struct ScratchGame {
+  // Chance is scripted draw by draw. For a whole week, whose steps may draw as they like, it is low unless a
+  // test says otherwise.
   explicit ScratchGame(Unscripted unscripted = Unscripted::fails) : random(unscripted) {}
 
   MemoryPort port;
@@ -38,6 +40,8 @@ struct ScratchGame {
 };
 
 // A rule tried in a game of its own.
-struct RuleTest : testing::Test, ScratchGame {};
+struct RuleTest : testing::Test, ScratchGame {
+  using ScratchGame::ScratchGame;
+};
 
 }  // namespace tb::test

@@ -2,6 +2,7 @@
 
 // What every rule works on. Rules are free functions over Game&, or over less where that is enough.
 
+#include "core/clock.h"
 #include "core/locale.h"
 #include "core/random.h"
 #include "core/told_rows.h"
@@ -18,6 +19,7 @@ struct Game {
   WorldState world = {};
   WorldState stored = {};  // the plain variables as the store holds them (core/save.h); its lists stay empty
   ToldRows told = {};
+  Clock clock = stoppedClock;
 };
 
 }  // namespace tb

@@ -41,7 +41,7 @@ void keepOpeningPost(Game& game, const Audition& project, double domesticGross) 
   const std::string amount = shortMoney(game.locale, domesticGross);
   const std::string text =
       fill(tellRow(game, Bank::openingWeekend), {{"title", project.title}, {"amount", amount}});
-  Chirp post = industryChirp(game.world, "Box Office Jojo", "boxOfficeJojo.png", text + " ");
+  Chirp post = industryChirp(game, "Box Office Jojo", "boxOfficeJojo.png", text + " ");
   post.filmId = project.filmId;
   game.world.openingChirp = {std::move(post)};
 }

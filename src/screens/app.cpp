@@ -11,11 +11,11 @@
 
 namespace tb {
 
-App::App(SaveStore& store, RandomSource& random, Locale locale)
-    : App(store, random, std::move(locale), std::make_unique<ViewController>()) {}
+App::App(SaveStore& store, RandomSource& random, Locale locale, Clock clock)
+    : App(store, random, std::move(locale), std::make_unique<ViewController>(), clock) {}
 
-App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first)
-    : game_{.store = store, .random = random, .locale = std::move(locale)}, stage_(game_) {
+App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first, Clock clock)
+    : game_{.store = store, .random = random, .locale = std::move(locale), .clock = clock}, stage_(game_) {
   loadWorld(game_);
   stage_.open(std::move(first));
   saveChanges(game_);

@@ -15,10 +15,11 @@ namespace tb {
 class App {
  public:
   // Loads the career that the store holds, or opens the form of a new one.
-  App(SaveStore& store, RandomSource& random, Locale locale = {});
+  App(SaveStore& store, RandomSource& random, Locale locale = {}, Clock clock = stoppedClock);
 
   // The same with another screen at the bottom of the stack, for trying a screen or a shell alone.
-  App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first);
+  App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first,
+      Clock clock = stoppedClock);
 
   // What is on show now. Good until the next call of anything else.
   [[nodiscard]] const view::Page& view();

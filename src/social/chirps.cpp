@@ -1,18 +1,11 @@
 #include "social/chirps.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace tb {
 
 namespace {
-
-plist::Date now() {
-  using namespace std::chrono;
-  constexpr sys_seconds epoch = sys_days{2001y / January / 1};
-  return {.seconds = duration<double>(system_clock::now() - epoch).count()};
-}
 
 // The least and the most of those who like a post that also comment on it, and that also pass it on.
 struct Echo {
@@ -32,7 +25,8 @@ void drawEcho(RandomSource& random, const Echo& echo, double likes, Chirp& chirp
 
 }  // namespace
 
-Chirp industryChirp(const WorldState& world, std::string name, std::string picture, std::string message) {
+Chirp industryChirp(const Game& game, std::string name, std::string picture, std::string message) {
+  const WorldState& world = game.world;
   return {.id = world.chirpId,
           .artistId = notThePlayer,
           .chirpName = std::move(name),
@@ -42,7 +36,7 @@ Chirp industryChirp(const WorldState& world, std::string name, std::string pictu
           .news = notThePlayer,
           .imageString = std::move(picture),
           .typeOfAccount = accountType::industry,
-          .timestamp = now()};
+          .timestamp = game.clock()};
 }
 
 Chirp playerChirp(Game& game, std::string message) {
@@ -54,7 +48,7 @@ Chirp playerChirp(Game& game, std::string message) {
               .weekNumberForTracking = world.weekNumberForTracking,
               .yearNumber = world.yearNumber,
               .typeOfAccount = accountType::player,
-              .timestamp = now()};
+              .timestamp = game.clock()};
   const std::int64_t audience = std::max<std::int64_t>(world.totalFans, 0);
   const auto reach = static_cast<double>(RandomRange(game.random, audience + 1));
   drawEcho(game.random, fanEcho, RandomUnit(game.random, 0.005, 0.02) * reach, chirp);

@@ -18,7 +18,7 @@ inline constexpr std::int64_t industry = 6;
 }  // namespace accountType
 
 // A post of now by a voice of the industry, under the number that `chirpId` shows. Nobody has seen it yet.
-[[nodiscard]] Chirp industryChirp(const WorldState& world, std::string name, std::string picture,
+[[nodiscard]] Chirp industryChirp(const Game& game, std::string name, std::string picture,
                                   std::string message);
 
 // A post of now by the player. Takes the next number of `chirpId` and draws how many fans it reaches.

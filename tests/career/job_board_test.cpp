@@ -10,26 +10,6 @@ namespace {
 
 using JobBoard = test::RuleTest;
 
-TEST_F(JobBoard, MayHangEmptyOrShowOneJobTwiceWithTheSamePayAndContractsOfItsOwn) {
-  random.any(26).range(6, 0);
-  EXPECT_TRUE(openJobBoard(game).empty());
-
-  random.range(7, 6).range(16, 15);  // the extra: 14 energy, $400
-  random.any(24).range(6, 3);
-  random.range(13, 0).range(9, 0).range(13, 12).range(9, 8).range(13, 0).range(9, 4);
-  const auto board = openJobBoard(game);
-  ASSERT_EQ(board.size(), 3u);
-  EXPECT_EQ(board[0].job.jobTitle, "Background Extra");
-  EXPECT_EQ(board[0].job.energyCost, 14);
-  EXPECT_EQ(board[0].job.jobPay, 400);
-  EXPECT_EQ(board[0].contractWeeks, 4);
-  EXPECT_EQ(board[1].job.jobTitle, "Social Media Content Assistant");
-  EXPECT_EQ(board[1].job.energyCost, 8);
-  EXPECT_EQ(board[1].contractWeeks, 12);
-  EXPECT_EQ(board[2].job.jobPay, 400);
-  EXPECT_EQ(board[2].contractWeeks, 8);
-}
-
 TEST_F(JobBoard, HiresWithoutAskingForEnergyAndOnlyOnce) {
   world.totalEnergyAvailable = 0;
   const JobOffer runner{{.jobTitle = "Set Runner", .energyCost = 20, .jobPay = 410}, 5};

@@ -25,60 +25,6 @@ struct Talent : test::RuleTest {
   }
 };
 
-TEST_F(Talent, LevelCountsTheWeakestTraitTwiceAndCapsItAlone) {
-  EXPECT_EQ(overallTalent(world), 1);
-  setTraits(120);
-  EXPECT_EQ(overallTalent(world), (600 + 100) / 6);
-  setTraits(50);
-  world.talentTrait4 = 2;
-  world.talentTrait6 = 900;  // takes no part
-  EXPECT_EQ(overallTalent(world), (202 + 2) / 6);
-}
-
-TEST_F(Talent, PerformanceFollowsTheFormula) {
-  world.talentTrait1 = 40;
-  world.talentTrait2 = 30;
-  world.talentTrait3 = 20;
-  world.talentTrait4 = 10;
-  world.talentTrait5 = 60;
-  world.experience = 500;
-  random.unit(0.5).unit(0.5).unit(0.5);
-  EXPECT_DOUBLE_EQ(talentRoll(game), 22.5);
-  // a 20, b 30, e 5, s 72.5, h 19.375; low is e, since 5 is below 20: half of the way to 19.375 is 12.1875
-  EXPECT_DOUBLE_EQ(performanceRoll(game, 22.5), 17.94);
-  // In front of the camera experience counts in full: e 100, top 43.125; low is the craft, 20; half
-  // way 31.5625
-  EXPECT_DOUBLE_EQ(sceneRoll(game, 22.5), 40.81);
-}
-
-TEST_F(Talent, PerformanceOfABeginnerNeverDrawsFromAnEmptyRange) {
-  world.talentTrait5 = 0;
-  random.unit(1);
-  EXPECT_EQ(talentRoll(game), 0);
-  // With everything at 1 and much experience the lowest result would lie above the highest: it is halved.
-  setTraits(1);
-  world.experience = 100;
-  random.unit(0).unit(0);
-  EXPECT_DOUBLE_EQ(performanceRoll(game, 0), 0.62);
-  world.experience = 0;
-  EXPECT_DOUBLE_EQ(performanceRoll(game, 0), 0.35);
-}
-
-TEST_F(Talent, ATraitTracksItsPrice) {
-  random.range(10, 8).range(10, 9);
-  EXPECT_FALSE(buyTrait(game, 1));  // the price rises by 2
-  EXPECT_FALSE(buyTrait(game, 5));  // and by 3, doubled for the voice
-  EXPECT_EQ(world.talentTraitCost1, 4);
-  EXPECT_EQ(world.talentTrait5, 2);
-  EXPECT_EQ(world.talentTraitCost5, 10);
-  EXPECT_EQ(world.totalEnergyAvailable, 94);
-  // What chance raised above its price falls back to it.
-  world.talentTrait1 = 60;
-  random.range(10, 0);
-  EXPECT_FALSE(buyTrait(game, 1));
-  EXPECT_EQ(world.talentTrait1, 4);
-}
-
 TEST_F(Talent, TraitsStopAt100AndAtTheEndOfTheEnergy) {
   world.talentTrait2 = 99;
   world.talentTraitCost2 = 130;
@@ -94,35 +40,6 @@ TEST_F(Talent, TraitsStopAt100AndAtTheEndOfTheEnergy) {
   EXPECT_FALSE(buyTrait(game, 2));  // maxed: nothing happens and nothing is said
   EXPECT_EQ(world.totalEnergyAvailable, 500);
   EXPECT_EQ(world.talentTraitCost2, 131);
-}
-
-TEST_F(Talent, CurriculumOpensLevelByLevel) {
-  const std::pair<int, int> tiers[] = {{0, 1}, {17, 1}, {18, 2}, {27, 2}, {28, 3}, {38, 3}, {39, 4}, {47, 4}};
-  for (const auto& [taken, tier] : tiers) {
-    world.saveAllCompletedClasses.assign(std::vector<ActingClass>(static_cast<std::size_t>(taken)));
-    EXPECT_EQ(classTier(world), tier) << taken;
-  }
-}
-
-TEST_F(Talent, ClassOptionsAreDistinctUntakenAndPriced) {
-  // Taken: Improvisation (the third row). Drawn: it, the first, the first again, the second.
-  world.saveAllCompletedClasses = {{.classId = 3}};
-  random.range(5, 1).range(18, 2);
-  random.range(18, 0).range(5, 4).range(4, 3);
-  random.range(18, 0).range(18, 1).range(5, 0).range(4, 0);
-  const auto options = openClasses(game);
-  ASSERT_EQ(options.size(), 2u);
-  EXPECT_EQ(options[0].offered->title, "Physical Acting I");
-  EXPECT_EQ(options[0].weeks, 8);
-  EXPECT_EQ(options[0].cost, 280 * 8 * 2 + 275);
-  EXPECT_EQ(options[0].energyCost, 4 + 10 + 3);
-  EXPECT_EQ(options[1].offered->id, 2);
-  EXPECT_EQ(options[1].cost, 280 * 4 * 2 + 275);
-
-  for (const JulliardClass& row : julliardClasses)
-    world.saveAllCompletedClasses.push_back({.classId = row.id});
-  random.range(5, 4).any(100);  // and then nothing is left to offer
-  EXPECT_TRUE(openClasses(game).empty());
 }
 
 TEST_F(Talent, AClassIsPaidRunsAndGivesItsExperience) {

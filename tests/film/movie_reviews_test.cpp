@@ -1,11 +1,11 @@
-// What the player thinks of titles, and the lists of all time.
+// What the player thinks of titles.
 
 #include "film/movie_reviews.h"
 
 #include <gtest/gtest.h>
 
 #include "banks/draw.h"
-#include "film/top_titles.h"
+#include "film/catalogue.h"
 #include "tests/record_text.h"
 #include "tests/scratch_game.h"
 
@@ -71,37 +71,6 @@ TEST_F(Reviewing, AReviewNeedsStarsAndWordsAndComesFirst) {
   EXPECT_EQ(test::shown(world.saveAllMovieReviews),
             "(title Loud Cousins, review Fine., rating 1, weekNumber 7, yearNumber 2031, "
             "weekNumberForTracking 267)(title Older)");
-}
-
-TEST(TopTitles, SeasonsRatedAboveEightStandAmongTheBestOfAllTime) {
-  WorldState world;
-  const auto add = [&](std::int64_t id, std::int64_t typeOfFilm, double rating) {
-    world.saveAllFilmList.push_back(
-        {.filmId = id, .typeOfFilm = typeOfFilm, .title = "Ours", .imbdRating = rating});
-  };
-  add(1, filmType::series, 8.0);
-  add(2, filmType::series, 9.65);
-  add(3, filmType::feature, 9.9);
-  add(4, filmType::series, tvRecords()[9].imdbRating);
-  const TopTitles lists = topTitles(world);
-  ASSERT_EQ(lists.shows.size(), 250U);
-  EXPECT_EQ(lists.shows[0].filmId, 2);
-  EXPECT_EQ(lists.shows[1].title, tvRecords()[0].title);
-  EXPECT_EQ(placeOf(lists, 2), 1U);
-  // Equal to a built-in series, the player's stands first: after all that are better, and season 2.
-  const auto better = std::ranges::count_if(
-      tvRecords(), [](const TVRecord& row) { return row.imdbRating > tvRecords()[9].imdbRating; });
-  EXPECT_EQ(placeOf(lists, 4), static_cast<std::size_t>(better + 2));
-  for (const std::int64_t unranked : {1, 3, 99}) EXPECT_EQ(placeOf(lists, unranked), std::nullopt);
-}
-
-TEST(TopTitles, AFilmIsFoundByItsIdAmongTheHighestGrossing) {
-  WorldState world;
-  world.saveAllFilmList.push_back({.filmId = 5, .title = "Ours"});
-  world.saveAllBoxOfficeList.push_back({.filmId = 5, .openingWeekend = 60e6, .totalGross = 90e9});
-  const TopTitles lists = topTitles(world);
-  EXPECT_EQ(lists.movies.front().title, "Ours");
-  EXPECT_EQ(placeOf(lists, 5), 1U);
 }
 
 }  // namespace

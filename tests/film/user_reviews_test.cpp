@@ -3,7 +3,6 @@
 #include "film/user_reviews.h"
 
 #include <gtest/gtest.h>
-#include <numeric>
 
 #include "tests/scratch_game.h"
 
@@ -18,68 +17,7 @@ Film rated(double rating, std::int64_t ratings) {
           .numImbdRatings = ratings};
 }
 
-TEST(StarHistogram, SpreadsTheRatingsInABellAroundTheMean) {
-  // In hundredths: 2.28 4.82 9.30 14.81 18.79 and back. Six are left over for the largest fractions.
-  EXPECT_EQ(starHistogram(rated(5.5, 100)), (StarHistogram{2, 5, 9, 15, 19, 19, 15, 9, 5, 2}));
-  // 2.20 1.95 1.36 0.75 0.35 and less: three are left over.
-  EXPECT_EQ(starHistogram(rated(1, 7)), (StarHistogram{2, 2, 2, 1}));
-  EXPECT_EQ(starHistogram(rated(10, 3)), (StarHistogram{0, 0, 0, 0, 0, 0, 0, 1, 1, 1}));
-}
-
-TEST(StarHistogram, LosesNobodyAndIsEmptyBeforeTheRelease) {
-  for (const std::int64_t ratings : {1, 9, 11, 4'999, 2'000'000}) {
-    for (const double rating : {1.0, 4.37, 9.9}) {
-      const StarHistogram stars = starHistogram(rated(rating, ratings));
-      EXPECT_EQ(std::accumulate(stars.begin(), stars.end(), std::int64_t{0}), ratings);
-    }
-  }
-  EXPECT_EQ(starHistogram(rated(0, 0)), StarHistogram{});
-}
-
-TEST(UserReviews, TheCountGrowsWithTheMetascore) {
-  Film film = rated(7, 1'000);
-  EXPECT_EQ(shownRatings(film), 1'180);
-  film.imbdMetascore = 95;
-  EXPECT_EQ(shownRatings(film), 2'130);
-  film.numImbdRatings = 1;
-  EXPECT_EQ(shownRatings(film), 2);
-}
-
 using UserReviewCards = test::RuleTest;
-
-TEST_F(UserReviewCards, SpeakInTheWordsOfTheirStars) {
-  world.myName = "Ada Quinn";
-  StarHistogram everybody;
-  everybody.fill(1);
-  struct Level {
-    std::int64_t star;
-    Bank snippets, bodies;
-  };
-  const Level levels[] = {{0, Bank::userReviewSnippet1, Bank::userReviewBody1},
-                          {3, Bank::userReviewSnippet2, Bank::userReviewBody2},
-                          {4, Bank::userReviewSnippet3, Bank::userReviewBody3},
-                          {7, Bank::userReviewSnippet4, Bank::userReviewBody4},
-                          {9, Bank::userReviewSnippet5, Bank::userReviewBody5}};
-  for (const Level& level : levels) {
-    const std::int64_t rows = std::ssize(rowsOf(level.bodies));
-    random.range(10, level.star).range(49, 0).range(rows, rows - 1).range(60, 1).range(80, 79);
-  }
-  const std::vector<Reviews> reviews = drawUserReviews(game, rated(7, 10), everybody);
-  ASSERT_EQ(reviews.size(), 5U);  // and no draw more
-  const auto filled = [](const std::string& row) {
-    return fill(row, {{"title", "Salt Road"},
-                      {"director", "Mina Falk"},
-                      {"name", "Ada Quinn"},
-                      {"prop", "letter"},
-                      {"place", "hallway"}});
-  };
-  for (std::size_t index = 0; index < reviews.size(); ++index) {
-    EXPECT_EQ(reviews[index].rating, levels[index].star + 1);
-    EXPECT_EQ(reviews[index].snippet, filled(rowsOf(levels[index].snippets).front()));
-    EXPECT_EQ(reviews[index].review, filled(rowsOf(levels[index].bodies).back()));
-    EXPECT_EQ(reviews[index].username, "midnightWaffle");
-  }
-}
 
 TEST_F(UserReviewCards, StarsThatFewerThanOneRatingInTwentyGaveAreDrawnInVain) {
   StarHistogram flop{};

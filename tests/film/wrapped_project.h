@@ -2,9 +2,9 @@
 
 // A project that is wrapped and comes out in week 20, with its film.
 
-#include "film/film_record.h"
-#include "film/released_project.h"
-#include "tests/scratch_game.h"
+#include <utility>
+
+#include "core/world_state.h"
 
 namespace tb::test {
 
@@ -21,36 +21,26 @@ inline Audition projectOf(std::int64_t typeOfFilm) {
           .directorName = "Mina Falk"};
 }
 
-struct ReleasedGame : ScratchGame {
-  explicit ReleasedGame(std::int64_t typeOfFilm) : ReleasedGame(projectOf(typeOfFilm)) {}
-  explicit ReleasedGame(Audition work) {
-    world.myName = "Ada Quinn";
-    world.agentFanBonus = 1;
-    world.yearNumber = 2030;
-    world.weekNumberForTracking = releaseWeek;
-    work.funnelStage = funnel::wrapped;
-    work.weekReleased = releaseWeek;
-    world.saveAllFilmList = {{.filmId = work.filmId,
-                              .typeOfFilm = work.typeOfFilm,
-                              .isPrincipal = work.isPrincipal,
-                              .title = work.title,
-                              .yearReleased = 2029,
-                              .weekReleased = work.weekReleased,
-                              .budget = work.budget,
-                              .currentPopularity = work.hypeRating,
-                              .lastWeekPopularity = work.hypeRating,
-                              .royaltyRate = work.royalty,
-                              .equityPercentage = work.equityPercentage}};
-    world.saveAllAuditionList.push_back(std::move(work));
-  }
-
-  void advance(std::int64_t weeksSinceRelease) {
-    world.weekNumberForTracking = releaseWeek + weeksSinceRelease;
-    advanceReleasedProject(game, 0);
-  }
-
-  Audition& project() { return world.saveAllAuditionList.edit(0); }
-  Film& film() { return world.saveAllFilmList.edit(0); }
-};
+// The week of the release, with the project and its film.
+inline void addReleased(WorldState& world, Audition work) {
+  world.myName = "Ada Quinn";
+  world.agentFanBonus = 1;
+  world.yearNumber = 2030;
+  world.weekNumberForTracking = releaseWeek;
+  work.funnelStage = funnel::wrapped;
+  work.weekReleased = releaseWeek;
+  world.saveAllFilmList = {{.filmId = work.filmId,
+                            .typeOfFilm = work.typeOfFilm,
+                            .isPrincipal = work.isPrincipal,
+                            .title = work.title,
+                            .yearReleased = 2029,
+                            .weekReleased = work.weekReleased,
+                            .budget = work.budget,
+                            .currentPopularity = work.hypeRating,
+                            .lastWeekPopularity = work.hypeRating,
+                            .royaltyRate = work.royalty,
+                            .equityPercentage = work.equityPercentage}};
+  world.saveAllAuditionList.push_back(std::move(work));
+}
 
 }  // namespace tb::test

@@ -38,14 +38,18 @@ Audition ownProduction(std::int64_t filmId, const std::string& title) {
   return project;
 }
 
-void Device::begin(const std::function<void(WorldState&)>& prepare) {
-  SaveStore store(port);
-  Game game{.store = store, .random = random_};
+void storeCareer(SaveStore& store, RandomSource& random, const std::function<void(WorldState&)>& prepare) {
+  Game game{.store = store, .random = random};
   game.world.myName = "Ada Quinn";
   game.world.enterPlayerDetails = 1;
   prepare(game.world);
   saveChanges(game);
   EXPECT_TRUE(store.commit());
+}
+
+void Device::begin(const std::function<void(WorldState&)>& prepare) {
+  SaveStore store(port);
+  storeCareer(store, random_, prepare);
   launch();
 }
 

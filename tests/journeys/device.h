@@ -19,6 +19,9 @@ Audition bookedLead(std::int64_t filmId, std::int64_t typeOfFilm, const std::str
 // A film of the performer's own, who does not act in it and holds a tenth.
 Audition ownProduction(std::int64_t filmId, const std::string& title);
 
+// Writes a whole career, as `prepare` makes it, to the store.
+void storeCareer(SaveStore& store, RandomSource& random, const std::function<void(WorldState&)>& prepare);
+
 class Device {
  public:
   explicit Device(RandomSource& random) : random_(random) {}
@@ -28,6 +31,7 @@ class Device {
   // Ends the game, if it runs, and opens it on what is stored.
   void launch();
 
+  [[nodiscard]] App& app() { return running_->app; }
   [[nodiscard]] Player& player() { return running_->player; }
   [[nodiscard]] const WorldState& world() const { return running_->app.game().world; }
   [[nodiscard]] const Audition& project(std::size_t index = 0) const {

@@ -18,17 +18,17 @@ class Monkey {
  public:
   explicit Monkey(std::uint64_t seed) : whim_(seed) {}
 
-  void act(App& app, const Player& player) {
+  void act(Player& player) {
     const std::vector<Player::Usable> all = player.usable();
     ASSERT_FALSE(all.empty()) << "nothing can be done on " << player.title();
     const Player::Usable& chosen = choose(all);
     switch (chosen.kind) {
       case Player::Usable::Kind::press:
-        return app.press(chosen.handle);
+        return player.press(chosen);
       case Player::Usable::Kind::type:
-        return app.type(chosen.handle, std::format("words {}", RandomRange(whim_, 1000)));
+        return player.type(chosen, std::format("words {}", RandomRange(whim_, 1000)));
       case Player::Usable::Kind::slide:
-        return app.slide(chosen.handle, RandomUnit(whim_, chosen.minimum, chosen.maximum));
+        return player.slide(chosen, RandomUnit(whim_, chosen.minimum, chosen.maximum));
     }
   }
 
@@ -105,13 +105,13 @@ TEST(Monkey, PressesAnythingForTwoThousandWeeks) {
   SaveStore store(port);
   test::SeededRandom chance(7);
   App app(store, chance);
-  const Player player(app);
+  Player player(app);
   Monkey monkey(11);
 
   std::int64_t weeks = 0;
   std::int64_t week = app.game().world.weekNumberForTracking;
   for (int action = 0; weeks < 2000 && !testing::Test::HasFailure(); ++action) {
-    monkey.act(app, player);
+    monkey.act(player);
     expectSoundPage(player);
     expectSoundWorld(app.game().world);
     const std::int64_t now = app.game().world.weekNumberForTracking;

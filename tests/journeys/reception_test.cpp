@@ -1,5 +1,5 @@
-// What the world thinks of a title, as its lead reads it: the critics, the audience, the percentages, the
-// best of all time, a year of fading, and the lead's own opinions.
+// What the world thinks of a title, as its lead reads it: the critics, the audience, the percentages, a year
+// of fading, and the lead's own opinions.
 
 #include <format>
 #include <gtest/gtest.h>
@@ -25,7 +25,6 @@ struct Reception : testing::Test {
     device.liveWeeks(2);
     device.endWeek();
   }
-  bool reads(const std::string& text) { return device.player().sees(text); }
   std::vector<std::string> page() { return device.player().words(); }
 };
 
@@ -57,63 +56,10 @@ TEST_F(Reception, TheLeadReadsTheReviewsAndTheyStayAsTheyAreWhileThePageIsOpen) 
   player.expectSees({"Your rating"});
 }
 
-TEST_F(Reception, EveryWayToATitleLeadsToItsPage) {
-  comeOut();
-  test::Player& player = device.player();
-  player.follow({"Close", "Work", "Auditions", "Harbor Lights", "Imbd page"});
-  EXPECT_EQ(player.title(), "Harbor Lights");
-  player.press("Box office");
-  player.expectTold("🎞 No Theatrical Release 🎞");
-  player.press("Quotes");
-  player.expectSees({"Quotes: 0"});
-  player.follow({"Back", "Top 250"});
-  EXPECT_EQ(player.title(), "TOP 250 Shows");
-  player.press("Movies");
-  EXPECT_EQ(player.title(), "TOP 250 Movies");
-}
-
-void addProduction(WorldState& world, std::int64_t id, std::int64_t typeOfFilm, const std::string& title,
-                   std::int64_t weekReleased) {
-  world.saveAllAuditionList.push_back({.filmId = id,
-                                       .typeOfFilm = typeOfFilm,
-                                       .isPrincipal = rolePart::ownProduction,
-                                       .title = title,
-                                       .weekReleased = weekReleased,
-                                       .funnelStage = funnel::wrapped});
-  Film film{.filmId = id, .typeOfFilm = typeOfFilm, .title = title, .weekReleased = weekReleased};
-  if (weekReleased < world.weekNumberForTracking) {
-    film.imbdRating = 9.9;
-    film.numImbdRatings = 5;
-    film.imbdMetascore = 90;
-    film.numMetascoreRatings = 2;
-  }
-  world.saveAllFilmList.push_front(std::move(film));
-}
-
-TEST_F(Reception, TheBestOfAllTimeAndTheProductionsLeadToThePagesOfWhatIsOut) {
-  device.begin([](WorldState& world) {
-    world.weekNumberForTracking = 20;
-    addProduction(world, 11, filmType::series, "Low Tide", 19);
-    addProduction(world, 12, filmType::feature, "Paper Moons", 19);
-    addProduction(world, 13, filmType::feature, "Not Yet", 25);
-  });
-  test::Player& player = device.player();
-  player.follow({"Work", "Top 250"});
-  EXPECT_FALSE(reads("Paper Moons"));
-  player.follow({"Shows", "1. Low Tide"});
-  player.expectSees({"Top 250: #1"});
-  player.press("RottenBanana");
-  player.expectSees({"2 Reviews"});
-  player.follow({"Back", "Back", "Back", "Productions"});
-  EXPECT_FALSE(reads("Imbd page of Not Yet"));
-  player.press("Imbd page of Paper Moons");
-  EXPECT_EQ(player.title(), "Paper Moons");
-}
-
 TEST(ReceptionPages, BeforeTheReleaseTheyWaitForIt) {
   test::ScratchGame scratch;
   scratch.world.weekNumberForTracking = 20;
-  addProduction(scratch.world, 13, filmType::feature, "Not Yet", 25);
+  scratch.world.saveAllFilmList = {{.filmId = 13, .title = "Not Yet", .weekReleased = 25}};
   Stage stage(scratch.game);
   openTitlePage(stage, 13);
   const view::Page page = stage.top().view(stage.game());

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/scratch_game.h"
-#include "wealth/patron_pay.h"
 
 namespace tb {
 namespace {
@@ -21,18 +20,6 @@ struct Balance : test::RuleTest {
                                            .buyoutEarned = buyout,
                                            .residualsEarned = residual,
                                            .weekNumberForTracking = week});
-  }
-
-  // What Patron pays a performer with so many fans and reviews.
-  double patronPays(std::int64_t fans, std::size_t reviews, std::int64_t newestWeek) {
-    world.totalFans = fans;
-    world.saveFameLevel = 100;
-    world.saveAllMovieReviews.clear();
-    for (std::size_t older = 0; older < reviews; ++older) {
-      world.saveAllMovieReviews.push_back(
-          {.weekNumberForTracking = newestWeek - static_cast<std::int64_t>(older)});
-    }
-    return payPatron(game);
   }
 
   std::vector<std::string> tiles() {
@@ -93,37 +80,6 @@ TEST_F(Balance, APaidSessionAndAReleaseOfTheWeekAreFoundInOnePass) {
       {.weekToWork = now - 1, .weekReleased = now - 1, .payment = 800, .funnelStage = funnel::wrapped}};
   EXPECT_EQ(balanceWeek(game).income, 800);
   EXPECT_TRUE(world.releaseOffered);
-}
-
-TEST_F(Balance, PatronStartsWithTheTenthReviewAndIsPartOfTheWeek) {
-  EXPECT_EQ(patronPays(1000, 9, now), 0);
-  EXPECT_FALSE(store.contains("trackPatronEarnings"));
-  EXPECT_DOUBLE_EQ(patronPays(1000, 10, now), 2.5);
-  EXPECT_EQ(world.WeekFeed, (TextList{"You received your first weekly payment from Patron - $2.50"}));
-  EXPECT_EQ(tiles(), (std::vector<std::string>{"PATRON"}));
-  EXPECT_DOUBLE_EQ(balanceWeek(game).income, 2.5);
-  EXPECT_DOUBLE_EQ(world.totalPatronEarnings, 5);
-  EXPECT_EQ(world.WeekFeed.size(), 1U);
-  EXPECT_EQ(world.trackPatronEarnings.size(), 2U);
-}
-
-TEST_F(Balance, PatronFadesOverTwoHundredWeeksAndPaysAtMostTenThousandFadedOnce) {
-  EXPECT_DOUBLE_EQ(patronPays(1000, 10, now - 100), 1.25);
-  EXPECT_EQ(patronPays(1000, 10, now - 200), 0);
-  EXPECT_EQ(patronPays(1000, 10, now - 201), 0);
-  EXPECT_DOUBLE_EQ(patronPays(4'000'000, 10, now), 10'000);  // exactly at the limit while fresh
-  EXPECT_DOUBLE_EQ(patronPays(40'000'000, 10, now), 10'000);
-  EXPECT_DOUBLE_EQ(patronPays(40'000'000, 10, now - 100), 5'000);
-  EXPECT_DOUBLE_EQ(patronPays(6'000'000, 10, now - 100),
-                   7'500);  // 15,000 while fresh, and not above it faded
-}
-
-TEST_F(Balance, PatronBelowADollarHasNoTileAndItsHistoryTwoYears) {
-  for (int week = 0; week < 106; ++week) patronPays(399, 10, now);
-  EXPECT_TRUE(world.weekBalanceItems.empty());
-  EXPECT_EQ(world.trackPatronEarnings.size(), 104U);
-  patronPays(400, 10, now);
-  EXPECT_EQ(tiles(), (std::vector<std::string>{"PATRON"}));
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "shells/native/system_random.h"
 #include "shells/sqlite/save_folder.h"
 #include "shells/sqlite/sqlite_port.h"
+#include "shells/system_clock.h"
 
 namespace {
 
@@ -82,7 +83,7 @@ std::expected<std::filesystem::path, tb::OpenFailure> folderFor(const Options& o
 int play(tb::SqlitePort& port) {
   tb::SaveStore store(port);
   tb::SystemRandom random;
-  tb::App app(store, random, tb::systemLocale());
+  tb::App app(store, random, tb::systemLocale(), tb::systemClock);
   if (port.notice()) app.tell(*port.notice());
   {
     tb::console::Terminal terminal;

@@ -15,6 +15,7 @@
 #include <string>
 
 #include "screens/app.h"
+#include "shells/system_clock.h"
 #include "shells/web/host.h"
 #include "shells/web/message.h"
 #include "shells/web/page_json.h"
@@ -59,7 +60,9 @@ EXPORT(answer) const std::byte* answerAddress() { return answer.data(); }
 EXPORT(open_store) void openStore() { game.emplace(tb::readPieces(incoming)); }
 
 // Incoming: the locale. Loads the career, or opens the form of a new one.
-EXPORT(start) void start() { game->app.emplace(game->store, game->random, tb::readLocale(incoming)); }
+EXPORT(start) void start() {
+  game->app.emplace(game->store, game->random, tb::readLocale(incoming), tb::systemClock);
+}
 
 // The page on show, as JSON. The functions below it change what is on show.
 EXPORT(view) std::size_t viewPage() { return answerWith(tb::pageJson(game->app->view())); }

@@ -1,75 +1,14 @@
-// The interview before a release: what it is worth, what it leaves behind. And the tables that films are made
-// from.
+// The tables that films are made from.
 
-#include "film/promotion.h"
+#include "film/catalogue.h"
 
 #include <gtest/gtest.h>
 #include <set>
 
-#include "film/catalogue.h"
-#include "tests/film/wrapped_project.h"
-#include "tests/record_text.h"
+#include "tests/scripted_random.h"
 
 namespace tb {
 namespace {
-
-using test::ReleasedGame;
-using test::ScratchGame;
-
-TEST(Promotion, TheMoreFansListenTheMoreHypeItBrings) {
-  struct Case {
-    std::int64_t fans, least, spread;
-  };
-  const Case cases[] = {{0, 0, 5},
-                        {999, 0, 5},
-                        {1'000, 3, 5},
-                        {9'999, 3, 5},
-                        {10'000, 5, 5},
-                        {100'000, 7, 7},
-                        {1'000'000, 12, 7},
-                        {10'000'000, 16, 15},
-                        {100'000'000, 20, 16},
-                        {9'999'999'999, 20, 16}};
-  for (const auto& [fans, least, spread] : cases) {
-    ScratchGame scratch;
-    scratch.world.totalFans = fans;
-    scratch.random.range(20, 1).range(30, 0).range(spread, spread - 1);
-    const Interview interview = openInterview(scratch.game, test::projectOf(filmType::feature));
-    EXPECT_EQ(interview.totalHype, least + spread - 1) << fans;
-    EXPECT_TRUE(interview.question.ends_with(" Salt Road"));
-    EXPECT_EQ(interview.talkShow, "Up Late with Barney Quill");
-  }
-  ScratchGame beyond;
-  beyond.world.totalFans = 10'000'000'000;
-  beyond.random.any(2);
-  EXPECT_EQ(openInterview(beyond.game, test::projectOf(filmType::feature)).totalHype, 0);
-}
-
-TEST(Promotion, TheAnswerIsPostedAndQuotedAndTheHypeRisesOnce) {
-  ReleasedGame released(filmType::feature);
-  released.project().hypeRating = 40;
-  released.project().characterName = "June Abara";
-  released.world.totalFans = 1'000;
-  const Interview interview{.talkShow = "A", .question = "Why?", .totalHype = 7};
-  EXPECT_TRUE(promoteFilm(released.game, 0, interview, " \n "));  // nothing is posted without an answer
-  EXPECT_EQ(released.project().promoteHypeCount, 0);
-  released.random.range(1'001, 1'000).unit(1).unit(1).unit(0);
-  EXPECT_FALSE(promoteFilm(released.game, 0, interview, "  Because.  "));
-  EXPECT_TRUE(promoteFilm(released.game, 0, interview, "Again."));
-  EXPECT_EQ(released.project().hypeRating, 47);
-  EXPECT_EQ(released.project().promoteHypeCount, 1);
-  EXPECT_EQ(test::shown(released.world.saveAllQuotes),
-            "(filmId 7, filmName Salt Road, character June Abara, quote Because., question Why?)");
-  ASSERT_EQ(released.world.saveAllChirpList.size(), 1U);
-  const Chirp& post = released.world.saveAllChirpList.front();
-  EXPECT_EQ(post.message, "[on Salt Road] Because.");
-  EXPECT_EQ(post.artistId, 0);
-  EXPECT_EQ(post.id, 1);
-  EXPECT_EQ(post.filmId, 7);
-  EXPECT_EQ(post.likeCount, 20);
-  EXPECT_EQ(post.commentCount, 4);
-  EXPECT_EQ(post.reChirpCount, 1);
-}
 
 TEST(Catalogue, EveryRowCanBeCast) {
   for (const auto& [rows, count] :

@@ -1,0 +1,18 @@
+#pragma once
+
+// The device's clock.
+
+#include <chrono>
+
+#include "core/plain_types.h"
+
+namespace tb {
+
+// The present moment.
+inline plist::Date systemClock() {
+  using namespace std::chrono;
+  constexpr sys_seconds epoch = sys_days{2001y / January / 1};  // of the dates in property lists
+  return {.seconds = duration<double>(system_clock::now() - epoch).count()};
+}
+
+}  // namespace tb

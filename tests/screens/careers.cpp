@@ -1,0 +1,420 @@
+#include "tests/screens/careers.h"
+
+#include <cmath>
+#include <format>
+
+#include "career/class_table.h"
+#include "film/markets.h"
+#include "film/networks.h"
+#include "tests/journeys/device.h"
+
+namespace tb::test {
+
+namespace {
+
+constexpr std::int64_t weeksOfAYear = 52;
+constexpr std::int64_t commission = 10;  // percent
+
+// A career that is being put together. Every figure of a title follows from its id, so that no two titles
+// show the same.
+class Career {
+ public:
+  Career(WorldState& world, std::int64_t week) : world_(world) {
+    world.myName = "Ada Quinn";
+    world.aboutDescription = "Two left feet, one good side.";
+    world.isMale = false;
+    world.birthYear = 2005;
+    world.weekNumberForTracking = week;
+    world.weekNumber = (week - 1) % weeksOfAYear + 1;
+    world.yearNumber = yearOf(week);
+    world.ageCount = world.yearNumber - world.birthYear - 3;
+    world.filmId = 500;
+    world.chirpId = 40;
+    for (std::int64_t entry = 0; entry < std::min<std::int64_t>(week, 48); ++entry) {
+      const double wave = std::sin(static_cast<double>(entry));
+      world.trackRealEstateIndex.push_back(1 + wave / 8);
+      world.saveWeeklyEarnings.push_back(std::round(static_cast<double>(week) * (40 + 90 * wave)));
+      world.activityTracker.push_back(std::format("Line {} of the log", entry));
+      if (entry < 36) world.trackFans.push_back((entry + 1) * week * 11);
+    }
+    world.activityTracker.push_front("DECEMBER 25, 2026");
+    world.totalFans = week * 1'234;
+  }
+
+  // A project of that type, `ahead` weeks before its release (after it, when negative).
+  Audition project(std::int64_t type, std::int64_t stage, std::int64_t ahead) {
+    next_ += 1;
+    constexpr std::array names = {"Feature", "Series", "Commercial", "Student Film", "Short Film"};
+    Audition work = bookedLead(next_, type, std::format("{} {}", names[index(type)], next_));
+    work.imageString = std::format("poster_{}.png", next_);
+    work.description = std::format("What {} is about.", work.title);
+    work.roleDescription = std::format("June Abara has her reasons in {}.", work.title);
+    work.genres =
+        next_ % 2 == 0 ? std::vector<std::string>{"Drama"} : std::vector<std::string>{"Western", "Comedy"};
+    work.role = next_ % 3 == 0 ? "Support" : "Lead";
+    work.isUnion = world_.isSAG;
+    work.source = "The Backstage";
+    work.writerName = "Noor Hale";
+    work.funnelStage = stage;
+    work.weekReleased = world_.weekNumberForTracking + ahead;
+    work.weekToWork = work.weekReleased - 10;
+    work.weekAudition = work.weekToWork - 4;
+    work.weekSubmitted = work.weekAudition - 3;
+    work.submittedYear = yearOf(work.weekSubmitted);
+    work.residual = 0.015;
+    work.payment = 1'000 + 370 * amount(7);
+    work.budget = 1e6 * amount(11);
+    work.rehearsalRating = amount(13);
+    work.performanceRating = amount(17);
+    work.hypeRating = amount(19);
+    if (type == filmType::commercial) {
+      work.royalty = 0;
+      work.buyout = 420;
+    }
+    return work;
+  }
+  void add(const Audition& project) { world_.saveAllAuditionList.push_back(project); }
+
+  // Wraps the project: its film, its pay and, once it is out, what the world made of it.
+  void addWrapped(const Audition& project) {
+    add(project);
+    Film film{.filmId = project.filmId,
+              .imageString = project.imageString,
+              .typeOfFilm = project.typeOfFilm,
+              .role = project.role,
+              .isPrincipal = project.isPrincipal,
+              .title = project.title,
+              .movieDescription = project.description,
+              .cast = {world_.myName},
+              .genres = project.genres,
+              .characterName = project.characterName,
+              .ageRating = "PG-13",
+              .lengthMinutes = 80 + figure(23),
+              .numberOfEpisodes = project.numberOfEpisodesActed,
+              .parentSeriesId = project.parentSeriesFilmId,
+              .directorName = project.directorName,
+              .writerName = project.writerName,
+              .yearReleased = yearOf(project.weekToWork),
+              .weekReleased = project.weekReleased,
+              .budget = project.budget,
+              .currentPopularity = project.hypeRating,
+              .lastWeekPopularity = project.hypeRating,
+              .payment = project.payment,
+              .residualRate = project.residual,
+              .royaltyRate = project.royalty,
+              .sourceId = project.sourceId,
+              .parentId = project.parentSeriesFilmId,
+              .seasonNumber = project.seasonNumber,
+              .didAct = project.didAct,
+              .equityPercentage = project.equityPercentage,
+              .equityDollarsInvested = project.equityDollarsInvested};
+    const std::int64_t age = world_.weekNumberForTracking - project.weekReleased;
+    if (project.typeOfFilm == filmType::series) {
+      const std::size_t network = static_cast<std::size_t>(next_) % networks.size();
+      film.debutNetwork = networks[network];
+      film.debutImageString = networkLogos[network];
+    }
+    if (age > 0) release(project, film, age);
+    pay(project, project.weekToWork + 1, project.payment * 0.97, project.buyout, 0);
+    world_.saveAllFilmList.push_front(std::move(film));
+  }
+
+  // Bids of two networks, the dearer of which has the title until `left` more weeks are over, if any; and a
+  // deal that ran out before.
+  void syndicate(const Audition& project, std::int64_t left, bool hadOneBefore) {
+    Syndication title{.filmId = project.filmId,
+                      .filmName = project.title,
+                      .filmType = project.typeOfFilm,
+                      .filmReleased = project.weekReleased,
+                      .networkNames = {"Metflix", "Fulu"},
+                      .networkOffers = {100'000 * figure(29), 90'000 * figure(29)},
+                      .networkYears = {2, 1},
+                      .networkImages = {"imbdMetflix.png", "imbdFulu.png"}};
+    if (left > 0) {
+      title.didAcceptOffer = true;
+      title.networkIndexWon = 0;
+      title.weeksRemaining = left;
+      title.weekStarted = world_.weekNumberForTracking + left - 2 * weeksOfAYear;
+      payShare(project, title.weekStarted, static_cast<double>(title.networkOffers[0]), "Metflix");
+      pay(project, title.weekStarted + 12, 0, 0, project.payment * project.residual);
+    }
+    if (hadOneBefore) {
+      title.networkNameSigned = {"Pear TV"};
+      title.networkOfferSigned = {77'000 * figure(31)};
+      title.networkYearSigned = {1};
+    }
+    world_.saveAllSyndication.push_back(std::move(title));
+  }
+
+  static std::int64_t yearOf(std::int64_t week) { return 2026 + (week - 1) / weeksOfAYear; }
+
+ private:
+  static std::size_t index(std::int64_t number) { return static_cast<std::size_t>(number); }
+  // 10 to 99, by the latest title and by what is asked for.
+  [[nodiscard]] std::int64_t figure(std::int64_t salt) const { return 10 + next_ * salt % 90; }
+  [[nodiscard]] double amount(std::int64_t salt) const { return static_cast<double>(figure(salt)); }
+
+  void release(const Audition& project, Film& film, std::int64_t age) {
+    film.imbdRating = 2 + amount(37) / 12.5;
+    film.numImbdRatings = 1'000 * figure(41);
+    film.imbdMetascore = figure(43);
+    film.numMetascoreRatings = figure(47);
+    film.featuredReviews = {std::format("{} is worth the ticket.", project.title)};
+    film.currentPopularity = amount(53);
+    film.lastWeekPopularity = amount(59);
+    if (project.typeOfFilm == filmType::feature) openInMarkets(project, film, age);
+    if (project.typeOfFilm == filmType::series) air(project, age);
+    if (project.typeOfFilm == filmType::commercial) pay(project, project.weekReleased + 4, 0, 0, 15);
+  }
+
+  void openInMarkets(const Audition& project, Film& film, std::int64_t age) {
+    constexpr double smallestShare = 0.03;  // no cinema elsewhere takes it
+    double gross = 0;
+    for (const Market& market : markets) {
+      if (market.share < smallestShare) continue;
+      BoxOffice takings{.filmId = project.filmId,
+                        .countryId = market.countryId,
+                        .countryName = std::string(market.name),
+                        .title = project.title,
+                        .year = yearOf(project.weekReleased),
+                        .weekNumberForTracking = project.weekReleased,
+                        .openingWeekend = project.budget * market.share * project.hypeRating / 60};
+      takings.totalGross = takings.openingWeekend;
+      for (std::int64_t week = 1; week <= std::min<std::int64_t>(age - 1, 7); ++week) {
+        takings.boxOfficeWeeklyEarnings.push_back(takings.openingWeekend / static_cast<double>(week + 1));
+        takings.weeksTracked.push_back(project.weekReleased + week);
+        takings.totalGross += takings.boxOfficeWeeklyEarnings.back();
+      }
+      gross += takings.totalGross;
+      world_.saveAllBoxOfficeList.push_back(std::move(takings));
+    }
+    if (age < 8) return;
+    film.boxOfficeGross = gross;
+    payShare(project, project.weekReleased + 8, gross, "");
+  }
+
+  void air(const Audition& project, std::int64_t age) {
+    Ratings season{.filmId = project.filmId,
+                   .parentSeriesId = project.parentSeriesFilmId,
+                   .seasonNumber = std::max<std::int64_t>(project.seasonNumber, 1),
+                   .title = project.title,
+                   .year = yearOf(project.weekReleased),
+                   .weekNumberForTracking = project.weekReleased,
+                   .adRates = 0.5 + amount(61) / 50};
+    for (std::int64_t week = 0; week < std::min(age, project.numberOfEpisodesTotal); ++week) {
+      season.premiereViews.push_back(static_cast<double>(10'000 * figure(67 + week)));
+      season.hoursWatched.push_back(5'000 * figure(71 + week));
+      season.weeksTracked.push_back(project.weekReleased + week);
+    }
+    world_.saveAllRatings.push_back(std::move(season));
+  }
+
+  void pay(const Audition& project, std::int64_t week, double session, double buyout, double residual) {
+    world_.saveAllWeeklyEarnings.push_back({.filmId = project.filmId,
+                                            .filmTitle = project.title,
+                                            .filmType = project.typeOfFilm,
+                                            .sessionEarned = session,
+                                            .buyoutEarned = buyout,
+                                            .residualsEarned = residual,
+                                            .yearNumber = yearOf(week - 1),
+                                            .weekNumberForTracking = week});
+  }
+
+  // What falls due to a holder of a stake; by syndication where there is a network.
+  void payShare(const Audition& project, std::int64_t week, double gross, const std::string& network) {
+    const std::int64_t source = network.empty() ? payoutSource::boxOffice : payoutSource::syndication;
+    if (project.royalty > 0) {
+      const double share = gross * project.royalty / 100;
+      world_.saveAllRoyaltyPayouts.push_back({.id = project.filmId + 100,
+                                              .filmId = project.filmId,
+                                              .title = project.title,
+                                              .yearNumber = yearOf(week - 1),
+                                              .weekNumberForTracking = week,
+                                              .payout = share * (100 - commission) / 100,
+                                              .typeOfPayment = source,
+                                              .agentEarnings = share * commission / 100,
+                                              .totalDealGross = gross,
+                                              .syndicationName = network});
+    }
+    if (project.equityPercentage > 0) {
+      world_.saveAllEquityPayouts.push_back({.id = project.filmId + 100,
+                                             .filmId = project.filmId,
+                                             .yearNumber = yearOf(week - 1),
+                                             .weekNumberForTracking = week,
+                                             .payOut = gross * project.equityPercentage / 100,
+                                             .typeOfPayment = source});
+    }
+  }
+
+  WorldState& world_;
+  std::int64_t next_ = 0;
+};
+
+void takeClass(WorldState& world, std::int64_t id, std::int64_t left) {
+  const JulliardClass& taken = *classWithId(id);
+  world.saveAllCompletedClasses.push_back({.classId = id,
+                                           .energyCost = 15,
+                                           .weeksTotal = 12,
+                                           .weeksRemaining = left,
+                                           .experience = static_cast<double>(taken.percentage),
+                                           .level = taken.classLevel,
+                                           .cost = 1'500,
+                                           .yearStarted = world.yearNumber});
+}
+
+void setTalent(WorldState& world, std::int64_t points) {
+  world.talentTrait1 = points;
+  world.talentTrait2 = points + 1;
+  world.talentTrait3 = points + 2;
+  world.talentTrait4 = points + 3;
+  world.talentTrait5 = points + 4;
+  world.talentTraitCost1 = points + 5;
+  world.talentTraitCost3 = points + 6;
+  world.experience = static_cast<double>(points) * 31.4;
+  world.showreelScore = points + 7;
+}
+
+void joinTheGuild(WorldState& world, std::int64_t year, double duesPaid) {
+  world.isSAG = 1;
+  world.memberSince = year;
+  world.workDuesPaidSAG = duesPaid;
+  world.saveAllWeeklyLineItems.push_back(
+      {.category = 1, .title = "Guild dues", .amount = 12, .year = year, .typeOfExpense = 1});
+}
+
+void signAgent(WorldState& world) {
+  world.agentCommission = commission / 100.0;
+  world.agentFanBonus = 1.3;
+  world.saveAllTalentAgents = {{.id = 5,
+                                .name = "Rosa Vance",
+                                .agency = "Vance & Daughters",
+                                .commissionPercentage = commission / 100.0,
+                                .negotiationBonus = 12,
+                                .rating = 70,
+                                .weekContractEnds = world.weekNumberForTracking + 60,
+                                .isSigned = 1,
+                                .totalAgentEarnings = 48'200}};
+}
+
+void speak(WorldState& world) {
+  for (const Film& film : world.saveAllFilmList) {
+    if (film.filmId % 4 != 0) continue;
+    world.saveAllQuotes.push_back({.filmId = film.filmId,
+                                   .filmName = film.title,
+                                   .character = film.characterName,
+                                   .quote = std::format("I cried twice making {}.", film.title),
+                                   .question = "What was it like?"});
+    world.saveAllMovieReviews.push_back({.title = std::format("Rival {}", film.filmId),
+                                         .review = "I have seen worse and said better of it.",
+                                         .rating = film.filmId % 10 + 1,
+                                         .weekNumber = 3,
+                                         .yearNumber = world.yearNumber,
+                                         .weekNumberForTracking = world.weekNumberForTracking - 2});
+  }
+}
+
+// One project in every state, of the type that is next.
+void addOneInEveryState(Career& career) {
+  career.add(career.project(filmType::feature, funnel::submitted, 20));
+  career.add(career.project(filmType::shortFilm, funnel::closed, 18));
+  career.add(career.project(filmType::series, funnel::invited, 16));
+  career.add(career.project(filmType::feature, funnel::invited, 9));  // turned down
+  career.add(career.project(filmType::series, funnel::booked, 14));
+  career.add(career.project(filmType::commercial, funnel::booked, 11));
+  career.addWrapped(career.project(filmType::feature, funnel::wrapped, 5));
+  career.addWrapped(career.project(filmType::feature, funnel::wrapped, 0));  // comes out this week
+  career.addWrapped(career.project(filmType::feature, funnel::wrapped, -3));
+  career.addWrapped(career.project(filmType::series, funnel::wrapped, -4));
+  career.addWrapped(career.project(filmType::commercial, funnel::wrapped, -6));
+  career.addWrapped(career.project(filmType::studentFilm, funnel::wrapped, -9));
+  career.addWrapped(career.project(filmType::shortFilm, funnel::wrapped, -12));
+}
+
+Audition ownFilm(Career& career, std::int64_t stage, std::int64_t ahead) {
+  Audition film = career.project(filmType::feature, stage, ahead);
+  film.isPrincipal = rolePart::ownProduction;
+  film.didAct = 0;
+  film.royalty = 0;
+  film.equityPercentage = 12.5;
+  film.equityDollarsInvested = 60'000;
+  return film;
+}
+
+// A first season and the next one of the same series.
+void addSeasons(Career& career, std::int64_t ahead) {
+  Audition first = career.project(filmType::series, funnel::wrapped, ahead);
+  first.seasonNumber = 1;
+  first.parentSeriesFilmId = first.filmId;
+  Audition second = career.project(filmType::series, funnel::wrapped, ahead + weeksOfAYear);
+  second.title = first.title;
+  second.seasonNumber = 2;
+  second.parentSeriesFilmId = first.filmId;
+  career.addWrapped(first);
+  career.addWrapped(second);
+}
+
+}  // namespace
+
+void beginner(WorldState& world) {
+  Career career(world, 9);
+  setTalent(world, 2);
+  world.totalCashAvailable = 812;
+  world.totalEnergyAvailable = 64;
+  world.weeklyJobTitle = "Set Runner";
+  world.weeklyJobIncome = 410;
+  world.weeklyEnergyCost = 11;
+  world.weeklyJobContractRemaining = 3;
+  world.yearToDatePaycheck = 3'280;
+  takeClass(world, 1, 4);
+  takeClass(world, 6, 0);
+  career.add(career.project(filmType::studentFilm, funnel::submitted, 17));
+  career.add(career.project(filmType::shortFilm, funnel::invited, 15));
+  career.add(career.project(filmType::commercial, funnel::closed, 12));
+}
+
+void working(WorldState& world) {
+  Career career(world, 4 * weeksOfAYear + 20);
+  setTalent(world, 34);
+  joinTheGuild(world, 2028, 4'321);
+  signAgent(world);
+  world.totalCashAvailable = 84'250;
+  world.totalEnergyAvailable = 71;
+  world.saveNetworth = 90'000;
+  world.saveLastYTDPaycheck = 5'120;
+  world.saveBribePrice = 2'000;
+  addOneInEveryState(career);
+  career.add(ownFilm(career, funnel::booked, 12));
+  for (const std::int64_t id : {1, 2, 18, 19}) takeClass(world, id, 0);
+  takeClass(world, 20, 7);
+  speak(world);
+}
+
+void star(WorldState& world) {
+  Career career(world, 29 * weeksOfAYear + 30);
+  setTalent(world, 88);
+  joinTheGuild(world, 2029, 750'300);
+  signAgent(world);
+  world.totalCashAvailable = -48'250.5;
+  world.totalEnergyMax = 85;
+  world.totalEnergyAvailable = 82;
+  world.saveAgeLoss = -35;
+  world.childEnergyCost = 4;
+  world.saveNetworth = 71'000'000;
+  world.saveBoxOffice = 2'400'000'000;
+  world.yearToDatePaycheck = 800;
+  world.saveLastYTDPaycheck = 6'400;
+  addOneInEveryState(career);
+  for (std::int64_t year = 1; year <= 8; ++year) {
+    const std::int64_t ahead = -year * weeksOfAYear;
+    Audition film = career.project(filmType::feature, funnel::wrapped, ahead - 7);
+    career.addWrapped(film);
+    if (year % 3 == 0) career.syndicate(film, year % 2 == 0 ? 31 : 0, year % 4 == 0);
+    career.addWrapped(career.project(filmType::commercial, funnel::wrapped, ahead - 16));
+    if (year % 4 == 0) career.addWrapped(ownFilm(career, funnel::wrapped, ahead - 25));
+    if (year % 5 == 0) addSeasons(career, ahead - weeksOfAYear);
+  }
+  for (std::int64_t id = 1; id <= 46; ++id) takeClass(world, id, 0);
+  speak(world);
+}
+
+}  // namespace tb::test

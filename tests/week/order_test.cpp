@@ -1,0 +1,197 @@
+// The steps of a week in their order, in a world in which each of them leaves a trace.
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "tests/memory_port.h"
+#include "week/end_week.h"
+
+namespace tb {
+namespace {
+
+// What a step leaves behind.
+struct Trace {
+  std::string step;
+  std::function<bool(const WorldState&)> isLeft;
+};
+
+// Chance that always gives the low end. At each draw it looks at the world, and notes which steps have left
+// their trace since the last look.
+class Witness : public RandomSource {
+ public:
+  std::uint64_t next() override {
+    look();
+    return 1;
+  }
+  void watch(const WorldState& world, std::vector<Trace> traces) {
+    world_ = &world;
+    awaited_ = std::move(traces);
+    seen_.clear();
+  }
+  // The steps in the order in which they were noticed, those of one look together.
+  std::vector<std::string> seen() {
+    look();
+    return seen_;
+  }
+
+ private:
+  void look() {
+    std::string noticed;
+    std::erase_if(awaited_, [&](const Trace& trace) {
+      if (!trace.isLeft(*world_)) return false;
+      noticed += (noticed.empty() ? "" : ", ") + trace.step;
+      return true;
+    });
+    if (!noticed.empty()) seen_.push_back(noticed);
+  }
+
+  const WorldState* world_ = nullptr;
+  std::vector<Trace> awaited_;
+  std::vector<std::string> seen_;
+};
+
+// The first of `markers` that each line has in it, in the order of the lines; lines without one are left out.
+template <class TextLines>
+std::vector<std::string> marked(const TextLines& lines, const std::vector<std::string>& markers) {
+  std::vector<std::string> found;
+  for (const std::string& line : lines) {
+    for (const std::string& marker : markers) {
+      if (line.contains(marker)) {
+        found.push_back(marker);
+        break;
+      }
+    }
+  }
+  return found;
+}
+
+constexpr std::int64_t now = 77;  // weekNumberForTracking, the 25th week of its year
+
+struct StepOrder : testing::Test {
+  test::MemoryPort port;
+  SaveStore store{port};
+  Witness witness;
+  Game game{.store = store, .random = witness};
+  WorldState& world = game.world;
+
+  StepOrder() {
+    world.weekNumber = 25;
+    world.yearNumber = 2027;
+    world.weekNumberForTracking = now;
+  }
+
+  void expectSeen(const std::vector<std::string>& looks) { EXPECT_EQ(witness.seen(), looks); }
+
+  void addTitle(std::int64_t id, std::int64_t type, const std::string& title, std::int64_t age) {
+    world.saveAllFilmList.push_back({.filmId = id,
+                                     .typeOfFilm = type,
+                                     .title = title,
+                                     .yearReleased = 2025,
+                                     .weekReleased = now - age,
+                                     .budget = 1e6,
+                                     .boxOfficeGross = 1,
+                                     .imbdRating = 9,
+                                     .currentPopularity = 50});
+    world.saveAllAuditionList.push_back({.filmId = id,
+                                         .typeOfFilm = type,
+                                         .isPrincipal = 1,
+                                         .title = title,
+                                         .isContinued = 0,
+                                         .weekReleased = now - age,
+                                         .funnelStage = funnel::wrapped});
+  }
+};
+
+TEST_F(StepOrder, OfTheWeekThatEnds) {
+  constexpr std::int64_t roles = 6;  // one more than are played without stress, and one of them wraps
+  for (std::int64_t id = 1; id <= roles; ++id) {
+    world.saveAllAuditionList.push_back({.filmId = id,
+                                         .isPrincipal = 1,
+                                         .title = "Wrapping",
+                                         .weekToWork = id == 1 ? now : now + 5,
+                                         .weekReleased = now + 9,
+                                         .funnelStage = funnel::booked});
+  }
+  world.weeklyJobTitle = "Set Runner";
+  world.weeklyEnergyCost = 7;
+  world.totalEnergyAvailable = 50;
+  world.weekNetIncome = 1;
+  witness.watch(
+      world,
+      {{"the week starts", [](const WorldState& state) { return state.weekNetIncome == 0; }},
+       {"auditions", [](const WorldState& state) { return state.saveAllAuditionList[0].funnelStage == 3; }},
+       {"energy", [](const WorldState& state) { return state.totalEnergyAvailable != 50; }},
+       {"job", [](const WorldState& state) { return state.weeklyJobTitle.empty(); }},
+       {"clock", [](const WorldState& state) { return state.weekNumberForTracking == now + 1; }}});
+  endWeek(game);
+  expectSeen({"the week starts", "auditions, energy, job, clock"});
+  EXPECT_EQ(world.totalEnergyAvailable, 100 - 7);  // of the job that ends, and of five roles
+}
+
+// The bid that a title waited for, its sale, its new audience; one series and one saga that are judged; a run
+// that closes, a class that ends, a first payment from Patron, and an audition that is forgotten.
+TEST_F(StepOrder, OfTheSummaryThatOpens) {
+  addTitle(1, filmType::feature, "Sold", 60);
+  addTitle(2, filmType::series, "Renewed", 11);
+  addTitle(3, filmType::feature, "Ended", 11);
+  addTitle(4, filmType::feature, "Closed", 8);
+  world.saveAllAuditionList.edit(0).isContinued = -1;
+  world.saveAllAuditionList.edit(2).franchiseId = 999;  // of which there is no next film
+  world.saveAllFilmList.edit(3).boxOfficeGross = 0;
+  world.saveAllBoxOfficeList = {{.filmId = 4, .totalGross = 5e5}};
+  world.saveAllSyndication = {{.filmId = 1,
+                               .filmName = "Sold",
+                               .networkNames = {"Fulu"},
+                               .networkOffers = {1'000},
+                               .networkYears = {1},
+                               .networkImages = {"imbdFulu.png"},
+                               .weekOfFirstOffer = now - 4}};
+  world.saveAllCompletedClasses = {{.classId = 1, .weeksRemaining = 1}};
+  for (int review = 0; review < 10; ++review) world.saveAllMovieReviews.push_back({});
+  world.saveAllAuditionList.push_back({.filmId = 5, .funnelStage = funnel::closed});
+
+  witness.watch(
+      world,
+      {{"bids", [](const WorldState& state) { return state.saveAllSyndication[0].networkNames.size() == 2; }},
+       {"deals", [](const WorldState& state) { return state.saveAllSyndication[0].didAcceptOffer; }},
+       {"talk", [](const WorldState& state) { return state.saveAllFilmList[1].currentPopularity != 50; }},
+       {"series", [](const WorldState& state) { return state.saveAllAuditionList[1].isContinued == 1; }},
+       {"saga", [](const WorldState& state) { return state.saveAllAuditionList[2].isContinued == -1; }},
+       {"box office", [](const WorldState& state) { return state.saveAllFilmList[3].boxOfficeGross == 5e5; }},
+       {"classes",
+        [](const WorldState& state) { return state.saveAllCompletedClasses[0].weeksRemaining == 0; }},
+       {"balance", [](const WorldState& state) { return !state.trackPatronEarnings.empty(); }},
+       {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
+  const WeekSummary summary = openSummary(game);
+  expectSeen({"bids", "deals", "talk", "series", "saga", "box office", "classes, balance, clean-up"});
+  EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52, 1e-9);  // the sale's two years, then the talk
+  EXPECT_EQ(marked(summary.feed, {"Sold", "Renewed", "Ended", "Drama", "Patron"}),
+            (std::vector<std::string>{"Sold", "Renewed", "Ended", "Drama", "Patron"}));
+  EXPECT_EQ(marked(world.activityTracker, {"Sold", "Renewed", "Ended", "Closed", "Drama", "Patron"}),
+            (std::vector<std::string>{"Patron", "Drama", "Closed", "Ended", "Renewed", "Sold"}));
+}
+
+// In a week without news the tip is drawn: after the balance, and before what is left.
+TEST_F(StepOrder, OfAQuietSummary) {
+  addTitle(1, filmType::studentFilm, "Out", 1);
+  world.saveAllAuditionList.push_back({.filmId = 5, .funnelStage = funnel::closed});
+  witness.watch(world, {{"release is offered", [](const WorldState& state) { return state.releaseOffered; }},
+                        {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
+  EXPECT_TRUE(openSummary(game).offersRelease);
+  expectSeen({"release is offered", "clean-up"});
+}
+
+TEST_F(StepOrder, OfTheSummaryThatCloses) {
+  witness.watch(world,
+                {{"net", [](const WorldState& state) { return !state.saveWeeklyEarnings.empty(); }},
+                 {"log", [](const WorldState& state) { return !state.activityTracker.empty(); }},
+                 {"real estate", [](const WorldState& state) { return !state.trackRealEstateIndex.empty(); }},
+                 {"cards", [](const WorldState& state) { return !state.trackCardIndex.empty(); }}});
+  closeSummary(game);
+  expectSeen({"net, log", "real estate", "cards"});
+}
+
+}  // namespace
+}  // namespace tb
