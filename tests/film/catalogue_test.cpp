@@ -2,9 +2,12 @@
 
 #include "film/catalogue.h"
 
+#include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 #include <set>
 
+#include "core/records/career.h"
 #include "tests/scripted_random.h"
 
 namespace tb {
