@@ -73,9 +73,16 @@ TEST(ReceptionPages, BeforeTheReleaseTheyWaitForIt) {
 TEST(ReceptionPages, ASeasonHasBananasOfItsOwn) {
   test::ScratchGame scratch(test::Unscripted::low);
   scratch.world.weekNumberForTracking = 20;
-  addProduction(scratch.world, 11, filmType::series, "Low Tide", 9);
-  addProduction(scratch.world, 12, filmType::series, "Low Tide", 19);  // the next season, and the first found
-  scratch.world.saveAllFilmList.edit(0).numMetascoreRatings = 4;
+  const auto season = [](std::int64_t filmId, std::int64_t weekReleased, std::int64_t reviews) {
+    return Film{.filmId = filmId,
+                .typeOfFilm = filmType::series,
+                .title = "Low Tide",
+                .weekReleased = weekReleased,
+                .numMetascoreRatings = reviews,
+                .imbdRating = 9.9,
+                .imbdMetascore = 90};
+  };
+  scratch.world.saveAllFilmList = {season(12, 19, 4), season(11, 9, 2)};  // the next season is found first
   Stage stage(scratch.game);
   const auto reviews = [&](std::int64_t filmId) {
     RottenBananaDetailViewController bananas(filmId);
