@@ -28,16 +28,19 @@ class Walk {
     text_(page.subtitle);
     for (const Tab& icon : page.icons) press(icon.label, icon.handle);
     for (const Button& close : page.close) node(close);
+    for (const StatTile& figure : page.figures)
+      text_(figure.label + ": " + figure.value + " " + figure.detail);
     nodes(page.nodes);
+    for (const Button& main : page.main) node(main);
     for (const Tab& tab : page.tabs) press(tab.label, tab.handle);
   }
 
  private:
   using Kind = Player::Usable::Kind;
 
-  void press(const std::string& label, Handle handle) {
+  void press(const std::string& label, Handle handle, const std::string& name = "") {
     text_(label);
-    if (handle != 0) use_({.label = label, .handle = handle, .kind = Kind::press});
+    if (handle != 0) use_({.label = label, .handle = handle, .kind = Kind::press, .name = name});
   }
   void nodes(const std::vector<Node>& nodes) {
     for (const Node& each : nodes) std::visit([this](const auto& kind) { this->node(kind); }, each.node);
@@ -54,9 +57,10 @@ class Walk {
   }
   void node(const Stars& stars) { text_(stars.label); }
   void node(const Button& button) {
-    press(button.label, button.handle);
+    press(button.label, button.handle, button.name);
     text_(button.price);
     text_(button.offReason);
+    text_(button.refusal);
   }
   void node(const Buttons& buttons) {
     for (const Button& button : buttons.buttons) node(button);
@@ -65,6 +69,7 @@ class Walk {
     press(row.label, row.handle);
     text_(row.value);
     text_(row.detail);
+    for (const Button& action : row.action) node(action);
   }
   void node(const Headline& headline) {
     text_(headline.stamp);
@@ -162,9 +167,15 @@ std::string Player::notice() const {
   return dialog.empty() ? "" : dialog.front().title;
 }
 
+std::string Player::said() const {
+  const auto& passing = app_.view().passing;
+  return passing.empty() ? "" : passing.front().text;
+}
+
 Handle Player::find(const std::string& label, Usable::Kind kind) const {
   for (const Usable& usable : this->usable()) {
-    if (usable.label == label && usable.kind == kind) return usable.handle;
+    const bool is_called_so = usable.label == label || usable.name == label;
+    if (is_called_so && usable.kind == kind) return usable.handle;
   }
   ADD_FAILURE() << "nothing to use is called " << label << " on " << title();
   return 0;

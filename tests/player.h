@@ -16,8 +16,8 @@ class Player {
  public:
   explicit Player(App& app) : app_(app) {}
 
-  // Uses the button, row, card, option, tab or icon with this label. Fails the test when there is none, or
-  // when it is off.
+  // Uses the button, row, card, option, tab or icon with this label, or with this name for a screen reader.
+  // Fails the test when there is none, or when it is off.
   void press(const std::string& label);
   void follow(std::initializer_list<std::string> labels);  // one after the other
   // Writes into the field, or moves the slider, with this label.
@@ -33,6 +33,8 @@ class Player {
   void expectSees(std::initializer_list<std::string> texts) const;
   // The title of the notice over the page; empty when there is none.
   [[nodiscard]] std::string notice() const;
+  // The passing line of what was done just now; empty when there is none.
+  [[nodiscard]] std::string said() const;
   // That notice is over the page, and is answered with OK.
   void expectTold(const std::string& title);
 
@@ -43,6 +45,7 @@ class Player {
     enum class Kind : std::uint8_t { press, type, slide } kind;
     double minimum = 0;
     double maximum = 0;
+    std::string name = {};  // for a screen reader, where it is not the label
   };
   [[nodiscard]] std::vector<Usable> usable() const;
 

@@ -29,6 +29,7 @@ class Device {
   void launch();
 
   [[nodiscard]] Player& player() { return running_->player; }
+  [[nodiscard]] App& app() { return running_->app; }
   [[nodiscard]] const WorldState& world() const { return running_->app.game().world; }
   [[nodiscard]] const Audition& project(std::size_t index = 0) const {
     return world().saveAllAuditionList[index];

@@ -82,11 +82,15 @@ TEST_F(Week, TheRefillTakesEveryDrainAndKeepsASurplus) {
   world.childEnergyCost = 7;
   world.platformEnergyCost = 20;
   world.saveAllCompletedClasses = {{.energyCost = 15, .weeksRemaining = 1}, {.energyCost = 99}};
+  world.weekNumberForTracking = 5;
   for (int role = 0; role < 6; ++role) {
-    world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = 1 + role % 2});
+    world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = 1 + role % 2, .weekAudition = 6});
   }
   world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = 3});
-  EXPECT_EQ(weeklyEnergyDrain(world), 10 + 7 + 20 + 15 + 1);
+  // Auditions that are over take nothing, nor do those of the week that is ending.
+  world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = 1, .weekAudition = 4});
+  world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = 1, .weekAudition = 5});
+  EXPECT_EQ(weeklyEnergyDrain(world, 6), 10 + 7 + 20 + 15 + 1);
   refillEnergy(game);
   EXPECT_EQ(world.totalEnergyAvailable, 100 - 53);
   world.totalEnergyAvailable = 130;
