@@ -66,8 +66,10 @@ class Walk {
     text_(page.subtitle);
     for (const Tab& icon : page.icons) node(icon);
     for (const Button& close : page.close) node(close);
+    for (const StatTile& figure : page.figures) text_(figure.label + ": " + joined({figure.value, figure.detail}));
     on_page_ = true;
     nodes(page.nodes);
+    for (const Button& main : page.main) node(main);
     on_page_ = false;
     for (const Tab& tab : page.tabs) node(tab);
   }
@@ -82,8 +84,8 @@ class Walk {
     usable.likeness = likeness_;
     use_(usable);
   }
-  void press(const std::string& label, Handle handle) {
-    use({.label = label, .handle = handle, .kind = Kind::press});
+  void press(const std::string& label, Handle handle, const std::string& name = "") {
+    use({.label = label, .handle = handle, .kind = Kind::press, .name = name});
   }
   void nodes(const std::vector<Node>& nodes) {
     for (const Node& each : nodes) std::visit([this](const auto& kind) { this->node(kind); }, each.node);
@@ -124,8 +126,9 @@ class Walk {
     text_(std::format("{}: {} of {} stars", stars.label, stars.value, stars.outOf));
   }
   void node(const Button& button) {
-    text_(joined({"[" + button.label + "]", button.price, button.offReason}) + weightMark(button.weight));
-    press(button.label, button.handle);
+    text_(joined({"[" + button.label + "]", button.price, button.offReason, button.refusal}) +
+          weightMark(button.weight));
+    press(button.label, button.handle, button.name);
   }
   void node(const Buttons& buttons) {
     for (const Button& button : buttons.buttons) node(button);
@@ -135,6 +138,7 @@ class Walk {
     text_(joined({label, row.value, row.detail}) + toneMark(row.tone));
     for (const Picture& picture : row.picture) node(picture);
     press(row.label, row.handle);
+    for (const Button& action : row.action) node(action);
   }
   void node(const Headline& headline) {
     const std::string text = headline.press ? "[" + headline.text + "]" : headline.text;
@@ -308,9 +312,15 @@ std::string Player::notice() const {
   return dialog.empty() ? "" : dialog.front().title;
 }
 
+std::string Player::said() const {
+  const auto& passing = app_.view().passing;
+  return passing.empty() ? "" : passing.front().text;
+}
+
 Player::Usable Player::find(const std::string& label, Usable::Kind kind) const {
   for (const Usable& usable : this->usable()) {
-    if (usable.label == label && usable.kind == kind) return usable;
+    const bool is_called_so = usable.label == label || usable.name == label;
+    if (is_called_so && usable.kind == kind) return usable;
   }
   ADD_FAILURE() << "nothing to use is called " << label << " on " << title();
   return {.label = label, .handle = 0, .kind = kind};

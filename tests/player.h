@@ -20,8 +20,8 @@ class Player {
  public:
   explicit Player(App& app);
 
-  // Uses the button, row, card, option, tab or icon with this label. Fails the test when there is none, or
-  // when it is off.
+  // Uses the button, row, card, option, tab or icon with this label, or with this name for a screen reader.
+  // Fails the test when there is none, or when it is off.
   void press(const std::string& label);
   void follow(std::initializer_list<std::string> labels);  // one after the other
   // Writes into the field, or moves the slider, with this label.
@@ -38,6 +38,8 @@ class Player {
   void expectSees(std::initializer_list<std::string> texts) const;
   // The title of the notice over the page; empty when there is none.
   [[nodiscard]] std::string notice() const;
+  // The passing line of what was done just now; empty when there is none.
+  [[nodiscard]] std::string said() const;
   // That notice is over the page, and is answered with OK.
   void expectTold(const std::string& title);
 
@@ -51,6 +53,7 @@ class Player {
     bool onPage = false;   // false: a tab, an icon, a way back or an answer, which stand around the page
     int item = 0;          // the card or list item that it stands in, from 1
     std::string likeness;  // the same for items that differ in names and figures only; empty outside items
+    std::string name = {};  // for a screen reader, where it is not the label
   };
   [[nodiscard]] std::vector<Usable> usable() const;
 

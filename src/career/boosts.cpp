@@ -50,13 +50,16 @@ std::optional<Boost> boostOf(const WorldState& world, const Audition& project) {
   return std::nullopt;
 }
 
+Refusal boostRefusal(const WorldState& world, const Boost& boost) {
+  if (world.totalEnergyAvailable >= boost.energyPrice) return {};
+  return notEnoughEnergy("\nYou don't have the energy for this right now.");
+}
+
 Refusal buyBoost(Game& game, std::size_t auditionIndex) {
   WorldState& world = game.world;
   const auto boost = boostOf(world, world.saveAllAuditionList[auditionIndex]);
   if (!boost) return {};
-  if (world.totalEnergyAvailable < boost->energyPrice) {
-    return notEnoughEnergy("\nYou don't have the energy for this right now.");
-  }
+  if (Refusal refusal = boostRefusal(world, *boost)) return refusal;
 
   world.totalEnergyAvailable -= boost->energyPrice;
   Audition& project = world.saveAllAuditionList.edit(auditionIndex);

@@ -32,14 +32,16 @@ bool isBribeOffered(const Audition& project) {
   return project.funnelStage == funnel::submitted && project.didBribe == 0;
 }
 
+Refusal bribeRefusal(const WorldState& world) {
+  if (world.totalCashAvailable >= static_cast<double>(world.saveBribePrice)) return {};
+  return notEnoughCash("You don't have enough cash to bribe the Casting Director.");
+}
+
 Notice bribeCastingDirector(Game& game, std::size_t auditionIndex) {
   WorldState& world = game.world;
-  const double price = static_cast<double>(world.saveBribePrice);
-  if (world.totalCashAvailable < price) {
-    return notEnoughCash("You don't have enough cash to bribe the Casting Director.");
-  }
+  if (Refusal refusal = bribeRefusal(world)) return *std::move(refusal);
 
-  world.totalCashAvailable -= price;
+  world.totalCashAvailable -= static_cast<double>(world.saveBribePrice);
   world.saveBribePrice *= 2;
   const std::int64_t strength = RandomRange(game.random, strengths);
   world.saveAllAuditionList.edit(auditionIndex).didBribe = strength + weakestBribe;

@@ -11,6 +11,9 @@ namespace tb {
 // Whether a project can be bribed for: while the submission waits, and once.
 [[nodiscard]] bool isBribeOffered(const Audition& project);
 
+// Why the performer cannot bribe anybody now: the cash is missing.
+[[nodiscard]] Refusal bribeRefusal(const WorldState& world);
+
 // Bribes for the project at `auditionIndex`, which must offer it. Costs `saveBribePrice` in cash and doubles
 // it for the rest of the career; the strength is drawn, 10 to 99. Answers what it did, or that the cash is
 // missing. Writes the cash, the price and the list.

@@ -26,10 +26,6 @@ constexpr int mostDraws = 100;             // the draw of options gives up after
 constexpr std::int64_t shortestClass = 4;  // weeks
 constexpr std::int64_t longestClass = 8;
 
-bool isTaken(const WorldState& world, std::int64_t id) {
-  return std::ranges::contains(world.saveAllCompletedClasses, id, &ActingClass::classId);
-}
-
 std::vector<const JulliardClass*> classesOfLevel(std::int64_t level) {
   std::vector<const JulliardClass*> pool;
   for (const JulliardClass& row : julliardClasses) {
@@ -48,6 +44,10 @@ ClassOption priced(RandomSource& random, const JulliardClass& row) {
 }
 
 }  // namespace
+
+bool isTaken(const WorldState& world, std::int64_t classId) {
+  return std::ranges::contains(world.saveAllCompletedClasses, classId, &ActingClass::classId);
+}
 
 std::int64_t classEnergy(const WorldState& world) {
   std::int64_t energy = 0;
@@ -80,11 +80,11 @@ std::vector<ClassOption> openClasses(Game& game) {
   return options;
 }
 
-Refusal signUpForClass(Game& game, const ClassOption& option) {
-  WorldState& world = game.world;
+Refusal classRefusal(const WorldState& world, const ClassOption& option) {
   if (isTaken(world, option.offered->id)) {
     return Notice{.title = "🎭 Already Signed Up 🎭",
-                  .message = "You have already signed up or completed this class."};
+                  .message = "You have already signed up or completed this class.",
+                  .brief = "Signed up"};
   }
   // What the running classes take is asked, not what the new one will: one class too many can be begun.
   if (classEnergy(world) > world.totalEnergyMax - world.weeklyEnergyCost) {
@@ -92,11 +92,18 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
         .title = "⚡️ Not Enough Weekly Energy ⚡️",
         .message = std::format("You do not have enough energy each week to sign up for this class. You "
                                "are currently losing -{} energy each week.",
-                               classEnergy(world) + world.weeklyEnergyCost)};
+                               classEnergy(world) + world.weeklyEnergyCost),
+        .brief = "Too little weekly energy"};
   }
   if (world.totalCashAvailable < option.cost) {
     return notEnoughCash("You do not have enough cash for the is class.");
   }
+  return {};
+}
+
+Refusal signUpForClass(Game& game, const ClassOption& option) {
+  WorldState& world = game.world;
+  if (Refusal refusal = classRefusal(world, option)) return refusal;
 
   world.totalCashAvailable -= option.cost;
   world.saveAllCompletedClasses.push_back({.classId = option.offered->id,

@@ -23,6 +23,9 @@ struct ClassOption {
 // The level that is open to the performer, 1 to 4, by the number of classes taken.
 [[nodiscard]] std::int64_t classTier(const WorldState& world);
 
+// Whether the performer has signed up for the class, now or ever.
+[[nodiscard]] bool isTaken(const WorldState& world, std::int64_t classId);
+
 // The part of the curriculum that was taken, 0 to 1.
 [[nodiscard]] double completionPercentage(const WorldState& world);
 
@@ -33,8 +36,11 @@ struct ClassOption {
 // fewer are left.
 [[nodiscard]] std::vector<ClassOption> openClasses(Game& game);
 
-// Signs up for an option: pays for it, adds the class, logs it. Refuses a class taken already, when the
-// running classes take more energy than the job leaves, and without the cash. Writes cash, classes and log.
+// Why the performer cannot sign up now: the class was taken already, the running classes take more energy
+// than the job leaves, or the cash is missing.
+[[nodiscard]] Refusal classRefusal(const WorldState& world, const ClassOption& option);
+
+// Signs up for an option, or refuses: pays for it, adds the class, logs it. Writes cash, classes and log.
 Refusal signUpForClass(Game& game, const ClassOption& option);
 
 // A week of every running class. One that ends is told of and gives its experience. Writes the classes, and

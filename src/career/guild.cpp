@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/house_notices.h"
+
 namespace tb {
 
 std::int64_t guildEligibility(const WorldState& world) {
@@ -10,15 +12,24 @@ std::int64_t guildEligibility(const WorldState& world) {
   });
 }
 
+Refusal guildRefusal(const WorldState& world) {
+  if (guildEligibility(world) < rolesForEligibility) {
+    return Notice{.title = "❌ Not Eligible ❌",
+                  .message = "\nYou have not met the terms of eligibilty.",
+                  .brief = "Two booked principal roles needed"};
+  }
+  if (world.totalCashAvailable < guildInitiationFee) {
+    return Notice{.title = "💰 Not Enough Cash! 💰",
+                  .message = "\nYou do not have cash to join.",
+                  .brief = tooLittleCash};
+  }
+  return {};
+}
+
 Refusal joinGuild(Game& game) {
   WorldState& world = game.world;
   if (world.isSAG == 1) return {};
-  if (guildEligibility(world) < rolesForEligibility) {
-    return Notice{.title = "❌ Not Eligible ❌", .message = "\nYou have not met the terms of eligibilty."};
-  }
-  if (world.totalCashAvailable < guildInitiationFee) {
-    return Notice{.title = "💰 Not Enough Cash! 💰", .message = "\nYou do not have cash to join."};
-  }
+  if (Refusal refusal = guildRefusal(world)) return refusal;
 
   world.totalCashAvailable -= guildInitiationFee;
   world.isSAG = 1;

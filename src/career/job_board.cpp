@@ -73,14 +73,18 @@ std::vector<JobOffer> openJobBoard(Game& game) {
   return board;
 }
 
+Refusal jobRefusal(const WorldState& world) {
+  if (world.weeklyJobContractRemaining < 1) return {};
+  return Notice{
+      .title = "⏳ Contract Signed ⏳",
+      .message = std::format("\nYou already have an existing contract in place for {} more week(s).",
+                             world.weeklyJobContractRemaining),
+      .brief = "You are under contract"};
+}
+
 Refusal acceptJob(Game& game, const JobOffer& offer) {
   WorldState& world = game.world;
-  if (world.weeklyJobContractRemaining >= 1) {
-    return Notice{
-        .title = "⏳ Contract Signed ⏳",
-        .message = std::format("\nYou already have an existing contract in place for {} more week(s).",
-                               world.weeklyJobContractRemaining)};
-  }
+  if (Refusal refusal = jobRefusal(world)) return refusal;
   world.weeklyJobTitle = offer.job.jobTitle;
   world.weeklyJobIncome = offer.job.jobPay;
   world.weeklyEnergyCost = offer.job.energyCost;

@@ -29,6 +29,9 @@ struct JobOffer {
 // Draws today's board: none to five jobs. One job can stand there twice, on terms of its own.
 [[nodiscard]] std::vector<JobOffer> openJobBoard(Game& game);
 
+// Why no job can be taken now: a contract runs.
+[[nodiscard]] Refusal jobRefusal(const WorldState& world);
+
 // Takes a job. Refuses while a contract runs; asks for no energy, so a job can take more than the week has.
 // Writes the job's variables and the log.
 Refusal acceptJob(Game& game, const JobOffer& offer);

@@ -113,12 +113,14 @@ std::int64_t negotiationBonus(const WorldState& world) {
   return agent == nullptr ? 0 : agent->negotiationBonus;
 }
 
+Refusal stakeRefusal(const WorldState& world) {
+  if (world.totalEnergyAvailable >= stakeNegotiationEnergy) return {};
+  return notEnoughEnergy("\nYou don't have enough energy for intensive negotiations.");
+}
+
 StakeAnswer negotiateStake(Game& game, std::int64_t emailId, std::int64_t steps) {
   WorldState& world = game.world;
-  if (world.totalEnergyAvailable < stakeNegotiationEnergy) {
-    return {.notice = notEnoughEnergy("\nYou don't have enough energy for intensive negotiations."),
-            .isFinal = false};
-  }
+  if (Refusal refusal = stakeRefusal(world)) return {.notice = *std::move(refusal), .isFinal = false};
   const Audition offer = *stakeOffer(world, emailId);
   world.totalEnergyAvailable -= stakeNegotiationEnergy;
   const bool agreed =

@@ -35,6 +35,9 @@ struct StakeAnswer {
   bool isFinal;  // the e-mail is answered, one way or the other
 };
 
+// Why nothing can be negotiated now: the energy is missing.
+[[nodiscard]] Refusal stakeRefusal(const WorldState& world);
+
 // Asks for that percent, once. On success the role is booked without fee, buyout or residual, to be shot in
 // the weeks that come. Without the energy nothing happens. The e-mail has to be on offer. Writes the energy,
 // the e-mails and, on success, `filmId`, the list and the log.

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <format>
+#include <functional>
+#include <numeric>
 
 #include "banks/draw.h"
+#include "core/house_notices.h"
 #include "core/log.h"
 #include "core/number_style.h"
 #include "core/talent_scores.h"
@@ -16,11 +19,17 @@ namespace {
 // same for one scene, which is why short reels rate low, and why the strongest actors pass 100.
 constexpr double pointsOfAPerfectReel = 425;
 
-std::int64_t reelScore(Game& game, std::int64_t scenes, double worstCut) {
-  constexpr double bestCut = 25;
-  const double cut = RandomUnit(game.random, worstCut, bestCut);
-  const double points = static_cast<double>(scenes + overallTalent(game.world)) + cut;
+constexpr double worstCutOfFootage = 10;
+constexpr double worstCutOfScenes = 0;
+constexpr double bestCut = 25;
+
+std::int64_t scoreOfReel(const WorldState& world, std::int64_t scenes, double cut) {
+  const double points = static_cast<double>(scenes + overallTalent(world)) + cut;
   return static_cast<std::int64_t>(points / pointsOfAPerfectReel * 100);
+}
+
+std::int64_t reelScore(Game& game, std::int64_t scenes, double worstCut) {
+  return scoreOfReel(game.world, scenes, RandomUnit(game.random, worstCut, bestCut));
 }
 
 std::int64_t footageSum(const WorldState& world, std::span<const std::int64_t> filmIds) {
@@ -35,10 +44,7 @@ std::int64_t footageSum(const WorldState& world, std::span<const std::int64_t> f
 std::int64_t shootScene(Game& game) { return static_cast<std::int64_t>(sceneRoll(game, talentRoll(game))); }
 
 Refusal payFor(Game& game, double cost) {
-  if (game.world.totalCashAvailable < cost) {
-    return Notice{.title = "💰 Not Enough Cash! 💰",
-                  .message = "\nYou don't have enough cash to pay for a new showreel."};
-  }
+  if (Refusal refusal = reelRefusal(game.world, cost)) return refusal;
   game.world.totalCashAvailable -= cost;
   return {};
 }
@@ -92,8 +98,25 @@ Refusal chooseFootage(std::vector<std::int64_t>& filmIds, std::int64_t filmId) {
 }
 
 std::int64_t previewFootageReel(Game& game, std::span<const std::int64_t> filmIds) {
-  constexpr double worstCutOfFootage = 10;
   return reelScore(game, footageSum(game.world, filmIds), worstCutOfFootage);
+}
+
+std::int64_t likelyFootageScore(const WorldState& world) {
+  std::vector<std::int64_t> scores;
+  for (const std::size_t index : allPerformanceFootage(world)) {
+    scores.push_back(static_cast<std::int64_t>(world.saveAllAuditionList[index].performanceRating));
+  }
+  if (scores.empty()) return 0;
+  std::ranges::sort(scores, std::greater{});
+  scores.resize(std::min(scores.size(), mostFootage));
+  return scoreOfReel(world, std::reduce(scores.begin(), scores.end()), (worstCutOfFootage + bestCut) / 2);
+}
+
+Refusal reelRefusal(const WorldState& world, double cost) {
+  if (world.totalCashAvailable >= cost) return {};
+  return Notice{.title = "💰 Not Enough Cash! 💰",
+                .message = "\nYou don't have enough cash to pay for a new showreel.",
+                .brief = tooLittleCash};
 }
 
 Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t tempScore) {
@@ -131,7 +154,6 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
   world.existingFootageScore = static_cast<double>(sum);
   if (!footageFilmIds.empty()) sum = footageSum(world, footageFilmIds);
 
-  constexpr double worstCutOfScenes = 0;
   world.showreelScore = reelScore(game, sum, worstCutOfScenes);
   logActivity(world,
               fill(tellRow(game, Bank::showreelScene), {{"amount", currency(game.locale, package.cost, 0)},

@@ -51,6 +51,12 @@ Refusal chooseFootage(std::vector<std::int64_t>& filmIds, std::int64_t filmId);
 // out differently.
 [[nodiscard]] std::int64_t previewFootageReel(Game& game, std::span<const std::int64_t> filmIds);
 
+// The score that a reel of the best footage would come out with, by an average cut; 0 without any footage.
+[[nodiscard]] std::int64_t likelyFootageScore(const WorldState& world);
+
+// Why a reel of that price, in dollars, cannot be paid for now.
+[[nodiscard]] Refusal reelRefusal(const WorldState& world, double cost);
+
 // Pays for the reel that was previewed at `tempScore` and takes that score. Refuses without a choice or
 // without the cash. Writes cash, score and log.
 Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t tempScore);

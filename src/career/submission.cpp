@@ -5,6 +5,7 @@
 #include "banks/draw.h"
 #include "career/project_start.h"
 #include "core/audition_list.h"
+#include "core/house_notices.h"
 #include "core/log.h"
 
 namespace tb {
@@ -17,12 +18,14 @@ Refusal guildObjects(const WorldState& world, const CastingListing& listing) {
   if (listing.isUnion == 0) {
     return Notice{
         .title = "🎞 Actor's Guild 🎞",
-        .message = "\nAs a member of the Actor's Guild, you are not permitted to work non-union roles."};
+        .message = "\nAs a member of the Actor's Guild, you are not permitted to work non-union roles.",
+        .brief = "Non-union: closed to members"};
   }
   return Notice{.title = "🎞 Actor's Guild 🎞",
                 .message =
                     "\nBecome a member of the Actor's Guild to gain access to better pay, residuals, "
-                    "royalties and feature films. It takes in performers with two booked principal roles."};
+                    "royalties and feature films. It takes in performers with two booked principal roles.",
+                .brief = "Union members only"};
 }
 
 Audition submittedRecord(Game& game, const CastingListing& listing) {
@@ -34,17 +37,24 @@ Audition submittedRecord(Game& game, const CastingListing& listing) {
 
 }  // namespace
 
-Refusal submitToCastingListing(Game& game, const CastingListing& listing) {
-  WorldState& world = game.world;
+Refusal submissionRefusal(const WorldState& world, const CastingListing& listing) {
   if (auditionIndex(world, listing.filmId)) {
     return Notice{.title = "🎭 SUBMITTED! 🎭",
-                  .message = "\nYou already submitted for this role. Choose another one."};
+                  .message = "\nYou already submitted for this role. Choose another one.",
+                  .brief = "Submitted"};
   }
   if (Refusal refusal = guildObjects(world, listing)) return refusal;
   if (world.totalEnergyAvailable < submissionEnergy) {
     return Notice{.title = "⚡️ Not Enough Energy! ⚡️",
-                  .message = "\nYou don't have the energy to submit for this role."};
+                  .message = "\nYou don't have the energy to submit for this role.",
+                  .brief = tooLittleEnergy};
   }
+  return {};
+}
+
+Refusal submitToCastingListing(Game& game, const CastingListing& listing) {
+  WorldState& world = game.world;
+  if (Refusal refusal = submissionRefusal(world, listing)) return refusal;
 
   world.totalEnergyAvailable -= submissionEnergy;
   world.filmId = std::max(world.filmId, listing.filmId);  // listings are answered in any order; it only rises

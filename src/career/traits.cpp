@@ -26,14 +26,17 @@ std::int64_t nextValue(const WorldState& world, const Trait& trait) {
   return std::min(world.*trait.price / trait.pricePerPoint, highestTrait);
 }
 
+Refusal traitRefusal(const WorldState& world, const Trait& trait) {
+  if (world.totalEnergyAvailable >= world.*trait.price) return {};
+  return notEnoughEnergy(std::format("You need {} energy to work on this trait and have {} left this week.",
+                                     world.*trait.price, world.totalEnergyAvailable));
+}
+
 Refusal buyTrait(Game& game, int k) {
   WorldState& world = game.world;
   const Trait& trait = traits[static_cast<std::size_t>(k - 1)];
   if (world.*trait.points >= highestTrait) return {};
-  if (world.totalEnergyAvailable < world.*trait.price) {
-    return notEnoughEnergy(std::format("You need {} energy to work on this trait and have {} left this week.",
-                                       world.*trait.price, world.totalEnergyAvailable));
-  }
+  if (Refusal refusal = traitRefusal(world, trait)) return refusal;
 
   world.*trait.points = nextValue(world, trait);
   world.totalEnergyAvailable -= world.*trait.price;

@@ -26,6 +26,9 @@ inline constexpr std::int64_t highestTrait = 100;
 // The value that the next purchase gives: 1 to 100.
 [[nodiscard]] std::int64_t nextValue(const WorldState& world, const Trait& trait);
 
+// Why the next point cannot be bought now: the energy is missing.
+[[nodiscard]] Refusal traitRefusal(const WorldState& world, const Trait& trait);
+
 // Buys trait k (1 to 5) for energy. Does nothing from 100 on; refuses without the energy. A trait that chance
 // raised above its price falls back to it. Writes the energy, the trait and its next price.
 Refusal buyTrait(Game& game, int k);

@@ -9,7 +9,10 @@ namespace tb {
 struct Notice {
   std::string title;
   std::string message;
-  bool operator==(const Notice&) const = default;
+  // Of a refusal: the reason in a few words, for the button that would run into it. The notice is the same
+  // with or without it.
+  std::string brief = {};
+  bool operator==(const Notice& other) const { return title == other.title && message == other.message; }
 };
 
 // What a rule of the player's answers: nothing when it was done, else the notice that tells why not.

@@ -31,10 +31,13 @@ void rateFilm(Game& game, std::size_t filmIndex, std::int64_t stars) {
   game.world.saveAllFilmList.edit(filmIndex).myRating = static_cast<double>(stars);
 }
 
+Refusal reviewRefusal(const WorldState& world) {
+  if (world.totalEnergyAvailable >= reviewEnergy) return {};
+  return notEnoughEnergy("\nYou don't have the energy to review a title right now.");
+}
+
 Refusal startReview(Game& game) {
-  if (game.world.totalEnergyAvailable < reviewEnergy) {
-    return notEnoughEnergy("\nYou don't have the energy to review a title right now.");
-  }
+  if (Refusal refusal = reviewRefusal(game.world)) return refusal;
   game.world.totalEnergyAvailable -= reviewEnergy;
   return {};
 }

@@ -19,6 +19,9 @@ inline constexpr std::int64_t mostStars = 10;
 // stars. Writes `saveAllFilmList`.
 void rateFilm(Game& game, std::size_t filmIndex, std::int64_t stars);
 
+// Why no review can be begun now: the energy is missing.
+[[nodiscard]] Refusal reviewRefusal(const WorldState& world);
+
 // Takes the energy for a review, before its title is known; refuses without it. Writes
 // `totalEnergyAvailable`.
 [[nodiscard]] Refusal startReview(Game& game);

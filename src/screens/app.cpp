@@ -25,16 +25,24 @@ App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<
 const view::Page& App::view() {
   if (!laid_out_) {
     view::Page page = stage_.top().view(game_);
-    page.screen = stage_.topNumber();
-    const std::string close = stage_.top().closeLabel();
-    if (!close.empty() && stage_.depth() > 1) {
-      page.close.push_back({.label = close, .press = [](Stage& stage) { stage.close(); }});
-    }
-    page.moment = stage_.moment();
-    if (!stage_.dialogs().empty()) page.dialog.push_back(stage_.dialogs().front());
+    addFrame(page);
     laid_out_ = layOut(std::move(page), stage_);
   }
   return laid_out_->page;
+}
+
+// What no screen says of itself.
+void App::addFrame(view::Page& page) {
+  page.screen = stage_.topNumber();
+  page.passing = stage_.passing();
+  page.moment = stage_.moment();
+  if (!stage_.dialogs().empty()) page.dialog.push_back(stage_.dialogs().front());
+  if (stage_.depth() < 2) return;
+  const std::string close = stage_.top().closeLabel();
+  if (!close.empty()) {
+    page.close.push_back({.label = close, .press = [](Stage& stage) { stage.leave(); }});
+  }
+  stage_.first().addFrame(game_, stage_.tabsHere(), page);
 }
 
 template <class Kind, class... Values>
@@ -43,7 +51,7 @@ void App::use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&.
   if (handle < 1 || static_cast<std::size_t>(handle) > laid_out_->uses.size()) return;
   const Kind operation = laid_out_->uses[static_cast<std::size_t>(handle) - 1].*kind;
   if (!operation) return;
-  stage_.endMoment();
+  stage_.begin();
   operation(stage_, values...);
   endAction();
 }
@@ -59,7 +67,11 @@ void App::tick(double seconds) {
 
 void App::back() {
   const auto& close = view().close;
-  if (!close.empty()) press(close.front().handle);
+  if (!close.empty()) return press(close.front().handle);
+  if (!stage_.dialogs().empty()) return;
+  stage_.begin();
+  stage_.top().goBack(stage_);
+  endAction();
 }
 
 void App::savingFailed(const std::string& why) {

@@ -33,7 +33,7 @@ class App {
   // `seconds` of the player's time went by (0 and up).
   void tick(double seconds);
 
-  // Leaves the screen on top, where it can be left.
+  // Leaves the screen on top, where it can be left; on a tab of the hub, goes to the first one.
   void back();
 
   // The platform could not keep what was committed: tells the player, once until saving works again.
@@ -47,6 +47,7 @@ class App {
  private:
   template <class Kind, class... Values>
   void use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&... values);
+  void addFrame(view::Page& page);
   void saveAndRefresh();
   void endAction();
 

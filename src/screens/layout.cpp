@@ -46,7 +46,8 @@ class Layout {
     for (Tab& icon : page.icons) icon.handle = pressable(icon.press);
     for (Button& close : page.close) visit(close);
     for (Node& node : page.nodes) visit(node);
-    for (Tab& tab : page.tabs) tab.handle = pressable(tab.press);
+    for (Button& main : page.main) visit(main);
+    for (Tab& tab : page.tabs) tab.handle = tab.isOff ? 0 : pressable(tab.press);
   }
 
  private:
@@ -69,7 +70,10 @@ class Layout {
   void visit(Buttons& buttons) {
     for (Button& button : buttons.buttons) visit(button);
   }
-  void visit(Row& row) { row.handle = pressable(row.press); }
+  void visit(Row& row) {
+    row.handle = pressable(row.press);
+    for (Button& action : row.action) visit(action);
+  }
   void visit(Headline& headline) { headline.handle = pressable(headline.press); }
   void visit(Fold& fold) {
     fold.isOpen = stage_.isFoldOpen(fold.key);

@@ -27,6 +27,18 @@ Meter energyMeter(const WorldState& world) {
           .text = std::format("{} of {}", world.totalEnergyAvailable, world.totalEnergyMax)};
 }
 
+std::vector<StatTile> headFigures(const Game& game) {
+  const WorldState& world = game.world;
+  return {{.label = "Cash",
+           .value = cash(game.locale, world.totalCashAvailable),
+           .tone = world.totalCashAvailable < 0 ? Tone::warning : Tone::plain},
+          {.label = "Energy",
+           .value = energyPrice(world.totalEnergyAvailable),
+           .detail = std::format("of {}", world.totalEnergyMax)}};
+}
+
+std::string briefOf(const Refusal& refusal) { return refusal ? refusal->brief : ""; }
+
 std::string energyPrice(std::int64_t energy) { return std::format("⚡️ {}", energy); }
 
 Meter scoreMeter(std::string label, std::int64_t score) {

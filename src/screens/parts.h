@@ -34,6 +34,12 @@ template <class Opened>
 // The energy that is left of the week.
 [[nodiscard]] view::Meter energyMeter(const WorldState& world);
 
+// The two figures that every screen has in view: cash, and the energy left of the week.
+[[nodiscard]] std::vector<view::StatTile> headFigures(const Game& game);
+
+// Why the button would refuse, in a few words; empty when it would not.
+[[nodiscard]] std::string briefOf(const Refusal& refusal);
+
 // "⚡️ 12", as prices in energy are written.
 [[nodiscard]] std::string energyPrice(std::int64_t energy);
 

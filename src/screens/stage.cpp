@@ -1,5 +1,9 @@
 #include "screens/stage.h"
 
+
+#include <algorithm>
+#include <utility>
+
 namespace tb {
 
 void Stage::open(std::unique_ptr<Screen> screen) {
@@ -14,6 +18,31 @@ void Stage::close() {
   left_.push_back(std::move(screens_.back().screen));
   screens_.pop_back();
   screens_.back().appeared = false;
+}
+
+void Stage::leave() { leaveTo(std::max<std::size_t>(screens_.size(), 2) - 1, {}); }
+
+void Stage::leaveToFirst(Operation then) { leaveTo(1, then); }
+
+void Stage::leaveTo(std::size_t depth, const Operation& then) {
+  while (screens_.size() > depth) {
+    if (auto leaving = top().beforeLeaving()) {
+      const auto goOn = [depth, then](Stage& stage) {
+        stage.close();
+        stage.leaveTo(depth, then);
+      };
+      return ask(std::move(leaving->question),
+                 {{.label = leaving->stay, .weight = view::Button::Weight::primary},
+                  {.label = leaving->leave, .press = goOn, .weight = view::Button::Weight::destructive}});
+    }
+    close();
+  }
+  if (then) then(*this);
+}
+
+void Stage::renewFirst() {
+  screens_.front().number = ++opened_;
+  screens_.front().list_pages.clear();
 }
 
 void Stage::show(Notice notice) {
@@ -38,9 +67,17 @@ void Stage::dismiss() {
   if (!dialogs_.empty()) dialogs_.erase(dialogs_.begin());
 }
 
+void Stage::say(std::string line) { passing_ = {{.text = std::move(line), .number = ++said_}}; }
+
 void Stage::play(view::Moment moment) {
   moment.number = ++played_;
   moment_ = {std::move(moment)};
+}
+
+Screen::TabsHere Stage::tabsHere() const {
+  Screen::TabsHere least = Screen::TabsHere::inReach;
+  for (const Standing& standing : screens_) least = std::max(least, standing.screen->tabsHere());
+  return least;
 }
 
 void Stage::settle() {

@@ -62,7 +62,13 @@ struct Picture {
 };
 
 struct Text {
-  enum class Style : std::uint8_t { body, large, caption, quotation };
+  enum class Style : std::uint8_t {
+    body,
+    large,
+    caption,
+    quotation,
+    heading,  // over what follows it, until the next one
+  };
   std::string text;  // "\n" breaks the line
   Style style = Style::body;
   Tone tone = Tone::plain;
@@ -112,7 +118,19 @@ struct Button {
   Operation press;
   std::string price;      // formatted, empty when it costs nothing
   std::string offReason;  // not empty: the button is off, and this is why
-  enum class Weight : std::uint8_t { normal, primary, quiet, destructive };
+  // Not empty: the rule behind it refuses now, and this is why, in a few words. It can be pressed all the
+  // same and then says the whole of it.
+  std::string refusal;
+  // What a screen reader calls it where the label does not say what it is about: "Train Charisma to 2" for
+  // "Train to 2" on the card of that trait.
+  std::string name;
+  enum class Weight : std::uint8_t {
+    normal,
+    primary,
+    quiet,
+    destructive,
+    done,  // used already, and says so
+  };
   Weight weight = Weight::normal;
   Handle handle = 0;
 };
@@ -122,14 +140,17 @@ struct Buttons {
   std::vector<Button> buttons;
 };
 
-// One line of a list: what, how much, and where a press leads.
+// One line of a list: what, how much, where a press leads, and what can be done about it in place.
 struct Row {
   std::string label;
   std::string value;
   std::string detail;
   std::vector<Picture> picture;  // none or one
   Tone tone = Tone::plain;
-  Operation press;  // may be empty
+  enum class Step : std::uint8_t { none, open, taken };
+  Step step = Step::none;      // of a list of steps, with a mark that tells those taken from the others
+  Operation press;             // may be empty
+  std::vector<Button> action;  // none or one
   Handle handle = 0;
 };
 
@@ -280,7 +301,15 @@ struct Tab {
   std::string icon;  // one emoji or letter
   bool current = false;
   Operation press;
+  bool isOff = false;  // can't be used on this screen; its place is kept
   Handle handle = 0;
+};
+
+// What was done just now, in a line that shows itself over the page and goes by itself. The number tells it
+// from one before it with the same words.
+struct PassingLine {
+  std::string text;
+  int number = 0;
 };
 
 // A message over the page; it has to be answered before anything else.
@@ -308,12 +337,24 @@ struct Moment {
 struct Page {
   std::string title;
   std::string subtitle;
-  std::vector<Tab> icons;  // at the top right
+  // What this part of the screen is called, where the title names the whole: a tab of the hub.
+  std::string heading;
+  enum class Head : std::uint8_t {
+    full,
+    line,  // title, subtitle and figures share one line, as far as there is room
+  };
+  Head head = Head::full;
+  std::vector<Tab> icons;         // at the top right
+  std::vector<StatTile> figures;  // that are always in view: cash, energy
   std::vector<Node> nodes;
+  // None or one: what the player comes to the page for, at one spot within reach of the thumb on every page.
+  std::vector<Button> main;
   std::vector<Tab> tabs;
   std::vector<Button> close;   // none or one: the way back, filled in by the App for screens that can be left
   std::vector<Dialog> dialog;  // none or one
   std::vector<Moment> moment;  // none or one, filled in by the App for the one page after it was played
+  std::vector<PassingLine> passing;  // none or one, filled in by the App
+  bool offersSaves = false;  // where the platform lets the player take saves out and in, it does so here
   // Which screen this is, filled in by the App: the same number is the same screen, whatever it is called by
   // now, and another number is another one, though it may bear the same title.
   int screen = 0;

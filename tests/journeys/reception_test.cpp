@@ -78,9 +78,9 @@ TEST(ReceptionPages, ASeasonHasBananasOfItsOwn) {
                 .typeOfFilm = filmType::series,
                 .title = "Low Tide",
                 .weekReleased = weekReleased,
-                .numMetascoreRatings = reviews,
                 .imbdRating = 9.9,
-                .imbdMetascore = 90};
+                .imbdMetascore = 90,
+                .numMetascoreRatings = reviews};
   };
   scratch.world.saveAllFilmList = {season(12, 19, 4), season(11, 9, 2)};  // the next season is found first
   Stage stage(scratch.game);
@@ -123,7 +123,7 @@ TEST_F(Reception, AnEveningsReviewCostsEnergyAndIsKept) {
   player.follow({"8 ★", "Submit"});
   player.expectTold("⭐️ Leave a Review! ⭐️");
   player.follow({"❇️ Write it for me", "Submit"});
-  player.expectTold("⭐️ Review Published ⭐️");
+  EXPECT_TRUE(player.said().starts_with("Your review of "));
   ASSERT_EQ(device.world().saveAllMovieReviews.size(), 1U);
   EXPECT_EQ(device.world().saveAllMovieReviews.front().rating, 8);
 

@@ -1,18 +1,32 @@
 // Written by view_types from the fields of the view vocabulary (src/shells/web/view_fields.h). Do not edit:
 // build the target view_types and run it.
+export type PageHead = "full" | "line";
+
 export interface Tab {
   readonly label: string;
   readonly icon: string;
   readonly current: boolean;
+  readonly isOff: boolean;
   readonly handle: number;
 }
 
-export type ButtonWeight = "normal" | "primary" | "quiet" | "destructive";
+export type Tone = "plain" | "quiet" | "good" | "warning" | "accent";
+
+export interface StatTile {
+  readonly label: string;
+  readonly value: string;
+  readonly detail: string;
+  readonly tone: Tone;
+}
+
+export type ButtonWeight = "normal" | "primary" | "quiet" | "destructive" | "done";
 
 export interface Button {
   readonly label: string;
   readonly price: string;
   readonly offReason: string;
+  readonly refusal: string;
+  readonly name: string;
   readonly weight: ButtonWeight;
   readonly handle: number;
 }
@@ -49,32 +63,34 @@ export interface Moment {
   readonly number: number;
 }
 
+export interface PassingLine {
+  readonly text: string;
+  readonly number: number;
+}
+
 export interface Page {
   readonly title: string;
   readonly subtitle: string;
+  readonly heading: string;
+  readonly head: PageHead;
   readonly icons: readonly Tab[];
+  readonly figures: readonly StatTile[];
   readonly nodes: readonly Node[];
+  readonly main: readonly Button[];
   readonly tabs: readonly Tab[];
   readonly close: readonly Button[];
   readonly dialog: readonly Dialog[];
   readonly moment: readonly Moment[];
+  readonly passing: readonly PassingLine[];
+  readonly offersSaves: boolean;
   readonly screen: number;
 }
 
-export type TextStyle = "body" | "large" | "caption" | "quotation";
-
-export type Tone = "plain" | "quiet" | "good" | "warning" | "accent";
+export type TextStyle = "body" | "large" | "caption" | "quotation" | "heading";
 
 export interface Text {
   readonly text: string;
   readonly style: TextStyle;
-  readonly tone: Tone;
-}
-
-export interface StatTile {
-  readonly label: string;
-  readonly value: string;
-  readonly detail: string;
   readonly tone: Tone;
 }
 
@@ -108,12 +124,16 @@ export interface Buttons {
   readonly buttons: readonly Button[];
 }
 
+export type RowStep = "none" | "open" | "taken";
+
 export interface Row {
   readonly label: string;
   readonly value: string;
   readonly detail: string;
   readonly picture: readonly Picture[];
   readonly tone: Tone;
+  readonly step: RowStep;
+  readonly action: readonly Button[];
   readonly handle: number;
 }
 

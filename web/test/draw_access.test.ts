@@ -33,7 +33,7 @@ function cutOff(): string[] {
     cut.push(`the page is ${document.documentElement.scrollWidth} wide`);
   for (const element of document.querySelectorAll("#app *")) {
     const box = element.getBoundingClientRect();
-    if (element.closest("svg, .unseen, .turns .off-reason, .skip, .bar-title, [inert]") || box.width === 0) continue;
+    if (element.closest("svg, .unseen, .turns .off-reason, .skip, .bar-title, [inert], .is-off") || box.width === 0) continue;
     if (box.right > wide + 1 || box.left < -1) cut.push(`${element.className} ends at ${box.right}`);
     const style = getComputedStyle(element);
     const hides = style.overflowX !== "visible" || style.overflowY !== "visible";

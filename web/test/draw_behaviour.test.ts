@@ -8,7 +8,7 @@ import type * as View from "../src/view_types";
 import { type Looks, processorTime, setGallery } from "./draw_browser";
 import * as make from "./gallery_nodes";
 import { cash, row, section, text } from "./gallery_nodes";
-import { phone } from "./inspect";
+import { narrow, phone, wide } from "./inspect";
 
 const gallery = setGallery();
 
@@ -165,16 +165,84 @@ test("a long list that is turned is read from its top", async () => {
   assert.ok(await page.getByText("Line 0", { exact: true }).evaluate((line) => line.getBoundingClientRect().top > 0));
 });
 
-test("the one main button of a page stays in reach; of two, each stays where it is", async () => {
-  const end = press("End Week", 1, { weight: "primary" });
-  const reach = async () => (await button(page, "End Week").boundingBox())!.y + 24 < phone.height;
-  const page = await drawn([text("Cash"), end, section("Log", ...tall)]);
-  assert.ok(await reach());
-  await scrollTo(page, 10_000);
-  assert.ok(await reach());
-  await again(page, [...tall, end, press("Other", 2, { weight: "primary" })]);
-  await scrollTo(page, 0);
-  assert.ok(!(await reach()));
+const main = (label: string, handle: number) => [answer(label, handle, { weight: "primary" })];
+const closed = make.tabs(0).map((tab) => ({ ...tab, isOff: true, handle: 0 }));
+const onItsSide = { width: 844, height: 390 };
+
+for (const size of [phone, narrow, onItsSide, wide]) {
+  test(`what a page is for stands at one spot on every page and is in sight, at ${size.width} pixels`, async () => {
+    const page = await drawn(tall, { main: main("Go on", 1), tabs: make.tabs(0), heading: "Home" }, size);
+    const spot = () => button(page, "Go on").boundingBox();
+    const first = (await spot())!;
+    assert.ok(first.y > 0 && first.y + first.height <= size.height, "in sight without scrolling");
+    await scrollTo(page, 10_000);
+    assert.deepEqual(await spot(), first);
+    const others: Partial<View.Page>[] = [
+      { tabs: make.tabs(3), heading: "Life", head: "line" },
+      { tabs: make.tabs(1), close: [answer("Back", 2)], screen: 2 },
+      { tabs: closed, close: [answer("Close", 2)], head: "line", screen: 3 },
+    ];
+    for (const other of others) {
+      await again(page, [text("Short.")], { main: main("Go on", 1), ...other });
+      assert.deepEqual(await spot(), first, JSON.stringify(other));
+    }
+  });
+}
+
+test("a second press right after the first does not fall through to what the first one brought up", async () => {
+  const page = await drawn([text("Hub")], { main: main("End Week", 1), tabs: make.tabs(0) });
+  const review = make.page({ title: "Review", screen: 2, main: main("Carry on", 2), tabs: closed });
+  const spot = (await button(page, "End Week").boundingBox())!;
+  const tap = () => page.mouse.click(spot.x + 20, spot.y + 20);
+  await page.evaluate((shown) => {
+    document.addEventListener("click", () => queueMicrotask(() => window.gallery.show(shown)), { once: true });
+  }, review);
+  await tap();
+  await tap();
+  assert.deepEqual(await done(page), [["press", 1]]);
+  await page.waitForTimeout(350);
+  await tap();
+  assert.deepEqual(await done(page), [["press", 1], ["press", 2]]);
+  await tap();
+  assert.equal((await done(page)).length, 3, "on the same page every press counts");
+});
+
+test("Escape goes back, but for a text that is being typed and a message over the page", async () => {
+  const page = await drawn([typed(1, "")], { close: [answer("Back", 2)], screen: 2 });
+  await page.focus("input");
+  await page.keyboard.press("Escape");
+  assert.deepEqual(await done(page), []);
+  await page.keyboard.press("Escape");
+  assert.deepEqual(await done(page), [["back"]]);
+  await again(page, [text("Under it.")], { screen: 2, dialog: make.dialog("Sure?", "Think.", answer("Yes", 1), answer("No", 2)) });
+  await page.keyboard.press("Escape");
+  assert.deepEqual(await done(page), [["back"]]);
+});
+
+test("a passing line shows itself, is said, covers no press and goes; the same words come again", async () => {
+  const board = [[press("Submit", 1)], { passing: [{ text: "Sent.", number: 1 }] }] as const;
+  const page = await drawn(...board);
+  const line = page.getByRole("status").filter({ hasText: "Sent." });
+  await line.waitFor();
+  assert.equal(await page.locator(".passing").evaluate((place) => getComputedStyle(place).pointerEvents), "none");
+  await again(page, board[0]);
+  assert.ok(await line.isVisible(), "it stays its time whatever else is done");
+  await line.waitFor({ state: "detached", timeout: 6000 });
+  await again(page, board[0], { passing: [{ text: "Sent.", number: 2 }] });
+  await line.waitFor();
+});
+
+test("a button is called by what it is about, its price in words, and says before a press why it would refuse", async () => {
+  const page = await drawn([
+    press("Train to 2", 1, { name: "Train Charisma to 2", price: "⚡️ 2" }),
+    press("Submit", 2, { name: "Submit for Iris", price: "⚡️ 20", refusal: "Union members only" }),
+  ]);
+  await button(page, "Train Charisma to 2, 2 energy").waitFor();
+  const refusing = button(page, "Submit for Iris, 20 energy");
+  const reason = await refusing.getAttribute("aria-describedby");
+  assert.equal(await page.locator(`#${reason}`).textContent(), "Union members only");
+  await refusing.click();
+  assert.deepEqual(await done(page), [["press", 2]]);
 });
 
 test("another screen starts at its top with its heading; the one come back to is where it was left", async () => {

@@ -15,12 +15,17 @@ const node =
   (rest: Partial<Content<K>> = {}) =>
     ({ kind, content: { ...usual, ...rest } }) as View.Node;
 
-const usualButton: View.Button = { label: "", price: "", offReason: "", weight: "normal", handle: 1 };
+const usualButton: View.Button = {
+  label: "", price: "", offReason: "", refusal: "", name: "", weight: "normal", handle: 1,
+};
 const usualField: View.Field = { label: "", value: "", hint: "", maximumLength: 80, severalLines: false, handle: 1 };
 const usualSlider: View.Slider = { label: "", value: 50, minimum: 0, maximum: 100, step: 1, text: "", handle: 1 };
 const usualCard: View.Card = { title: "", subtitle: "", picture: [], nodes: [], handle: 0 };
 
-const emptyPage = { title: "Test", subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [], moment: [], screen: 1 };
+const emptyPage: View.Page = {
+  title: "Test", subtitle: "", heading: "", head: "full", icons: [], figures: [], nodes: [], main: [], tabs: [],
+  close: [], dialog: [], moment: [], passing: [], offersSaves: false, screen: 1,
+};
 
 export const page = part<View.Page>(emptyPage);
 export const plainButton = part(usualButton);
@@ -30,7 +35,9 @@ export const option = part<View.ChoiceOption>({ label: "", chosen: false, pictur
 
 export const button = node("button", usualButton);
 export const card = node("card", usualCard);
-export const row = node("row", { label: "", value: "", detail: "", picture: [], tone: "plain", handle: 0 });
+export const row = node("row", {
+  label: "", value: "", detail: "", picture: [], tone: "plain", step: "none", action: [], handle: 0,
+});
 export const meter = node("meter", { label: "", value: 0, maximum: 100, text: "", isScore: false });
 export const chart = node("chart", { kind: "line", title: "", points: [], scale: [], summary: "" });
 export const field = node("field", usualField);
@@ -74,7 +81,7 @@ export const listPage = (nodes: readonly View.Node[], position = "", turns: read
   node("listPage", { nodes, position, turns })();
 
 export const dialog = (title: string, message: string, ...answers: View.Button[]) => [{ title, message, answers }];
-export const tab = (label: string, icon: string, current = false): View.Tab => ({ label, icon, current, handle: 1 });
+export const tab = (label: string, icon: string, current = false): View.Tab => ({ label, icon, current, isOff: false, handle: 1 });
 
 // The hub's tabs and icons, and the way back from a screen.
 export const tabs = (current: number) =>

@@ -15,8 +15,13 @@ const signs = "© 2026 ™ 1️⃣ 👩🏽‍🎤🏳️‍🌈🇫🇷 ⚠️ 
 const muchMoney = "$123,456,789,012,345.67";
 
 const tones: readonly View.Tone[] = ["plain", "quiet", "good", "warning", "accent"];
-const styles: readonly View.TextStyle[] = ["body", "large", "caption", "quotation"];
-const weights: readonly View.ButtonWeight[] = ["normal", "primary", "quiet", "destructive"];
+const styles: readonly View.TextStyle[] = ["body", "large", "caption", "quotation", "heading"];
+const weights: readonly View.ButtonWeight[] = ["normal", "primary", "quiet", "destructive", "done"];
+const figures = [
+  tile({ label: "Cash", value: "$1,250" }),
+  tile({ label: "Energy", value: "⚡️ 72", detail: "of 100" }),
+];
+const endWeek = [plainButton({ label: "End Week", weight: "primary" })];
 const pictureKinds: readonly View.PictureKind[] = [
   "avatar", "poster", "logo", "house", "vehicle", "card", "photo", "icon",
 ];
@@ -25,9 +30,25 @@ const poster = [picture("poster", "Night Train")];
 const hub = page({
   title: "Dana Wells",
   subtitle: "JANUARY\n16, 2026",
+  heading: "Career",
   icons,
+  figures,
+  main: endWeek,
   tabs: tabs(0),
   nodes: [
+    section(
+      "This week",
+      row({
+        label: "Audition in 2 weeks",
+        detail: "Cold Harbor Radio • Support\nReady 41 of 100",
+        picture: poster,
+        handle: 1,
+        action: [plainButton({ label: "Rehearse", name: "Rehearse for Iris", price: "⚡️ 4", weight: "primary" })],
+      }),
+      row({ label: "Find work", step: "taken", tone: "quiet", handle: 1 }),
+      row({ label: "Send showreels", detail: "20 energy each", step: "open", handle: 1 }),
+      row({ label: "End the week", step: "open" }),
+    ),
     make.tiles(...tones.map((tone) => tile({ label: `Cash ${tone}`, value: "$1,250", detail: "+312 a week", tone }))),
     make.balance("+$380", "$450", "$70", "good"),
     make.meter({ label: "Energy", value: 72, text: "72 of 100" }),
@@ -71,8 +92,33 @@ const hub = page({
         summary: "Net worth rose from $40K to $128K over 30 weeks, with a dip in week 15.",
       }),
     ),
-    button({ label: "End Week", weight: "primary" }),
   ],
+});
+
+// A board whose rows can be acted on in place, under a head of one line.
+const board = page({
+  title: "Casting Network",
+  subtitle: "The Backstage",
+  head: "line",
+  close: back(),
+  figures: [tile({ label: "Cash", value: "-$1,250,000", tone: "warning" }), figures[1]!],
+  main: endWeek,
+  tabs: tabs(1),
+  passing: [{ text: "Showreel sent to The Salt Wives", number: 1 }],
+  nodes: [
+    { label: "Submit", price: "⚡️ 20", weight: "primary" as const },
+    { label: "Submitted", weight: "done" as const },
+    { label: "Submit", price: "⚡️ 20", weight: "primary" as const, refusal: "Union members only" },
+    { label: "Submit", price: "⚡️ 20", offReason: "No energy", handle: 0 },
+  ].map((action, index) =>
+    row({
+      label: index === 1 ? longWord : `The Salt Wives ${index}`,
+      detail: "Feature Film • Support\n$3,795 • in 8 weeks",
+      picture: poster,
+      handle: index === 3 ? 0 : 1,
+      action: [plainButton({ name: `Submit for The Salt Wives ${index}`, ...action })],
+    }),
+  ),
 });
 
 // A title's page: its poster beside what leads, parts within parts.
@@ -161,10 +207,15 @@ const latch = page({
 
 const news = (stamp: string, words: string, rest: Partial<View.Headline> = {}) =>
   make.headline({ stamp, text: words, picture: poster, handle: 1, ...rest });
+// It has to be closed before the tabs are in reach again.
 const review = page({
   title: "REVIEW",
   subtitle: "Week 4 of 2026",
+  head: "line",
   close: back("Close"),
+  figures,
+  main: [plainButton({ label: "Carry on", weight: "primary" })],
+  tabs: tabs(0).map((tab) => ({ ...tab, isOff: true, handle: 0 })),
   nodes: [
     section("INCOME • EXPENSES", make.balance("-$50", "$0", "$50", "warning")),
     section(
@@ -177,8 +228,6 @@ const review = page({
       make.fold("4 never wrote back", false),
       make.fold("Two Hats said no", true, news("NOT SELECTED", "You were not selected.", { tone: "quiet" })),
     ),
-    section("", make.meter({ label: "Energy", value: 96, text: "96 of 96" })),
-    button({ label: "Carry on", weight: "primary" }),
   ],
 });
 const frontPages = page({
@@ -208,8 +257,8 @@ const form = page({
         make.option({ label: `Look ${kind}`, chosen: index === 1, picture: [picture(kind, "woman (7).png")] }),
       ),
     ),
-    button({ label: "Begin", weight: "primary" }),
   ],
+  main: [plainButton({ label: "Begin", weight: "primary" })],
 });
 
 const pictures = page({
@@ -293,8 +342,8 @@ const large = page({
         ),
       ),
     ),
-    button({ label: "Post", weight: "primary" }),
   ],
+  main: [plainButton({ label: "Post", weight: "primary" })],
 });
 
 const notice = {
@@ -313,6 +362,7 @@ const question = {
 
 export const pages: Readonly<Record<string, View.Page>> = {
   hub,
+  board,
   film,
   charts,
   latch,

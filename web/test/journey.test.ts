@@ -43,7 +43,7 @@ test("a career starts, lives ten weeks, and is found again after a reload", asyn
   await inspect(page, "home");
   await inspectOnTheWay(page, [
     ["Work", [], "work"],
-    ["Work", [/^Talent/, /^Train to 2/], "talent"],
+    ["Work", [/^Talent/, /^Train Charisma to 2, 2 energy/], "talent"],
   ]);
   await backToTheTabs(page);
   await hubTab(page, "Home");
@@ -89,6 +89,14 @@ test("the way back of the phone leaves a screen, not the game", async () => {
     await page.goBack();
     await home.waitFor();
   }
+  await hubTab(page, "Wealth");
+  await page.getByRole("heading", { level: 1, name: "Wealth" }).waitFor();
+  await page.goBack();
+  await home.waitFor();
+  await press(page, "Settings");
+  await home.waitFor({ state: "detached" });
+  await page.keyboard.press("Escape");
+  await home.waitFor();
   assert.equal(new URL(page.url()).origin, setting.site.origin);
 });
 
@@ -110,7 +118,7 @@ test("every screen of a working actor can be read by everybody", async () => {
   await inspectOnTheWay(page, [
     ["Work", [/^Job Board/], "actor-job-board"],
     ["Work", [/^Casting Network/], "actor-casting"],
-    ["Work", [/^Casting Network/, /^Read more/], "actor-listing"],
+    ["Work", [/^Casting Network/, / • in \d+ weeks?$/], "actor-listing"],
     ["Work", [/^Auditions/], "actor-auditions"],
     ["Work", [/^Auditions/, /^Bookings/, /Wraps in/], "actor-booking"],
     ["Work", [/^Auditions/, /^Releases/, /Feature Film.*Released/], "actor-release"],

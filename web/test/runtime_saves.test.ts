@@ -24,6 +24,10 @@ for (const [how, ...scripts] of [["saved"], ["played in memory alone", withoutSt
     await inspect(there, "saves");
     await choose(there, file);
     await there.getByRole("button", { name: "Replace my career" }).waitFor();
+    assert.match(
+      await there.getByRole("group", { name: "Bring in this save?" }).innerText(),
+      /^Ada Travels, JANUARY 2, 2026 takes the place of Somebody Else, JANUARY 2, 2026\./,
+    );
     await inspect(there, "saves-question");
     await press(there, "Replace my career");
     await finds(there, "Ada Travels");

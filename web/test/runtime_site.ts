@@ -149,8 +149,9 @@ export async function play(
 // When the career of that name is on show.
 export const finds = (page: Page, name: string) => page.getByText(name).first().waitFor();
 
+// The hub, or the form of a new career.
 export async function waitForGame(page: Page): Promise<void> {
-  await page.getByRole("button", { name: "Saves" }).waitFor();
+  await page.getByRole("button", { name: /^(End Week|Start my career)$/ }).waitFor();
 }
 
 export const nameField = (page: Page) => page.getByLabel("Stage name");
@@ -176,16 +177,27 @@ export const press = (page: Page, name: string) => page.getByRole("button", { na
 export const heading = (page: Page, name: string) => page.getByRole("heading", { name, exact: true }).waitFor();
 export const says = (page: Page, words: string | RegExp) => page.getByRole("status").filter({ hasText: words }).waitFor();
 
+// A press of a finger that is back at the same spot: right after the last one it would not count.
+export async function pressAgain(page: Page, name: string): Promise<void> {
+  await page.waitForTimeout(350);
+  await press(page, name);
+}
+
 // From the hub, to it.
 export async function liveAWeek(page: Page): Promise<void> {
-  await press(page, "End Week");
+  await pressAgain(page, "End Week");
   await heading(page, "REVIEW");
-  await press(page, "Carry on");
+  await pressAgain(page, "Carry on");
   await page.getByRole("button", { name: "End Week" }).waitFor();
 }
 
+// In the settings, on the form of a new career, and where the game does not run.
 export async function openSaves(page: Page): Promise<void> {
-  await press(page, "Saves");
+  const saves = page.getByRole("button", { name: "Saves", exact: true });
+  const settings = page.getByRole("button", { name: "Settings", exact: true });
+  await saves.or(settings).first().waitFor();
+  if ((await saves.count()) === 0) await settings.click();
+  await saves.click();
   await heading(page, "Saves");
 }
 

@@ -31,10 +31,7 @@ Section theProject(const Game& game, const CastingListing& listing) {
           .nodes = {Row{.label = "Director", .value = listing.directorName},
                     Row{.label = "Genre", .value = joinedWithAnd(listing.movie->genre)},
                     Row{.label = "Budget", .value = shortMoney(game.locale, listing.budget)},
-                    Row{.label = "Pay",
-                        .value = payWords(game.locale, {.fee = listing.payment,
-                                                        .buyout = listing.buyout,
-                                                        .residual = listing.residual})},
+                    Row{.label = "Pay", .value = listingPay(game, listing)},
                     Row{.label = "Audition", .value = whenIs(game.world, listing.weekAudition)},
                     Row{.label = "Wrap", .value = whenIs(game.world, listing.weekToWork)}}};
 }
@@ -43,10 +40,9 @@ Section theProject(const Game& game, const CastingListing& listing) {
 
 Page BackstageDetailViewController::view(const Game& game) {
   Page page{.title = listing_.movie->title, .subtitle = listingSummary(listing_)};
-  page.nodes = {posterOf(*listing_.movie), Text{.text = listing_.movie->shortSummary},
-                theRole(listing_),         theProject(game, listing_),
-                energyMeter(game.world),   submitButton(game.world, listing_)};
-  if (isSubmitted(game.world, listing_)) page.nodes.push_back(submittedCaption());
+  page.nodes = {posterOf(*listing_.movie), Text{.text = listing_.movie->shortSummary}, theRole(listing_),
+                theProject(game, listing_)};
+  page.main = {submitButton(game.world, listing_)};
   return page;
 }
 

@@ -12,7 +12,7 @@ class CastingNetworkViewController : public Screen {
   [[nodiscard]] view::Page view(const Game& game) override;
 
  private:
-  [[nodiscard]] view::Card listingCard(const Game& game, const CastingListing& listing) const;
+  [[nodiscard]] view::Row listingRow(const Game& game, const CastingListing& listing) const;
 
   CastingBoard board_;
 };

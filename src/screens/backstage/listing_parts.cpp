@@ -13,9 +13,7 @@ namespace {
 
 void submit(Stage& stage, const CastingListing& listing) {
   if (Refusal refusal = submitToCastingListing(stage.game(), listing)) return stage.show(std::move(refusal));
-  stage.show(Notice{
-      .title = "🎬 Sent 🎬",
-      .message = std::format("\nYour headshot and showreel are on their way to {}.", listing.movie->title)});
+  stage.say(std::format("Showreel sent to {}", listing.movie->title));
 }
 
 }  // namespace
@@ -25,22 +23,25 @@ std::string listingSummary(const CastingListing& listing) {
                      guildWords(listing.isUnion));
 }
 
+std::string listingPay(const Game& game, const CastingListing& listing) {
+  return payWords(game.locale,
+                  {.fee = listing.payment, .buyout = listing.buyout, .residual = listing.residual});
+}
+
 view::Button submitButton(const WorldState& world, const CastingListing& listing) {
-  view::Button button{.label = "Submit", .press = [listing](Stage& stage) { submit(stage, listing); }};
-  if (isSubmitted(world, listing)) return button;
+  view::Button button{.label = "Submit",
+                      .press = [listing](Stage& stage) { submit(stage, listing); },
+                      .name = "Submit for " + listing.movie->title};
+  if (auditionIndex(world, listing.filmId)) {
+    button.label = "Submitted";
+    button.name = "Submitted for " + listing.movie->title;
+    button.weight = view::Button::Weight::done;
+    return button;
+  }
   button.price = energyPrice(submissionEnergy);
+  button.refusal = briefOf(submissionRefusal(world, listing));
   button.weight = view::Button::Weight::primary;
   return button;
-}
-
-bool isSubmitted(const WorldState& world, const CastingListing& listing) {
-  return auditionIndex(world, listing.filmId).has_value();
-}
-
-view::Text submittedCaption() {
-  view::Text words = caption("✓ You submitted for this role.");
-  words.tone = view::Tone::good;
-  return words;
 }
 
 }  // namespace tb

@@ -13,13 +13,11 @@ namespace tb {
 // "Feature Film • Lead • Non-union".
 [[nodiscard]] std::string listingSummary(const CastingListing& listing);
 
-// Submits for the listing, and says so. Of a listing that has been submitted for already the button is of
-// less weight and asks no energy: all that it brings is the rule's reminder.
+// What the role pays: "$1,200 • 1.4% residual".
+[[nodiscard]] std::string listingPay(const Game& game, const CastingListing& listing);
+
+// Submits for the listing. One that would be refused says why before it is pressed, and one that was used
+// that it was.
 [[nodiscard]] view::Button submitButton(const WorldState& world, const CastingListing& listing);
-
-[[nodiscard]] bool isSubmitted(const WorldState& world, const CastingListing& listing);
-
-// What stands under the button from then on.
-[[nodiscard]] view::Text submittedCaption();
 
 }  // namespace tb

@@ -78,28 +78,30 @@ void EnterPlayerDetailsViewController::confirm(Stage& stage) {
 }
 
 Page EnterPlayerDetailsViewController::view(const Game& game) {
-  return {
-      .title = "A star is cast",
-      .subtitle = std::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
-      .nodes = {
-          Field{.label = "Stage name",
-                .value = form_.myName,
-                .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
-                .hint = "As it will stand on the poster",
-                .maximumLength = 40},
-          ageSlider(game),
-          genders(),
-          headshots(game),
-          Field{.label = "Biography",
-                .value = form_.aboutDescription,
-                .type = [this](Stage&, const std::string& about) { form_.aboutDescription = trimmed(about); },
-                .hint = "A line or two about who you are",
-                .maximumLength = 280,
-                .severalLines = true},
-          Button{.label = "Start my career",
-                 .press = [this](Stage& stage) { confirm(stage); },
-                 .weight = Button::Weight::primary},
-      }};
+  return {.title = "A star is cast",
+          .subtitle = std::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
+          .nodes =
+              {
+                  Field{.label = "Stage name",
+                        .value = form_.myName,
+                        .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
+                        .hint = "As it will stand on the poster",
+                        .maximumLength = 40},
+                  ageSlider(game),
+                  genders(),
+                  headshots(game),
+                  Field{.label = "Biography",
+                        .value = form_.aboutDescription,
+                        .type = [this](Stage&,
+                                       const std::string& about) { form_.aboutDescription = trimmed(about); },
+                        .hint = "A line or two about who you are",
+                        .maximumLength = 280,
+                        .severalLines = true},
+              },
+          .main = {{.label = "Start my career",
+                    .press = [this](Stage& stage) { confirm(stage); },
+                    .weight = Button::Weight::primary}},
+          .offersSaves = true};
 }
 
 }  // namespace tb

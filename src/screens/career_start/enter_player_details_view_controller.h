@@ -15,6 +15,7 @@ class EnterPlayerDetailsViewController : public Screen {
   void load(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
   [[nodiscard]] std::string closeLabel() const override { return ""; }
+  [[nodiscard]] TabsHere tabsHere() const override { return TabsHere::none; }
 
  private:
   [[nodiscard]] view::Choice genders();

@@ -31,7 +31,8 @@ Page SettingsViewController::view(const Game& game) {
                             .nodes = {Text{.text = game.world.myName + ", and everything that came of it."},
                                       Button{.label = "Restart?",
                                              .press = askForRestart,
-                                             .weight = Button::Weight::destructive}}}}};
+                                             .weight = Button::Weight::destructive}}}},
+          .offersSaves = true};
 }
 
 }  // namespace tb

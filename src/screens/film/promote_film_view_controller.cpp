@@ -19,11 +19,17 @@ void PromoteFilmViewController::post(Stage& stage) {
   if (Refusal refusal = promoteFilm(stage.game(), audition_, interview_, answer_)) {
     return stage.show(std::move(refusal));
   }
-  stage.show(Notice{
-      .title = "🎤 That's a Take 🎤",
-      .message = std::format("\nYour interview on {} added {} to the hype for {}.", interview_.talkShow,
-                             interview_.totalHype, stage.game().world.saveAllAuditionList[audition_].title)});
+  stage.say(std::format("Your interview on {} added {} to the hype for {}.", interview_.talkShow,
+                        interview_.totalHype, stage.game().world.saveAllAuditionList[audition_].title));
   stage.close();
+}
+
+std::optional<Screen::Leaving> PromoteFilmViewController::beforeLeaving() const {
+  return Leaving{.question = {.title = "🎤 Leave the Show? 🎤",
+                              .message = "\nThe host is still waiting for your answer. The energy for this "
+                                         "interview is spent, and without an answer it brings nothing."},
+                 .stay = "Stay",
+                 .leave = "Leave"};
 }
 
 Page PromoteFilmViewController::view(const Game& game) {
@@ -39,12 +45,13 @@ Page PromoteFilmViewController::view(const Game& game) {
                           .hint = "Everything you say will be quoted",
                           .maximumLength = 280,
                           .severalLines = true},
-                    Buttons{{{.label = "Suggest an answer",
-                              .press = [this](Stage& stage) { answer_ = suggestedAnswer(stage.game()); },
-                              .weight = Button::Weight::quiet},
-                             {.label = "Post",
-                              .press = [this](Stage& stage) { post(stage); },
-                              .weight = Button::Weight::primary}}}}};
+                    Button{.label = "Suggest an answer",
+                           .press = [this](Stage& stage) { answer_ = suggestedAnswer(stage.game()); },
+                           .weight = Button::Weight::quiet}},
+          .main = {{.label = "Post",
+                    .press = [this](Stage& stage) { post(stage); },
+                    .name = "Post your answer about " + project.title,
+                    .weight = Button::Weight::primary}}};
 }
 
 }  // namespace tb

@@ -13,6 +13,7 @@ class PromoteFilmViewController : public Screen {
  public:
   void load(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
+  [[nodiscard]] std::optional<Leaving> beforeLeaving() const override;
 
  private:
   void post(Stage& stage);

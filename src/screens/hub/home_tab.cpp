@@ -4,9 +4,8 @@
 #include "core/talent_scores.h"
 #include "core/text.h"
 #include "screens/headshot.h"
+#include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
-#include "screens/hub/view_controller.h"
-#include "screens/parts.h"
 
 namespace tb {
 
@@ -14,29 +13,15 @@ namespace {
 
 using namespace view;
 
-Tiles careerTiles(const Game& game) {
-  const WorldState& world = game.world;
-  return {{
-      {.label = "Cash",
-       .value = cash(game.locale, world.totalCashAvailable),
-       .tone = world.totalCashAvailable < 0 ? Tone::warning : Tone::plain},
-      {.label = "Fans", .value = shortCount(world.totalFans)},
-      {.label = "Talent", .value = std::to_string(overallTalent(world))},
-  }};
+Tiles careerTiles(const WorldState& world) {
+  return {{{.label = "Fans", .value = shortCount(world.totalFans)},
+           {.label = "Talent", .value = std::to_string(overallTalent(world))}}};
 }
 
 Card profile(const WorldState& world) {
   return {.title = std::format("{} years old", world.ageCount),
           .subtitle = world.aboutDescription,
           .picture = {performerPicture(world)}};
-}
-
-Card jobCard(const Game& game) {
-  const WorldState& world = game.world;
-  return {.title = world.weeklyJobTitle,
-          .subtitle = std::format("{} a week • {} energy a week",
-                                  shortMoney(game.locale, world.weeklyJobIncome), world.weeklyEnergyCost),
-          .nodes = {caption(jobWeeksLeft(world))}};
 }
 
 // The log mixes lines and, over the lines of each week, its date: "JANUARY 2, 2026".
@@ -54,7 +39,7 @@ bool isDateHeading(const Locale& locale, const std::string& line) {
 Node activityNode(const Game& game, std::size_t index) {
   const std::string& line = game.world.activityTracker[index];
   if (isDateHeading(game.locale, line))
-    return Text{.text = line, .style = Text::Style::large, .tone = Tone::accent};
+    return Text{.text = line, .style = Text::Style::heading, .tone = Tone::accent};
   return Text{.text = line};
 }
 
@@ -68,11 +53,10 @@ PagedList activityLog(const Game& game) {
 }  // namespace
 
 std::vector<Node> homeTab(const Game& game) {
-  std::vector<Node> nodes = {profile(game.world), careerTiles(game), energyMeter(game.world)};
-  if (!game.world.weeklyJobTitle.empty()) nodes.push_back(jobCard(game));
-  nodes.push_back(
-      Button{.label = "End Week", .press = ViewController::endWeekButton, .weight = Button::Weight::primary});
-  nodes.push_back(Section{.heading = "ACTIVITY", .nodes = {activityLog(game)}});
+  std::vector<Node> nodes = {thisWeek(game)};
+  nodes.append_range(lastWeek(game));
+  nodes.append_range(std::vector<Node>{Section{.nodes = {profile(game.world), careerTiles(game.world)}},
+                                       Section{.heading = "STORY SO FAR", .nodes = {activityLog(game)}}});
   return nodes;
 }
 

@@ -2,6 +2,7 @@
 
 #include "career/classes.h"
 #include "life/energy.h"
+#include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
 
@@ -24,10 +25,10 @@ view::Section everyWeek(const WorldState& world) {
   const auto felt = [&](const char* label, std::int64_t energy) {
     if (energy != 0) section.nodes.push_back(drain(label, energy));
   };
-  felt("Too many roles at once", stressOfManyRoles(world));
+  felt("Too many roles at once", stressOfManyRoles(world, world.weekNumberForTracking));
   felt("Your children", world.childEnergyCost);
   felt("Your streaming company", world.platformEnergyCost);
-  section.nodes.push_back(drain("In all", weeklyEnergyDrain(world)));
+  section.nodes.push_back(drain("In all", weeklyEnergyDrain(world, world.weekNumberForTracking)));
   return section;
 }
 
@@ -35,14 +36,15 @@ view::Section everyWeek(const WorldState& world) {
 
 std::vector<view::Node> lifeTab(const Game& game) {
   const WorldState& world = game.world;
-  return {
-      energyMeter(world),
+  std::vector<view::Node> nodes = {energyMeter(world)};
+  nodes.append_range(nextInLife(game));
+  nodes.append_range(std::vector<view::Node>{
+      everyWeek(world),
       view::Section{
           .heading = "ENERGY",
           .nodes = {view::Row{.label = "Weekly ceiling", .value = std::to_string(world.totalEnergyMax)},
-                    view::Row{.label = "Lost to age", .value = std::to_string(world.saveAgeLoss)}}},
-      everyWeek(world),
-  };
+                    view::Row{.label = "Lost to age", .value = std::to_string(world.saveAgeLoss)}}}});
+  return nodes;
 }
 
 }  // namespace tb

@@ -1,5 +1,6 @@
 #include "core/number_style.h"
 #include "film/movie_reviews.h"
+#include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
 #include "screens/reception/quotes_view_controller.h"
@@ -11,11 +12,15 @@ namespace {
 
 view::Section reviewing(const WorldState& world) {
   return {.heading = "REVIEWS",
-          .nodes = {
-              energyMeter(world),
-              view::Button{.label = "Rate a movie", .press = openReview, .price = energyPrice(reviewEnergy)},
-              leadingTo<QuotesViewController>("Quotes", "What you told the press",
-                                              std::to_string(world.saveAllQuotes.size()))}};
+          .nodes = {view::Row{.label = "Rate a movie",
+                              .detail = "Your fans want to know what you think of it",
+                              .action = {{.label = "Review",
+                                          .press = openReview,
+                                          .price = energyPrice(reviewEnergy),
+                                          .refusal = briefOf(reviewRefusal(world)),
+                                          .name = "Rate a movie"}}},
+                    leadingTo<QuotesViewController>("Quotes", "What you told the press",
+                                                    std::to_string(world.saveAllQuotes.size()))}};
 }
 
 }  // namespace
@@ -23,13 +28,15 @@ view::Section reviewing(const WorldState& world) {
 std::vector<view::Node> socialTab(const Game& game) {
   const WorldState& world = game.world;
   const std::vector<double> fans(world.trackFans.begin(), world.trackFans.end());
-  return {
+  std::vector<view::Node> nodes = nextInPublic(game);
+  nodes.append_range(std::vector<view::Node>{
+      reviewing(world),
       view::Tiles{{{.label = "Fans", .value = plainCount(game.locale, world.totalFans)}}},
       // A week that changes nothing leaves no entry, and one with a swing leaves two.
       historyChart("Fans", "change", fans,
                    [](double count) { return shortCount(static_cast<std::int64_t>(count)); }),
-      reviewing(world),
-  };
+  });
+  return nodes;
 }
 
 }  // namespace tb

@@ -1,6 +1,6 @@
 #include "screens/hub/view_controller.h"
 
-#include <format>
+#include <algorithm>
 #include <memory>
 
 #include "core/calendar.h"
@@ -8,6 +8,7 @@
 #include "screens/career_start/enter_player_details_view_controller.h"
 #include "screens/career_start/settings_view_controller.h"
 #include "screens/hub/tabs.h"
+#include "screens/parts.h"
 #include "screens/week/weekly_summary_view_controller.h"
 #include "wealth/net_worth.h"
 #include "week/end_week.h"
@@ -31,21 +32,45 @@ void ViewController::show(Stage& stage, Tab tab) {
   if (tab == Tab::wealth) keepNetWorth(stage.game());
 }
 
+// After the review the hub stands at its top.
 void ViewController::endWeekButton(Stage& stage) {
-  endWeek(stage.game());
-  stage.open(std::make_unique<WeeklySummaryViewController>());
+  stage.leaveToFirst([](Stage& hub) {
+    hub.renewFirst();
+    endWeek(hub.game());
+    hub.open(std::make_unique<WeeklySummaryViewController>());
+  });
+}
+
+void ViewController::goBack(Stage& stage) {
+  if (current_ != Tab::home) show(stage, Tab::home);
 }
 
 view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {
   return {.label = label, .icon = icon, .current = current_ == which, .press = [this, which](Stage& stage) {
-            show(stage, which);
+            stage.leaveToFirst([this, which](Stage& hub) { show(hub, which); });
           }};
+}
+
+std::vector<view::Tab> ViewController::tabs() {
+  return {tab(Tab::home, "Home", "🏠"), tab(Tab::work, "Work", "🎬"), tab(Tab::social, "Social", "💬"),
+          tab(Tab::life, "Life", "⚡️"), tab(Tab::wealth, "Wealth", "💰")};
+}
+
+void ViewController::addFrame(const Game& game, TabsHere here, view::Page& page) {
+  if (here == TabsHere::none) return;
+  page.tabs = tabs();
+  if (page.figures.empty()) page.figures = headFigures(game);
+  for (view::Tab& tab : page.tabs) tab.isOff = here == TabsHere::later;
+  if (here == TabsHere::inReach && page.main.empty()) {
+    page.main = {{.label = "End Week", .press = endWeekButton, .weight = view::Button::Weight::primary}};
+  }
 }
 
 view::Page ViewController::view(const Game& game) {
   const WorldState& world = game.world;
   view::Page page{.title = world.myName,
-                  .subtitle = dateHeading(game.locale, world.weekNumber, world.yearNumber, "\n")};
+                  .subtitle = dateHeading(game.locale, world.weekNumber, world.yearNumber, "\n"),
+                  .head = current_ == Tab::home ? view::Page::Head::full : view::Page::Head::line};
   page.icons = {
       {.label = "The Backstage",
        .icon = "B",
@@ -54,8 +79,8 @@ view::Page ViewController::view(const Game& game) {
        .icon = "⚙️",
        .press = [](Stage& stage) { stage.open(std::make_unique<SettingsViewController>()); }},
   };
-  page.tabs = {tab(Tab::home, "Home", "🏠"), tab(Tab::work, "Work", "🎬"), tab(Tab::social, "Social", "💬"),
-               tab(Tab::life, "Life", "⚡️"), tab(Tab::wealth, "Wealth", "💰")};
+  addFrame(game, TabsHere::inReach, page);
+  page.heading = std::ranges::find(page.tabs, true, &view::Tab::current)->label;
   switch (current_) {
     case Tab::home:
       page.nodes = homeTab(game);

@@ -14,12 +14,16 @@ class ViewController : public Screen {
   void appear(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
   [[nodiscard]] std::string closeLabel() const override { return ""; }
+  void goBack(Stage& stage) override;
+  // Tabs, End Week, cash and energy stay where they are on the screens over the hub.
+  void addFrame(const Game& game, TabsHere tabs, view::Page& page) override;
 
   // The End Week button: lives the week and opens its summary.
   static void endWeekButton(Stage& stage);
 
  private:
   void show(Stage& stage, Tab tab);
+  [[nodiscard]] std::vector<view::Tab> tabs();
   [[nodiscard]] view::Tab tab(Tab which, const char* label, const char* icon);
 
   Tab current_ = Tab::home;

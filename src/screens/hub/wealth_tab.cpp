@@ -1,6 +1,7 @@
 #include <format>
 
 #include "core/number_style.h"
+#include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
 #include "screens/wealth/balance_sheet_view_controller.h"
@@ -37,14 +38,16 @@ Chart indexChart(const char* title, const RealList& history) {
 
 std::vector<Node> wealthTab(const Game& game) {
   const WorldState& world = game.world;
-  return {
+  std::vector<Node> nodes = nextForMoney(game);
+  nodes.append_range(std::vector<Node>{
       Tiles{{moneyTile(game, "Cash", world.totalCashAvailable),
              moneyTile(game, "Net worth", netWorth(world).total())}},
       books(game),
       Section{.heading = "MARKETS",
               .nodes = {indexChart("Real estate index", world.trackRealEstateIndex),
                         indexChart("Card index", world.trackCardIndex)}},
-  };
+  });
+  return nodes;
 }
 
 }  // namespace tb

@@ -7,6 +7,7 @@
 #include "screens/backstage/casting_network_view_controller.h"
 #include "screens/film/box_office_view_controller.h"
 #include "screens/film/movie_management_view_controller.h"
+#include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
 #include "screens/reception/top250_movies_view_controller.h"
@@ -48,7 +49,8 @@ std::string jobSummary(const WorldState& world) {
 
 std::vector<view::Node> workTab(const Game& game) {
   const WorldState& world = game.world;
-  return {
+  std::vector<view::Node> nodes = nextAtWork(game);
+  nodes.append_range(std::vector<view::Node>{
       view::Tiles{{
           {.label = "Talent", .value = std::to_string(overallTalent(world))},
           {.label = "Experience",
@@ -69,7 +71,8 @@ std::vector<view::Node> workTab(const Game& game) {
           .heading = "CRAFT",
           .nodes = {leadingTo<TalentTraitsViewController>("Talent", "Five traits, trained with energy"),
                     leadingTo<ActingClassesViewController>("Acting Classes", classesSummary(world))}},
-  };
+  });
+  return nodes;
 }
 
 }  // namespace tb

@@ -32,10 +32,7 @@ void RateMoviesViewController::submit(Stage& stage) {
     return stage.show(std::move(refusal));
   }
   const std::size_t reviews = stage.game().world.saveAllMovieReviews.size();
-  stage.show(Notice{.title = "⭐️ Review Published ⭐️",
-                    .message = std::format("\nYour fans can read your review of {}. You have written {} in "
-                                           "all.",
-                                           title_->title, reviews)});
+  stage.say(std::format("Your review of {} is out. You have written {} in all.", title_->title, reviews));
   stage.close();
 }
 
@@ -51,12 +48,13 @@ Page RateMoviesViewController::view(const Game&) {
                           .hint = "A sentence or two will do",
                           .maximumLength = 600,
                           .severalLines = true},
-                    Buttons{{{.label = "❇️ Write it for me",
-                              .press = [this](Stage& stage) { generate(stage); },
-                              .weight = Button::Weight::quiet},
-                             {.label = "Submit",
-                              .press = [this](Stage& stage) { submit(stage); },
-                              .weight = Button::Weight::primary}}}}};
+                    Button{.label = "❇️ Write it for me",
+                           .press = [this](Stage& stage) { generate(stage); },
+                           .weight = Button::Weight::quiet}},
+          .main = {{.label = "Submit",
+                    .press = [this](Stage& stage) { submit(stage); },
+                    .name = "Submit your review of " + title_->title,
+                    .weight = Button::Weight::primary}}};
 }
 
 void openReview(Stage& stage) {

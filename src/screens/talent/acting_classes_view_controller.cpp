@@ -14,8 +14,7 @@ namespace {
 std::string nameOf(const JulliardClass& row) { return std::format("Drama {}: {}", row.classCode, row.title); }
 
 Row takenRow(const ActingClass& taken) {
-  const JulliardClass* row = classWithId(taken.classId);
-  Row shown{.label = row == nullptr ? "An earlier class" : nameOf(*row)};
+  Row shown{.label = className(taken)};
   if (taken.weeksRemaining > 0) {
     shown.value = std::format("{} of {} weeks left", taken.weeksRemaining, taken.weeksTotal);
     shown.detail = std::format("-{} energy each week", taken.energyCost);
@@ -39,13 +38,30 @@ PagedList transcript(const Game& game) {
 
 }  // namespace
 
+std::string className(const ActingClass& taken) {
+  const JulliardClass* row = classWithId(taken.classId);
+  return row == nullptr ? "An earlier class" : nameOf(*row);
+}
+
 void ActingClassesViewController::load(Stage& stage) { options_ = openClasses(stage.game()); }
 
 void ActingClassesViewController::signUp(Stage& stage, const ClassOption& option) {
   if (Refusal refusal = signUpForClass(stage.game(), option)) return stage.show(std::move(refusal));
-  stage.show(Notice{.title = "🎭 Signed Up 🎭",
-                    .message = std::format("\n{} begins this week and runs for {} weeks.",
-                                           nameOf(*option.offered), option.weeks)});
+  stage.say(std::format("Signed up: {}, {} weeks.", nameOf(*option.offered), option.weeks));
+}
+
+Button ActingClassesViewController::signUpButton(const Game& game, const ClassOption& option) {
+  Button button{.label = "Sign up",
+                .press = [this, option](Stage& stage) { signUp(stage, option); },
+                .name = "Sign up for " + nameOf(*option.offered)};
+  if (isTaken(game.world, option.offered->id)) {
+    button.label = "Signed up";
+    button.weight = Button::Weight::done;
+    return button;
+  }
+  button.price = currency(game.locale, option.cost, 0);
+  button.refusal = briefOf(classRefusal(game.world, option));
+  return button;
 }
 
 Card ActingClassesViewController::optionCard(const Game& game, const ClassOption& option) {
@@ -53,9 +69,7 @@ Card ActingClassesViewController::optionCard(const Game& game, const ClassOption
           .subtitle = std::format("Level {}", option.offered->classLevel),
           .nodes = {Text{.text = std::format("{} weeks • -{} energy each week • +{:.0f} experience",
                                              option.weeks, option.energyCost, option.offered->percentage)},
-                    Button{.label = "Sign up",
-                           .press = [this, option](Stage& stage) { signUp(stage, option); },
-                           .price = currency(game.locale, option.cost, 0)}}};
+                    signUpButton(game, option)}};
 }
 
 Section ActingClassesViewController::offered(const Game& game) {
@@ -69,9 +83,7 @@ Page ActingClassesViewController::view(const Game& game) {
   const double done = completionPercentage(game.world);
   return {.title = "Acting Classes",
           .subtitle = "Julien, school of drama",
-          .nodes = {Tiles{{{.label = "Cash", .value = cash(game.locale, game.world.totalCashAvailable)}}},
-                    energyMeter(game.world),
-                    Meter{.label = "Curriculum",
+          .nodes = {Meter{.label = "Curriculum",
                           .value = done * 100,
                           .maximum = 100,
                           .text = std::format("{:.0f}%", done * 100)},

@@ -45,6 +45,8 @@ Section wayIn(const Game& game, std::int64_t eligibility) {
                 Button{.label = "Join",
                        .press = join,
                        .price = currency(game.locale, guildInitiationFee, 0),
+                       .refusal = briefOf(guildRefusal(game.world)),
+                       .name = "Join the Actor's Guild",
                        .weight = Button::Weight::primary}}};
 }
 
@@ -57,8 +59,7 @@ Page ActorsGuildViewController::view(const Game& game) {
   if (game.world.isSAG == 1) {
     page.nodes = {membersCard(game)};
   } else {
-    page.nodes = {Tiles{{{.label = "Cash", .value = cash(game.locale, game.world.totalCashAvailable)}}},
-                  wayIn(game, eligibility_)};
+    page.nodes = {wayIn(game, eligibility_)};
   }
   return page;
 }

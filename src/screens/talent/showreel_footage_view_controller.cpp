@@ -47,10 +47,11 @@ Page ShowreelFootageViewController::view(const Game& game) {
                       return footageRow(game.world, game.world.saveAllAuditionList[footage[index]]);
                     },
                 .whenEmpty = "There is no footage of you yet. It comes with your first wrap."});
-  page.nodes.push_back(Button{.label = "Cut this reel",
-                              .press = [this](Stage& stage) { build(stage); },
-                              .price = currency(game.locale, footageReelCost, 0),
-                              .weight = Button::Weight::primary});
+  page.main = {{.label = "Cut this reel",
+                .press = [this](Stage& stage) { build(stage); },
+                .price = currency(game.locale, footageReelCost, 0),
+                .refusal = briefOf(reelRefusal(game.world, footageReelCost)),
+                .weight = Button::Weight::primary}};
   return page;
 }
 

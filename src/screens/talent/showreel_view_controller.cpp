@@ -39,9 +39,7 @@ void ShowreelViewController::produce(Stage& stage) {
     return stage.show(std::move(refusal));
   }
   scenes_.clear();
-  stage.show(
-      Notice{.title = "🎬 That's a Wrap 🎬",
-             .message = std::format("\nYour new showreel is rated {}.", stage.game().world.showreelScore)});
+  stage.say(std::format("That's a wrap. Your new showreel is rated {}.", stage.game().world.showreelScore));
 }
 
 Section ShowreelViewController::footage() const {
@@ -88,6 +86,7 @@ Section ShowreelViewController::newScenes(const Game& game) {
   section.nodes.push_back(Button{.label = "Hire the production company",
                                  .press = [this](Stage& stage) { produce(stage); },
                                  .price = currency(game.locale, scenePackages[package_].cost, 0),
+                                 .refusal = briefOf(reelRefusal(game.world, scenePackages[package_].cost)),
                                  .weight = Button::Weight::primary});
   return section;
 }
@@ -95,8 +94,7 @@ Section ShowreelViewController::newScenes(const Game& game) {
 Page ShowreelViewController::view(const Game& game) {
   const WorldState& world = game.world;
   Page page{.title = "Showreel", .subtitle = "A new reel replaces the old one"};
-  page.nodes = {Tiles{{{.label = "Cash", .value = cash(game.locale, world.totalCashAvailable)}}},
-                scoreMeter("Showreel", world.showreelScore)};
+  page.nodes = {scoreMeter("Showreel", world.showreelScore)};
   if (!world.newSceneDescriptions.empty()) page.nodes.push_back(scenesOfTheReel(world));
   page.nodes.push_back(footage());
   page.nodes.push_back(newScenes(game));

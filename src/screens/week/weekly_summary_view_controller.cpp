@@ -77,13 +77,15 @@ Section WeeklySummaryViewController::feed(const Game& game) {
 }
 
 Page WeeklySummaryViewController::view(const Game& game) {
-  Page page{.title = "REVIEW", .subtitle = std::format("Week {} of {}", summary_.week, summary_.year)};
+  Page page{.title = "REVIEW",
+            .subtitle = std::format("Week {} of {}", summary_.week, summary_.year),
+            .head = Page::Head::line};
   page.nodes.push_back(balance(game, summary_.balance));
   page.nodes.push_back(feed(game));
   page.nodes.push_back(figures(game));
   // Every week ends here: the way on is where the thumb is that ended it.
-  page.nodes.push_back(Button{
-      .label = "Carry on", .press = [](Stage& stage) { stage.close(); }, .weight = Button::Weight::primary});
+  page.main = {
+      {.label = "Carry on", .press = [](Stage& stage) { stage.close(); }, .weight = Button::Weight::primary}};
   return page;
 }
 

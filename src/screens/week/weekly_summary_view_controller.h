@@ -13,6 +13,8 @@ class WeeklySummaryViewController : public Screen {
   void leave(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
   [[nodiscard]] std::string closeLabel() const override { return "Close"; }
+  // The week's story is read first.
+  [[nodiscard]] TabsHere tabsHere() const override { return TabsHere::later; }
 
  private:
   [[nodiscard]] view::Button releaseButton();

@@ -1,5 +1,6 @@
 #include "screens/work/active_audition_view_controller.h"
 
+#include <algorithm>
 #include <array>
 #include <format>
 #include <vector>
@@ -17,41 +18,55 @@ using namespace view;
 
 namespace {
 
+using Listed = ActiveAuditionViewController::List;
+
 struct FunnelList {
   const char* title;
-  std::int64_t lowestStage;
-  std::int64_t highestStage;
   const char* whenEmpty;
 };
 
-constexpr std::array<FunnelList, 4> funnelLists = {{
+// By List.
+constexpr std::array<FunnelList, 5> funnelLists = {{
     {.title = "All Applications",
-     .lowestStage = funnel::closed,
-     .highestStage = funnel::wrapped,
      .whenEmpty = "You have not applied for anything yet. Roles to submit for are behind the B at the "
                   "top right."},
-    {.title = "Upcoming Auditions",
-     .lowestStage = funnel::invited,
-     .highestStage = funnel::invited,
-     .whenEmpty = "Nobody has asked you in yet."},
-    {.title = "Bookings",
-     .lowestStage = funnel::booked,
-     .highestStage = funnel::booked,
-     .whenEmpty = "You are not booked for anything."},
-    {.title = "Releases",
-     .lowestStage = funnel::wrapped,
-     .highestStage = funnel::wrapped,
-     .whenEmpty = "Nothing of yours has wrapped yet."},
+    {.title = "Upcoming Auditions", .whenEmpty = "Nobody has asked you in yet."},
+    {.title = "Bookings", .whenEmpty = "You are not booked for anything."},
+    {.title = "Releases", .whenEmpty = "Nothing of yours has wrapped yet."},
+    {.title = "Not Selected", .whenEmpty = "No role of yours has gone to somebody else."},
 }};
 
-// Where the projects of a list stand, newest first.
-std::vector<std::size_t> projectsOf(const WorldState& world, const FunnelList& list) {
-  std::vector<std::size_t> places;
-  for (std::size_t index = world.saveAllAuditionList.size(); index-- > 0;) {
-    const Audition& project = world.saveAllAuditionList[index];
-    const bool listed = project.funnelStage >= list.lowestStage && project.funnelStage <= list.highestStage;
-    if (listed && project.didAct == 1) places.push_back(index);
+const FunnelList& funnelList(Listed list) { return funnelLists[static_cast<std::size_t>(list)]; }
+
+bool isListed(const WorldState& world, const Audition& project, Listed list) {
+  if (project.didAct != 1) return false;
+  switch (list) {
+    case Listed::all:
+      return true;
+    case Listed::upcoming:
+      return project.funnelStage == funnel::invited && !isOver(world, project);
+    case Listed::bookings:
+      return project.funnelStage == funnel::booked;
+    case Listed::releases:
+      return project.funnelStage == funnel::wrapped;
+    case Listed::notSelected:
+      return project.funnelStage == funnel::invited && isOver(world, project);
   }
+}
+
+// The week by which a list is sorted, the soonest first; 0 in a list that is not.
+std::int64_t weekAhead(const Audition& project, Listed list) {
+  return list == Listed::upcoming ? project.weekAudition : list == Listed::bookings ? project.weekToWork : 0;
+}
+
+// Where the projects of a list stand: what comes next first, otherwise the newest.
+std::vector<std::size_t> projectsOf(const WorldState& world, Listed list) {
+  const auto& projects = world.saveAllAuditionList;
+  std::vector<std::size_t> places;
+  for (std::size_t index = projects.size(); index-- > 0;) {
+    if (isListed(world, projects[index], list)) places.push_back(index);
+  }
+  std::ranges::stable_sort(places, {}, [&](std::size_t index) { return weekAhead(projects[index], list); });
   return places;
 }
 
@@ -66,19 +81,23 @@ Row projectRow(const WorldState& world, const Audition& project) {
 
 }  // namespace
 
+void openNotSelected(Stage& stage) {
+  stage.open(std::make_unique<ActiveAuditionViewController>(Listed::notSelected));
+}
+
 Choice ActiveAuditionViewController::lists() {
   Choice choice{.label = "Show"};
   for (std::size_t index = 0; index < funnelLists.size(); ++index) {
     choice.options.push_back({.label = funnelLists[index].title,
-                              .chosen = index == list_,
-                              .press = [this, index](Stage&) { list_ = index; }});
+                              .chosen = index == static_cast<std::size_t>(list_),
+                              .press = [this, index](Stage&) { list_ = static_cast<List>(index); }});
   }
   return choice;
 }
 
 Page ActiveAuditionViewController::view(const Game& game) {
-  const FunnelList& list = funnelLists[list_];
-  const std::vector<std::size_t> projects = projectsOf(game.world, list);
+  const FunnelList& list = funnelList(list_);
+  const std::vector<std::size_t> projects = projectsOf(game.world, list_);
   return {.title = "Auditions",
           .subtitle = list.title,
           .nodes = {lists(), PagedList{.key = list.title,

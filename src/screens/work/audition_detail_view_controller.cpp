@@ -8,9 +8,9 @@
 #include "core/audition_list.h"
 #include "core/number_style.h"
 #include "core/text.h"
-#include "screens/film/promote_film_view_controller.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
+#include "screens/work/boost_parts.h"
 #include "screens/work/project_words.h"
 
 namespace tb {
@@ -64,13 +64,6 @@ Section thePreparation(const Audition& project) {
 // --- What can be done ---
 
 // A project as its buttons know it: the list may have moved before one of them is pressed.
-void boost(Stage& stage, std::int64_t filmId, BoostKind kind) {
-  const auto index = auditionIndex(stage.game().world, filmId);
-  if (!index) return;
-  if (Refusal refusal = buyBoost(stage.game(), *index)) return stage.show(std::move(refusal));
-  if (kind == BoostKind::promote) stage.open(std::make_unique<PromoteFilmViewController>());
-}
-
 void bribe(Stage& stage, std::int64_t filmId) {
   const auto index = auditionIndex(stage.game().world, filmId);
   if (!index) return;
@@ -95,41 +88,34 @@ void askToWithdraw(Stage& stage, std::int64_t filmId) {
         .weight = Button::Weight::destructive}});
 }
 
-std::string nameOf(BoostKind kind) {
-  switch (kind) {
-    case BoostKind::rehearse:
-      return "REHEARSE";
-    case BoostKind::performance:
-      return "WORK ON YOUR PERFORMANCE";
-    case BoostKind::promote:
-      return "PROMOTE";
-  }
+void askToPutAway(Stage& stage, std::int64_t filmId) {
+  stage.ask(Notice{.title = "🗄 Put Away? 🗄",
+                   .message = "\nYou were not selected for this role. Putting it away takes it off your list "
+                              "for good, and a few fans who had heard of it may be disappointed."},
+            {{.label = "Keep", .weight = Button::Weight::primary},
+             {.label = "Put away",
+              .press = [filmId](Stage& asked) { withdraw(asked, filmId); },
+              .weight = Button::Weight::destructive}});
 }
 
-Button boostButton(const Boost& offered, const Audition& project) {
-  return {.label = nameOf(offered.kind),
-          .press = [id = project.filmId, kind = offered.kind](Stage& stage) { boost(stage, id, kind); },
-          .price = energyPrice(offered.energyPrice),
-          .weight = Button::Weight::primary};
+Button bribeButton(const Game& game, const Audition& project) {
+  const double price = static_cast<double>(game.world.saveBribePrice);
+  return {.label = currency(game.locale, price, 0) + " | BRIBE",
+          .press = [id = project.filmId](Stage& stage) { bribe(stage, id); },
+          .refusal = briefOf(bribeRefusal(game.world))};
 }
 
-std::vector<Node> actions(const Game& game, const Audition& project) {
-  std::vector<Node> nodes;
-  if (const auto offered = boostOf(game.world, project)) {
-    nodes.push_back(energyMeter(game.world));
-    nodes.push_back(boostButton(*offered, project));
+// A role that went to somebody else is only taken off the list.
+Button withdrawal(const WorldState& world, const Audition& project) {
+  if (isOver(world, project)) {
+    return {.label = "Put away",
+            .press = [id = project.filmId](Stage& stage) { askToPutAway(stage, id); },
+            .name = "Put away " + project.title,
+            .weight = Button::Weight::quiet};
   }
-  if (isBribeOffered(project)) {
-    const double price = static_cast<double>(game.world.saveBribePrice);
-    nodes.push_back(Button{.label = currency(game.locale, price, 0) + " | BRIBE",
-                           .press = [id = project.filmId](Stage& stage) { bribe(stage, id); }});
-  }
-  return nodes;
-}
-
-Button withdrawal(const Audition& project) {
   return {.label = "Withdraw",
           .press = [id = project.filmId](Stage& stage) { askToWithdraw(stage, id); },
+          .name = "Withdraw from " + project.title,
           .weight = Button::Weight::destructive};
 }
 
@@ -143,10 +129,13 @@ Page AuditionDetailViewController::view(const Game& game) {
             .subtitle = std::format("{} • {}", typeName(project.typeOfFilm), guildWords(project.isUnion))};
   page.nodes = {posterOf(game.world, project), theState(game.world, project),
                 Text{.text = project.description}, thePreparation(project)};
-  page.nodes.append_range(actions(game, project));
+  if (const auto offered = boostOf(game.world, project)) {
+    page.main = {boostButton(game.world, *offered, project, BoostWords::full)};
+  }
+  if (isBribeOffered(project)) page.nodes.push_back(bribeButton(game, project));
   page.nodes.append_range(
       std::vector<Node>{roleSection(project), theProject(game, project), theRoad(game.world, project)});
-  if (isWithdrawalOffered(project)) page.nodes.push_back(withdrawal(project));
+  if (isWithdrawalOffered(project)) page.nodes.push_back(withdrawal(game.world, project));
   return page;
 }
 

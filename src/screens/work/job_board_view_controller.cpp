@@ -26,6 +26,7 @@ void JobBoardViewController::load(Stage& stage) { board_ = openJobBoard(stage.ga
 
 void JobBoardViewController::accept(Stage& stage, const JobOffer& offer) {
   if (Refusal refusal = acceptJob(stage.game(), offer)) return stage.show(std::move(refusal));
+  stage.say(std::format("You start as a {} for {} weeks.", offer.job.jobTitle, offer.contractWeeks));
 }
 
 Card JobBoardViewController::offerCard(const Game& game, const JobOffer& offer) {
@@ -36,6 +37,8 @@ Card JobBoardViewController::offerCard(const Game& game, const JobOffer& offer) 
                     Row{.label = "Energy", .value = std::format("-{} each week", offer.job.energyCost)},
                     Button{.label = "Accept",
                            .press = [this, offer](Stage& stage) { accept(stage, offer); },
+                           .refusal = briefOf(jobRefusal(game.world)),
+                           .name = std::format("Accept {}", offer.job.jobTitle),
                            .weight = Button::Weight::primary}}};
 }
 
@@ -52,8 +55,6 @@ Section JobBoardViewController::board(const Game& game) {
 
 Page JobBoardViewController::view(const Game& game) {
   Page page{.title = "Job Board", .subtitle = "Work that pays while you wait for the call"};
-  page.nodes = {Tiles{{{.label = "Cash", .value = cash(game.locale, game.world.totalCashAvailable)}}},
-                energyMeter(game.world)};
   if (!game.world.weeklyJobTitle.empty()) page.nodes.push_back(presentJob(game));
   page.nodes.push_back(board(game));
   return page;

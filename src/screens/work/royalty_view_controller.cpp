@@ -71,10 +71,10 @@ Section RoyaltyViewController::theAsk(const Game& game, const Audition& offer) {
                              {.label = "Ask for more",
                               .press = [this](Stage&) { steps_ += 1; },
                               .offReason = steps_ < mostStakeSteps ? "" : "Nobody has ever asked for more"}}},
-                    energyMeter(game.world),
                     Button{.label = "Negotiate",
                            .press = [this](Stage& stage) { negotiate(stage); },
                            .price = energyPrice(stakeNegotiationEnergy),
+                           .refusal = briefOf(stakeRefusal(game.world)),
                            .weight = Button::Weight::primary}}};
 }
 

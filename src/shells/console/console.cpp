@@ -172,7 +172,8 @@ bool Console::slide(view::Handle handle, const Target& slider, std::string words
 void Console::goBack() {
   if (!page_.dialog.empty()) {
     hint_ = "This has to be answered first.";
-  } else if (app_.view().close.empty()) {
+  } else if (const view::Page& page = app_.view();
+             page.close.empty() && (page.tabs.empty() || page.tabs.front().current)) {
     hint_ = "There is no way back from here.";
   } else {
     app_.back();
@@ -231,6 +232,10 @@ bool Console::stillThere(view::Handle handle, const Target& target) {
 void Console::paintAgain() {
   const ConsolePort::Shape shape = port_.shape();
   page_ = paint(app_.view(), {.columns = shape.columns, .blocks = shape.blocks});
+  for (const view::PassingLine& passing : app_.view().passing) {
+    if (std::exchange(passed_, passing.number) == passing.number) continue;
+    hint_ = hint_.empty() ? passing.text : passing.text + "\n" + hint_;
+  }
 }
 
 void Console::show() {

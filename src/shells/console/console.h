@@ -74,7 +74,8 @@ class Console {
   App& app_;
   ConsolePort& port_;
   PaintedPage page_;
-  std::string hint_;       // one line about the last thing typed, until the next
+  std::string hint_;       // about the last thing typed, until the next
+  int passed_ = 0;         // the number of the last passing line that was shown
   std::string place_;      // what is scrolled: the page and its tab, or the dialog
   std::size_t first_ = 0;  // the first line in view of a page longer than the window
   std::size_t shown_ = 0;  // lines of it that the window shows

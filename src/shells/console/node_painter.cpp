@@ -86,6 +86,10 @@ std::string number(double value) {
   return digits;
 }
 
+std::string stepMark(Row::Step step) {
+  return step == Row::Step::none ? "" : step == Row::Step::taken ? "(x) " : "( ) ";
+}
+
 // "1:05", or "1:02:03" from an hour on; a second that has begun counts.
 std::string clock(double seconds) {
   const double inside = std::isfinite(seconds) ? std::clamp(seconds, 0.0, longestCountdown) : 0;
@@ -125,6 +129,10 @@ void NodePainter::kind(const Text& text) {
       break;
     case Text::Style::caption:
       canvas_.text(text.text, text.tone == Tone::plain ? Ink::quiet : inkOf(text.tone));
+      break;
+    case Text::Style::heading:
+      canvas_.gap();
+      canvas_.text(text.text, Ink::strong);
       break;
     case Text::Style::quotation:
       canvas_.nested("> ", [&] { canvas_.text(text.text, inkOf(text.tone)); });
@@ -265,11 +273,12 @@ void NodePainter::kind(const Buttons& buttons) {
 
 void NodePainter::kind(const Row& row) {
   const std::string mark = targets_.add(row.handle, {.label = row.label});
-  canvas_.leader(row.label, row.value, row.tone == Tone::quiet ? Ink::quiet : Ink::plain, inkOf(row.tone),
-                 mark);
+  canvas_.leader(stepMark(row.step) + row.label, row.value, row.tone == Tone::quiet ? Ink::quiet : Ink::plain,
+                 inkOf(row.tone), mark);
   canvas_.nested("  ", [&] {
     if (!row.detail.empty()) canvas_.text(row.detail, Ink::quiet);
     if (const std::string words = inWords(row.picture); !words.empty()) canvas_.text(words, Ink::quiet);
+    for (const Button& action : row.action) drawButton(canvas_, targets_, action);
   });
 }
 

@@ -43,6 +43,10 @@ std::vector<Line> head(const Page& page, const Surface& surface, Targets& target
     for (std::string& part : wrapped(subtitle, surface.columns))
       canvas.flush({{std::move(part), Ink::quiet}});
   }
+  std::vector<Runs> figures;
+  for (const StatTile& figure : page.figures)
+    figures.push_back({{figure.label + " ", Ink::quiet}, {figure.value, Ink::strong}});
+  for (Runs& row : rowsOf(figures, wayGap, surface.columns)) canvas.flush(std::move(row));
   canvas.rule();
   return canvas.take();
 }
@@ -66,11 +70,13 @@ void drawMoment(Canvas& canvas, const Moment& moment) {
   canvas.gap();
 }
 
-// The tabs on one line; where their icons leave no room for that, without them.
+// What the page is for, and under it the tabs on one line; where their icons leave no room for that, without
+// them.
 std::vector<Line> foot(const Page& page, const Surface& surface, Targets& targets) {
   const auto rowsWith = [&](bool icons) {
     std::vector<Runs> items;
     for (Tab tab : page.tabs) {
+      if (tab.isOff) continue;
       if (!icons) tab.icon.clear();
       items.push_back(tabRuns(targets, tab));
     }
@@ -79,6 +85,7 @@ std::vector<Line> foot(const Page& page, const Surface& surface, Targets& target
   std::vector<Runs> rows = rowsWith(true);
   if (rows.size() > 1) rows = rowsWith(false);
   Canvas canvas(surface);
+  for (const Button& main : page.main) drawButton(canvas, targets, main);
   for (Runs& row : rows) canvas.flush(std::move(row));
   return canvas.take();
 }

@@ -13,10 +13,10 @@
 namespace tb::console {
 
 struct PaintedPage {
-  std::vector<Line> head;  // the title, the icons and the way back
+  std::vector<Line> head;  // the title, the icons and the way back, the figures that are always in view
   std::vector<Line> body;
   std::vector<Line> dialog;  // over the body; empty when there is none
-  std::vector<Line> foot;    // the tabs
+  std::vector<Line> foot;    // what the page is for, and the tabs
   std::map<view::Handle, Target> targets;
   bool counting = false;  // time runs on this page
 };

@@ -18,11 +18,21 @@ Ink inkOf(Button::Weight weight) {
     case Button::Weight::primary:
       return Ink::strong;
     case Button::Weight::quiet:
+    case Button::Weight::done:
       return Ink::quiet;
     case Button::Weight::destructive:
       return Ink::warning;
   }
   std::unreachable();
+}
+
+std::string labelOf(const Button& button) {
+  return button.weight == Button::Weight::done ? button.label + " (done)" : button.label;
+}
+
+// Why it is off, or why it would refuse.
+const std::string& reasonOf(const Button& button) {
+  return button.offReason.empty() ? button.refusal : button.offReason;
 }
 
 }  // namespace
@@ -47,17 +57,19 @@ Runs buttonRuns(Targets& targets, const Button& button) {
       button.offReason.empty() ? targets.add(button.handle, {.label = button.label}) : std::string(offMark);
   Runs runs;
   if (!mark.empty()) runs.push_back({mark + " ", Ink::accent});
-  runs.push_back({button.label, button.offReason.empty() ? inkOf(button.weight) : Ink::quiet});
+  runs.push_back({labelOf(button), button.offReason.empty() ? inkOf(button.weight) : Ink::quiet});
   if (!button.price.empty()) runs.push_back({" " + button.price, Ink::strong});
-  if (!button.offReason.empty()) runs.push_back({" (" + button.offReason + ")", Ink::quiet});
+  if (const std::string& reason = reasonOf(button); !reason.empty())
+    runs.push_back({" (" + reason + ")", Ink::quiet});
   return runs;
 }
 
 void drawButton(Canvas& canvas, Targets& targets, const Button& button) {
   const bool off = !button.offReason.empty();
   const std::string mark = off ? std::string(offMark) : targets.add(button.handle, {.label = button.label});
-  canvas.leader(button.label, button.price, off ? Ink::quiet : inkOf(button.weight), Ink::strong, mark);
-  if (off) canvas.nested("  ", [&] { canvas.text(button.offReason, Ink::quiet); });
+  canvas.leader(labelOf(button), button.price, off ? Ink::quiet : inkOf(button.weight), Ink::strong, mark);
+  if (const std::string& reason = reasonOf(button); !reason.empty())
+    canvas.nested("  ", [&] { canvas.text(reason, Ink::quiet); });
 }
 
 }  // namespace tb::console

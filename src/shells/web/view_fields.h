@@ -68,10 +68,12 @@ namespace tb {
 VIEW_ENUM(Tone, plain, quiet, good, warning, accent);
 VIEW_ENUM(PictureKind, avatar, poster, logo, house, vehicle, card, photo, icon);
 VIEW_ENUM(PosterFormat, feature, series, commercial, student, shortFilm);
-VIEW_ENUM(Text::Style, body, large, caption, quotation);
-VIEW_ENUM(Button::Weight, normal, primary, quiet, destructive);
+VIEW_ENUM(Text::Style, body, large, caption, quotation, heading);
+VIEW_ENUM(Button::Weight, normal, primary, quiet, destructive, done);
+VIEW_ENUM(Row::Step, none, open, taken);
 VIEW_ENUM(Chart::Kind, line, bar, pie, histogram);
 VIEW_ENUM(Moment::Scene, deal, curtain, marquee);
+VIEW_ENUM(Page::Head, full, line);
 
 VIEW_STRUCT(Picture, kind, name, description, title, genre, format, season, billed, age);
 VIEW_STRUCT(Text, text, style, tone);
@@ -80,9 +82,9 @@ VIEW_STRUCT(Tiles, tiles);
 VIEW_STRUCT(Balance, label, net, tone, income, expenses);
 VIEW_STRUCT(Meter, label, value, maximum, text, isScore);
 VIEW_STRUCT(Stars, label, value, outOf);
-VIEW_STRUCT(Button, label, press, price, offReason, weight, handle);
+VIEW_STRUCT(Button, label, press, price, offReason, refusal, name, weight, handle);
 VIEW_STRUCT(Buttons, buttons);
-VIEW_STRUCT(Row, label, value, detail, picture, tone, press, handle);
+VIEW_STRUCT(Row, label, value, detail, picture, tone, step, press, action, handle);
 VIEW_STRUCT(Headline, stamp, text, detail, value, picture, tone, isLead, press, handle);
 VIEW_STRUCT(Field, label, value, type, hint, maximumLength, severalLines, handle);
 VIEW_STRUCT(Slider, label, value, minimum, maximum, step, text, slide, handle);
@@ -99,9 +101,11 @@ VIEW_STRUCT(Fold, key, label, nodes, isOpen, handle);
 VIEW_STRUCT(Card, title, subtitle, picture, nodes, press, handle);
 VIEW_STRUCT(SwipeCard, card, left, right);
 VIEW_STRUCT(ListPage, nodes, position, turns);
-VIEW_STRUCT(Tab, label, icon, current, press, handle);
+VIEW_STRUCT(Tab, label, icon, current, press, isOff, handle);
+VIEW_STRUCT(PassingLine, text, number);
 VIEW_STRUCT(Dialog, title, message, answers);
 VIEW_STRUCT(Moment, scene, title, line, picture, number);
-VIEW_STRUCT(Page, title, subtitle, icons, nodes, tabs, close, dialog, moment, screen);
+VIEW_STRUCT(Page, title, subtitle, heading, head, icons, figures, nodes, main, tabs, close, dialog, moment,
+            passing, offersSaves, screen);
 
 }  // namespace tb

@@ -32,15 +32,17 @@ TEST(PageJson, aPageNamesEveryPartOnceAndInOrder) {
   });
   page.screen = 2;
   page.dialog.push_back({.title = "Q", .message = "M", .answers = {{.label = "OK", .handle = 3}}});
-  EXPECT_EQ(pageJson(page),
-            R"({"title":"T","subtitle":"",)"
-            R"("icons":[{"label":"Backstage","icon":"B","current":false,"handle":1}],)"
-            R"("nodes":[{"kind":"meter","content":{"label":"Energy","value":72.5,"maximum":100,)"
-            R"("text":"72 of 100","isScore":false}},)"
-            R"({"kind":"section","content":{"heading":"Feed","nodes":[)"
-            R"({"kind":"text","content":{"text":"Nothing yet","style":"body","tone":"quiet"}}]}}],)"
-            R"("tabs":[],"close":[],"dialog":[{"title":"Q","message":"M","answers":[)"
-            R"({"label":"OK","price":"","offReason":"","weight":"normal","handle":3}]}],"screen":2})");
+  EXPECT_EQ(
+      pageJson(page),
+      R"({"title":"T","subtitle":"","heading":"","head":"full",)"
+      R"("icons":[{"label":"Backstage","icon":"B","current":false,"isOff":false,"handle":1}],"figures":[],)"
+      R"("nodes":[{"kind":"meter","content":{"label":"Energy","value":72.5,"maximum":100,)"
+      R"("text":"72 of 100","isScore":false}},)"
+      R"({"kind":"section","content":{"heading":"Feed","nodes":[)"
+      R"({"kind":"text","content":{"text":"Nothing yet","style":"body","tone":"quiet"}}]}}],)"
+      R"("main":[],"tabs":[],"close":[],"dialog":[{"title":"Q","message":"M","answers":[)"
+      R"({"label":"OK","price":"","offReason":"","refusal":"","name":"","weight":"normal","handle":3}]}],)"
+      R"("passing":[],"offersSaves":false,"screen":2})");
 }
 
 TEST(PageJson, figuresKeepAllTheirDigitsAndNeverBreakThePage) {

@@ -1,29 +1,44 @@
 // Buttons. One with a price is a ticket: the price stands on the stub. One that is off stays in reach and
-// says why.
+// says why, and one that would refuse says so before it is pressed.
 
 import { useId } from "preact/hooks";
 
 import type * as View from "../view_types";
 import { numbered } from "./keys";
 import { usePress } from "./pressing";
+import { Check } from "./signs";
 import { Words } from "./words";
 
-export function PressButton({ label, price, offReason, weight, handle }: View.Button) {
+// A price in energy, as it is said: a flash of lightning is read out as "high voltage".
+const spokenPrice = (price: string): string => price.replace(/⚡\ufe0f?\s*([\d.,]+)/u, "$1 energy");
+
+// What a screen reader calls the button; nothing where its own words say it.
+function spokenName({ label, name, price }: View.Button): string | undefined {
+  if (name === "" && spokenPrice(price) === price) return undefined;
+  const called = name === "" ? label : name;
+  return price === "" ? called : `${called}, ${spokenPrice(price)}`;
+}
+
+export function PressButton(button: View.Button) {
+  const { label, price, offReason, refusal, weight, handle } = button;
   const press = usePress();
   const reason = useId();
   const off = offReason !== "";
+  const why = off ? offReason : refusal;
   return (
-    <div class={`button-place weight-${weight}${off ? " is-off" : ""}`}>
+    <div class={`button-place weight-${weight}${off ? " is-off" : why === "" ? "" : " is-refusing"}`}>
       <button
         type="button"
         class={`button${price === "" ? "" : " button-ticket"}`}
         data-handle={handle}
+        aria-label={spokenName(button)}
         aria-disabled={off ? "true" : undefined}
-        aria-describedby={off ? reason : undefined}
+        aria-describedby={why === "" ? undefined : reason}
         onClick={press}
       >
         <span class="button-label">
           <span>
+            {weight === "done" && <Check />}
             <Words text={label} />
           </span>
         </span>
@@ -36,9 +51,9 @@ export function PressButton({ label, price, offReason, weight, handle }: View.Bu
           </span>
         )}
       </button>
-      {off && (
+      {why !== "" && (
         <p class="off-reason" id={reason}>
-          <Words text={offReason} />
+          <Words text={why} />
         </p>
       )}
     </div>

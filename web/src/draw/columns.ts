@@ -6,7 +6,6 @@ export interface Parts {
   readonly front: readonly Node[]; // none or one: the picture that the page opens with, beside the lead
   readonly lead: readonly Node[]; // over both columns
   readonly columns: readonly (readonly Node[])[]; // none, or two
-  readonly action: readonly Node[]; // none or one: what the page is for, kept in reach of the thumb
   readonly isNarrow: boolean; // nothing on it uses a wide screen
 }
 
@@ -41,17 +40,6 @@ function heightOf(node: Node): number {
 }
 
 const heightOfAll = (nodes: readonly Node[]): number => nodes.reduce((sum, node) => sum + heightOf(node), 0);
-
-// What the page is for: the one primary button that stands outside its sections, wherever it stands there. Of
-// several none is the one.
-const isMain = (node: Node): boolean =>
-  (node.kind === "button" && node.content.weight === "primary") ||
-  (node.kind === "buttons" && node.content.buttons.some((button) => button.weight === "primary"));
-
-function actionOf(nodes: readonly Node[]): readonly Node[] {
-  const main = nodes.filter(isMain);
-  return main.length === 1 ? main : [];
-}
 
 // Where to cut the sections so that the higher of the two columns is as low as can be.
 function cutOf(sections: readonly Node[]): number {
@@ -95,12 +83,10 @@ function startOfColumns(nodes: readonly Node[]): number {
 }
 
 export function partsOf(nodes: readonly Node[]): Parts {
-  const action = actionOf(nodes);
-  const rest = nodes.filter((node) => !action.includes(node));
-  const first = startOfColumns(rest);
-  const sections = first < 0 ? [] : rest.slice(first);
+  const first = startOfColumns(nodes);
+  const sections = first < 0 ? [] : nodes.slice(first);
   const hasColumns = sections.filter((node) => node.kind === "section").length >= 2;
-  const lead = hasColumns ? rest.slice(0, first) : rest;
+  const lead = hasColumns ? nodes.slice(0, first) : nodes;
   const fronts = isFront(lead[0], lead[1]) ? 1 : 0;
   const cut = cutOf(sections);
   const inside = sections[0]?.kind === "section" ? sections[0].content.nodes : [];
@@ -108,7 +94,6 @@ export function partsOf(nodes: readonly Node[]): Parts {
     front: lead.slice(0, fronts),
     lead: lead.slice(fronts),
     columns: hasColumns ? [sections.slice(0, cut), sections.slice(cut)] : [],
-    action,
-    isNarrow: !hasColumns && ![...rest, ...inside].some(isWide),
+    isNarrow: !hasColumns && ![...nodes, ...inside].some(isWide),
   };
 }

@@ -59,6 +59,7 @@ function listen(nodes: readonly Node[], said: Said): void {
 
 function heard(page: Page): Said {
   const said: Said = { figures: new Map(), sentences: new Set(), countdowns: new Map() };
+  for (const figure of page.figures) said.figures.set(figure.label, `${figure.value} ${figure.detail}`.trim());
   listen(page.nodes, said);
   return said;
 }

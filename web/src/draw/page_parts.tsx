@@ -1,11 +1,62 @@
-// What stands around a page: the bar over it, the title it opens with, the tabs under it.
+// What stands around a page: the bar over it, the title it opens with, and at its foot what it is for and the
+// tabs.
 
 import type * as View from "../view_types";
+import { PressButton } from "./button";
 import { numbered } from "./keys";
 import { usePress } from "./pressing";
 import { Back } from "./signs";
 import { Words } from "./words";
 import { wordmark } from "../art/wordmark";
+
+// Cash and energy, always in view.
+function Figures({ figures }: Pick<View.Page, "figures">) {
+  if (figures.length === 0) return null;
+  return (
+    <dl class="head-figures">
+      {figures.map(({ label, value, detail, tone }) => (
+        <div key={label} class={`head-figure tone-${tone}`}>
+          <dt class="unseen">{label}</dt>
+          <dd>
+            <Words text={value} />
+            {detail !== "" && <span class="unseen"> {detail}</span>}
+          </dd>
+        </div>
+      ))}
+    </dl>
+  );
+}
+
+// Its figures stand in the masthead, where there is one with room.
+const isOpening = (page: View.Page): boolean => page.head === "full" && page.close.length === 0;
+
+// One line holds the title, unless a masthead does. A tab's own heading is for those who do not see the tabs.
+function BarTitle({ title, subtitle, heading, head }: View.Page) {
+  const words = <Words text={title} />;
+  if (head === "full") {
+    return (
+      <span class="bar-title" aria-hidden="true">
+        {words}
+      </span>
+    );
+  }
+  return (
+    <div class="bar-words">
+      {heading === "" ? (
+        <h1 class="bar-name" tabIndex={-1}>
+          {words}
+        </h1>
+      ) : (
+        <p class="bar-name">{words}</p>
+      )}
+      {subtitle !== "" && (
+        <p class="bar-more">
+          <Words text={subtitle.replaceAll("\n", " ")} />
+        </p>
+      )}
+    </div>
+  );
+}
 
 export function Bar({ page }: { readonly page: View.Page }) {
   const press = usePress();
@@ -13,7 +64,7 @@ export function Bar({ page }: { readonly page: View.Page }) {
   return (
     <header class="bar">
       <div class="bar-in">
-        {page.close.length === 0 && (
+        {isOpening(page) && (
           <span class="wordmark" aria-hidden="true" dangerouslySetInnerHTML={{ __html: wordmark() }} />
         )}
         {page.close.map((close) => (
@@ -22,9 +73,8 @@ export function Bar({ page }: { readonly page: View.Page }) {
             <Words text={close.label} />
           </button>
         ))}
-        <span class="bar-title" aria-hidden="true">
-          <Words text={page.title} />
-        </span>
+        <BarTitle {...page} />
+        {!isOpening(page) && <Figures figures={page.figures} />}
         {page.icons.length > 0 && (
           <div class="bar-icons">
             {page.icons.map((icon, index) => (
@@ -50,29 +100,42 @@ export function Bar({ page }: { readonly page: View.Page }) {
 
 // The heading takes the focus when a screen opens, so that its name is read and the keyboard starts from its
 // top.
-export function Masthead({ title, subtitle }: Pick<View.Page, "title" | "subtitle">) {
+export function Masthead({ page }: { readonly page: View.Page }) {
+  const { title, subtitle, heading, head } = page;
+  if (head === "line") {
+    return heading === "" ? null : (
+      <h1 class="unseen" tabIndex={-1}>
+        {heading}
+      </h1>
+    );
+  }
   return (
     <div class="masthead">
       <div class="masthead-in">
-        <h1 class="page-title" tabIndex={-1}>
-          <Words text={title} />
-        </h1>
-        {subtitle !== "" && (
-          <p class="page-subtitle">
-            <Words text={subtitle} />
-          </p>
-        )}
+        <div class="masthead-words">
+          <h1 class="page-title" tabIndex={-1}>
+            <Words text={title} />
+          </h1>
+          {subtitle !== "" && (
+            <p class="page-subtitle">
+              <Words text={isOpening(page) ? subtitle.replaceAll("\n", " ") : subtitle} />
+            </p>
+          )}
+        </div>
+        {isOpening(page) && <Figures figures={page.figures} />}
       </div>
     </div>
   );
 }
 
-export function Tabs({ tabs }: { readonly tabs: readonly View.Tab[] }) {
+function Tabs({ tabs }: { readonly tabs: readonly View.Tab[] }) {
   const press = usePress();
   if (tabs.length === 0) return null;
   const keys = numbered(tabs.map((tab) => tab.label));
+  // Tabs that can't be used keep their place and are not there for anybody.
+  const isOff = tabs.every((tab) => tab.isOff);
   return (
-    <nav class="tabs" aria-label="Tabs" id="tabs" tabIndex={-1}>
+    <nav class={isOff ? "tabs is-off" : "tabs"} aria-label="Tabs" id="tabs" tabIndex={-1} inert={isOff}>
       <ul class="tabs-in" role="list">
         {tabs.map((tab, index) => (
           <li class="tab-place" key={keys[index]!}>
@@ -94,5 +157,20 @@ export function Tabs({ tabs }: { readonly tabs: readonly View.Tab[] }) {
         ))}
       </ul>
     </nav>
+  );
+}
+
+// At one spot on every page: over the tabs on a phone, under them at the side of a wide screen.
+export function Foot({ main, tabs }: Pick<View.Page, "main" | "tabs">) {
+  if (main.length === 0 && tabs.length === 0) return null;
+  return (
+    <div class="foot">
+      {main.map((button) => (
+        <div class="foot-main" key="main">
+          <PressButton {...button} />
+        </div>
+      ))}
+      <Tabs tabs={tabs} />
+    </div>
   );
 }

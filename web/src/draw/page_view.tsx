@@ -7,13 +7,17 @@
 import { Component, createRef } from "preact";
 
 import type { PageViewProps } from "../runtime/actions";
+import type { Page } from "../view_types";
 import { newsBetween } from "./news";
 import { focusNow, keepFocus, Places, screenOf } from "./places";
 import type { Focus } from "./places";
-import { pressAfterTyping } from "./pressing";
+import { cameUp, pressAfterTyping } from "./pressing";
 import { Screen } from "./screen";
 
 const product = document.title;
+
+// What a press meets: the screen, or the message over it.
+const placeOf = (page: Page): string => `${screenOf(page)} ${page.dialog[0]?.title ?? ""}`;
 
 export class PageView extends Component<PageViewProps> {
   private readonly root = createRef<HTMLDivElement>();
@@ -22,7 +26,21 @@ export class PageView extends Component<PageViewProps> {
 
   override componentDidMount(): void {
     this.nameTab();
+    addEventListener("keydown", this.onKeyDown);
   }
+
+  override componentWillUnmount(): void {
+    removeEventListener("keydown", this.onKeyDown);
+  }
+
+  // Escape goes back. In a field it only ends the typing, and a message has its own answer to it.
+  private readonly onKeyDown = (event: KeyboardEvent): void => {
+    if (event.key !== "Escape" || event.defaultPrevented || document.querySelector("dialog[open]") !== null) return;
+    const control = document.activeElement;
+    if (control instanceof HTMLElement && control.matches("input:not([type=radio], [type=checkbox]), textarea"))
+      return control.blur();
+    this.props.actions.back();
+  };
 
   // The page before is still on show.
   override getSnapshotBeforeUpdate(before: PageViewProps): null {
@@ -42,6 +60,7 @@ export class PageView extends Component<PageViewProps> {
       this.focus = null;
       this.places.enter(root, page);
     }
+    if (placeOf(before.page) !== placeOf(page)) cameUp();
     this.tell(newsBetween(before.page, page));
     pressAfterTyping();
   }
@@ -51,7 +70,8 @@ export class PageView extends Component<PageViewProps> {
   }
 
   private nameTab(): void {
-    const { title } = this.props.page;
+    const { title: whole, heading } = this.props.page;
+    const title = heading === "" ? whole : heading;
     document.title = title === "" || title === product ? product : `${title} · ${product}`;
   }
 

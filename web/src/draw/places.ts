@@ -9,16 +9,17 @@ const isRoot = (page: Page): boolean => page.close.length === 0;
 // What tells one place from another: the screen, and on the hub the tab. The title says nothing of it: a film's
 // page, its box office and its reviews share theirs, and a list may change its own as it is switched over.
 export function screenOf(page: Page): string {
-  return `${page.screen} ${page.tabs.find((tab) => tab.current)?.label ?? ""}`;
+  return isRoot(page) ? `${page.screen} ${page.heading}` : String(page.screen);
 }
 
 const controls = "button, input, textarea";
 
-// What a control is called, so that it is found when its element is gone. Cards of one list have buttons of the
-// same name; the title of the card tells them apart.
+// What a control is called, so that it is found when its element is gone. Cards and rows of one list have
+// buttons of the same name; the title of the card or row tells them apart.
 function nameOf(control: Element): string {
   const label = (control as HTMLInputElement).labels?.[0] ?? control;
-  const card = control.closest(".card")?.querySelector(".card-title")?.textContent ?? "";
+  const around = control.closest(".row-place, .card")?.querySelector(".row-label, .card-title");
+  const card = around?.textContent ?? "";
   return `${control.tagName} ${control.getAttribute("aria-label") ?? label.textContent} ${card}`;
 }
 

@@ -33,10 +33,37 @@ export function handleOf(control: HTMLElement): number {
   return control.isConnected ? Number(control.dataset["handle"] ?? 0) : 0;
 }
 
+// A second press that comes right after the first was meant for what stood there then. On what the first one
+// brought up, another screen or a message, it does nothing.
+const tooSoon = 333; // milliseconds
+const oneSpot = 48; // pixels that two presses of one finger lie apart at most
+
+let last: MouseEvent | null = null;
+let broughtUp: MouseEvent | null = null; // the press that brought up what is on show
+
+// Another screen or a message is on show.
+export function cameUp(): void {
+  broughtUp = last;
+}
+
+// A key that is held down presses whatever has the focus.
+function isSameSpot(first: MouseEvent, second: MouseEvent): boolean {
+  if (second.detail === 0) return first.detail === 0;
+  return Math.hypot(second.clientX - first.clientX, second.clientY - first.clientY) < oneSpot;
+}
+
+function fallsThrough(press: MouseEvent): boolean {
+  return broughtUp !== null && press.timeStamp - broughtUp.timeStamp < tooSoon && isSameSpot(broughtUp, press);
+}
+
 // The answer to a click on any control that has a data-handle.
 export function usePress(): (event: Event) => void {
   const { actions } = useScreen();
   return (event) => {
+    if (event instanceof MouseEvent) {
+      if (fallsThrough(event)) return;
+      last = event;
+    }
     const control = event.currentTarget as HTMLElement;
     const press = () => {
       const handle = handleOf(control);

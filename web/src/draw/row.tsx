@@ -3,8 +3,10 @@
 import type { ComponentChildren } from "preact";
 
 import type * as View from "../view_types";
+import { PressButton } from "./button";
 import { Picture } from "./picture";
 import { usePress } from "./pressing";
+import { Check } from "./signs";
 import { Words } from "./words";
 
 export function Rows({ children }: { readonly children?: ComponentChildren }) {
@@ -15,9 +17,21 @@ export function Rows({ children }: { readonly children?: ComponentChildren }) {
   );
 }
 
-function RowContent({ label, value, detail, picture }: View.Row) {
+// A step that is taken has a tick in its circle.
+function StepMark({ step }: Pick<View.Row, "step">) {
+  if (step === "none") return null;
+  return (
+    <span class={`step step-${step}`}>
+      <span class="unseen">{step === "taken" ? "Done: " : "To do: "}</span>
+      {step === "taken" && <Check />}
+    </span>
+  );
+}
+
+function RowContent({ label, value, detail, picture, step }: View.Row) {
   return (
     <>
+      <StepMark step={step} />
       {picture.map((shown) => (
         <Picture key={shown.name} {...shown} size="row" />
       ))}
@@ -51,19 +65,28 @@ function layoutOf({ value, picture, tone }: View.Row): string {
 
 export function Row(row: View.Row) {
   const press = usePress();
-  const tint = layoutOf(row);
+  const look = `row ${layoutOf(row)}`;
+  const action = row.action.map((button) => <PressButton key="action" {...button} />);
   if (row.handle === 0) {
     return (
-      <li class={`row ${tint}`}>
-        <RowContent {...row} />
+      <li class={action.length > 0 ? "row-acting" : look}>
+        {action.length > 0 ? (
+          <div class={look}>
+            <RowContent {...row} />
+          </div>
+        ) : (
+          <RowContent {...row} />
+        )}
+        {action}
       </li>
     );
   }
   return (
-    <li class="row-place">
-      <button type="button" class={`row row-press ${tint}`} data-handle={row.handle} onClick={press}>
+    <li class={action.length > 0 ? "row-place row-acting" : "row-place"}>
+      <button type="button" class={`${look} row-press`} data-handle={row.handle} onClick={press}>
         <RowContent {...row} />
       </button>
+      {action}
     </li>
   );
 }

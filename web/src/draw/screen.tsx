@@ -10,7 +10,8 @@ import type { Parts } from "./columns";
 import { Dialog } from "./dialog";
 import { MomentOver } from "./moment";
 import { Nodes } from "./node";
-import { Bar, Masthead, Tabs } from "./page_parts";
+import { Bar, Foot, Masthead } from "./page_parts";
+import { Passing } from "./passing";
 import { screenOf } from "./places";
 import { ScreenContext } from "./screen_context";
 
@@ -22,7 +23,7 @@ function usePageUnderDialog(page: Page): Page {
   return open.current;
 }
 
-function Content({ front, lead, columns, action }: Parts) {
+function Content({ front, lead, columns }: Parts) {
   return (
     <div class="nodes">
       {lead.length > 0 && (
@@ -42,74 +43,78 @@ function Content({ front, lead, columns, action }: Parts) {
           ))}
         </div>
       )}
-      {action.length > 0 && (
-        <div class="action" key="action">
-          <Nodes nodes={action} />
-        </div>
-      )}
     </div>
   );
 }
 
 // Tells the style when the title has scrolled away, so that the bar shows it.
-function useScrolledTitle(root: RefObject<HTMLDivElement | null>): void {
+function useScrolledTitle(root: RefObject<HTMLDivElement | null>, head: Page["head"]): void {
   useEffect(() => {
     const screen = root.current!;
+    const title = screen.querySelector(".masthead h1");
+    screen.toggleAttribute("data-scrolled", title === null);
+    if (title === null) return;
     const watch = new IntersectionObserver(
-      ([title]) => screen.toggleAttribute("data-scrolled", !title!.isIntersecting),
+      ([seen]) => screen.toggleAttribute("data-scrolled", !seen!.isIntersecting),
       {
         rootMargin: "-56px 0px 0px", // under the bar is out of sight
       },
     );
-    watch.observe(screen.querySelector("h1")!);
+    watch.observe(title);
     return () => watch.disconnect();
-  }, []);
+  }, [head]);
 }
 
-// Tells the style how high the tabs stand, which large text may break into two lines: what sticks does so
-// above them.
-function useTabsHeight(root: RefObject<HTMLDivElement | null>, count: number): void {
+// Tells the style how high the foot stands, which large text may break into more lines: what has the focus is
+// scrolled clear of it.
+function useFootHeight(root: RefObject<HTMLDivElement | null>, hasFoot: boolean): void {
   useEffect(() => {
-    const tabs = root.current!.querySelector<HTMLElement>(".tabs");
-    if (tabs === null) return;
-    const tell = () => document.documentElement.style.setProperty("--tabs-height", `${tabs.offsetHeight}px`);
+    const foot = root.current!.querySelector<HTMLElement>(".foot");
+    if (foot === null) return;
+    const tell = () => document.documentElement.style.setProperty("--foot-height", `${foot.offsetHeight}px`);
     const watch = new ResizeObserver(tell);
-    watch.observe(tabs);
+    watch.observe(foot);
     return () => {
       watch.disconnect();
-      document.documentElement.style.removeProperty("--tabs-height");
+      document.documentElement.style.removeProperty("--foot-height");
     };
-  }, [count > 0]);
+  }, [hasFoot]);
 }
 
 type ScreenProps = PageViewProps & { readonly root: RefObject<HTMLDivElement | null> };
 
 export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
   const under = usePageUnderDialog(page);
-  useScrolledTitle(root);
-  useTabsHeight(root, under.tabs.length);
+  useScrolledTitle(root, under.head);
+  useFootHeight(root, under.tabs.length > 0 || under.main.length > 0);
   const context = useMemo(() => ({ title: under.title, actions, headingLevel: 2 }), [under.title, actions]);
   const parts = partsOf(under.nodes);
-  const looks = ["screen", under.tabs.length > 0 && "has-tabs", parts.isNarrow && "is-narrow"];
+  const looks = [
+    "screen",
+    `head-${under.head}`,
+    under.tabs.length > 0 && "has-tabs",
+    parts.isNarrow && "is-narrow",
+  ];
   const dialog = page.dialog[0];
   return (
     <ScreenContext.Provider value={context}>
       <div class={looks.filter(Boolean).join(" ")} ref={root}>
-        {under.tabs.length > 0 && (
+        {under.tabs.some((tab) => !tab.isOff) && (
           <button type="button" class="skip" onClick={() => document.getElementById("tabs")?.focus()}>
             Skip to the tabs
           </button>
         )}
         <Bar page={under} />
         <main class="main">
-          <Masthead title={under.title} subtitle={under.subtitle} />
+          <Masthead page={under} />
           <div class="content">
             {banner}
             <Content key={screenOf(under)} {...parts} />
-            {corner}
+            {under.offersSaves && corner}
           </div>
         </main>
-        <Tabs tabs={under.tabs} />
+        <Foot main={under.main} tabs={under.tabs} />
+        <Passing passing={page.passing} />
         <p class="unseen" aria-live="polite" data-news />
         <MomentOver page={page} />
         {dialog !== undefined && <Dialog key={`${dialog.title} ${dialog.message}`} {...dialog} />}

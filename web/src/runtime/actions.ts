@@ -18,5 +18,5 @@ export interface PageViewProps {
   readonly page: Page;
   readonly actions: Actions;
   readonly banner: ComponentChildren; // notices about saving and updates: above the page's nodes
-  readonly corner: ComponentChildren; // the way to the saves: after the page's last node
+  readonly corner: ComponentChildren; // the way to the saves: after the last node of a page that offers it
 }

@@ -4,17 +4,25 @@ import { type JSX } from "preact";
 import { useRef, useState } from "preact/hooks";
 
 import { artCredit } from "../art/credits";
-import type { ReadSave } from "./saves";
+import type { Career, ReadSave } from "./saves";
 import type { Shell } from "./shell";
+
+const named = ({ name, date }: Career): string => (date === "" ? name : `${name}, ${date}`);
+
+// Both careers by name, so that none is replaced by mistake.
+interface Question {
+  readonly save: ReadSave;
+  readonly inPlay: Career | undefined;
+}
 
 export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
   const dialog = useRef<HTMLDialogElement>(null);
   const [message, setMessage] = useState("");
-  const [read, setRead] = useState<ReadSave>();
+  const [question, setQuestion] = useState<Question>();
 
   const open = () => {
     setMessage("");
-    setRead(undefined);
+    setQuestion(undefined);
     dialog.current?.showModal();
   };
 
@@ -32,19 +40,19 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
     const file = input.files?.[0];
     input.value = ""; // so that the same file can be chosen again
     if (!file) return;
-    setRead(undefined);
+    setQuestion(undefined);
     setMessage("Reading the file…");
     const answer = await shell.read(file).catch(() => "The game's program did not load. Try again with a network.");
     if (typeof answer === "string") {
       setMessage(`${answer} Your career is as it was.`);
     } else {
-      setRead(answer);
+      setQuestion({ save: answer, inPlay: await shell.careerInPlay().catch(() => undefined) });
       setMessage("");
     }
   };
 
   const bringIn = async (save: ReadSave) => {
-    setRead(undefined);
+    setQuestion(undefined);
     try {
       await shell.bringIn(save);
       dialog.current?.close();
@@ -75,14 +83,18 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
             />
           </label>
         </div>
-        {read && (
+        {question && (
           <div class="shell-question" role="group" aria-label="Bring in this save?">
-            <p>This save takes the place of the career that is in play now. Download that one first to keep it.</p>
+            <p>
+              <strong>{named(question.save.career)}</strong> takes the place of{" "}
+              <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>. Download that
+              one first to keep it.
+            </p>
             <div class="shell-buttons">
-              <button type="button" class="shell-button shell-destructive" onClick={() => void bringIn(read)}>
+              <button type="button" class="shell-button shell-destructive" onClick={() => void bringIn(question.save)}>
                 Replace my career
               </button>
-              <button type="button" class="shell-button" onClick={() => setRead(undefined)}>
+              <button type="button" class="shell-button" onClick={() => setQuestion(undefined)}>
                 Keep what I have
               </button>
             </div>

@@ -5,8 +5,9 @@ import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
 import { Game, GameStopped } from "./game";
+import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
-import { downloadSave, type ReadSave, readSave } from "./saves";
+import { type Career, downloadSave, type ReadSave, readSave, storedCareer } from "./saves";
 import { type Refusal, Storage } from "./storage";
 import { TabLock } from "./tab_lock";
 import { Ticker } from "./ticker";
@@ -26,6 +27,7 @@ export interface ShellState {
   readonly refusal: Refusal | undefined; // nothing is saved here, and why
   readonly failing: string | undefined; // the last save did not get through, and why
   readonly updateReady: boolean;
+  readonly installOffered: boolean;
 }
 
 export class Shell {
@@ -34,6 +36,7 @@ export class Shell {
     refusal: undefined,
     failing: undefined,
     updateReady: false,
+    installOffered: false,
   };
   private listener: ((state: ShellState) => void) | undefined;
 
@@ -50,6 +53,7 @@ export class Shell {
     lost: () => this.stepAside(),
   });
   private readonly updates = new Updates(() => this.change({ updateReady: true }));
+  readonly installOffer = new InstallOffer((installOffered) => this.change({ installOffered }));
   private readonly ticker = new Ticker((seconds) => this.act((game) => game.tick(seconds)));
 
   private readonly backGesture = new BackGesture(() => this.actions.back());
@@ -97,6 +101,10 @@ export class Shell {
 
   async read(file: Blob): Promise<ReadSave | string> {
     return readSave(await this.loadModule(), this.locale, file);
+  }
+
+  async careerInPlay(): Promise<Career | undefined> {
+    return storedCareer(await this.loadModule(), this.locale, await this.openStorage());
   }
 
   // Puts the save in the place of the one in play, and plays it. Rejects when it can't be stored; everything is

@@ -5,6 +5,7 @@ import { useEffect, useState } from "preact/hooks";
 
 import { Bar, Masthead } from "../draw/page_parts";
 import { PageView } from "../draw/page_view";
+import type { Page } from "../view_types";
 import { SavesCorner } from "./saves_corner";
 import type { Shell, ShellState } from "./shell";
 import type { Refusal } from "./storage";
@@ -70,11 +71,15 @@ function Standing({ title, corner, children }: {
   corner?: JSX.Element;
   children: JSX.Element | JSX.Element[];
 }): JSX.Element {
+  const page: Page = {
+    title, subtitle: "", heading: "", head: "full", icons: [], figures: [], nodes: [], main: [], tabs: [], close: [],
+    dialog: [], moment: [], passing: [], offersSaves: false, screen: 0,
+  };
   return (
     <div class="screen">
-      <Bar page={{ title, subtitle: "", icons: [], nodes: [], tabs: [], close: [], dialog: [], moment: [], screen: 0 }} />
+      <Bar page={page} />
       <main class="main">
-        <Masthead title={title} subtitle="" />
+        <Masthead page={page} />
         <div class="content shell-content">
           {children}
           {corner}
@@ -87,7 +92,7 @@ function Standing({ title, corner, children }: {
 const refusals: Record<Refusal, string> = {
   refused:
     "This browser does not let the game save, as in a private window. Your career lives until this page is " +
-    "closed: download it from Saves to keep it.",
+    "closed: download it from Saves, in Settings, to keep it.",
   unreadable:
     "The save in this browser could not be read, so this is a new career, and nothing of it is saved. Loading the " +
     "page again may help.",
@@ -97,6 +102,11 @@ const refusals: Record<Refusal, string> = {
 // end the career.
 function mayUpdate({ showing, updateReady, refusal }: ShellState): boolean {
   return updateReady && !refusal && showing.kind === "playing" && showing.page.close.length === 0;
+}
+
+// Not on the form of a new career: first there has to be something to come back to.
+function mayInstall({ showing, installOffered }: ShellState): boolean {
+  return installOffered && showing.kind === "playing" && showing.page.close.length === 0 && showing.page.tabs.length > 0;
 }
 
 function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Element {
@@ -113,6 +123,19 @@ function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Ele
             Use it now
           </button>
         </p>
+      )}
+      {mayInstall(state) && (
+        <div class="shell-offer">
+          <p>Keep Top Billing on your home screen. It plays without a network, too.</p>
+          <div class="shell-buttons">
+            <button type="button" class="shell-button shell-primary" onClick={() => void shell.installOffer.install()}>
+              Install
+            </button>
+            <button type="button" class="shell-button" onClick={() => shell.installOffer.answer()}>
+              Not now
+            </button>
+          </div>
+        </div>
       )}
     </div>
   );

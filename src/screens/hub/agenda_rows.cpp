@@ -1,0 +1,260 @@
+#include "screens/hub/agenda_rows.h"
+
+#include <format>
+#include <memory>
+#include <string>
+
+#include "career/classes.h"
+#include "career/traits.h"
+#include "core/number_style.h"
+#include "screens/backstage/casting_network_view_controller.h"
+#include "screens/parts.h"
+#include "screens/poster.h"
+#include "screens/talent/acting_classes_view_controller.h"
+#include "screens/talent/actors_guild_view_controller.h"
+#include "screens/talent/showreel_view_controller.h"
+#include "screens/talent/talent_traits_view_controller.h"
+#include "screens/talent/trait_parts.h"
+#include "screens/wealth/payment_transactions_view_controller.h"
+#include "screens/work/active_audition_view_controller.h"
+#include "screens/work/boost_parts.h"
+#include "screens/work/job_board_view_controller.h"
+#include "screens/work/open_project.h"
+#include "screens/work/project_words.h"
+#include "week/agenda.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+// Projects on show at once.
+constexpr std::size_t dueOnHome = 4;
+constexpr std::size_t dueOnATab = 3;
+
+std::string counted(std::int64_t count, const char* one, const char* several) {
+  return std::format("{} {}", count, count == 1 ? one : several);
+}
+
+template <class Opened>
+Operation opens() {
+  return [](Stage& stage) { stage.open(std::make_unique<Opened>()); };
+}
+
+// --- What is due ---
+
+std::string readiness(const AgendaItem& item, const Audition& project) {
+  switch (item.kind) {
+    case AgendaItem::Kind::audition:
+      return std::format("\nReady {:.0f} of 100", project.rehearsalRating);
+    case AgendaItem::Kind::shoot:
+      return project.didAct == 1 ? std::format("\nPerformance {:.0f} of 100", project.performanceRating) : "";
+    default:
+      return std::format("\nHype {:.0f}", project.hypeRating);
+  }
+}
+
+Row dueRow(const WorldState& world, const AgendaItem& item) {
+  const Audition& project = world.saveAllAuditionList[item.index];
+  Row row{
+      .label = progressWords(world, project),
+      .detail = std::format("{} • {}{}", titleWithSeason(project), project.role, readiness(item, project)),
+      .picture = {posterOf(world, project)},
+      .tone = item.week == world.weekNumberForTracking ? Tone::accent : Tone::plain,
+      .press = leadingToProject(world, project.filmId)};
+  if (item.boost) row.action = {boostButton(world, *item.boost, project, BoostWords::brief)};
+  return row;
+}
+
+// --- What there is room for ---
+
+Row trainingRow(const WorldState& world, const AgendaItem& item) {
+  const Trait& trait = traits[item.index];
+  return {.label = "Train",
+          .detail = std::format("{} is your weakest: {} of 100", spokenName(trait), world.*trait.points),
+          .press = opens<TalentTraitsViewController>(),
+          .action = {trainButton(world, item.index)}};
+}
+
+Row openRow(const Game& game, const AgendaItem& item) {
+  switch (item.kind) {
+    case AgendaItem::Kind::submissions:
+      return {.label = "Send showreels",
+              .detail = std::format("There is energy for {}", counted(item.count, "more role", "more roles")),
+              .press = opens<CastingNetworkViewController>()};
+    case AgendaItem::Kind::job:
+      return {.label = "Find work",
+              .detail = "Weekly pay for weekly energy",
+              .press = opens<JobBoardViewController>()};
+    case AgendaItem::Kind::guild:
+      return {.label = "Join the Actor's Guild",
+              .detail = "You have the roles and the cash for it",
+              .press = opens<ActorsGuildViewController>()};
+    case AgendaItem::Kind::footageReel:
+      return {.label = "Cut a new showreel",
+              .detail = std::format("Your footage is good for about {} more",
+                                    counted(item.count, "point", "points")),
+              .press = opens<ShowreelViewController>()};
+    default:
+      return trainingRow(game.world, item);
+  }
+}
+
+// --- What runs by itself ---
+
+Row runningRow(const Game& game, const AgendaItem& item) {
+  const WorldState& world = game.world;
+  const std::string weeks_left = counted(item.count, "week left", "weeks left");
+  switch (item.kind) {
+    case AgendaItem::Kind::answers:
+      return {.label = counted(item.count, "showreel is out", "showreels are out"),
+              .detail = "Waiting to hear",
+              .press = opens<ActiveAuditionViewController>()};
+    case AgendaItem::Kind::contract:
+      return {.label = world.weeklyJobTitle,
+              .value = weeks_left,
+              .detail = std::format("{} a week", shortMoney(game.locale, world.weeklyJobIncome)),
+              .press = opens<JobBoardViewController>()};
+    default:
+      return {.label = className(world.saveAllCompletedClasses[item.index]),
+              .value = weeks_left,
+              .press = opens<ActingClassesViewController>()};
+  }
+}
+
+// --- The first week ---
+
+Row step(std::string label, std::string detail, bool taken, Operation press) {
+  return {.label = std::move(label),
+          .detail = std::move(detail),
+          .tone = taken ? Tone::quiet : Tone::plain,
+          .step = taken ? Row::Step::taken : Row::Step::open,
+          .press = std::move(press)};
+}
+
+Section firstWeek(const FirstSteps& steps) {
+  return {.heading = "THIS WEEK",
+          .nodes = {step("Find work", "A job pays the rent while you wait for the call", steps.hasWork,
+                         opens<JobBoardViewController>()),
+                    step("Send showreels", "Submit for roles on the casting network: 20 energy each",
+                         steps.hasSubmitted, opens<CastingNetworkViewController>()),
+                    step("End the week", "Your energy comes back, and the answers come in", false, {})}};
+}
+
+// --- What the last week brought ---
+
+Row outcomeRow(const Game& game, const Outcome& outcome) {
+  const WorldState& world = game.world;
+  if (outcome.kind == Outcome::Kind::paid) {
+    return {.label = "Paid last week",
+            .value = "+" + shownMoney(game.locale, outcome.amount),
+            .tone = Tone::good,
+            .press = opens<PaymentTransactionsViewController>()};
+  }
+  if (outcome.kind == Outcome::Kind::notSelected) {
+    return {.label = std::format("Not selected for {}", counted(outcome.count, "role", "roles")),
+            .tone = Tone::quiet,
+            .press = openNotSelected};
+  }
+  const Audition& project = world.saveAllAuditionList[outcome.index];
+  const char* const what = outcome.kind == Outcome::Kind::booked   ? "Booked"
+                           : outcome.kind == Outcome::Kind::opened ? "Opened"
+                                                                     : "Wrapped";
+  return {.label = std::format("{}: {}", what, titleWithSeason(project)),
+          .detail = project.role,
+          .picture = {posterOf(world, project)},
+          .tone = outcome.kind == Outcome::Kind::wrapped ? Tone::plain : Tone::good,
+          .press = leadingToProject(world, project.filmId)};
+}
+
+// --- All of them ---
+
+// The first few; the rest in a row that leads to them.
+std::vector<Node> dueRows(const Game& game, std::size_t most) {
+  const std::vector<AgendaItem> items = dueItems(game.world);
+  std::vector<Node> rows;
+  for (std::size_t at = 0; at < items.size() && at < most; ++at) {
+    rows.emplace_back(dueRow(game.world, items[at]));
+  }
+  if (items.size() > most) {
+    rows.emplace_back(Row{.label = std::format("{} more to come", items.size() - most),
+                          .press = opens<ActiveAuditionViewController>()});
+  }
+  return rows;
+}
+
+template <class Wanted>
+void addOpenRows(std::vector<Node>& rows, const Game& game, Wanted isWanted) {
+  for (const AgendaItem& item : openItems(game.world)) {
+    if (isWanted(item.kind)) rows.emplace_back(openRow(game, item));
+  }
+}
+
+template <class Wanted>
+void addRunningRows(std::vector<Node>& rows, const Game& game, Wanted isWanted) {
+  for (const AgendaItem& item : runningItems(game.world)) {
+    if (isWanted(item.kind)) rows.emplace_back(runningRow(game, item));
+  }
+}
+
+constexpr auto anyKind = [](AgendaItem::Kind) { return true; };
+
+std::vector<Node> underNext(std::vector<Node> rows) {
+  if (rows.empty()) return {};
+  return {Section{.heading = "NEXT", .nodes = std::move(rows)}};
+}
+
+}  // namespace
+
+Section thisWeek(const Game& game) {
+  if (const auto steps = firstSteps(game.world)) return firstWeek(*steps);
+  Section section{.heading = "THIS WEEK", .nodes = dueRows(game, dueOnHome)};
+  addOpenRows(section.nodes, game, anyKind);
+  addRunningRows(section.nodes, game, anyKind);
+  return section;
+}
+
+std::vector<Node> lastWeek(const Game& game) {
+  Section section{.heading = "LAST WEEK"};
+  for (const Outcome& outcome : lastWeeksOutcomes(game.world)) {
+    section.nodes.emplace_back(outcomeRow(game, outcome));
+  }
+  if (section.nodes.empty()) return {};
+  return {std::move(section)};
+}
+
+std::vector<Node> nextAtWork(const Game& game) {
+  std::vector<Node> rows = dueRows(game, dueOnATab);
+  addOpenRows(rows, game, [](AgendaItem::Kind kind) { return kind != AgendaItem::Kind::training; });
+  addRunningRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::answers; });
+  return underNext(std::move(rows));
+}
+
+std::vector<Node> nextInPublic(const Game& game) {
+  std::vector<Node> rows;
+  for (const AgendaItem& item : dueItems(game.world)) {
+    const bool is_release = item.kind == AgendaItem::Kind::release;
+    if (is_release && rows.size() < dueOnATab) rows.emplace_back(dueRow(game.world, item));
+  }
+  return underNext(std::move(rows));
+}
+
+std::vector<Node> nextInLife(const Game& game) {
+  std::vector<Node> rows;
+  addOpenRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::training; });
+  addRunningRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::actingClass; });
+  return underNext(std::move(rows));
+}
+
+std::vector<Node> nextForMoney(const Game& game) {
+  std::vector<Node> rows;
+  addOpenRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::job; });
+  addRunningRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::contract; });
+  for (const Outcome& outcome : lastWeeksOutcomes(game.world)) {
+    if (outcome.kind == Outcome::Kind::paid) rows.emplace_back(outcomeRow(game, outcome));
+  }
+  return underNext(std::move(rows));
+}
+
+}  // namespace tb

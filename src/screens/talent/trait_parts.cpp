@@ -1,0 +1,31 @@
+#include "screens/talent/trait_parts.h"
+
+#include <format>
+
+#include "core/text.h"
+#include "screens/parts.h"
+
+namespace tb {
+
+std::string spokenName(const Trait& trait) {
+  std::string name = lowerCase(trait.label);
+  name.front() = trait.label.front();
+  return name;
+}
+
+view::Button trainButton(const WorldState& world, std::size_t index) {
+  const Trait& trait = traits[index];
+  const bool is_full = world.*trait.points >= highestTrait;
+  const std::int64_t next = nextValue(world, trait);
+  return {.label = std::format("Train to {}", next),
+          .press =
+              [k = static_cast<int>(index) + 1](Stage& stage) {
+                stage.show(buyTrait(stage.game(), k));
+              },
+          .price = energyPrice(world.*trait.price),
+          .offReason = is_full ? "Maxed out" : "",
+          .refusal = briefOf(traitRefusal(world, trait)),
+          .name = std::format("Train {} to {}", spokenName(trait), next)};
+}
+
+}  // namespace tb

@@ -1,0 +1,48 @@
+#include "screens/work/boost_parts.h"
+
+#include <array>
+#include <format>
+#include <memory>
+
+#include "core/audition_list.h"
+#include "screens/film/promote_film_view_controller.h"
+#include "screens/parts.h"
+
+namespace tb {
+
+namespace {
+
+// By BoostKind.
+struct Words {
+  const char* full;
+  const char* brief;
+  const char* spoken;  // before the title
+};
+constexpr std::array<Words, 3> boostWords = {{
+    {.full = "REHEARSE", .brief = "Rehearse", .spoken = "Rehearse for"},
+    {.full = "WORK ON YOUR PERFORMANCE", .brief = "Work on it", .spoken = "Work on your performance in"},
+    {.full = "PROMOTE", .brief = "Promote", .spoken = "Promote"},
+}};
+
+// A project as its buttons know it: the list may have moved before one of them is pressed.
+void boost(Stage& stage, std::int64_t filmId, BoostKind kind) {
+  const auto index = auditionIndex(stage.game().world, filmId);
+  if (!index) return;
+  if (Refusal refusal = buyBoost(stage.game(), *index)) return stage.show(std::move(refusal));
+  if (kind == BoostKind::promote) stage.open(std::make_unique<PromoteFilmViewController>());
+}
+
+}  // namespace
+
+view::Button boostButton(const WorldState& world, const Boost& offered, const Audition& project,
+                         BoostWords words) {
+  const Words& said = boostWords[static_cast<std::size_t>(offered.kind)];
+  return {.label = words == BoostWords::full ? said.full : said.brief,
+          .press = [id = project.filmId, kind = offered.kind](Stage& stage) { boost(stage, id, kind); },
+          .price = energyPrice(offered.energyPrice),
+          .refusal = briefOf(boostRefusal(world, offered)),
+          .name = std::format("{} {}", said.spoken, project.title),
+          .weight = view::Button::Weight::primary};
+}
+
+}  // namespace tb

@@ -1,0 +1,160 @@
+#include "week/agenda.h"
+
+#include <algorithm>
+
+#include "career/guild.h"
+#include "career/showreel.h"
+#include "career/submission.h"
+#include "career/traits.h"
+#include "core/ended_week.h"
+#include "life/energy.h"
+
+namespace tb {
+
+namespace {
+
+using Kind = AgendaItem::Kind;
+
+// A new reel is worth its price from this many points on.
+constexpr std::int64_t pointsWorthAReel = 3;
+
+// The week in which something happens to the project next, and what.
+std::optional<AgendaItem> dueOf(const WorldState& world, const Audition& project) {
+  const std::int64_t now = world.weekNumberForTracking;
+  switch (project.funnelStage) {
+    case funnel::invited:
+      if (project.didAct != 1 || project.weekAudition < now) return {};
+      return AgendaItem{.kind = Kind::audition, .week = project.weekAudition};
+    case funnel::booked:
+      return AgendaItem{.kind = Kind::shoot, .week = project.weekToWork};
+    case funnel::wrapped:
+      if (project.weekReleased < now) return {};
+      return AgendaItem{.kind = Kind::release, .week = project.weekReleased};
+    default:
+      return {};
+  }
+}
+
+std::int64_t countWaiting(const WorldState& world) {
+  return std::ranges::count_if(world.saveAllAuditionList, [](const Audition& project) {
+    return project.funnelStage == funnel::submitted && project.didAct == 1;
+  });
+}
+
+// Too many roles at once take energy: then no more are sought.
+std::optional<AgendaItem> submissions(const WorldState& world) {
+  const std::int64_t count = world.totalEnergyAvailable / submissionEnergy;
+  if (count == 0 || stressOfManyRoles(world, world.weekNumberForTracking) > 0) return {};
+  return AgendaItem{.kind = Kind::submissions, .count = count};
+}
+
+std::optional<AgendaItem> footageReel(const WorldState& world) {
+  const std::int64_t gain = likelyFootageScore(world) - world.showreelScore;
+  if (gain < pointsWorthAReel || reelRefusal(world, footageReelCost)) return {};
+  return AgendaItem{.kind = Kind::footageReel, .count = gain};
+}
+
+// The weakest trait weighs twice in the level of talent, so it comes first.
+std::optional<AgendaItem> training(const WorldState& world) {
+  std::optional<std::size_t> weakest;
+  for (std::size_t index = 0; index < traits.size(); ++index) {
+    const Trait& trait = traits[index];
+    if (world.*trait.points >= highestTrait || traitRefusal(world, trait)) continue;
+    if (!weakest || world.*trait.points < world.*traits[*weakest].points) weakest = index;
+  }
+  if (!weakest) return {};
+  return AgendaItem{.kind = Kind::training, .index = *weakest};
+}
+
+double paidLastWeek(const WorldState& world) {
+  double paid = 0;
+  const List<WeeklyEarnings>& earnings = world.saveAllWeeklyEarnings;
+  // Newest last, and paid by the clock of the week that follows.
+  for (std::size_t index = earnings.size(); index-- > 0;) {
+    const WeeklyEarnings& earned = earnings[index];
+    if (earned.weekNumberForTracking != world.weekNumberForTracking) break;
+    paid += earned.sessionEarned + earned.buyoutEarned + earned.residualsEarned;
+  }
+  return paid;
+}
+
+std::optional<Outcome::Kind> outcomeOf(const Audition& project, std::int64_t ended) {
+  if (project.funnelStage == funnel::booked && project.weekAudition == ended) return Outcome::Kind::booked;
+  if (project.funnelStage != funnel::wrapped) return {};
+  if (project.weekReleased == ended) return Outcome::Kind::opened;
+  if (project.weekToWork == ended) return Outcome::Kind::wrapped;
+  return {};
+}
+
+}  // namespace
+
+std::vector<AgendaItem> dueItems(const WorldState& world) {
+  std::vector<AgendaItem> items;
+  for (std::size_t index = 0; index < world.saveAllAuditionList.size(); ++index) {
+    const Audition& project = world.saveAllAuditionList[index];
+    if (auto item = dueOf(world, project)) {
+      item->index = index;
+      item->boost = boostOf(world, project);
+      items.push_back(*item);
+    }
+  }
+  std::ranges::stable_sort(items, [](const AgendaItem& a, const AgendaItem& b) {
+    return std::pair(a.week, a.kind) < std::pair(b.week, b.kind);
+  });
+  return items;
+}
+
+std::vector<AgendaItem> openItems(const WorldState& world) {
+  std::vector<AgendaItem> items;
+  const auto add = [&](const std::optional<AgendaItem>& item) {
+    if (item) items.push_back(*item);
+  };
+  if (world.isSAG == 0 && !guildRefusal(world)) add(AgendaItem{.kind = Kind::guild});
+  add(footageReel(world));
+  add(submissions(world));
+  if (world.weeklyJobContractRemaining < 1) add(AgendaItem{.kind = Kind::job});
+  add(training(world));
+  return items;
+}
+
+std::vector<AgendaItem> runningItems(const WorldState& world) {
+  std::vector<AgendaItem> items;
+  if (const std::int64_t waiting = countWaiting(world); waiting > 0) {
+    items.push_back({.kind = Kind::answers, .count = waiting});
+  }
+  if (world.weeklyJobContractRemaining >= 1) {
+    items.push_back({.kind = Kind::contract, .count = world.weeklyJobContractRemaining});
+  }
+  for (std::size_t index = 0; index < world.saveAllCompletedClasses.size(); ++index) {
+    const std::int64_t weeks = world.saveAllCompletedClasses[index].weeksRemaining;
+    if (weeks > 0) items.push_back({.kind = Kind::actingClass, .index = index, .count = weeks});
+  }
+  return items;
+}
+
+std::optional<FirstSteps> firstSteps(const WorldState& world) {
+  if (world.weekNumberForTracking != 1) return {};
+  return FirstSteps{.hasWork = world.weeklyJobContractRemaining >= 1,
+                    .hasSubmitted = !world.saveAllAuditionList.empty()};
+}
+
+std::vector<Outcome> lastWeeksOutcomes(const WorldState& world) {
+  const std::int64_t ended = endedTrackingWeek(world);
+  std::vector<Outcome> outcomes;
+  std::int64_t not_selected = 0;
+  for (std::size_t index = 0; index < world.saveAllAuditionList.size(); ++index) {
+    const Audition& project = world.saveAllAuditionList[index];
+    if (const auto kind = outcomeOf(project, ended)) outcomes.push_back({.kind = *kind, .index = index});
+    if (project.funnelStage == funnel::invited && project.didAct == 1 && project.weekAudition == ended) {
+      not_selected += 1;
+    }
+  }
+  if (const double paid = paidLastWeek(world); paid > 0) {
+    outcomes.push_back({.kind = Outcome::Kind::paid, .amount = paid});
+  }
+  if (not_selected > 0) outcomes.push_back({.kind = Outcome::Kind::notSelected, .count = not_selected});
+  std::ranges::stable_sort(outcomes, {}, &Outcome::kind);
+  return outcomes;
+}
+
+}  // namespace tb

@@ -1,0 +1,147 @@
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <optional>
+
+#include "career/job_board.h"
+#include "career/submission.h"
+#include "career/traits.h"
+#include "tests/journeys/device.h"
+#include "tests/scratch_game.h"
+#include "week/agenda.h"
+#include "week/end_week.h"
+
+namespace tb {
+namespace {
+
+// A beginner who does what the agenda says, from its top to its end, and nothing else.
+class Beginner {
+ public:
+  explicit Beginner(std::uint64_t seed) : random_(seed) { refreshHub(game_, HubRefresh::launch); }
+
+  // The week of the first booking, or `last` when there is none until then. Says whether each invitation was
+  // rehearsed for in the week in which it came.
+  std::int64_t weekOfFirstBooking(std::int64_t last) {
+    while (world().weekNumberForTracking < last && !isBooked()) liveAWeek();
+    return world().weekNumberForTracking;
+  }
+  [[nodiscard]] bool rehearsedAtOnce() const { return rehearsed_at_once_; }
+
+ private:
+  [[nodiscard]] WorldState& world() { return game_.world; }
+  [[nodiscard]] bool isBooked() {
+    return std::ranges::any_of(world().saveAllAuditionList,
+                               [](const Audition& project) { return project.funnelStage == funnel::booked; });
+  }
+
+  void liveAWeek() {
+    rehearse();
+    for (const AgendaItem& item : openItems(world())) doIt(item);
+    endWeek(game_);
+    static_cast<void>(openSummary(game_));
+    closeSummary(game_);
+    refreshHub(game_, HubRefresh::worldChanged);
+  }
+
+  void rehearse() {
+    for (const AgendaItem& item : dueItems(world())) {
+      if (item.kind != AgendaItem::Kind::audition) continue;
+      while (boostOf(world(), world().saveAllAuditionList[item.index]) && !buyBoost(game_, item.index)) {
+      }
+      rehearsed_at_once_ &= world().saveAllAuditionList[item.index].rehearsalBoostCount > 0;
+    }
+  }
+
+  void doIt(const AgendaItem& item) {
+    switch (item.kind) {
+      case AgendaItem::Kind::submissions:
+        for (const CastingListing& listing : openCastingNetwork(game_))
+          submitToCastingListing(game_, listing);
+        break;
+      case AgendaItem::Kind::job:
+        for (const JobOffer& offer : openJobBoard(game_)) acceptJob(game_, offer);
+        break;
+      case AgendaItem::Kind::training:
+        while (!buyTrait(game_, static_cast<int>(item.index) + 1)) {
+        }
+        break;
+      default:
+        break;
+    }
+  }
+
+  test::SeededRandom random_;
+  test::MemoryPort port_;
+  SaveStore store_{port_};
+  Game game_{.store = store_, .random = random_};
+  bool rehearsed_at_once_ = true;
+};
+
+TEST(BeginnersByTheHub, ThirtyOfThemHaveTheirFirstBookingByWeekTwentyAtTheMedian) {
+  std::vector<std::int64_t> weeks;
+  for (std::uint64_t seed = 1; seed <= 30; ++seed) {
+    Beginner beginner(seed);
+    weeks.push_back(beginner.weekOfFirstBooking(60));
+    EXPECT_TRUE(beginner.rehearsedAtOnce()) << seed;
+  }
+  std::ranges::sort(weeks);
+  EXPECT_LE(weeks[15], 20) << testing::PrintToString(weeks);
+}
+
+// The same with the screens: what is pressed, and how often.
+struct FirstWeeks : testing::Test {
+  test::SeededRandom random{5};
+  test::Device device{random};
+  test::Player& player() { return device.player(); }
+  FirstWeeks() {
+    device.begin([](WorldState&) {});
+  }
+  // The buttons of the board that do not say that they would refuse, by their names.
+  std::vector<std::string> openRoles() {
+    std::vector<std::string> names;
+    for (const view::Node& node : device.app().view().nodes) {
+      const auto* const row = std::get_if<view::Row>(&node.node);
+      if (row != nullptr && row->action.front().refusal.empty()) names.push_back(row->action.front().name);
+    }
+    return names;
+  }
+};
+
+TEST_F(FirstWeeks, TheStepsLeadToWorkAndToTheBoardAndAWeekWithThreeSubmissionsTakesEightPressesAtMost) {
+  player().expectSees({"Find work", "Send showreels", "End the week"});
+  player().press("Send showreels");
+  int presses = 1;
+  for (const std::string& submit : openRoles()) {
+    if (device.world().saveAllAuditionList.size() == 3) break;
+    player().press(submit);
+    EXPECT_TRUE(player().said().starts_with("Showreel sent to ")) << submit;
+    presses += 1;
+  }
+  ASSERT_EQ(device.world().saveAllAuditionList.size(), 3U);
+  player().follow({"End Week", "Carry on"});
+  EXPECT_LE(presses + 2, 8);
+  EXPECT_EQ(player().title(), device.world().myName);
+  player().expectSees({"Waiting to hear"});
+}
+
+TEST_F(FirstWeeks, AButtonThatWouldRefuseSaysWhyAndOneThatWasUsedSaysSo) {
+  device.begin([](WorldState& world) { world.totalEnergyAvailable = 25; });
+  player().press("Send showreels");
+  player().press(openRoles().front());
+  player().expectSees({"Too little energy"});
+  player().press("Submitted");
+  player().expectTold("🎭 SUBMITTED! 🎭");
+  EXPECT_EQ(device.world().totalEnergyAvailable, 5);
+}
+
+TEST_F(FirstWeeks, TheTabsAndEndWeekAreInReachOnEveryScreenAndBackLeadsHomeFirst) {
+  player().follow({"Work", "Talent", "Life"});
+  player().expectSees({"EVERY WEEK TAKES"});
+  player().follow({"Work", "Acting Classes", "End Week"});
+  EXPECT_EQ(player().title(), "REVIEW");
+  for (const test::Player::Usable& usable : player().usable()) EXPECT_NE(usable.label, "Home");
+  player().press("Carry on");
+  EXPECT_EQ(player().title(), device.world().myName) << "the screens that were open are left";
+}
+
+}  // namespace
+}  // namespace tb
