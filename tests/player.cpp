@@ -31,12 +31,17 @@ std::string toneMark(Tone tone) {
   return marks[static_cast<std::size_t>(tone)];
 }
 std::string weightMark(Button::Weight weight) {
-  constexpr std::array marks = {"", " <primary>", " <quiet>", " <destructive>"};
+  constexpr std::array marks = {"", " <primary>", " <quiet>", " <destructive>", " <done>"};
   return marks[static_cast<std::size_t>(weight)];
 }
 std::string styleMark(Text::Style style) {
-  constexpr std::array marks = {"", " <large>", " <caption>", " <quotation>"};
+  constexpr std::array marks = {"", " <large>", " <caption>", " <quotation>", " <heading>"};
   return marks[static_cast<std::size_t>(style)];
+}
+
+std::string stepMark(Row::Step step) {
+  constexpr std::array marks = {"", "( ) ", "(x) "};
+  return marks[static_cast<std::size_t>(step)];
 }
 
 // The text without its figures, which say how far a thing is and not what it is.
@@ -66,12 +71,18 @@ class Walk {
     text_(page.subtitle);
     for (const Tab& icon : page.icons) node(icon);
     for (const Button& close : page.close) node(close);
-    for (const StatTile& figure : page.figures) text_(figure.label + ": " + joined({figure.value, figure.detail}));
+    for (const StatTile& figure : page.figures) {
+      text_(figure.label + ": " + joined({figure.value, figure.detail}) + toneMark(figure.tone));
+    }
     on_page_ = true;
     nodes(page.nodes);
-    for (const Button& main : page.main) node(main);
+    for (const Button& main : page.main) {
+      on_page_ = main.label != "End Week";  // that one stands around every page
+      node(main);
+    }
     on_page_ = false;
     for (const Tab& tab : page.tabs) node(tab);
+    for (const PassingLine& passing : page.passing) text_("(" + passing.text + ")");
   }
 
  private:
@@ -135,7 +146,7 @@ class Walk {
   }
   void node(const Row& row) {
     const std::string label = row.press ? "[" + row.label + "]" : row.label;
-    text_(joined({label, row.value, row.detail}) + toneMark(row.tone));
+    text_(stepMark(row.step) + joined({label, row.value, row.detail}) + toneMark(row.tone));
     for (const Picture& picture : row.picture) node(picture);
     press(row.label, row.handle);
     for (const Button& action : row.action) node(action);

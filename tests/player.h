@@ -50,9 +50,9 @@ class Player {
     enum class Kind : std::uint8_t { press, type, slide } kind;
     double minimum = 0;
     double maximum = 0;
-    bool onPage = false;   // false: a tab, an icon, a way back or an answer, which stand around the page
-    int item = 0;          // the card or list item that it stands in, from 1
-    std::string likeness;  // the same for items that differ in names and figures only; empty outside items
+    bool onPage = false;    // false: a tab, an icon, a way back or an answer, which stand around the page
+    int item = 0;           // the card or list item that it stands in, from 1
+    std::string likeness;   // the same for items that differ in names and figures only; empty outside items
     std::string name = {};  // for a screen reader, where it is not the label
   };
   [[nodiscard]] std::vector<Usable> usable() const;

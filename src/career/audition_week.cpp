@@ -84,8 +84,8 @@ void invite(Pass& pass, std::size_t index) {
       const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
       feedLine(pass.world, {NewsKind::invitation, project.filmId},
                std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
-      logActivity(pass.world, fill(tellRow(pass.game, Bank::invitation),
-                                   {{"title", project.title}, {"n", weeks}}));
+      logActivity(pass.world,
+                  fill(tellRow(pass.game, Bank::invitation), {{"title", project.title}, {"n", weeks}}));
       pass.world.experience += project.auditionDifficulty * experienceOfInvitation;
     }
   }
@@ -177,9 +177,8 @@ void tellOfOwnProduction(Pass& pass, const Audition& project) {
 
 void tellOfInvestment(Pass& pass, const Audition& project) {
   const std::string stake = std::format("{:.0f}%", project.equityPercentage);
-  logLine(
-      pass.world, wrapOf(project),
-      fill(tellRow(pass.game, Bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
+  logLine(pass.world, wrapOf(project),
+          fill(tellRow(pass.game, Bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
 }
 
 void wrap(Pass& pass, std::size_t index) {

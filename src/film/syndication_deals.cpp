@@ -1,6 +1,7 @@
 #include "film/syndication_deals.h"
 
 #include <algorithm>
+#include <format>
 
 #include "banks/draw.h"
 #include "core/ended_week.h"

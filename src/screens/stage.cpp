@@ -1,6 +1,5 @@
 #include "screens/stage.h"
 
-
 #include <algorithm>
 #include <utility>
 

@@ -81,7 +81,7 @@ TEST_F(Review, TheFirstBookingIsTheHeadlineWithItsPosterAndAMoment) {
 TEST_F(Review, AWeekOfSilenceIsOneRowThatOpensAndCloses) {
   begin({submitted(1, "Two Hats"), submitted(2, "Salt Road")});
   Player& player = device.player();
-  for (int project = 0; project < 2; ++project) chance.any(3).range(3, 1);
+  for (int project = 0; project < 2; ++project) chance.any(3).range(3, 1).any(1);
   device.endWeek();
   const std::string line = "You never heard back after applying for Salt Road.";
   player.expectSees({"FEED", "2 never wrote back"});

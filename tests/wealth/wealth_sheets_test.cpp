@@ -121,8 +121,15 @@ TEST(GoldenWealth, EnergyOfAgesAndWeeks) {
               world.childEnergyCost = children;
               world.platformEnergyCost = 20;
               world.saveAllCompletedClasses = {{.energyCost = 15, .weeksRemaining = 1}, {.energyCost = 99}};
+              world.weekNumberForTracking = 5;
               for (std::int64_t role = 0; role < roles; ++role) {
-                world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = 1 + role % 2});
+                world.saveAllAuditionList.push_back(
+                    {.isPrincipal = 1, .weekAudition = 6, .funnelStage = 1 + role % 2});
+              }
+              // What was not got is not running: an audition of old, and one of the week that ends.
+              for (const std::int64_t week : {4, 5}) {
+                world.saveAllAuditionList.push_back(
+                    {.isPrincipal = 1, .weekAudition = week, .funnelStage = funnel::invited});
               }
               world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = funnel::wrapped});
               world.saveAllAuditionList.push_back({.isPrincipal = 0, .funnelStage = funnel::booked});

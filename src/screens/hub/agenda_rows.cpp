@@ -160,7 +160,7 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
   const Audition& project = world.saveAllAuditionList[outcome.index];
   const char* const what = outcome.kind == Outcome::Kind::booked   ? "Booked"
                            : outcome.kind == Outcome::Kind::opened ? "Opened"
-                                                                     : "Wrapped";
+                                                                   : "Wrapped";
   return {.label = std::format("{}: {}", what, titleWithSeason(project)),
           .detail = project.role,
           .picture = {posterOf(world, project)},

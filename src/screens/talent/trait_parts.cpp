@@ -18,10 +18,7 @@ view::Button trainButton(const WorldState& world, std::size_t index) {
   const bool is_full = world.*trait.points >= highestTrait;
   const std::int64_t next = nextValue(world, trait);
   return {.label = std::format("Train to {}", next),
-          .press =
-              [k = static_cast<int>(index) + 1](Stage& stage) {
-                stage.show(buyTrait(stage.game(), k));
-              },
+          .press = [k = static_cast<int>(index) + 1](Stage& stage) { stage.show(buyTrait(stage.game(), k)); },
           .price = energyPrice(world.*trait.price),
           .offReason = is_full ? "Maxed out" : "",
           .refusal = briefOf(traitRefusal(world, trait)),

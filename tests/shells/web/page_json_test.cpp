@@ -42,7 +42,7 @@ TEST(PageJson, aPageNamesEveryPartOnceAndInOrder) {
       R"({"kind":"text","content":{"text":"Nothing yet","style":"body","tone":"quiet"}}]}}],)"
       R"("main":[],"tabs":[],"close":[],"dialog":[{"title":"Q","message":"M","answers":[)"
       R"({"label":"OK","price":"","offReason":"","refusal":"","name":"","weight":"normal","handle":3}]}],)"
-      R"("passing":[],"offersSaves":false,"screen":2})");
+      R"("moment":[],"passing":[],"offersSaves":false,"screen":2})");
 }
 
 TEST(PageJson, figuresKeepAllTheirDigitsAndNeverBreakThePage) {
