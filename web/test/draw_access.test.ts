@@ -58,7 +58,7 @@ for (const [what, size, zoom] of [
 
 // All words that a page says, by the names of their fields; the rest are words of the vocabulary itself.
 function wordsIn(part: unknown, field = ""): string[] {
-  if (typeof part === "string") return /^(kind|style|tone|weight|name)$/.test(field) ? [] : [part];
+  if (typeof part === "string") return /^(kind|style|tone|weight|name|head|step|format)$/.test(field) ? [] : [part];
   if (typeof part !== "object" || part === null) return [];
   // Of a long chart the points are read one by one.
   return Object.entries(part).flatMap(([name, inner]) =>
@@ -76,8 +76,10 @@ for (const size of [phone, wide]) {
           (element as HTMLInputElement).value,
         ]),
       );
-      const all = shown.join("\n");
-      assert.deepEqual(wordsIn(pages[name]).filter((words) => !all.includes(words)), [], name);
+      // A heading of two lines may stand in one.
+      const inOneLine = (words: string) => words.replace(/\s+/g, " ");
+      const all = inOneLine(shown.join("\n"));
+      assert.deepEqual(wordsIn(pages[name]).filter((words) => !all.includes(inOneLine(words))), [], name);
     }));
 }
 
@@ -101,7 +103,9 @@ test("a finger hits every control: none is under 44 pixels", () =>
 function numberControls(): number {
   const within = document.querySelector("dialog") ?? document;
   const all = [...within.querySelectorAll<HTMLElement>("button, input, textarea, a[href]")].filter(
-    (control) => !(control instanceof HTMLInputElement && control.type === "radio" && !control.checked),
+    (control) =>
+      control.closest("[inert]") === null &&
+      !(control instanceof HTMLInputElement && control.type === "radio" && !control.checked),
   );
   all.forEach((control, index) => (control.dataset["place"] = String(index)));
   document.body.tabIndex = -1;

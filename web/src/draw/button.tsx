@@ -12,9 +12,9 @@ import { Words } from "./words";
 // A price in energy, as it is said: a flash of lightning is read out as "high voltage".
 const spokenPrice = (price: string): string => price.replace(/⚡\ufe0f?\s*([\d.,]+)/u, "$1 energy");
 
-// What a screen reader calls the button; nothing where its own words say it.
-function spokenName({ label, name, price }: View.Button): string | undefined {
-  if (name === "" && spokenPrice(price) === price) return undefined;
+// What a screen reader calls the button; empty where its own words say it.
+function spokenName({ label, name, price }: View.Button): string {
+  if (name === "" && spokenPrice(price) === price) return "";
   const called = name === "" ? label : name;
   return price === "" ? called : `${called}, ${spokenPrice(price)}`;
 }
@@ -25,25 +25,27 @@ export function PressButton(button: View.Button) {
   const reason = useId();
   const off = offReason !== "";
   const why = off ? offReason : refusal;
+  const spoken = spokenName(button);
+  const shownOnly = spoken === "" ? undefined : "true";
   return (
     <div class={`button-place weight-${weight}${off ? " is-off" : why === "" ? "" : " is-refusing"}`}>
       <button
         type="button"
         class={`button${price === "" ? "" : " button-ticket"}`}
         data-handle={handle}
-        aria-label={spokenName(button)}
         aria-disabled={off ? "true" : undefined}
         aria-describedby={why === "" ? undefined : reason}
         onClick={press}
       >
-        <span class="button-label">
+        {spoken !== "" && <span class="unseen">{spoken}</span>}
+        <span class="button-label" aria-hidden={shownOnly}>
           <span>
             {weight === "done" && <Check />}
             <Words text={label} />
           </span>
         </span>
         {price !== "" && (
-          <span class="button-price">
+          <span class="button-price" aria-hidden={shownOnly}>
             <span>
               <span class="unseen">, </span>
               <Words text={price} />
