@@ -60,9 +60,9 @@ for (const [what, size, zoom] of [
 function wordsIn(part: unknown, field = ""): string[] {
   if (typeof part === "string") return /^(kind|style|tone|weight|name|head|step|format)$/.test(field) ? [] : [part];
   if (typeof part !== "object" || part === null) return [];
-  // Of a long chart the points are read one by one.
+  // Of a long chart the points are read one by one, and a passing line goes by itself.
   return Object.entries(part).flatMap(([name, inner]) =>
-    name === "points" && (inner as unknown[]).length > 24 ? [] : wordsIn(inner, Array.isArray(part) ? field : name),
+    name === "passing" || (name === "points" && (inner as unknown[]).length > 24) ? [] : wordsIn(inner, Array.isArray(part) ? field : name),
   );
 }
 
@@ -73,6 +73,7 @@ for (const size of [phone, wide]) {
         [...document.querySelectorAll<HTMLElement>("#app, #app *")].flatMap((element) => [
           element === document.getElementById("app") ? element.textContent : element.getAttribute("aria-label"),
           element.getAttribute("aria-valuetext"),
+          element.getAttribute("alt"),
           (element as HTMLInputElement).value,
         ]),
       );

@@ -164,13 +164,13 @@ function Tabs({ tabs }: { readonly tabs: readonly View.Tab[] }) {
 export function Foot({ main, tabs }: Pick<View.Page, "main" | "tabs">) {
   if (main.length === 0 && tabs.length === 0) return null;
   return (
-    <div class="foot">
+    <footer class="foot">
       {main.map((button) => (
         <div class="foot-main" key="main">
           <PressButton {...button} />
         </div>
       ))}
       <Tabs tabs={tabs} />
-    </div>
+    </footer>
   );
 }
