@@ -109,6 +109,16 @@ const figuresUnder = (page: Page, heading: string): Promise<number[]> =>
     .locator(".row-value")
     .evaluateAll((values) => values.map((value) => Number(value.lastChild!.textContent)));
 
+test("the casting board shows five roles without scrolling, and each can be submitted for in place", async () => {
+  const { page } = await play(setting, "Ada Cast");
+  await page.getByRole("button", { name: /Send showreels/ }).click();
+  const submits = page.getByRole("button", { name: /^Submit for / });
+  await submits.nth(4).waitFor();
+  const foot = (await page.locator(".foot").boundingBox())!;
+  const fifth = (await page.locator(".row-acting").nth(4).boundingBox())!;
+  assert.ok(fifth.y + fifth.height <= foot.y, `the fifth role ends at ${fifth.y + fifth.height}, the foot begins at ${foot.y}`);
+});
+
 const toTheTitlePage = [/^Auditions/, /^Releases/, /Feature Film.*Released/, /^Imbd page/];
 
 test("every screen of a working actor can be read by everybody", async () => {
