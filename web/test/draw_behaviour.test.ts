@@ -230,6 +230,8 @@ test("a passing line shows itself, is said, covers no press and goes; the same w
   await line.waitFor({ state: "detached", timeout: 6000 });
   await again(page, board[0], { passing: [{ text: "Sent.", number: 2 }] });
   await line.waitFor();
+  await again(page, [text("Another screen.")], { screen: 2 });
+  await line.waitFor({ state: "detached", timeout: 500 });
 });
 
 test("a button is called by what it is about, its price in words, and says before a press why it would refuse", async () => {

@@ -8,13 +8,17 @@ import { Words } from "./words";
 
 const shownFor = 4000; // milliseconds
 
-export function Passing({ passing }: Pick<View.Page, "passing">) {
+// `place`: which page is on show. What was done on another one is over.
+export function Passing({ passing, place }: Pick<View.Page, "passing"> & { readonly place: string }) {
   const said = passing[0];
   const [shown, setShown] = useState<View.PassingLine | null>(null);
-  // The page that follows says nothing any more; the line stays its time.
+  // The same page drawn again says nothing any more; the line stays its time.
   useEffect(() => {
     if (said !== undefined) setShown(said);
   }, [said?.number]);
+  useEffect(() => {
+    if (said === undefined) setShown(null);
+  }, [place]);
   useEffect(() => {
     if (shown === null) return;
     const timer = setTimeout(() => setShown(null), shownFor);

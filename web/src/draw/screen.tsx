@@ -114,7 +114,7 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
           </div>
         </main>
         <Foot main={under.main} tabs={under.tabs} />
-        <Passing passing={page.passing} />
+        <Passing passing={page.passing} place={screenOf(page)} />
         <p class="unseen" aria-live="polite" data-news />
         <MomentOver page={page} />
         {dialog !== undefined && <Dialog key={`${dialog.title} ${dialog.message}`} {...dialog} />}
