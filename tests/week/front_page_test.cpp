@@ -45,8 +45,8 @@ using Texts = std::vector<std::string>;
 
 TEST_F(FrontPages, WhatRanksHigherLeadsWhateverItsPlaceInTheFeed) {
   // Each of these outranks the one before.
-  const NewsKind rising[] = {NewsKind::jobEnded,   NewsKind::classDone, NewsKind::payday, NewsKind::wrap,
-                             NewsKind::invitation, NewsKind::renewal,   NewsKind::offer,  NewsKind::award};
+  const NewsKind rising[] = {NewsKind::jobEnded, NewsKind::classDone, NewsKind::invitation, NewsKind::payday,
+                             NewsKind::wrap,     NewsKind::renewal,   NewsKind::offer,      NewsKind::award};
   for (const NewsKind kind : rising) {
     tell(kind);
     if (kind == NewsKind::jobEnded) {

@@ -296,7 +296,8 @@ void NodePainter::kind(const Headline& headline) {
   }
   canvas_.gap();
   canvas_.framed(headline.stamp, mark, [&] {
-    canvas_.leader(headline.text, headline.value, ink, inkOf(headline.tone));
+    canvas_.text(headline.text, ink);
+    if (!headline.value.empty()) canvas_.text(headline.value, inkOf(headline.tone));
     detail();
   });
   canvas_.gap();
