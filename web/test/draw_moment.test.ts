@@ -25,6 +25,7 @@ const show = (page: Page, shown: View.Page) => page.evaluate((given) => window.g
 const begin = (page: Page, shown: View.Page) =>
   page.evaluate((given) => {
     window.gallery.show(given);
+    if (document.querySelector(".moment .is-missing")) throw new Error("the scene begins without its poster");
     const running = document.querySelector(".moment")?.getAnimations({ subtree: true }) ?? [];
     for (const each of running) each.pause();
     return Math.max(...running.map((each) => Number(each.effect!.getComputedTiming().endTime)));

@@ -9,12 +9,15 @@ type Size = "row" | "lead" | "card" | "option" | "full";
 
 const nothing = "data:image/svg+xml,<svg xmlns='http://www.w3.org/2000/svg'/>";
 
-// The address of the image. A large picture is what its page is about: it is there at once.
+// A large picture is what its page is about: it is there at once.
+const isLarge = (size: Size): boolean => size === "full" || size === "lead";
+
+// The address of the image.
 function useAddress(shown: View.Picture, size: Size) {
   const place = useRef<HTMLImageElement>(null);
   const [, show] = useState("");
   const key = keyOf(shown);
-  const address = size === "full" ? draw(shown) : addressIfDrawn(key);
+  const address = isLarge(size) ? draw(shown) : addressIfDrawn(key);
   const missing = address === undefined;
   useEffect(() => {
     if (missing) return drawWhenNear(place.current!, shown, () => show(key));
@@ -26,5 +29,6 @@ function useAddress(shown: View.Picture, size: Size) {
 export function Picture({ size, ...shown }: View.Picture & { readonly size: Size }) {
   const { place, address } = useAddress(shown, size);
   const look = `picture picture-${shown.kind} size-${size}${address === undefined ? " is-missing" : ""}`;
-  return <img ref={place} class={look} src={address ?? nothing} alt={shown.description} decoding="async" />;
+  const decoding = isLarge(size) ? "sync" : "async";
+  return <img ref={place} class={look} src={address ?? nothing} alt={shown.description} decoding={decoding} />;
 }
