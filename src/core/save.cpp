@@ -67,6 +67,16 @@ bool savePlain(Game& game, const Variable& variable) {
   });
 }
 
+// A career's first save holds every plain variable, start values too: other programs find them there, and a
+// build whose start values differ opens the career as it was.
+void saveStartValues(Game& game) {
+  for (const Variable& variable : variables()) {
+    if (variable.isList || game.store.contains(variable.key)) continue;
+    visitPlain(variable.type->form, memberOf(game.world, variable),
+               [&](const auto& value) { game.store.put(variable.key, toValue(value)); });
+  }
+}
+
 // --- Loading ---
 
 // What a load answers: nothing, or why the variable stays as it was, for the debug log.
@@ -156,12 +166,14 @@ void loadVariable(Game& game, const Variable& variable) {
 }
 
 bool saveChanges(Game& game) {
+  const bool isFirst = game.store.isEmpty();
   bool any = false;
   for (const Variable& variable : variables()) {
     const bool saved = variable.isList ? saveList(game.store, variable, listOf(game.world, variable))
                                        : savePlain(game, variable);
     any = any || saved;
   }
+  if (any && isFirst) saveStartValues(game);
   return any;
 }
 

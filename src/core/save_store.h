@@ -75,6 +75,7 @@ class SaveStore {
   // kept aside and counts as missing.
   explicit SaveStore(StorePort& port);
 
+  [[nodiscard]] bool isEmpty() const { return entries_.empty(); }
   [[nodiscard]] bool contains(std::string_view key) const;
 
   // The value under the key, its pieces joined; nothing when there is none or when a piece does not decode.

@@ -43,10 +43,15 @@ void loadThem(Game& game) {
   for (const Variable& variable : variables()) loadVariable(game, variable);
 }
 
+std::ptrdiff_t listPieces(const MemoryPort& port) {
+  return std::ranges::count_if(port.pieces,
+                               [](const auto& entry) { return entry.second.shape != Shape::plain; });
+}
+
 TEST(Save, AWeekWritesThePiecesItChangedAndNothingElse) {
   MemoryPort port;
   storeLists(port);
-  EXPECT_EQ(port.pieces.size(), 5u);
+  EXPECT_EQ(listPieces(port), 4);
   Launch play(port);
   loadThem(play.game);
   EXPECT_FALSE(saveChanges(play.game));
@@ -108,7 +113,7 @@ TEST(Save, AListLeftByAnImportLoadsAndIsCutIntoPiecesWhenNextWritten) {
   play.game.world.trackFans.push_back(99);
   saveChanges(play.game);
   ASSERT_TRUE(play.store.commit());
-  EXPECT_EQ(port.pieces.size(), 5u);
+  EXPECT_EQ(listPieces(port), 4);
   Launch next(port);
   loadThem(next.game);
   EXPECT_EQ(next.game.world.saveAllChildList, play.game.world.saveAllChildList);
