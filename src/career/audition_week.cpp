@@ -3,6 +3,7 @@
 #include <format>
 #include <string>
 
+#include "banks/audition_banks.h"
 #include "banks/draw.h"
 #include "core/debug_log.h"
 #include "core/log.h"
@@ -85,7 +86,7 @@ void invite(Pass& pass, std::size_t index) {
       feedLine(pass.world, {NewsKind::invitation, project.filmId},
                std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
       logActivity(pass.world,
-                  fill(tellRow(pass.game, Bank::invitation), {{"title", project.title}, {"n", weeks}}));
+                  fill(tellRow(pass.game, bank::invitation), {{"title", project.title}, {"n", weeks}}));
       pass.world.experience += project.auditionDifficulty * experienceOfInvitation;
     }
   }
@@ -99,7 +100,7 @@ void leaveUnanswered(Pass& pass, std::size_t index) {
   pass.moveTo(index, funnel::closed);
   feedLine(pass.world, {NewsKind::silence, project.filmId},
            std::format("You never heard back after applying for {}.", nameOf(project)));
-  logActivity(pass.world, fill(tellRow(pass.game, Bank::silence), {{"title", project.title}}));
+  logActivity(pass.world, fill(tellRow(pass.game, bank::silence), {{"title", project.title}}));
   pass.tellAgent(index, agentTakes::silence);
 }
 
@@ -178,7 +179,7 @@ void tellOfOwnProduction(Pass& pass, const Audition& project) {
 void tellOfInvestment(Pass& pass, const Audition& project) {
   const std::string stake = std::format("{:.0f}%", project.equityPercentage);
   logLine(pass.world, wrapOf(project),
-          fill(tellRow(pass.game, Bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
+          fill(tellRow(pass.game, bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
 }
 
 void wrap(Pass& pass, std::size_t index) {

@@ -4,6 +4,7 @@
 #include <format>
 
 #include "banks/draw.h"
+#include "banks/talent_banks.h"
 #include "core/bands.h"
 #include "core/house_notices.h"
 #include "core/log.h"
@@ -114,7 +115,7 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
                                            .level = option.offered->classLevel,
                                            .cost = static_cast<std::int64_t>(option.cost),
                                            .yearStarted = world.yearNumber});
-  logActivity(world, fill(tellRow(game, Bank::classSignUp), {{"title", option.offered->title},
+  logActivity(world, fill(tellRow(game, bank::classSignUp), {{"title", option.offered->title},
                                                              {"code", option.offered->classCode},
                                                              {"weeks", std::to_string(option.weeks)}}));
   return {};

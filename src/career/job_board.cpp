@@ -3,7 +3,7 @@
 #include <array>
 #include <format>
 
-#include "banks/banks.h"
+#include "banks/jobs_banks.h"
 #include "core/log.h"
 
 namespace tb {
@@ -46,7 +46,7 @@ std::int64_t drawFrom(RandomSource& random, Span span) { return RandomBetween(ra
 
 // The terms of every job are drawn once a board, so that a job that shows twice pays the same in both places.
 std::vector<JobList> randomJobList(RandomSource& random) {
-  const std::span<const std::string> descriptions = rowsOf(Bank::jobDescription);
+  const std::span<const std::string> descriptions = rowsOf(bank::jobDescription);
   std::vector<JobList> jobs;
   for (std::size_t kind = 0; kind < jobKinds.size(); ++kind) {
     const std::int64_t energy = drawFrom(random, jobKinds[kind].energy);

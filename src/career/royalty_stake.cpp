@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "banks/draw.h"
+#include "banks/earnings_banks.h"
 #include "career/casting_terms.h"
 #include "career/new_title.h"
 #include "career/project_start.h"
@@ -74,7 +75,7 @@ Notice book(Game& game, Audition project, double percent) {
   project.weekToWork = schedule.weekToWork;
   startProject(game, project);
 
-  const std::string line = fill(tellRow(game, Bank::royaltySignedBank),
+  const std::string line = fill(tellRow(game, bank::royaltySignedBank),
                                 {{"title", project.title}, {"percent", std::format("{:.2f}%", percent)}});
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));

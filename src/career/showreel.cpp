@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "banks/draw.h"
+#include "banks/talent_banks.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 #include "core/number_style.h"
@@ -156,7 +157,7 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
 
   world.showreelScore = reelScore(game, sum, worstCutOfScenes);
   logActivity(world,
-              fill(tellRow(game, Bank::showreelScene), {{"amount", currency(game.locale, package.cost, 0)},
+              fill(tellRow(game, bank::showreelScene), {{"amount", currency(game.locale, package.cost, 0)},
                                                         {"description", joinedWithAnd(sceneDescriptions)},
                                                         {"n", std::to_string(world.showreelScore)}}));
   return {};

@@ -4,6 +4,7 @@
 #include <format>
 
 #include "banks/draw.h"
+#include "banks/syndication_banks.h"
 #include "core/ended_week.h"
 #include "core/find.h"
 #include "core/log.h"
@@ -35,7 +36,7 @@ void announce(Game& game, const Syndication& title, const NetworkDeal& deal) {
   const std::string amount = shortMoney(game.locale, static_cast<double>(deal.price));
   const std::string years = std::format("{} year{}", deal.years, deal.years == 1 ? "" : "s");
   logLine(game.world, {NewsKind::syndication, title.filmId},
-          fill(tellRow(game, Bank::syndicationDealBank),
+          fill(tellRow(game, bank::syndicationDealBank),
                {{"title", title.filmName}, {"amount", amount}, {"network", deal.network}, {"years", years}}));
 }
 

@@ -5,7 +5,8 @@
 #include <functional>
 #include <numeric>
 
-#include "banks/banks.h"
+#include "banks/critics_banks.h"
+#include "banks/user_reviews_banks.h"
 #include "film/review_words.h"
 
 namespace tb {
@@ -27,11 +28,11 @@ struct LevelBanks {
   Bank bodies;
 };
 constexpr std::array<LevelBanks, 5> levels = {{
-    {.snippets = Bank::userReviewSnippet1, .bodies = Bank::userReviewBody1},
-    {.snippets = Bank::userReviewSnippet2, .bodies = Bank::userReviewBody2},
-    {.snippets = Bank::userReviewSnippet3, .bodies = Bank::userReviewBody3},
-    {.snippets = Bank::userReviewSnippet4, .bodies = Bank::userReviewBody4},
-    {.snippets = Bank::userReviewSnippet5, .bodies = Bank::userReviewBody5},
+    {.snippets = bank::userReviewSnippet1, .bodies = bank::userReviewBody1},
+    {.snippets = bank::userReviewSnippet2, .bodies = bank::userReviewBody2},
+    {.snippets = bank::userReviewSnippet3, .bodies = bank::userReviewBody3},
+    {.snippets = bank::userReviewSnippet4, .bodies = bank::userReviewBody4},
+    {.snippets = bank::userReviewSnippet5, .bodies = bank::userReviewBody5},
 }};
 
 void normalise(StarShares& shares) {
@@ -111,8 +112,8 @@ std::vector<Reviews> drawUserReviews(Game& game, const Film& film, const StarHis
 Bank snippetsOfLevel(std::size_t level) { return levels[level].snippets; }
 
 std::string drawHandle(RandomSource& random) {
-  const std::string& first = drawRow(random, Bank::handleFirstParts);
-  return first + drawRow(random, Bank::handleSecondParts);
+  const std::string& first = drawRow(random, bank::handleFirstParts);
+  return first + drawRow(random, bank::handleSecondParts);
 }
 
 }  // namespace tb
