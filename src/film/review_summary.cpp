@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <format>
-#include <functional>
 #include <limits>
 #include <string_view>
 #include <vector>
@@ -12,6 +11,7 @@
 #include "banks/draw.h"
 #include "banks/review_summary_banks.h"
 #include "core/bands.h"
+#include "core/descending.h"
 #include "core/text.h"
 
 namespace tb {
@@ -161,7 +161,7 @@ std::string topicsIn(const std::string& text, std::span<const Topic> topics, std
   std::vector<Topic> found(topics.begin(), topics.end());
   const auto discussed = [&](const Topic& topic) { return wordsIn(text, topic.keywords); };
   std::erase_if(found, [&](const Topic& topic) { return discussed(topic) == 0; });
-  std::ranges::stable_sort(found, std::greater{}, discussed);
+  sortDescending(found, discussed);
   if (found.size() > topicsNamed) found.resize(topicsNamed);
   std::vector<std::string> names;
   for (const Topic& topic : found) names.emplace_back(topic.name);

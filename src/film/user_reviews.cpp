@@ -1,12 +1,11 @@
 #include "film/user_reviews.h"
 
-#include <algorithm>
 #include <cmath>
-#include <functional>
 #include <numeric>
 
 #include "banks/critics_banks.h"
 #include "banks/user_reviews_banks.h"
+#include "core/descending.h"
 #include "film/review_words.h"
 
 namespace tb {
@@ -54,14 +53,6 @@ StarShares sharesOfStars(double rating) {
   return shares;
 }
 
-// Whom whole numbers treated worst is first.
-std::array<std::size_t, starsOfRating> byFraction(const StarShares& fractions) {
-  std::array<std::size_t, starsOfRating> order{};
-  std::iota(order.begin(), order.end(), std::size_t{0});
-  std::ranges::stable_sort(order, std::greater{}, [&](std::size_t star) { return fractions[star]; });
-  return order;
-}
-
 // Stars that few gave have nobody to speak for them, so that a flop reads like one.
 bool isHeard(const StarHistogram& histogram, std::size_t star) {
   const std::int64_t ratings = std::accumulate(histogram.begin(), histogram.end(), std::int64_t{0});
@@ -94,7 +85,7 @@ StarHistogram starHistogram(const Film& film) {
     fractions[star] = exact - std::floor(exact);
     left -= counts[star];
   }
-  const auto order = byFraction(fractions);
+  const auto order = descendingOrder(fractions);  // by the largest fraction left
   for (std::size_t turn = 0; left > 0; ++turn, --left) counts[order[turn % starsOfRating]] += 1;
   return counts;
 }

@@ -1,9 +1,8 @@
 #include "screens/wealth/weekly_expense_list_view_controller.h"
 
-#include <algorithm>
 #include <format>
-#include <functional>
 
+#include "core/descending.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 #include "screens/wealth/money_parts.h"
@@ -51,7 +50,7 @@ Chart shares(const Game& game, const std::vector<std::size_t>& expenses) {
     const WeeklyLineItem& item = game.world.saveAllWeeklyLineItems[index];
     parts.push_back({item.title, item.amount});
   }
-  std::ranges::stable_sort(parts, std::ranges::greater{}, &MoneyPart::amount);
+  sortDescending(parts, &MoneyPart::amount);
   while (parts.size() > mostSlices) {
     const double small_change = parts.back().amount;
     parts.pop_back();
