@@ -1,9 +1,9 @@
 #include "career/job_board.h"
 
 #include <array>
-#include <format>
 
 #include "banks/jobs_banks.h"
+#include "core/format.h"
 #include "core/log.h"
 
 namespace tb {
@@ -75,11 +75,10 @@ std::vector<JobOffer> openJobBoard(Game& game) {
 
 Refusal jobRefusal(const WorldState& world) {
   if (world.weeklyJobContractRemaining < 1) return {};
-  return Notice{
-      .title = "⏳ Contract Signed ⏳",
-      .message = std::format("\nYou already have an existing contract in place for {} more week(s).",
-                             world.weeklyJobContractRemaining),
-      .brief = "You are under contract"};
+  return Notice{.title = "⏳ Contract Signed ⏳",
+                .message = tb::format("\nYou already have an existing contract in place for {} more week(s).",
+                                      world.weeklyJobContractRemaining),
+                .brief = "You are under contract"};
 }
 
 Refusal acceptJob(Game& game, const JobOffer& offer) {
@@ -89,8 +88,8 @@ Refusal acceptJob(Game& game, const JobOffer& offer) {
   world.weeklyJobIncome = offer.job.jobPay;
   world.weeklyEnergyCost = offer.job.energyCost;
   world.weeklyJobContractRemaining = offer.contractWeeks;
-  logActivity(world, std::format("You accepted a temp job as a {} for {} weeks.", offer.job.jobTitle,
-                                 offer.contractWeeks));
+  logActivity(world, tb::format("You accepted a temp job as a {} for {} weeks.", offer.job.jobTitle,
+                                offer.contractWeeks));
   return {};
 }
 

@@ -1,7 +1,6 @@
 #include "career/royalty_stake.h"
 
 #include <algorithm>
-#include <format>
 #include <utility>
 
 #include "banks/draw.h"
@@ -10,6 +9,7 @@
 #include "career/new_title.h"
 #include "career/project_start.h"
 #include "career/schedule.h"
+#include "core/format.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 #include "core/signed_agent.h"
@@ -76,7 +76,7 @@ Notice book(Game& game, Audition project, double percent) {
   startProject(game, project);
 
   const std::string line = fill(tellRow(game, bank::royaltySignedBank),
-                                {{"title", project.title}, {"percent", std::format("{:.2f}%", percent)}});
+                                {{"title", project.title}, {"percent", tb::format("{:.2f}%", percent)}});
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));
   return {.title = "🎬 Booked 🎬", .message = "\n" + line};

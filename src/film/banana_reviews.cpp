@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <format>
 
 #include "banks/critics_banks.h"
 #include "banks/draw.h"
 #include "banks/names.h"
 #include "core/bands.h"
+#include "core/format.h"
 #include "core/text.h"
 #include "film/banana_scores.h"
 #include "film/film_record.h"
@@ -53,7 +53,7 @@ constexpr int drawsForNewFace = 10;
 std::string drawPortrait(RandomSource& random, const Portraits& portraits, const std::vector<Review>& cards) {
   std::string image;
   for (int draw = 0; draw < drawsForNewFace; ++draw) {
-    image = std::format("{} ({}).png", portraits.stem, 1 + RandomRange(random, portraits.count));
+    image = tb::format("{} ({}).png", portraits.stem, 1 + RandomRange(random, portraits.count));
     if (!std::ranges::contains(cards, image, &Review::image)) break;
   }
   return image;

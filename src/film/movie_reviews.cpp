@@ -1,10 +1,10 @@
 #include "film/movie_reviews.h"
 
 #include <array>
-#include <format>
 
 #include "banks/draw.h"
 #include "banks/rate_movies_banks.h"
+#include "core/format.h"
 #include "core/house_notices.h"
 #include "core/text.h"
 
@@ -56,7 +56,7 @@ std::string generatedReview(Game& game, std::int64_t rating) {
   const SentenceBanks& sentences = sentencesOfLevels[static_cast<std::size_t>((rating - 1) / 2)];
   const std::string_view first = tellRow(game, bank::reviewFirstSentence);
   const std::string_view middle = tellRow(game, sentences.middle);
-  return std::format("{} {} {}", first, middle, tellRow(game, sentences.last));
+  return tb::format("{} {} {}", first, middle, tellRow(game, sentences.last));
 }
 
 Refusal submitReview(Game& game, const std::string& title, std::int64_t rating, const std::string& text) {

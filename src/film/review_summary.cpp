@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <format>
 #include <limits>
 #include <string_view>
 #include <vector>
@@ -12,6 +11,7 @@
 #include "banks/review_summary_banks.h"
 #include "core/bands.h"
 #include "core/descending.h"
+#include "core/format.h"
 #include "core/text.h"
 
 namespace tb {
@@ -188,7 +188,7 @@ std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
   const std::string balance = fill(tellRow(game, banks.balance), {{"good", good}, {"bad", bad}});
   const std::string consensus = fill(tellRow(game, banks.consensus), {{"label", mood.label}});
   const std::string_view advice = tellRow(game, banks.advice);
-  return std::format("{} {} {} {}", verdict, balance, consensus, advice);
+  return tb::format("{} {} {} {}", verdict, balance, consensus, advice);
 }
 
 }  // namespace tb

@@ -1,8 +1,7 @@
 #include "screens/wealth/weekly_expense_list_view_controller.h"
 
-#include <format>
-
 #include "core/descending.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 #include "screens/wealth/money_parts.h"
@@ -17,8 +16,8 @@ namespace {
 constexpr double weeksOfAYear = 52;
 
 Row itemRow(const Game& game, const WeeklyLineItem& item) {
-  std::string detail = std::format("since {}", item.year);
-  if (item.energyBoost != 0) detail += std::format(" • {:+} energy", item.energyBoost);
+  std::string detail = tb::format("since {}", item.year);
+  if (item.energyBoost != 0) detail += tb::format(" • {:+} energy", item.energyBoost);
   return {.label = item.title,
           .value = cash(game.locale, item.amount),
           .detail = std::move(detail),
