@@ -53,6 +53,24 @@ const staticFiles = readdirSync(join(here, "static"), { recursive: true, withFil
 
 const wasm = putHashed("top_billing", "wasm", readFileSync(options.wasm));
 
+// The rows of all banks, without the comments and the empty lines between them (src/banks/texts.h).
+const banks = join(here, "../src/banks");
+const rows = readdirSync(banks)
+  .filter((name) => name.endsWith(".txt"))
+  .sort()
+  .flatMap((name) => readFileSync(join(banks, name), "utf8").split("\n"))
+  .filter((line) => line !== "" && !line.startsWith("#"));
+const texts = putHashed("texts", "txt", rows.map((row) => `${row}\n`).join(""));
+
+// The art is a script of its own, which the page imports when it has been painted.
+const art = await build({ ...bundling, entryPoints: [join(here, "src/art/picture_art.ts")], format: "esm" });
+const artScript = putHashed("art", "js", art.outputFiles[0].contents);
+const artApart = {
+  name: "art apart",
+  setup: ({ onResolve }) =>
+    onResolve({ filter: /\/art\/picture_art$/ }, () => ({ path: `./${artScript}`, external: true })),
+};
+
 const page = await build({
   ...bundling,
   entryPoints: [join(here, "src/main.tsx")],
@@ -60,7 +78,8 @@ const page = await build({
   format: "esm",
   jsx: "automatic",
   jsxImportSource: "preact",
-  define: { WASM_FILE: JSON.stringify(wasm) },
+  define: { WASM_FILE: JSON.stringify(wasm), TEXTS_FILE: JSON.stringify(texts) },
+  plugins: [artApart],
 });
 const bundled = (ending) => page.outputFiles.find((file) => file.path.endsWith(ending)).contents;
 const script = putHashed("page", "js", bundled(".js"));
@@ -71,7 +90,7 @@ const index = readFileSync(join(here, "static/index.html"), "utf8").replace(/\{\
 put("index.html", index);
 
 // What is kept for play without a network. Home screens keep their own copies of the PNG icons.
-const files = [script, style, wasm, ...staticFiles.filter((name) => !name.endsWith(".png"))];
+const files = [script, style, wasm, texts, artScript, ...staticFiles.filter((name) => !name.endsWith(".png"))];
 
 // The version is a hash over all of it: any change is a new version, nothing else is.
 const version = hashOf([index, ...files.map((name) => name + hashOf(readFileSync(join(options.out, name))))].join("\n"));
@@ -86,7 +105,7 @@ put("service-worker.js", worker.outputFiles[0].contents);
 
 // Pressed as small as it gets, for servers that hand out what is compressed already: that takes seconds, too
 // long to do while somebody waits.
-for (const name of [wasm, script, style]) {
+for (const name of [wasm, script, style, texts, artScript]) {
   const content = readFileSync(join(options.out, name));
   put(`${name}.br`, brotliCompressSync(content, { params: { [constants.BROTLI_PARAM_QUALITY]: constants.BROTLI_MAX_QUALITY } }));
 }

@@ -14,6 +14,7 @@ const types = {
   ".js": "text/javascript; charset=utf-8",
   ".png": "image/png",
   ".svg": "image/svg+xml",
+  ".txt": "text/plain; charset=utf-8",
   ".wasm": "application/wasm",
   ".webmanifest": "application/manifest+json",
 };
@@ -51,6 +52,7 @@ class Site {
       "Content-Type": types[ending] ?? "application/octet-stream",
       "Cache-Control": cacheControl(file),
       "X-Content-Type-Options": "nosniff",
+      Vary: "Accept-Encoding",
     };
     const encoding = alreadySmall.has(ending) ? undefined : wantedEncoding(request);
     if (!encoding) {
@@ -64,7 +66,6 @@ class Site {
       ...headers,
       "Content-Encoding": encoding,
       "Content-Length": content.length,
-      Vary: "Accept-Encoding",
     });
     if (request.method === "HEAD") return response.end();
     this.#sent(content.length);
@@ -96,8 +97,10 @@ async function compressed(encoding, file) {
   return encoding === "br" ? readFile(`${file}.br`).catch(made) : made();
 }
 
+// The best that the browser takes: "gzip, br;q=0" takes gzip alone.
 function wantedEncoding(request) {
-  const accepted = String(request.headers["accept-encoding"] ?? "");
+  const listed = String(request.headers["accept-encoding"] ?? "").split(",");
+  const accepted = listed.filter((part) => !/;\s*q=0(\.0*)?\s*$/.test(part)).map((part) => part.split(";")[0].trim());
   return Object.keys(encoders).find((encoding) => accepted.includes(encoding));
 }
 

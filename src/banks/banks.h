@@ -1,11 +1,10 @@
 #pragma once
 
 // The game's texts. A bank is a constant list of rows; which row comes is drawn, each with the same chance.
-// The rows stand in banks/*.txt; banks/banks.def lists every bank with its count and the placeholders that
-// its rows may hold. Rows that are told to the player are drawn with tellRow() (banks/draw.h), the others
-// here.
+// The rows stand in banks/*.txt. Each of these files has a header of its own, such as banks/film_banks.h,
+// which lists its banks: a new bank concerns only those who draw from its file. Rows that are told to the
+// player are drawn with tellRow() (banks/draw.h), the others here.
 
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,12 +14,22 @@
 
 namespace tb {
 
-enum class Bank : std::uint8_t {
-#define BANK(name, count, placeholders) name,
-#include "banks/banks.def"
+// A bank by its name in the texts.
+struct Bank {
+  std::string_view name;
+  bool operator==(const Bank&) const = default;
 };
 
+// A file's list holds BANK(name, number of rows, placeholders that its rows may hold) for each bank. This
+// makes each of them a constant, such as bank::premiere; the tests hold the rows to the rest.
+#define DECLARE_BANK(name, count, placeholders) inline constexpr Bank name{#name};
+#define DECLARE_BANKS(list) \
+  namespace tb::bank {      \
+  list(DECLARE_BANK)        \
+  }
+
 // The rows of a bank as they stand in its file, in its order: with the marks of banks/draw.h.
+// There have to be texts (banks/texts.h).
 [[nodiscard]] std::span<const std::string> rowsOf(Bank bank);
 
 // A row of the bank, drawn with RandomRange(its count): a name, a handle. It can come twice running.

@@ -100,10 +100,9 @@ MarkedRow markedRow(std::string_view row) {
 std::string_view tellRow(Game& game, Bank bank, const Subject& subject) {
   const std::span<const std::string> rows = rowsOf(bank);
   const auto drawn = static_cast<std::size_t>(RandomRange(game.random, std::ssize(rows)));
-  const auto number = static_cast<std::size_t>(bank);
   const auto isTrueRow = [&](std::size_t row) { return isTrue(game.world, subject, markedRow(rows[row])); };
-  const std::size_t row = standIn(drawn, rows.size(), game.told.of(number), isTrueRow);
-  game.told.add(number, row, std::min(rows.size() / 2, mostRemembered));
+  const std::size_t row = standIn(drawn, rows.size(), game.told.of(bank.name), isTrueRow);
+  game.told.add(bank.name, row, std::min(rows.size() / 2, mostRemembered));
   return markedRow(rows[row]).text;
 }
 

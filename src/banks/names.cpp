@@ -1,6 +1,6 @@
 #include "banks/names.h"
 
-#include "banks/banks.h"
+#include "banks/names_banks.h"
 
 namespace tb {
 
@@ -8,15 +8,15 @@ namespace {
 
 std::string nameFrom(RandomSource& random, Bank firstNames) {
   const std::string& first = drawRow(random, firstNames);
-  return first + " " + drawRow(random, Bank::lastNameBank);
+  return first + " " + drawRow(random, bank::lastNameBank);
 }
 
 }  // namespace
 
-std::string inventedName(RandomSource& random) { return nameFrom(random, Bank::firstNames); }
+std::string inventedName(RandomSource& random) { return nameFrom(random, bank::firstNames); }
 
 std::string inventedName(RandomSource& random, bool isMale) {
-  return nameFrom(random, isMale ? Bank::maleFirstNames : Bank::femaleFirstNames);
+  return nameFrom(random, isMale ? bank::maleFirstNames : bank::femaleFirstNames);
 }
 
 }  // namespace tb

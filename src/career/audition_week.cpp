@@ -1,10 +1,11 @@
 #include "career/audition_week.h"
 
-#include <format>
 #include <string>
 
+#include "banks/audition_banks.h"
 #include "banks/draw.h"
 #include "core/debug_log.h"
+#include "core/format.h"
 #include "core/log.h"
 #include "core/signed_agent.h"
 #include "film/box_office.h"
@@ -83,9 +84,9 @@ void invite(Pass& pass, std::size_t index) {
     if (isHeardOf(project)) {
       const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
       feedLine(pass.world, {NewsKind::invitation, project.filmId},
-               std::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
+               tb::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
       logActivity(pass.world,
-                  fill(tellRow(pass.game, Bank::invitation), {{"title", project.title}, {"n", weeks}}));
+                  fill(tellRow(pass.game, bank::invitation), {{"title", project.title}, {"n", weeks}}));
       pass.world.experience += project.auditionDifficulty * experienceOfInvitation;
     }
   }
@@ -98,8 +99,8 @@ void leaveUnanswered(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::closed);
   feedLine(pass.world, {NewsKind::silence, project.filmId},
-           std::format("You never heard back after applying for {}.", nameOf(project)));
-  logActivity(pass.world, fill(tellRow(pass.game, Bank::silence), {{"title", project.title}}));
+           tb::format("You never heard back after applying for {}.", nameOf(project)));
+  logActivity(pass.world, fill(tellRow(pass.game, bank::silence), {{"title", project.title}}));
   pass.tellAgent(index, agentTakes::silence);
 }
 
@@ -107,7 +108,7 @@ bool isInvited(Pass& pass, const Audition& project) {
   const std::int64_t chance = drawChance(pass, project);
   if (project.didAct < 1) return true;
   const std::int64_t score = RandomBetween(pass.game.random, 0, pass.world.showreelScore) + project.didBribe;
-  debugLog(std::format("My experience == {} -- {} -- {}", project.didBribe, score, project.title));
+  debugLog(tb::format("My experience == {} -- {} -- {}", project.didBribe, score, project.title));
   const bool prevailed = prevails(pass, project, score, chance);
   return prevailed || (score >= chance && project.didBribe >= bribeThatSkipsTheDie);
 }
@@ -125,9 +126,9 @@ void offerRole(Pass& pass, std::size_t index) {
   pass.moveTo(index, funnel::booked);
   if (isHeardOf(project)) {
     feedLine(pass.world, {NewsKind::offer, project.filmId},
-             std::format("You auditioned for {} and the cast director offered you the role. Shooting begins "
-                         "in {} week(s).",
-                         nameOf(project), project.weekToWork - pass.week() - 1));
+             tb::format("You auditioned for {} and the cast director offered you the role. Shooting begins "
+                        "in {} week(s).",
+                        nameOf(project), project.weekToWork - pass.week() - 1));
     pass.world.experience += project.auditionDifficulty / shareOfOffer;
   }
   pass.tellAgent(index, agentTakes::offer);
@@ -137,7 +138,7 @@ void offerRole(Pass& pass, std::size_t index) {
 void reject(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   feedLine(pass.world, {NewsKind::refusal, project.filmId},
-           std::format("You auditioned for {} but you were not selected for the role.", nameOf(project)));
+           tb::format("You auditioned for {} but you were not selected for the role.", nameOf(project)));
   pass.tellAgent(index, agentTakes::rejection);
 }
 
@@ -147,7 +148,7 @@ void audition(Pass& pass, std::size_t index) {
   const std::int64_t chance = drawChance(pass, project);
   const std::int64_t rating =
       RandomBetween(pass.game.random, 0, static_cast<std::int64_t>(project.rehearsalRating));
-  debugLog(std::format("Audition Chance -- {} -- Audition Rating -- {}", chance, rating));
+  debugLog(tb::format("Audition Chance -- {} -- Audition Rating -- {}", chance, rating));
   if (project.didAct < 1 || prevails(pass, project, rating, chance)) return offerRole(pass, index);
   reject(pass, index);
 }
@@ -158,10 +159,10 @@ News wrapOf(const Audition& project) { return {NewsKind::wrap, project.filmId}; 
 
 void tellOfShoot(Pass& pass, const Audition& project) {
   const bool commercial = project.typeOfFilm == filmType::commercial;
-  const std::string season = project.seasonNumber >= 2 ? std::format(" Season {}", project.seasonNumber) : "";
+  const std::string season = project.seasonNumber >= 2 ? tb::format(" Season {}", project.seasonNumber) : "";
   feedLine(pass.world, wrapOf(project),
            commercial ? "You wrapped filming for a commercial."
-                      : std::format("You wrapped filming for {}{}.", project.title, season));
+                      : tb::format("You wrapped filming for {}{}.", project.title, season));
   pass.world.experience +=
       RandomUnit(pass.game.random, 0, commercial ? mostExperienceOfCommercial : mostExperienceOfShoot);
 }
@@ -169,16 +170,16 @@ void tellOfShoot(Pass& pass, const Audition& project) {
 void tellOfOwnProduction(Pass& pass, const Audition& project) {
   feedLine(pass.world, wrapOf(project),
            project.typeOfFilm == filmType::feature
-               ? std::format("Filming wrapped for {}, a film you directed and produced.", project.title)
-               : std::format("Filming wrapped for {}, a TV-Series you directed and produced. Pitch it to "
-                             "networks prior to release.",
-                             project.title));
+               ? tb::format("Filming wrapped for {}, a film you directed and produced.", project.title)
+               : tb::format("Filming wrapped for {}, a TV-Series you directed and produced. Pitch it to "
+                            "networks prior to release.",
+                            project.title));
 }
 
 void tellOfInvestment(Pass& pass, const Audition& project) {
-  const std::string stake = std::format("{:.0f}%", project.equityPercentage);
+  const std::string stake = tb::format("{:.0f}%", project.equityPercentage);
   logLine(pass.world, wrapOf(project),
-          fill(tellRow(pass.game, Bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
+          fill(tellRow(pass.game, bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
 }
 
 void wrap(Pass& pass, std::size_t index) {

@@ -1,9 +1,9 @@
 #include "career/bribe.h"
 
-#include <format>
 #include <string_view>
 
 #include "core/bands.h"
+#include "core/format.h"
 #include "core/house_notices.h"
 
 namespace tb {
@@ -45,11 +45,11 @@ Notice bribeCastingDirector(Game& game, std::size_t auditionIndex) {
   world.saveBribePrice *= 2;
   const std::int64_t strength = RandomRange(game.random, strengths);
   world.saveAllAuditionList.edit(auditionIndex).didBribe = strength + weakestBribe;
-  return {.title = "🤝 BRIBED 🤝",
-          .message =
-              std::format("You bribed the Casting Director and {}.\n\nThis does not mean you automatically "
-                          "earn the role, just the chance to audition.",
-                          bandOf(phrases, strength)->phrase)};
+  return {
+      .title = "🤝 BRIBED 🤝",
+      .message = tb::format("You bribed the Casting Director and {}.\n\nThis does not mean you automatically "
+                            "earn the role, just the chance to audition.",
+                            bandOf(phrases, strength)->phrase)};
 }
 
 }  // namespace tb

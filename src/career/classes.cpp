@@ -1,10 +1,11 @@
 #include "career/classes.h"
 
 #include <algorithm>
-#include <format>
 
 #include "banks/draw.h"
+#include "banks/talent_banks.h"
 #include "core/bands.h"
+#include "core/format.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 
@@ -90,9 +91,9 @@ Refusal classRefusal(const WorldState& world, const ClassOption& option) {
   if (classEnergy(world) > world.totalEnergyMax - world.weeklyEnergyCost) {
     return Notice{
         .title = "⚡️ Not Enough Weekly Energy ⚡️",
-        .message = std::format("You do not have enough energy each week to sign up for this class. You "
-                               "are currently losing -{} energy each week.",
-                               classEnergy(world) + world.weeklyEnergyCost),
+        .message = tb::format("You do not have enough energy each week to sign up for this class. You "
+                              "are currently losing -{} energy each week.",
+                              classEnergy(world) + world.weeklyEnergyCost),
         .brief = "Too little weekly energy"};
   }
   if (world.totalCashAvailable < option.cost) {
@@ -114,7 +115,7 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
                                            .level = option.offered->classLevel,
                                            .cost = static_cast<std::int64_t>(option.cost),
                                            .yearStarted = world.yearNumber});
-  logActivity(world, fill(tellRow(game, Bank::classSignUp), {{"title", option.offered->title},
+  logActivity(world, fill(tellRow(game, bank::classSignUp), {{"title", option.offered->title},
                                                              {"code", option.offered->classCode},
                                                              {"weeks", std::to_string(option.weeks)}}));
   return {};
@@ -129,7 +130,7 @@ void advanceClasses(Game& game) {
     if (running.weeksRemaining > 0) continue;
     const JulliardClass* finished = classWithId(running.classId);
     logLine(world, NewsKind::classDone,
-            std::format("You finished Drama {}", finished == nullptr ? "" : finished->classCode));
+            tb::format("You finished Drama {}", finished == nullptr ? "" : finished->classCode));
     world.experience += running.experience;
   }
 }

@@ -1,9 +1,9 @@
 #include "career/job_board.h"
 
 #include <array>
-#include <format>
 
-#include "banks/banks.h"
+#include "banks/jobs_banks.h"
+#include "core/format.h"
 #include "core/log.h"
 
 namespace tb {
@@ -46,7 +46,7 @@ std::int64_t drawFrom(RandomSource& random, Span span) { return RandomBetween(ra
 
 // The terms of every job are drawn once a board, so that a job that shows twice pays the same in both places.
 std::vector<JobList> randomJobList(RandomSource& random) {
-  const std::span<const std::string> descriptions = rowsOf(Bank::jobDescription);
+  const std::span<const std::string> descriptions = rowsOf(bank::jobDescription);
   std::vector<JobList> jobs;
   for (std::size_t kind = 0; kind < jobKinds.size(); ++kind) {
     const std::int64_t energy = drawFrom(random, jobKinds[kind].energy);
@@ -75,11 +75,10 @@ std::vector<JobOffer> openJobBoard(Game& game) {
 
 Refusal jobRefusal(const WorldState& world) {
   if (world.weeklyJobContractRemaining < 1) return {};
-  return Notice{
-      .title = "⏳ Contract Signed ⏳",
-      .message = std::format("\nYou already have an existing contract in place for {} more week(s).",
-                             world.weeklyJobContractRemaining),
-      .brief = "You are under contract"};
+  return Notice{.title = "⏳ Contract Signed ⏳",
+                .message = tb::format("\nYou already have an existing contract in place for {} more week(s).",
+                                      world.weeklyJobContractRemaining),
+                .brief = "You are under contract"};
 }
 
 Refusal acceptJob(Game& game, const JobOffer& offer) {
@@ -89,8 +88,8 @@ Refusal acceptJob(Game& game, const JobOffer& offer) {
   world.weeklyJobIncome = offer.job.jobPay;
   world.weeklyEnergyCost = offer.job.energyCost;
   world.weeklyJobContractRemaining = offer.contractWeeks;
-  logActivity(world, std::format("You accepted a temp job as a {} for {} weeks.", offer.job.jobTitle,
-                                 offer.contractWeeks));
+  logActivity(world, tb::format("You accepted a temp job as a {} for {} weeks.", offer.job.jobTitle,
+                                offer.contractWeeks));
   return {};
 }
 

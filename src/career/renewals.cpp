@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "banks/audition_banks.h"
 #include "banks/draw.h"
 #include "career/colleagues.h"
 #include "career/preparation.h"
@@ -172,7 +173,7 @@ void orderSeason(Game& game, std::size_t index) {
   Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
   setEpisodes(game, next);
   logLine(world, {NewsKind::renewal, next.filmId},
-          fill(tellRow(game, Bank::seriesRenewal),
+          fill(tellRow(game, bank::seriesRenewal),
                {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
   renew(world, index, std::move(next));
 }
@@ -198,7 +199,7 @@ void orderFilm(Game& game, std::size_t index, const MovieFranchise& entry) {
   next.franchise = entry.movieNumber;
   next.franchiseId = entry.id;
   logLine(world, {NewsKind::renewal, next.filmId},
-          fill(tellRow(game, Bank::sagaRenewal),
+          fill(tellRow(game, bank::sagaRenewal),
                {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
   renew(world, index, std::move(next));
 }
@@ -225,14 +226,14 @@ void decide(Game& game, std::int64_t typeOfFilm, Bank endBank, CarryOn carryOn) 
 }  // namespace
 
 void renewSeries(Game& game) {
-  decide(game, filmType::series, Bank::seriesCancellation,
+  decide(game, filmType::series, bank::seriesCancellation,
          [&](std::size_t index) { orderSeason(game, index); });
 }
 
 void renewSaga(Game& game) {
-  decide(game, filmType::feature, Bank::sagaEnding, [&](std::size_t index) {
+  decide(game, filmType::feature, bank::sagaEnding, [&](std::size_t index) {
     const MovieFranchise* const entry = nextEntry(game.world.saveAllAuditionList[index]);
-    if (entry == nullptr) return end(game, index, Bank::sagaEnding);
+    if (entry == nullptr) return end(game, index, bank::sagaEnding);
     orderFilm(game, index, *entry);
   });
 }

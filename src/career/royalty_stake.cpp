@@ -1,14 +1,15 @@
 #include "career/royalty_stake.h"
 
 #include <algorithm>
-#include <format>
 #include <utility>
 
 #include "banks/draw.h"
+#include "banks/earnings_banks.h"
 #include "career/casting_terms.h"
 #include "career/new_title.h"
 #include "career/project_start.h"
 #include "career/schedule.h"
+#include "core/format.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 #include "core/signed_agent.h"
@@ -74,8 +75,8 @@ Notice book(Game& game, Audition project, double percent) {
   project.weekToWork = schedule.weekToWork;
   startProject(game, project);
 
-  const std::string line = fill(tellRow(game, Bank::royaltySignedBank),
-                                {{"title", project.title}, {"percent", std::format("{:.2f}%", percent)}});
+  const std::string line = fill(tellRow(game, bank::royaltySignedBank),
+                                {{"title", project.title}, {"percent", tb::format("{:.2f}%", percent)}});
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));
   return {.title = "🎬 Booked 🎬", .message = "\n" + line};

@@ -1,11 +1,12 @@
 #include "career/showreel.h"
 
 #include <algorithm>
-#include <format>
 #include <functional>
 #include <numeric>
 
 #include "banks/draw.h"
+#include "banks/talent_banks.h"
+#include "core/format.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 #include "core/number_style.h"
@@ -52,8 +53,8 @@ Refusal payFor(Game& game, double cost) {
 Refusal checkScenes(const ScenePackage& package, std::size_t scenes) {
   if (scenes > package.scenes) {
     return Notice{.title = "🎥 Too Many Scenes 🎥",
-                  .message = std::format("\nYou can only have up to {} for this package.",
-                                         counted(static_cast<std::int64_t>(package.scenes), "scene"))};
+                  .message = tb::format("\nYou can only have up to {} for this package.",
+                                        counted(static_cast<std::int64_t>(package.scenes), "scene"))};
   }
   if (scenes == 0) {
     return Notice{.title = "🎥 No Scene Written 🎥",
@@ -128,8 +129,8 @@ Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmI
 
   WorldState& world = game.world;
   world.showreelScore = tempScore;
-  logActivity(world, std::format("You updated your showreel using existing footage, and it’s now rated {}",
-                                 world.showreelScore));
+  logActivity(world, tb::format("You updated your showreel using existing footage, and it’s now rated {}",
+                                world.showreelScore));
   return {};
 }
 
@@ -156,7 +157,7 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
 
   world.showreelScore = reelScore(game, sum, worstCutOfScenes);
   logActivity(world,
-              fill(tellRow(game, Bank::showreelScene), {{"amount", currency(game.locale, package.cost, 0)},
+              fill(tellRow(game, bank::showreelScene), {{"amount", currency(game.locale, package.cost, 0)},
                                                         {"description", joinedWithAnd(sceneDescriptions)},
                                                         {"n", std::to_string(world.showreelScore)}}));
   return {};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "banks/audition_banks.h"
 #include "banks/draw.h"
 #include "career/project_start.h"
 #include "core/audition_list.h"
@@ -59,7 +60,7 @@ Refusal submitToCastingListing(Game& game, const CastingListing& listing) {
   world.totalEnergyAvailable -= submissionEnergy;
   world.filmId = std::max(world.filmId, listing.filmId);  // listings are answered in any order; it only rises
   world.saveAllAuditionList.push_back(submittedRecord(game, listing));
-  logActivity(world, fill(tellRow(game, Bank::submission), {{"title", listing.movie->title}}));
+  logActivity(world, fill(tellRow(game, bank::submission), {{"title", listing.movie->title}}));
   return {};
 }
 

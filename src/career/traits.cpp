@@ -1,8 +1,8 @@
 #include "career/traits.h"
 
 #include <algorithm>
-#include <format>
 
+#include "core/format.h"
 #include "core/house_notices.h"
 
 namespace tb {
@@ -28,8 +28,8 @@ std::int64_t nextValue(const WorldState& world, const Trait& trait) {
 
 Refusal traitRefusal(const WorldState& world, const Trait& trait) {
   if (world.totalEnergyAvailable >= world.*trait.price) return {};
-  return notEnoughEnergy(std::format("You need {} energy to work on this trait and have {} left this week.",
-                                     world.*trait.price, world.totalEnergyAvailable));
+  return notEnoughEnergy(tb::format("You need {} energy to work on this trait and have {} left this week.",
+                                    world.*trait.price, world.totalEnergyAvailable));
 }
 
 Refusal buyTrait(Game& game, int k) {

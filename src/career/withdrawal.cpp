@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "banks/audition_banks.h"
 #include "banks/draw.h"
 #include "core/audition_list.h"
 #include "core/log.h"
@@ -25,7 +26,7 @@ void withdrawFromRole(Game& game, std::int64_t filmId) {
   world.totalFans -= lost;
   world.trackFans.push_back(world.totalFans);
   logActivity(
-      world, fill(tellRow(game, Bank::withdrawal, subject), {{"title", title}, {"n", std::to_string(lost)}}));
+      world, fill(tellRow(game, bank::withdrawal, subject), {{"title", title}, {"n", std::to_string(lost)}}));
 }
 
 }  // namespace tb

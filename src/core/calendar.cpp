@@ -2,7 +2,8 @@
 
 #include <array>
 #include <chrono>
-#include <format>
+
+#include "core/format.h"
 
 namespace tb {
 
@@ -21,9 +22,8 @@ std::optional<std::chrono::year_month_day> fridayOf(std::int64_t week, std::int6
 }
 
 DateLabel labelOf(std::chrono::year_month_day day, const std::array<std::string, 12>& months) {
-  return {
-      .month = months[static_cast<unsigned>(day.month()) - 1],
-      .dayAndYear = std::format("{}, {}", static_cast<unsigned>(day.day()), static_cast<int>(day.year()))};
+  return {.month = months[static_cast<unsigned>(day.month()) - 1],
+          .dayAndYear = tb::format("{}, {}", static_cast<unsigned>(day.day()), static_cast<int>(day.year()))};
 }
 
 }  // namespace

@@ -2,7 +2,8 @@
 
 #include <array>
 #include <cmath>
-#include <format>
+
+#include "core/format.h"
 
 namespace tb {
 
@@ -46,7 +47,7 @@ constexpr const char* noNumber = "$0";
 
 // The digits of a number that is not negative, grouped by threes, with the locale's separators.
 std::string groupedDigits(const Locale& locale, double amount, int digits) {
-  const std::string plain = std::format("{:.{}f}", amount, digits);
+  const std::string plain = tb::format("{:.{}f}", amount, digits);
   const std::size_t whole = std::min(plain.find('.'), plain.size());
   std::string grouped;
   for (std::size_t place = 0; place < whole; ++place) {
@@ -76,7 +77,7 @@ std::string shortCount(std::int64_t n) {
   if (n < 0) return "";
   const ShortForm* form = formOf(countForms, static_cast<double>(n));
   if (form == nullptr) return "";
-  return std::format("{:.{}f}{}", static_cast<double>(n) / form->unit, form->digits, form->suffix);
+  return tb::format("{:.{}f}{}", static_cast<double>(n) / form->unit, form->digits, form->suffix);
 }
 
 std::string currency(const Locale& locale, double amount, int digits) {

@@ -1,9 +1,9 @@
 #include "core/record_codec.h"
 
 #include <algorithm>
-#include <format>
 #include <optional>
 
+#include "core/format.h"
 #include "core/property_list_objects.h"
 
 namespace tb {
@@ -18,10 +18,10 @@ std::string describe(const DecodeError& error) {
     case DecodeError::Kind::unreadable:
       return std::string(plist::describe(error.readError));
     case DecodeError::Kind::missingField:
-      return std::format("A record of the list has no {}.", error.field);
+      return tb::format("A record of the list has no {}.", error.field);
     case DecodeError::Kind::wrongKind:
       if (error.field.empty()) return "The list, or an element of it, is of the wrong kind.";
-      return std::format("The {} of a record is of the wrong kind.", error.field);
+      return tb::format("The {} of a record is of the wrong kind.", error.field);
   }
   std::unreachable();
 }

@@ -6,17 +6,18 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
+#include <string_view>
 #include <vector>
 
 namespace tb {
 
 class ToldRows {
  public:
-  // The rows of a bank told last, the oldest first.
-  [[nodiscard]] const std::vector<std::size_t>& of(std::size_t bank) { return told_[bank]; }
+  // The rows of the bank of that name told last, the oldest first.
+  [[nodiscard]] const std::vector<std::size_t>& of(std::string_view bank) { return told_[bank]; }
 
   // Remembers a row as the latest of its bank, and forgets all but the `kept` latest.
-  void add(std::size_t bank, std::size_t row, std::size_t kept) {
+  void add(std::string_view bank, std::size_t row, std::size_t kept) {
     std::vector<std::size_t>& rows = told_[bank];
     std::erase(rows, row);
     rows.push_back(row);
@@ -24,7 +25,7 @@ class ToldRows {
   }
 
  private:
-  std::map<std::size_t, std::vector<std::size_t>> told_;
+  std::map<std::string_view, std::vector<std::size_t>> told_;  // by the name of the bank
 };
 
 }  // namespace tb

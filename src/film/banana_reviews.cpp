@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <format>
 
+#include "banks/critics_banks.h"
 #include "banks/draw.h"
 #include "banks/names.h"
 #include "core/bands.h"
+#include "core/format.h"
 #include "core/text.h"
 #include "film/banana_scores.h"
 #include "film/film_record.h"
@@ -31,11 +32,11 @@ struct CriticBand {
   double highestScore;
 };
 constexpr std::array<CriticBand, 5> criticBands = {{
-    {.upTo = 20, .review = Bank::longReviewBank1, .lowestScore = 1, .highestScore = 20},
-    {.upTo = 40, .review = Bank::longReviewBank2, .lowestScore = 21, .highestScore = 40},
-    {.upTo = 60, .review = Bank::longReviewBank3, .lowestScore = 41, .highestScore = 60},
-    {.upTo = 80, .review = Bank::longReviewBank4, .lowestScore = 61, .highestScore = 80},
-    {.upTo = 100, .review = Bank::longReviewBank5, .lowestScore = 81, .highestScore = 100},
+    {.upTo = 20, .review = bank::longReviewBank1, .lowestScore = 1, .highestScore = 20},
+    {.upTo = 40, .review = bank::longReviewBank2, .lowestScore = 21, .highestScore = 40},
+    {.upTo = 60, .review = bank::longReviewBank3, .lowestScore = 41, .highestScore = 60},
+    {.upTo = 80, .review = bank::longReviewBank4, .lowestScore = 61, .highestScore = 80},
+    {.upTo = 100, .review = bank::longReviewBank5, .lowestScore = 81, .highestScore = 100},
 }};
 constexpr double scoreOfAStar = 25;
 
@@ -52,7 +53,7 @@ constexpr int drawsForNewFace = 10;
 std::string drawPortrait(RandomSource& random, const Portraits& portraits, const std::vector<Review>& cards) {
   std::string image;
   for (int draw = 0; draw < drawsForNewFace; ++draw) {
-    image = std::format("{} ({}).png", portraits.stem, 1 + RandomRange(random, portraits.count));
+    image = tb::format("{} ({}).png", portraits.stem, 1 + RandomRange(random, portraits.count));
     if (!std::ranges::contains(cards, image, &Review::image)) break;
   }
   return image;
@@ -67,7 +68,7 @@ Review criticCard(Game& game, const Film& film, double criticScore, const std::v
   }
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.name = inventedName(game.random, is_male);
-  card.newsOutlet = tellRow(game, Bank::reviewerCompanyBank);
+  card.newsOutlet = tellRow(game, bank::reviewerCompanyBank);
   card.image = drawPortrait(game.random, is_male ? portraitsOfMen : portraitsOfWomen, others);
   return card;
 }

@@ -5,6 +5,7 @@
 #include <limits>
 #include <optional>
 
+#include "banks/critics_banks.h"
 #include "banks/draw.h"
 #include "core/bands.h"
 #include "core/number_style.h"
@@ -35,12 +36,12 @@ struct ConsensusBand {
   Bank bank;
 };
 constexpr std::array<ConsensusBand, 6> consensusBands = {{
-    {.upTo = 19, .bank = Bank::criticConsensusBank0},
-    {.upTo = 39, .bank = Bank::criticConsensusBank20},
-    {.upTo = 59, .bank = Bank::criticConsensusBank40},
-    {.upTo = 74, .bank = Bank::criticConsensusBank60},
-    {.upTo = 89, .bank = Bank::criticConsensusBank75},
-    {.upTo = std::numeric_limits<std::int64_t>::max(), .bank = Bank::criticConsensusBank90},
+    {.upTo = 19, .bank = bank::criticConsensusBank0},
+    {.upTo = 39, .bank = bank::criticConsensusBank20},
+    {.upTo = 59, .bank = bank::criticConsensusBank40},
+    {.upTo = 74, .bank = bank::criticConsensusBank60},
+    {.upTo = 89, .bank = bank::criticConsensusBank75},
+    {.upTo = std::numeric_limits<std::int64_t>::max(), .bank = bank::criticConsensusBank90},
 }};
 
 // The place of the first letter in the alphabet, from 0; nothing when it is another character.

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "banks/box_office_banks.h"
 #include "banks/draw.h"
 #include "core/find.h"
 #include "core/log.h"
@@ -40,7 +41,7 @@ void keepOpeningPost(Game& game, const Audition& project, double domesticGross) 
   game.world.chirpId += 1;
   const std::string amount = shortMoney(game.locale, domesticGross);
   const std::string text =
-      fill(tellRow(game, Bank::openingWeekend), {{"title", project.title}, {"amount", amount}});
+      fill(tellRow(game, bank::openingWeekend), {{"title", project.title}, {"amount", amount}});
   Chirp post = industryChirp(game, "Box Office Jojo", "boxOfficeJojo.png", text + " ");
   post.filmId = project.filmId;
   game.world.openingChirp = {std::move(post)};
@@ -78,7 +79,7 @@ void closeRun(Game& game, std::size_t filmAt) {
   Film& film = game.world.saveAllFilmList.edit(filmAt);
   film.boxOfficeGross = *gross;
   const std::string amount = shortMoney(game.locale, *gross);
-  logActivity(game.world, fill(tellRow(game, Bank::closing), {{"title", film.title}, {"amount", amount}}));
+  logActivity(game.world, fill(tellRow(game, bank::closing), {{"title", film.title}, {"amount", amount}}));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "banks/draw.h"
+#include "banks/earnings_banks.h"
 #include "core/log.h"
 #include "core/number_style.h"
 #include "core/signed_agent.h"
@@ -25,7 +26,7 @@ void announceEquity(Game& game, const Film& film, double payout, double gross) {
   } else if (gross > film.budget) {
     // A loss goes unmentioned: the record alone tells of it.
     logLine(game.world, about,
-            fill(tellRow(game, Bank::equityPaidBank), {{"title", film.title}, {"amount", amount}}));
+            fill(tellRow(game, bank::equityPaidBank), {{"title", film.title}, {"amount", amount}}));
   }
 }
 
@@ -55,7 +56,7 @@ void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds) {
   const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
   logLine(
       game.world, {NewsKind::payday, film.filmId, payout.payout},
-      fill(tellRow(game, Bank::royaltyPaidBank),
+      fill(tellRow(game, bank::royaltyPaidBank),
            {{"title", film.title}, {"amount", royalty}, {"gross", shortMoney(game.locale, proceeds.gross)}}));
   keepPayout(game, std::move(payout));
 }

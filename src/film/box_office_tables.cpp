@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "core/descending.h"
 #include "film/catalogue.h"
 #include "film/markets.h"
 
@@ -67,7 +68,7 @@ void addToItsTitle(std::vector<BoxOfficeWeekends>& rows, const BoxOfficeWeekends
 }
 
 void sortByGross(std::vector<BoxOfficeWeekends>& rows) {
-  std::ranges::stable_sort(rows, std::greater{}, &BoxOfficeWeekends::totalGross);
+  sortDescending(rows, &BoxOfficeWeekends::totalGross);
 }
 
 }  // namespace
@@ -86,7 +87,7 @@ std::vector<InTheaters> inTheaters(const WorldState& world) {
                     .imageString = film.imageString,
                     .description = film.movieDescription});
   }
-  std::ranges::stable_sort(rows, std::greater{}, &InTheaters::weekendEarnings);
+  sortDescending(rows, &InTheaters::weekendEarnings);
   return rows;
 }
 

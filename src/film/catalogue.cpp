@@ -5,7 +5,10 @@
 #include <map>
 #include <string_view>
 
-#include "banks/banks.h"
+#include "banks/all_time_banks.h"
+#include "banks/bankable_banks.h"
+#include "banks/rate_movies_banks.h"
+#include "banks/titles_banks.h"
 #include "core/stop.h"
 
 namespace tb {
@@ -120,14 +123,14 @@ Bankable bankableOf(Columns& columns) {
 }
 
 std::vector<TVRecord> rankedSeries() {
-  std::vector<TVRecord> rows = table(Bank::tvRecords, tvRecordOf);
+  std::vector<TVRecord> rows = table(bank::tvRecords, tvRecordOf);
   for (std::size_t index = 0; index < rows.size(); ++index)
     rows[index].rank = static_cast<std::int64_t>(index + 1);
   return rows;
 }
 
 std::vector<Bankable> numberedStars() {
-  std::vector<Bankable> rows = table(Bank::bankables, bankableOf);
+  std::vector<Bankable> rows = table(bank::bankables, bankableOf);
   for (std::size_t index = 0; index < rows.size(); ++index)
     rows[index].id = static_cast<std::int64_t>(index + 1);
   return rows;
@@ -136,22 +139,22 @@ std::vector<Bankable> numberedStars() {
 }  // namespace
 
 std::span<const Movie> movies() {
-  static const std::vector<Movie> rows = table(Bank::movies, movieOf);
+  static const std::vector<Movie> rows = table(bank::movies, movieOf);
   return rows;
 }
 
 std::span<const Movie> royaltyMovies() {
-  static const std::vector<Movie> rows = table(Bank::royaltyMovies, movieOf);
+  static const std::vector<Movie> rows = table(bank::royaltyMovies, movieOf);
   return rows;
 }
 
 std::span<const Movie> investmentMovies() {
-  static const std::vector<Movie> rows = table(Bank::investmentMovies, movieOf);
+  static const std::vector<Movie> rows = table(bank::investmentMovies, movieOf);
   return rows;
 }
 
 std::span<const MovieFranchise> movieFranchises() {
-  static const std::vector<MovieFranchise> rows = table(Bank::movieFranchises, franchiseOf);
+  static const std::vector<MovieFranchise> rows = table(bank::movieFranchises, franchiseOf);
   return rows;
 }
 
@@ -170,7 +173,7 @@ const Sights& sightsOf(std::string_view title) {
 }
 
 std::span<const MovieRecord> movieRecords() {
-  static const std::vector<MovieRecord> rows = table(Bank::movieRecords, movieRecordOf);
+  static const std::vector<MovieRecord> rows = table(bank::movieRecords, movieRecordOf);
   return rows;
 }
 
@@ -180,7 +183,7 @@ std::span<const TVRecord> tvRecords() {
 }
 
 std::span<const CatalogueTitle> rateMovieCatalogue() {
-  static const std::vector<CatalogueTitle> rows = table(Bank::rateMovieCatalogue, catalogueTitleOf);
+  static const std::vector<CatalogueTitle> rows = table(bank::rateMovieCatalogue, catalogueTitleOf);
   return rows;
 }
 

@@ -1,9 +1,10 @@
 #include "film/movie_reviews.h"
 
 #include <array>
-#include <format>
 
 #include "banks/draw.h"
+#include "banks/rate_movies_banks.h"
+#include "core/format.h"
 #include "core/house_notices.h"
 #include "core/text.h"
 
@@ -17,11 +18,11 @@ struct SentenceBanks {
   Bank last;
 };
 constexpr std::array<SentenceBanks, 5> sentencesOfLevels = {{
-    {.middle = Bank::reviewMiddle1, .last = Bank::reviewLast1},
-    {.middle = Bank::reviewMiddle2, .last = Bank::reviewLast2},
-    {.middle = Bank::reviewMiddle3, .last = Bank::reviewLast3},
-    {.middle = Bank::reviewMiddle4, .last = Bank::reviewLast4},
-    {.middle = Bank::reviewMiddle5, .last = Bank::reviewLast5},
+    {.middle = bank::reviewMiddle1, .last = bank::reviewLast1},
+    {.middle = bank::reviewMiddle2, .last = bank::reviewLast2},
+    {.middle = bank::reviewMiddle3, .last = bank::reviewLast3},
+    {.middle = bank::reviewMiddle4, .last = bank::reviewLast4},
+    {.middle = bank::reviewMiddle5, .last = bank::reviewLast5},
 }};
 
 }  // namespace
@@ -53,9 +54,9 @@ Refusal needsRating(std::int64_t rating) {
 
 std::string generatedReview(Game& game, std::int64_t rating) {
   const SentenceBanks& sentences = sentencesOfLevels[static_cast<std::size_t>((rating - 1) / 2)];
-  const std::string_view first = tellRow(game, Bank::reviewFirstSentence);
+  const std::string_view first = tellRow(game, bank::reviewFirstSentence);
   const std::string_view middle = tellRow(game, sentences.middle);
-  return std::format("{} {} {}", first, middle, tellRow(game, sentences.last));
+  return tb::format("{} {} {}", first, middle, tellRow(game, sentences.last));
 }
 
 Refusal submitReview(Game& game, const std::string& title, std::int64_t rating, const std::string& text) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "banks/critics_banks.h"
 #include "banks/draw.h"
 #include "banks/names.h"
 #include "core/bands.h"
@@ -24,11 +25,11 @@ struct StarBand {
 
 // By the mean of both scores, 0 to 10. In the hairline gaps between the bands a critic is lost for words.
 constexpr std::array<StarBand, 5> starBands = {{
-    {.from = 0, .upTo = 1.99, .review = Bank::longReviewBank1, .stars = "★"},
-    {.from = 2, .upTo = 3.99, .review = Bank::longReviewBank2, .stars = "★★"},
-    {.from = 4, .upTo = 5.99, .review = Bank::longReviewBank3, .stars = "★★★"},
-    {.from = 6, .upTo = 7.99, .review = Bank::longReviewBank4, .stars = "★★★★"},
-    {.from = 8, .upTo = 20, .review = Bank::longReviewBank5, .stars = "★★★★★"},
+    {.from = 0, .upTo = 1.99, .review = bank::longReviewBank1, .stars = "★"},
+    {.from = 2, .upTo = 3.99, .review = bank::longReviewBank2, .stars = "★★"},
+    {.from = 4, .upTo = 5.99, .review = bank::longReviewBank3, .stars = "★★★"},
+    {.from = 6, .upTo = 7.99, .review = bank::longReviewBank4, .stars = "★★★★"},
+    {.from = 8, .upTo = 20, .review = bank::longReviewBank5, .stars = "★★★★★"},
 }};
 
 MetReview cardOf(Game& game, const Film& film) {
@@ -42,7 +43,7 @@ MetReview cardOf(Game& game, const Film& film) {
                  .season = film.seasonNumber};
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.reviewerName = inventedName(game.random, is_male);
-  card.reviewerCompany = tellRow(game, Bank::reviewerCompanyBank);
+  card.reviewerCompany = tellRow(game, bank::reviewerCompanyBank);
   const double score = (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
   if (const StarBand* const band = bandOf(starBands, score)) {
     card.starString = band->stars;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "banks/draw.h"
+#include "banks/film_banks.h"
 #include "core/bands.h"
 #include "social/chirps.h"
 
@@ -54,13 +55,13 @@ void postAnswer(Game& game, const Audition& project, const std::string& answer) 
 }  // namespace
 
 Interview openInterview(Game& game, const Audition& project) {
-  Interview interview{.talkShow = std::string(tellRow(game, Bank::talkShows))};
-  interview.question = fill(tellRow(game, Bank::promotionQuestions), {{"title", project.title}});
+  Interview interview{.talkShow = std::string(tellRow(game, bank::talkShows))};
+  interview.question = fill(tellRow(game, bank::promotionQuestions), {{"title", project.title}});
   interview.totalHype = hypeOfInterview(game);
   return interview;
 }
 
-std::string suggestedAnswer(Game& game) { return std::string(tellRow(game, Bank::promotionAnswers)); }
+std::string suggestedAnswer(Game& game) { return std::string(tellRow(game, bank::promotionAnswers)); }
 
 Refusal promoteFilm(Game& game, std::size_t auditionIndex, const Interview& interview,
                     const std::string& answer) {

@@ -3,14 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <format>
-#include <functional>
 #include <limits>
 #include <string_view>
 #include <vector>
 
 #include "banks/draw.h"
+#include "banks/review_summary_banks.h"
 #include "core/bands.h"
+#include "core/descending.h"
+#include "core/format.h"
 #include "core/text.h"
 
 namespace tb {
@@ -91,34 +92,34 @@ struct Mood {
 constexpr std::array<Mood, 5> moods = {{
     {.upTo = -3,
      .label = "very negative",
-     .casual = {Bank::verdictCasualVeryNegative, Bank::balanceCasualVeryNegative,
-                Bank::consensusCasualVeryNegative, Bank::adviceCasualVeryNegative},
-     .formal = {Bank::verdictFormalVeryNegative, Bank::balanceFormalVeryNegative,
-                Bank::consensusFormalVeryNegative, Bank::adviceFormalVeryNegative}},
+     .casual = {bank::verdictCasualVeryNegative, bank::balanceCasualVeryNegative,
+                bank::consensusCasualVeryNegative, bank::adviceCasualVeryNegative},
+     .formal = {bank::verdictFormalVeryNegative, bank::balanceFormalVeryNegative,
+                bank::consensusFormalVeryNegative, bank::adviceFormalVeryNegative}},
     {.upTo = -1,
      .label = "mixed-to-negative",
-     .casual = {Bank::verdictCasualMixedToNegative, Bank::balanceCasualMixedToNegative,
-                Bank::consensusCasualMixedToNegative, Bank::adviceCasualMixedToNegative},
-     .formal = {Bank::verdictFormalMixedToNegative, Bank::balanceFormalMixedToNegative,
-                Bank::consensusFormalMixedToNegative, Bank::adviceFormalMixedToNegative}},
+     .casual = {bank::verdictCasualMixedToNegative, bank::balanceCasualMixedToNegative,
+                bank::consensusCasualMixedToNegative, bank::adviceCasualMixedToNegative},
+     .formal = {bank::verdictFormalMixedToNegative, bank::balanceFormalMixedToNegative,
+                bank::consensusFormalMixedToNegative, bank::adviceFormalMixedToNegative}},
     {.upTo = 0,
      .label = "mixed",
-     .casual = {Bank::verdictCasualMixed, Bank::balanceCasualMixed, Bank::consensusCasualMixed,
-                Bank::adviceCasualMixed},
-     .formal = {Bank::verdictFormalMixed, Bank::balanceFormalMixed, Bank::consensusFormalMixed,
-                Bank::adviceFormalMixed}},
+     .casual = {bank::verdictCasualMixed, bank::balanceCasualMixed, bank::consensusCasualMixed,
+                bank::adviceCasualMixed},
+     .formal = {bank::verdictFormalMixed, bank::balanceFormalMixed, bank::consensusFormalMixed,
+                bank::adviceFormalMixed}},
     {.upTo = 2,
      .label = "positive",
-     .casual = {Bank::verdictCasualPositive, Bank::balanceCasualPositive, Bank::consensusCasualPositive,
-                Bank::adviceCasualPositive},
-     .formal = {Bank::verdictFormalPositive, Bank::balanceFormalPositive, Bank::consensusFormalPositive,
-                Bank::adviceFormalPositive}},
+     .casual = {bank::verdictCasualPositive, bank::balanceCasualPositive, bank::consensusCasualPositive,
+                bank::adviceCasualPositive},
+     .formal = {bank::verdictFormalPositive, bank::balanceFormalPositive, bank::consensusFormalPositive,
+                bank::adviceFormalPositive}},
     {.upTo = std::numeric_limits<std::int64_t>::max(),
      .label = "very positive",
-     .casual = {Bank::verdictCasualVeryPositive, Bank::balanceCasualVeryPositive,
-                Bank::consensusCasualVeryPositive, Bank::adviceCasualVeryPositive},
-     .formal = {Bank::verdictFormalVeryPositive, Bank::balanceFormalVeryPositive,
-                Bank::consensusFormalVeryPositive, Bank::adviceFormalVeryPositive}},
+     .casual = {bank::verdictCasualVeryPositive, bank::balanceCasualVeryPositive,
+                bank::consensusCasualVeryPositive, bank::adviceCasualVeryPositive},
+     .formal = {bank::verdictFormalVeryPositive, bank::balanceFormalVeryPositive,
+                bank::consensusFormalVeryPositive, bank::adviceFormalVeryPositive}},
 }};
 
 // --- Reading ---
@@ -160,7 +161,7 @@ std::string topicsIn(const std::string& text, std::span<const Topic> topics, std
   std::vector<Topic> found(topics.begin(), topics.end());
   const auto discussed = [&](const Topic& topic) { return wordsIn(text, topic.keywords); };
   std::erase_if(found, [&](const Topic& topic) { return discussed(topic) == 0; });
-  std::ranges::stable_sort(found, std::greater{}, discussed);
+  sortDescending(found, discussed);
   if (found.size() > topicsNamed) found.resize(topicsNamed);
   std::vector<std::string> names;
   for (const Topic& topic : found) names.emplace_back(topic.name);
@@ -187,7 +188,7 @@ std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
   const std::string balance = fill(tellRow(game, banks.balance), {{"good", good}, {"bad", bad}});
   const std::string consensus = fill(tellRow(game, banks.consensus), {{"label", mood.label}});
   const std::string_view advice = tellRow(game, banks.advice);
-  return std::format("{} {} {} {}", verdict, balance, consensus, advice);
+  return tb::format("{} {} {} {}", verdict, balance, consensus, advice);
 }
 
 }  // namespace tb

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "banks/banks.h"
+#include "banks/critics_banks.h"
 #include "core/bands.h"
 #include "film/review_words.h"
 
@@ -53,10 +53,10 @@ constexpr std::int64_t unknownTalent = 10;
 
 // No release is reviewed from the second of the five banks of long reviews.
 constexpr std::array<Standing, 4> standings = {{
-    {30, Bank::longReviewBank1, 1, 0, 5, 0, cult, festivalAudience, festivalAudience},
-    {71, Bank::longReviewBank3, 2, 0, 20, 0, popular, festivalAudience, festivalAudience},
-    {90, Bank::longReviewBank4, 3, 3, 40, 20, worldwide, notedStudent, notedShort},
-    {150, Bank::longReviewBank5, 3, 3, 40, 20, worldwide, notedStudent, notedShort},
+    {30, bank::longReviewBank1, 1, 0, 5, 0, cult, festivalAudience, festivalAudience},
+    {71, bank::longReviewBank3, 2, 0, 20, 0, popular, festivalAudience, festivalAudience},
+    {90, bank::longReviewBank4, 3, 3, 40, 20, worldwide, notedStudent, notedShort},
+    {150, bank::longReviewBank5, 3, 3, 40, 20, worldwide, notedStudent, notedShort},
 }};
 
 std::int64_t roll(Game& game, CountRoll count) {

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "banks/draw.h"
+#include "banks/film_banks.h"
 #include "core/bands.h"
 #include "core/find.h"
 #include "core/log.h"
@@ -69,7 +70,7 @@ std::int64_t hoursOf(Game& game, double views) {
 
 void logPremiere(Game& game, const Audition& project, double views) {
   const std::string count = plainCount(game.locale, static_cast<std::int64_t>(views));
-  logActivity(game.world, fill(tellRow(game, Bank::premiere), {{"title", project.title}, {"views", count}}));
+  logActivity(game.world, fill(tellRow(game, bank::premiere), {{"title", project.title}, {"views", count}}));
 }
 
 void airEpisode(Game& game, const Film& film, std::int64_t weeksSinceRelease, Ratings& season) {

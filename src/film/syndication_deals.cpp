@@ -1,11 +1,12 @@
 #include "film/syndication_deals.h"
 
 #include <algorithm>
-#include <format>
 
 #include "banks/draw.h"
+#include "banks/syndication_banks.h"
 #include "core/ended_week.h"
 #include "core/find.h"
+#include "core/format.h"
 #include "core/log.h"
 #include "core/number_style.h"
 #include "film/film_record.h"
@@ -33,9 +34,9 @@ constexpr std::int64_t audienceOfReruns = 100'000;  // hours watched; with fewer
 
 void announce(Game& game, const Syndication& title, const NetworkDeal& deal) {
   const std::string amount = shortMoney(game.locale, static_cast<double>(deal.price));
-  const std::string years = std::format("{} year{}", deal.years, deal.years == 1 ? "" : "s");
+  const std::string years = tb::format("{} year{}", deal.years, deal.years == 1 ? "" : "s");
   logLine(game.world, {NewsKind::syndication, title.filmId},
-          fill(tellRow(game, Bank::syndicationDealBank),
+          fill(tellRow(game, bank::syndicationDealBank),
                {{"title", title.filmName}, {"amount", amount}, {"network", deal.network}, {"years", years}}));
 }
 

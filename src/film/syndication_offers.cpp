@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <format>
 #include <iterator>
 #include <optional>
 
 #include "core/bands.h"
 #include "core/debug_log.h"
 #include "core/find.h"
+#include "core/format.h"
 #include "film/box_office.h"
 #include "film/networks.h"
 
@@ -100,7 +100,7 @@ std::int64_t priceOf(Game& game, double worth) {
   if (worth > highestPrice) {
     worth = static_cast<double>(leastMillions + RandomRange(game.random, spreadOfMillions)) * million;
   }
-  debugLog(std::format("Syndication offer == {:.2f}", worth));
+  debugLog(tb::format("Syndication offer == {:.2f}", worth));
   return static_cast<std::int64_t>(worth);
 }
 

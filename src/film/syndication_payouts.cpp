@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "banks/draw.h"
+#include "banks/earnings_banks.h"
 #include "core/guild_dues.h"
 #include "core/log.h"
 #include "core/number_style.h"
@@ -74,7 +75,7 @@ void paySyndicationResidual(Game& game, const Syndication& title) {
   // Dues are owed on residuals by everybody, member of the guild or not, and once.
   const double net = gross - takeGuildDues(world, gross) - takeCommission(game, title, gross);
   feedLine(world, {NewsKind::payday, title.filmId, net},
-           fill(tellRow(game, Bank::residualPaidBank),
+           fill(tellRow(game, bank::residualPaidBank),
                 {{"title", title.filmName}, {"amount", shortMoney(game.locale, net)}}));
   world.saveAllWeeklyEarnings.push_back({.filmId = title.filmId,
                                          .filmTitle = title.filmName,

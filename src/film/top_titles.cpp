@@ -1,8 +1,8 @@
 #include "film/top_titles.h"
 
 #include <algorithm>
-#include <functional>
 
+#include "core/descending.h"
 #include "film/catalogue.h"
 
 namespace tb {
@@ -25,7 +25,7 @@ std::vector<TopShow> topShows(const WorldState& world) {
   for (const TVRecord& record : tvRecords()) {
     rows.push_back({.title = record.title, .imdbRating = record.imdbRating});
   }
-  std::ranges::stable_sort(rows, std::greater{}, &TopShow::imdbRating);
+  sortDescending(rows, &TopShow::imdbRating);
   rows.resize(std::min(rows.size(), placesOfAllTime));
   return rows;
 }

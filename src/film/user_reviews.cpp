@@ -1,11 +1,11 @@
 #include "film/user_reviews.h"
 
-#include <algorithm>
 #include <cmath>
-#include <functional>
 #include <numeric>
 
-#include "banks/banks.h"
+#include "banks/critics_banks.h"
+#include "banks/user_reviews_banks.h"
+#include "core/descending.h"
 #include "film/review_words.h"
 
 namespace tb {
@@ -27,11 +27,11 @@ struct LevelBanks {
   Bank bodies;
 };
 constexpr std::array<LevelBanks, 5> levels = {{
-    {.snippets = Bank::userReviewSnippet1, .bodies = Bank::userReviewBody1},
-    {.snippets = Bank::userReviewSnippet2, .bodies = Bank::userReviewBody2},
-    {.snippets = Bank::userReviewSnippet3, .bodies = Bank::userReviewBody3},
-    {.snippets = Bank::userReviewSnippet4, .bodies = Bank::userReviewBody4},
-    {.snippets = Bank::userReviewSnippet5, .bodies = Bank::userReviewBody5},
+    {.snippets = bank::userReviewSnippet1, .bodies = bank::userReviewBody1},
+    {.snippets = bank::userReviewSnippet2, .bodies = bank::userReviewBody2},
+    {.snippets = bank::userReviewSnippet3, .bodies = bank::userReviewBody3},
+    {.snippets = bank::userReviewSnippet4, .bodies = bank::userReviewBody4},
+    {.snippets = bank::userReviewSnippet5, .bodies = bank::userReviewBody5},
 }};
 
 void normalise(StarShares& shares) {
@@ -51,14 +51,6 @@ StarShares sharesOfStars(double rating) {
   for (double& share : shares) share = oddOpinions * evenShare + (1 - oddOpinions) * share;
   normalise(shares);
   return shares;
-}
-
-// Whom whole numbers treated worst is first.
-std::array<std::size_t, starsOfRating> byFraction(const StarShares& fractions) {
-  std::array<std::size_t, starsOfRating> order{};
-  std::iota(order.begin(), order.end(), std::size_t{0});
-  std::ranges::stable_sort(order, std::greater{}, [&](std::size_t star) { return fractions[star]; });
-  return order;
 }
 
 // Stars that few gave have nobody to speak for them, so that a flop reads like one.
@@ -93,7 +85,7 @@ StarHistogram starHistogram(const Film& film) {
     fractions[star] = exact - std::floor(exact);
     left -= counts[star];
   }
-  const auto order = byFraction(fractions);
+  const auto order = descendingOrder(fractions);  // by the largest fraction left
   for (std::size_t turn = 0; left > 0; ++turn, --left) counts[order[turn % starsOfRating]] += 1;
   return counts;
 }
@@ -111,8 +103,8 @@ std::vector<Reviews> drawUserReviews(Game& game, const Film& film, const StarHis
 Bank snippetsOfLevel(std::size_t level) { return levels[level].snippets; }
 
 std::string drawHandle(RandomSource& random) {
-  const std::string& first = drawRow(random, Bank::handleFirstParts);
-  return first + drawRow(random, Bank::handleSecondParts);
+  const std::string& first = drawRow(random, bank::handleFirstParts);
+  return first + drawRow(random, bank::handleSecondParts);
 }
 
 }  // namespace tb

@@ -1,8 +1,9 @@
 #include "screens/headshot.h"
 
 #include <algorithm>
-#include <format>
 #include <span>
+
+#include "core/format.h"
 
 namespace tb {
 
@@ -13,7 +14,7 @@ constexpr std::size_t longestName = 64;
 }  // namespace
 
 std::string headshotName(bool isMale, int number) {
-  return std::format("headshot_{} ({}).png", isMale ? "m" : "f", number);
+  return tb::format("headshot_{} ({}).png", isMale ? "m" : "f", number);
 }
 
 Image headshotImage(const std::string& name) {

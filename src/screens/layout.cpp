@@ -1,8 +1,9 @@
 #include "screens/layout.h"
 
 #include <algorithm>
-#include <format>
 #include <utility>
+
+#include "core/format.h"
 
 namespace tb {
 
@@ -29,7 +30,7 @@ ListPage cutList(const PagedList& list, const Stage& stage) {
                   .offReason = possible ? "" : "There is no more.",
                   .weight = Button::Weight::quiet};
   };
-  shown.position = std::format("{}–{} of {}", first + 1, end, list.size);
+  shown.position = tb::format("{}–{} of {}", first + 1, end, list.size);
   shown.turns = {turnTo("Previous", page > 0, page - 1), turnTo("Next", page < last_page, page + 1)};
   return shown;
 }

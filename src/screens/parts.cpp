@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <format>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 
@@ -24,7 +24,7 @@ Meter energyMeter(const WorldState& world) {
   return {.label = "Energy",
           .value = static_cast<double>(world.totalEnergyAvailable),
           .maximum = static_cast<double>(world.totalEnergyMax),
-          .text = std::format("{} of {}", world.totalEnergyAvailable, world.totalEnergyMax)};
+          .text = tb::format("{} of {}", world.totalEnergyAvailable, world.totalEnergyMax)};
 }
 
 std::vector<StatTile> headFigures(const Game& game) {
@@ -34,12 +34,12 @@ std::vector<StatTile> headFigures(const Game& game) {
            .tone = world.totalCashAvailable < 0 ? Tone::warning : Tone::plain},
           {.label = "Energy",
            .value = energyPrice(world.totalEnergyAvailable),
-           .detail = std::format("of {}", world.totalEnergyMax)}};
+           .detail = tb::format("of {}", world.totalEnergyMax)}};
 }
 
 std::string briefOf(const Refusal& refusal) { return refusal ? refusal->brief : ""; }
 
-std::string energyPrice(std::int64_t energy) { return std::format("⚡️ {}", energy); }
+std::string energyPrice(std::int64_t energy) { return tb::format("⚡️ {}", energy); }
 
 Meter scoreMeter(std::string label, std::int64_t score) {
   return {.label = std::move(label),
@@ -109,8 +109,8 @@ Chart historyChart(std::string title, std::string_view unit, std::span<const dou
   }
   const auto [lowest, highest] = std::ranges::minmax(values);
   chart.scale = roundScale(lowest, highest, textOf);
-  chart.summary = std::format("{}, from {} to {}; lowest {}, highest {}.", counted(std::ssize(values), unit),
-                              textOf(values.front()), textOf(values.back()), textOf(lowest), textOf(highest));
+  chart.summary = tb::format("{}, from {} to {}; lowest {}, highest {}.", counted(std::ssize(values), unit),
+                             textOf(values.front()), textOf(values.back()), textOf(lowest), textOf(highest));
   return chart;
 }
 
@@ -126,8 +126,8 @@ Chart barChart(std::string title, std::span<const double> values,
   }
   const auto [lowest, highest] = std::ranges::minmax(values);
   chart.scale = roundScale(std::min(lowest, 0.0), highest, textOf);
-  chart.summary = std::format("From {} at first to {} at last; highest {}.", textOf(values.front()),
-                              textOf(values.back()), textOf(highest));
+  chart.summary = tb::format("From {} at first to {} at last; highest {}.", textOf(values.front()),
+                             textOf(values.back()), textOf(highest));
   return chart;
 }
 

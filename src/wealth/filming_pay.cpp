@@ -1,5 +1,6 @@
 #include "wealth/filming_pay.h"
 
+#include "banks/audition_banks.h"
 #include "banks/draw.h"
 #include "core/guild_dues.h"
 #include "core/log.h"
@@ -28,7 +29,7 @@ WeeklyEarnings earningsOf(const WorldState& world, const Audition& project) {
 }
 
 void tellOfPayday(Game& game, const Audition& project, double earned) {
-  logActivity(game.world, fill(tellRow(game, Bank::payday),
+  logActivity(game.world, fill(tellRow(game, bank::payday),
                                {{"title", project.title}, {"amount", shortMoney(game.locale, earned)}}));
 }
 

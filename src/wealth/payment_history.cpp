@@ -1,11 +1,10 @@
 #include "wealth/payment_history.h"
 
-#include <algorithm>
-#include <functional>
 #include <map>
 #include <numeric>
 #include <utility>
 
+#include "core/descending.h"
 #include "film/film_record.h"
 
 namespace tb {
@@ -36,7 +35,7 @@ class History {
   }
 
   std::vector<Payment> newestFirst() && {
-    std::ranges::stable_sort(payments_, std::ranges::greater{}, &Dated::week);
+    sortDescending(payments_, &Dated::week);
     std::vector<Payment> history;
     history.reserve(payments_.size());
     for (Dated& dated : payments_) history.push_back(std::move(dated.payment));

@@ -1,8 +1,8 @@
 #include "week/front_page.h"
 
 #include <algorithm>
-#include <format>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office.h"
 #include "film/new_releases.h"
@@ -28,15 +28,15 @@ std::string openingWords(const Game& game, const Film& film) {
   if (film.typeOfFilm != filmType::feature) return film.title + " had its first screening.";
   const auto gross = grossOf(game.world, film.filmId);
   if (!gross) return film.title + " is in theaters.";
-  return std::format("{} opened in theaters with {}.", film.title, shortMoney(game.locale, *gross));
+  return tb::format("{} opened in theaters with {}.", film.title, shortMoney(game.locale, *gross));
 }
 
 std::string premiereWords(const WorldState& world, const Film& film) {
-  const std::string season = film.seasonNumber >= 2 ? std::format(" Season {}", film.seasonNumber) : "";
+  const std::string season = film.seasonNumber >= 2 ? tb::format(" Season {}", film.seasonNumber) : "";
   const auto counted = std::ranges::find(world.saveAllRatings, film.filmId, &Ratings::filmId);
-  if (counted == world.saveAllRatings.end()) return std::format("{}{} premiered.", film.title, season);
+  if (counted == world.saveAllRatings.end()) return tb::format("{}{} premiered.", film.title, season);
   const auto viewers = static_cast<std::int64_t>(counted->premiereViews.front());
-  return std::format("{}{} premiered to {} viewers.", film.title, season, shortCount(viewers));
+  return tb::format("{}{} premiered to {} viewers.", film.title, season, shortCount(viewers));
 }
 
 Story storyOfRelease(const Game& game, const Film& film) {
@@ -83,10 +83,10 @@ std::string countedWords(const std::vector<Story>& folded, NewsKind kind, std::s
   const auto count = std::ranges::count_if(folded, isOfKind);
   if (count == 0) return "";
   const auto first = std::ranges::find_if(folded, isOfKind);
-  if (count > 1 || first->project.empty()) return std::format("{} {}", count, what);
+  if (count > 1 || first->project.empty()) return tb::format("{} {}", count, what);
   const Audition& project = first->project.front();
   const bool is_commercial = project.typeOfFilm == filmType::commercial;
-  return std::format("{} {}", is_commercial ? "A commercial" : project.title, what);
+  return tb::format("{} {}", is_commercial ? "A commercial" : project.title, what);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "week/summary.h"
 
 #include "banks/draw.h"
+#include "banks/week_banks.h"
 #include "core/calendar.h"
 #include "core/log.h"
 
@@ -16,7 +17,7 @@ void showFeed(Game& game, WeekSummary& summary) {
   TextList& feed = game.world.WeekFeed;
   summary.hasNews = !feed.empty();
   summary.frontPage = layFrontPage(game);
-  if (!summary.hasNews) feed.push_back(std::string(tellRow(game, Bank::weeklyTips)));
+  if (!summary.hasNews) feed.push_back(std::string(tellRow(game, bank::weeklyTips)));
   summary.feed.assign(feed.begin(), feed.end());
   feed.clear();
   game.world.weekFeedNews.clear();

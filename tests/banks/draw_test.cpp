@@ -5,6 +5,10 @@
 #include <gtest/gtest.h>
 #include <set>
 
+#include "banks/audition_banks.h"
+#include "banks/critics_banks.h"
+#include "banks/film_banks.h"
+#include "banks/rate_movies_banks.h"
 #include "tests/scratch_game.h"
 #include "tests/seeded_random.h"
 
@@ -18,27 +22,27 @@ struct Telling : test::RuleTest {
 TEST_F(Telling, TheNextRowStandsInForOneToldAmongTheLastHalfOfItsBank) {
   const auto tell = [&](std::int64_t drawn) {
     random.range(20, drawn);
-    return tellRow(game, Bank::talkShows);
+    return tellRow(game, bank::talkShows);
   };
-  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 18));
-  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 19));
-  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 0));  // after the last row comes the first
+  EXPECT_EQ(tell(18), rowAt(bank::talkShows, 18));
+  EXPECT_EQ(tell(18), rowAt(bank::talkShows, 19));
+  EXPECT_EQ(tell(18), rowAt(bank::talkShows, 0));  // after the last row comes the first
   for (std::int64_t row = 1; row <= 7; ++row)
-    EXPECT_EQ(tell(row), rowAt(Bank::talkShows, static_cast<std::size_t>(row)));
-  EXPECT_EQ(tell(8), rowAt(Bank::talkShows, 8));  // ten others since: the first one may come again
-  EXPECT_EQ(tell(18), rowAt(Bank::talkShows, 18));
+    EXPECT_EQ(tell(row), rowAt(bank::talkShows, static_cast<std::size_t>(row)));
+  EXPECT_EQ(tell(8), rowAt(bank::talkShows, 8));  // ten others since: the first one may come again
+  EXPECT_EQ(tell(18), rowAt(bank::talkShows, 18));
   random.range(20, 3);
   Game next{.store = store, .random = random};  // the next launch has told nothing
-  EXPECT_EQ(tellRow(next, Bank::talkShows), rowAt(Bank::talkShows, 3));
+  EXPECT_EQ(tellRow(next, bank::talkShows), rowAt(bank::talkShows, 3));
 }
 
 TEST_F(Telling, NeverMoreThanTheLastTwentyAreHeldBack) {
   for (std::int64_t row = 0; row < 21; ++row) {
     random.range(60, row);
-    static_cast<void>(tellRow(game, Bank::submission));
+    static_cast<void>(tellRow(game, bank::submission));
   }
   random.range(60, 0);
-  EXPECT_EQ(tellRow(game, Bank::submission), rowAt(Bank::submission, 0));
+  EXPECT_EQ(tellRow(game, bank::submission), rowAt(bank::submission, 0));
 }
 
 TEST_F(Telling, ARowIsToldOnlyWhereItIsTrue) {
@@ -50,7 +54,7 @@ TEST_F(Telling, ARowIsToldOnlyWhereItIsTrue) {
   stars.world.weeklyJobContractRemaining = 2;
   stars.world.saveAllTalentAgents = {{.isSigned = 1}};
   stars.world.saveAllFilmList = {{.didAct = 1}};
-  for (const Bank bank : {Bank::reviewFirstSentence, Bank::withdrawal, Bank::longReviewBank5}) {
+  for (const Bank bank : {bank::reviewFirstSentence, bank::withdrawal, bank::longReviewBank5}) {
     std::set<std::string_view> all;
     for (int draw = 0; draw < 1'000; ++draw) {
       const MarkedRow row = markedRow(tellRow(beginners, bank, {.isPrincipal = false}));
@@ -61,7 +65,7 @@ TEST_F(Telling, ARowIsToldOnlyWhereItIsTrue) {
   }
   const auto tells = [&](Game& game, std::string_view word) {
     for (int draw = 0; draw < 300; ++draw) {
-      if (tellRow(game, Bank::reviewFirstSentence).contains(word)) return true;
+      if (tellRow(game, bank::reviewFirstSentence).contains(word)) return true;
     }
     return false;
   };

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "banks/draw.h"
+#include "banks/rate_movies_banks.h"
 #include "film/catalogue.h"
 #include "tests/record_text.h"
 #include "tests/scratch_game.h"
@@ -46,9 +47,9 @@ TEST_F(Reviewing, AMadeUpReviewFitsItsStars) {
     Bank middle, last;
   };
   const Case cases[] = {
-      {1, Bank::reviewMiddle1, Bank::reviewLast1}, {2, Bank::reviewMiddle1, Bank::reviewLast1},
-      {3, Bank::reviewMiddle2, Bank::reviewLast2}, {6, Bank::reviewMiddle3, Bank::reviewLast3},
-      {7, Bank::reviewMiddle4, Bank::reviewLast4}, {10, Bank::reviewMiddle5, Bank::reviewLast5}};
+      {1, bank::reviewMiddle1, bank::reviewLast1}, {2, bank::reviewMiddle1, bank::reviewLast1},
+      {3, bank::reviewMiddle2, bank::reviewLast2}, {6, bank::reviewMiddle3, bank::reviewLast3},
+      {7, bank::reviewMiddle4, bank::reviewLast4}, {10, bank::reviewMiddle5, bank::reviewLast5}};
   for (const auto& [rating, middle, last] : cases) {
     random.range(30, 29).range(6, 0).range(6, 5);
     game.told = {};
@@ -56,7 +57,7 @@ TEST_F(Reviewing, AMadeUpReviewFitsItsStars) {
       return std::string(markedRow(rowsOf(bank)[row]).text);
     };
     EXPECT_EQ(generatedReview(game, rating),
-              text(Bank::reviewFirstSentence, 29) + " " + text(middle, 0) + " " + text(last, 5));
+              text(bank::reviewFirstSentence, 29) + " " + text(middle, 0) + " " + text(last, 5));
   }
 }
 

@@ -7,7 +7,13 @@
 #include <string_view>
 #include <vector>
 
-#include "banks/banks.h"
+#include "banks/audition_banks.h"
+#include "banks/box_office_banks.h"
+#include "banks/earnings_banks.h"
+#include "banks/film_banks.h"
+#include "banks/syndication_banks.h"
+#include "banks/talent_banks.h"
+#include "banks/week_banks.h"
 #include "career/boosts.h"
 #include "career/casting_board.h"
 #include "career/classes.h"
@@ -154,11 +160,11 @@ int weeksThatRepeat(Performer& performer, const Reader& reader, std::vector<std:
 
 TEST(ToldLines, FewWeeksRepeatALineOfTheTenBefore) {
   const Reader reader{
-      Bank::weeklyTips,     Bank::showreelScene,      Bank::classSignUp,       Bank::submission,
-      Bank::silence,        Bank::invitation,         Bank::investmentWrap,    Bank::payday,
-      Bank::withdrawal,     Bank::seriesCancellation, Bank::seriesRenewal,     Bank::sagaRenewal,
-      Bank::sagaEnding,     Bank::premiere,           Bank::closing,           Bank::residualPaidBank,
-      Bank::equityPaidBank, Bank::royaltyPaidBank,    Bank::royaltySignedBank, Bank::syndicationDealBank};
+      bank::weeklyTips,     bank::showreelScene,      bank::classSignUp,       bank::submission,
+      bank::silence,        bank::invitation,         bank::investmentWrap,    bank::payday,
+      bank::withdrawal,     bank::seriesCancellation, bank::seriesRenewal,     bank::sagaRenewal,
+      bank::sagaEnding,     bank::premiere,           bank::closing,           bank::residualPaidBank,
+      bank::equityPaidBank, bank::royaltyPaidBank,    bank::royaltySignedBank, bank::syndicationDealBank};
   Performer performer(1);
   std::vector<std::string> repeated;
   EXPECT_LE(weeksThatRepeat(performer, reader, repeated), 10) << testing::PrintToString(repeated);

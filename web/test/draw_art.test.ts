@@ -12,6 +12,8 @@ import { posterSheet } from "../src/art/poster";
 import { contrast, inkOn } from "../src/art/posters/formats";
 import type { Look } from "../src/art/posters/formats";
 import { genres } from "../src/art/posters/genres";
+import { picture as svg } from "../src/art/svg";
+import { box, ground, ink, text, wordmark } from "../src/art/wordmark";
 import { bandOf } from "../src/draw/bands";
 import { areaPath, bars, linePath, plotOf, slices } from "../src/draw/chart_geometry";
 import { formatLike, parseFigure } from "../src/draw/counting";
@@ -175,6 +177,11 @@ test("a title stays in its room, however long", () => {
   }
 });
 
+test("the name of the game is as the alphabet draws it", () => {
+  const drawn = lettering(text, box, hands.inline, ink, ground);
+  assert.equal(wordmark, svg(box.width, box.height, drawn));
+});
+
 test("a figure is read and written back as it stood, in any country's way", () => {
   for (const text of [
     "$1,250", "-$340", "14.2K", "8.4", "61%", "€ 1.234.567,89", "1\u202f250 €", "$99.50", "0", "£12M", "3.5B",
@@ -197,12 +204,31 @@ test("a chart's line rises with its figures, and its bars stand on zero, or hang
   const chart: Chart = { kind: "line", title: "", points, scale: [{ value: -10, text: "" }], summary: "" };
   const plot = plotOf(chart);
   assert.match(linePath(points, plot), /^M0,100C.*,100,0$/u);
-  assert.match(areaPath(points, plot), /^M0,100C.*,100,0L100,100C.*,0,100Z$/u);
+  assert.match(areaPath(points, plot), /^M0,100C.*,100,0L100,100L0,100Z$/u);
   const [below, nothing, above] = bars("bar", points, plotOf({ ...chart, kind: "bar" }));
   assert.deepEqual([below!.y, below!.height], [75, 25]);
   assert.deepEqual([nothing!.y, nothing!.height], [75, 0]);
   assert.deepEqual([above!.y, above!.height], [0, 75]);
   assert.deepEqual(slices(points).map((slice) => slice !== ""), [false, false, true]);
+});
+
+test("a line never leaves the room between two neighbours, and a pie's slices meet", () => {
+  const values = [3, 3, 80, 81, 2, 2, 50];
+  const points = values.map((value) => ({ label: "", value, text: "" }));
+  const chart: Chart = { kind: "line", title: "", points, scale: [], summary: "" };
+  const plot = plotOf(chart);
+  const pieces = [...linePath(points, plot).matchAll(/C([^C]+)/gu)].map(([, piece]) => piece!.split(",").map(Number));
+  assert.equal(pieces.length, 6);
+  pieces.forEach(([, first, , second, , end], index) => {
+    const [from, to] = [values[index]!, values[index + 1]!].map((value) => 100 - plot.up(value)) as [number, number];
+    assert.ok(Math.abs(end! - to) < 0.01);
+    for (const handle of [first!, second!]) {
+      assert.ok(handle > Math.min(from, to) - 0.01 && handle < Math.max(from, to) + 0.01, `${index}: ${handle}`);
+    }
+  });
+  const shares = slices([1, 2, 1].map((value) => ({ label: "", value, text: "" })));
+  assert.match(shares[0]!, /^M0,-49A49,49,0,0,1,49,-?0L27,-?0A27,27,0,0,0,0,-27Z$/u);
+  assert.match(shares[1]!, /^M49,-?0A.*,-49,-?0L-27,-?0A.*,27,-?0Z$/u);
 });
 
 test("the gallery shows all that the vocabulary has, of each type and kind", () => {

@@ -1,6 +1,5 @@
 #include "screens/backstage/backstage_detail_view_controller.h"
 
-#include <format>
 
 #include "core/number_style.h"
 #include "core/text.h"

@@ -1,6 +1,5 @@
 #include "screens/backstage/backstage_view_controller.h"
 
-#include <format>
 
 #include "screens/backstage/casting_network_view_controller.h"
 #include "screens/parts.h"

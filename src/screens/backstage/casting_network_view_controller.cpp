@@ -1,7 +1,6 @@
 #include "screens/backstage/casting_network_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "screens/backstage/backstage_detail_view_controller.h"
 #include "screens/backstage/listing_parts.h"
 #include "screens/parts.h"
@@ -17,8 +16,8 @@ void CastingNetworkViewController::load(Stage& stage) { board_ = openCastingNetw
 Row CastingNetworkViewController::listingRow(const Game& game, const CastingListing& listing) const {
   return {
       .label = listing.movie->title,
-      .detail = std::format("{} • {}\n{} • {}", typeName(listing.movie->type), listing.role,
-                            listingPay(game, listing), whenIs(game.world, listing.weekAudition)),
+      .detail = tb::format("{} • {}\n{} • {}", typeName(listing.movie->type), listing.role,
+                           listingPay(game, listing), whenIs(game.world, listing.weekAudition)),
       .picture = {posterOf(*listing.movie)},
       .press =
           [listing](Stage& stage) { stage.open(std::make_unique<BackstageDetailViewController>(listing)); },

@@ -1,9 +1,8 @@
 #include "screens/backstage/listing_parts.h"
 
-#include <format>
-
 #include "career/submission.h"
 #include "core/audition_list.h"
+#include "core/format.h"
 #include "screens/parts.h"
 #include "screens/work/project_words.h"
 
@@ -13,14 +12,13 @@ namespace {
 
 void submit(Stage& stage, const CastingListing& listing) {
   if (Refusal refusal = submitToCastingListing(stage.game(), listing)) return stage.show(std::move(refusal));
-  stage.say(std::format("Showreel sent to {}", listing.movie->title));
+  stage.say(tb::format("Showreel sent to {}", listing.movie->title));
 }
 
 }  // namespace
 
 std::string listingSummary(const CastingListing& listing) {
-  return std::format("{} • {} • {}", typeName(listing.movie->type), listing.role,
-                     guildWords(listing.isUnion));
+  return tb::format("{} • {} • {}", typeName(listing.movie->type), listing.role, guildWords(listing.isUnion));
 }
 
 std::string listingPay(const Game& game, const CastingListing& listing) {

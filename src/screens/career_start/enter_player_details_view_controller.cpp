@@ -1,8 +1,8 @@
 #include "screens/career_start/enter_player_details_view_controller.h"
 
 #include <cmath>
-#include <format>
 
+#include "core/format.h"
 #include "core/text.h"
 #include "screens/headshot.h"
 
@@ -22,7 +22,7 @@ Slider ageSlider(const Game& game) {
           .minimum = static_cast<double>(youngestStart),
           .maximum = static_cast<double>(oldestStart),
           .step = 1,
-          .text = std::format("{} years", game.world.ageCount),
+          .text = tb::format("{} years", game.world.ageCount),
           .slide = [](Stage& stage, double age) {
             const double inside = std::clamp(std::round(age), static_cast<double>(youngestStart),
                                              static_cast<double>(oldestStart));
@@ -64,7 +64,7 @@ Choice EnterPlayerDetailsViewController::headshots(const Game& game) {
   Choice choice{.label = "Headshot"};
   for (int number = 1; number <= headshotsOnOffer; ++number) {
     const std::string name = headshotName(form_.isMale, number);
-    choice.options.push_back({.label = std::format("Headshot {}", number),
+    choice.options.push_back({.label = tb::format("Headshot {}", number),
                               .chosen = headshotIn(form_.headshotImage) == name,
                               .press = [this, name](Stage&) { form_.headshotImage = headshotImage(name); },
                               .picture = {headshotPicture(name, game.world.ageCount)}});
@@ -79,7 +79,7 @@ void EnterPlayerDetailsViewController::confirm(Stage& stage) {
 
 Page EnterPlayerDetailsViewController::view(const Game& game) {
   return {.title = "A star is cast",
-          .subtitle = std::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
+          .subtitle = tb::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
           .nodes =
               {
                   Field{.label = "Stage name",

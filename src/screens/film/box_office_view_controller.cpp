@@ -1,7 +1,6 @@
 #include "screens/film/box_office_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "screens/film/box_office_parts.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
@@ -23,10 +22,10 @@ Card theaterCard(const Game& game, const InTheaters& film) {
 }
 
 Row rankedRow(const Game& game, std::size_t place, const BoxOfficeWeekends& film) {
-  Row row{.label = std::format("{}. {}", place, film.title),
+  Row row{.label = tb::format("{}. {}", place, film.title),
           .value = shownMoney(game.locale, film.totalGross),
-          .detail = std::format("{} • Domestic {}", film.yearReleased,
-                                shownMoney(game.locale, film.domesticGross))};
+          .detail =
+              tb::format("{} • Domestic {}", film.yearReleased, shownMoney(game.locale, film.domesticGross))};
   if (film.filmId < 0) return row;
   const std::string gain = returnText(film.totalGross, film.budget);
   if (!gain.empty()) row.detail += " " + gain;

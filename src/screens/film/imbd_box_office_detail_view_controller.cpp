@@ -1,8 +1,6 @@
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 
-#include <algorithm>
-#include <functional>
-
+#include "core/descending.h"
 #include "film/box_office_tables.h"
 #include "film/film_record.h"
 #include "screens/film/box_office_parts.h"
@@ -20,9 +18,7 @@ std::vector<std::size_t> marketsOf(const WorldState& world, std::int64_t filmId)
   for (std::size_t index = 0; index < world.saveAllBoxOfficeList.size(); ++index) {
     if (world.saveAllBoxOfficeList[index].filmId == filmId) found.push_back(index);
   }
-  std::ranges::stable_sort(found, std::ranges::greater{}, [&world](std::size_t index) {
-    return world.saveAllBoxOfficeList[index].totalGross;
-  });
+  sortDescending(found, [&world](std::size_t index) { return world.saveAllBoxOfficeList[index].totalGross; });
   return found;
 }
 

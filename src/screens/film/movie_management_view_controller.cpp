@@ -1,7 +1,6 @@
 #include "screens/film/movie_management_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office.h"
 #include "screens/film/box_office_parts.h"
@@ -37,14 +36,14 @@ Card productionCard(const Game& game, const Audition& project) {
   const bool own = project.isPrincipal == rolePart::ownProduction;
   Card card{
       .title = project.title,
-      .subtitle = std::format("{} • {}", own ? "Directed and produced by you" : "Financed by you",
-                              progressOf(game.world, project)),
+      .subtitle = tb::format("{} • {}", own ? "Directed and produced by you" : "Financed by you",
+                             progressOf(game.world, project)),
       .picture = {posterOf(game.world, project)},
       .nodes = {
           caption(project.description),
           Tiles{{{.label = "Budget", .value = shownMoney(game.locale, project.budget)},
                  {.label = "Your money", .value = shownMoney(game.locale, project.equityDollarsInvested)},
-                 {.label = "Your stake", .value = std::format("{:.1f}%", project.equityPercentage)}}}}};
+                 {.label = "Your stake", .value = tb::format("{:.1f}%", project.equityPercentage)}}}}};
   if (const auto gross = grossOf(game.world, project.filmId)) {
     card.nodes.push_back(
         Row{.label = "Box office of " + project.title,

@@ -1,9 +1,9 @@
 #include "screens/film/new_release_view_controller.h"
 
 #include <algorithm>
-#include <format>
 #include <string_view>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office.h"
 #include "film/new_releases.h"
@@ -22,13 +22,13 @@ constexpr std::string_view oneStar = "★";
 
 std::string kindOf(const Film& film, const MetReview& card) {
   std::string kind = card.filmType;
-  if (card.season >= 2) kind += std::format(" • Season {}", card.season);
+  if (card.season >= 2) kind += tb::format(" • Season {}", card.season);
   if (!film.ageRating.empty()) kind += " • " + film.ageRating;
-  return kind + std::format(" • {} min", film.lengthMinutes);
+  return kind + tb::format(" • {} min", film.lengthMinutes);
 }
 
 Tiles figuresOf(const Game& game, const Film& film) {
-  Tiles tiles{{{.label = "Imbd", .value = std::format("{:.1f}", film.imbdRating), .detail = "of 10"},
+  Tiles tiles{{{.label = "Imbd", .value = tb::format("{:.1f}", film.imbdRating), .detail = "of 10"},
                {.label = "Metascore", .value = std::to_string(film.imbdMetascore), .detail = "of 100"}}};
   if (const auto gross = grossOf(game.world, film.filmId)) {
     tiles.tiles.push_back({.label = "Opening weekend", .value = shortMoney(game.locale, *gross)});
@@ -52,7 +52,7 @@ Card releaseCard(const Game& game, const Film& film, const MetReview& card) {
   if (!card.reviewString.empty()) {
     shown.nodes.push_back(Text{.text = card.reviewString, .style = Text::Style::quotation});
   }
-  shown.nodes.push_back(caption(std::format("{}, {}", card.reviewerName, card.reviewerCompany)));
+  shown.nodes.push_back(caption(tb::format("{}, {}", card.reviewerName, card.reviewerCompany)));
   shown.nodes.push_back(figuresOf(game, film));
   shown.nodes.push_back(Button{.label = "Imbd page of " + film.title,
                                .press = [id = film.filmId](Stage& stage) { openTitlePage(stage, id); }});

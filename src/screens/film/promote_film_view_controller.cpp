@@ -1,7 +1,6 @@
 #include "screens/film/promote_film_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
 
@@ -19,8 +18,8 @@ void PromoteFilmViewController::post(Stage& stage) {
   if (Refusal refusal = promoteFilm(stage.game(), audition_, interview_, answer_)) {
     return stage.show(std::move(refusal));
   }
-  stage.say(std::format("Your interview on {} added {} to the hype for {}.", interview_.talkShow,
-                        interview_.totalHype, stage.game().world.saveAllAuditionList[audition_].title));
+  stage.say(tb::format("Your interview on {} added {} to the hype for {}.", interview_.talkShow,
+                       interview_.totalHype, stage.game().world.saveAllAuditionList[audition_].title));
   stage.close();
 }
 

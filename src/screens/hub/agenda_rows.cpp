@@ -1,11 +1,11 @@
 #include "screens/hub/agenda_rows.h"
 
-#include <format>
 #include <memory>
 #include <string>
 
 #include "career/classes.h"
 #include "career/traits.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/backstage/casting_network_view_controller.h"
 #include "screens/parts.h"
@@ -34,7 +34,7 @@ constexpr std::size_t dueOnHome = 4;
 constexpr std::size_t dueOnATab = 3;
 
 std::string counted(std::int64_t count, const char* one, const char* several) {
-  return std::format("{} {}", count, count == 1 ? one : several);
+  return tb::format("{} {}", count, count == 1 ? one : several);
 }
 
 template <class Opened>
@@ -47,22 +47,21 @@ Operation opens() {
 std::string readiness(const AgendaItem& item, const Audition& project) {
   switch (item.kind) {
     case AgendaItem::Kind::audition:
-      return std::format("\nReady {:.0f} of 100", project.rehearsalRating);
+      return tb::format("\nReady {:.0f} of 100", project.rehearsalRating);
     case AgendaItem::Kind::shoot:
-      return project.didAct == 1 ? std::format("\nPerformance {:.0f} of 100", project.performanceRating) : "";
+      return project.didAct == 1 ? tb::format("\nPerformance {:.0f} of 100", project.performanceRating) : "";
     default:
-      return std::format("\nHype {:.0f}", project.hypeRating);
+      return tb::format("\nHype {:.0f}", project.hypeRating);
   }
 }
 
 Row dueRow(const WorldState& world, const AgendaItem& item) {
   const Audition& project = world.saveAllAuditionList[item.index];
-  Row row{
-      .label = progressWords(world, project),
-      .detail = std::format("{} • {}{}", titleWithSeason(project), project.role, readiness(item, project)),
-      .picture = {posterOf(world, project)},
-      .tone = item.week == world.weekNumberForTracking ? Tone::accent : Tone::plain,
-      .press = leadingToProject(world, project.filmId)};
+  Row row{.label = progressWords(world, project),
+          .detail = tb::format("{} • {}{}", titleWithSeason(project), project.role, readiness(item, project)),
+          .picture = {posterOf(world, project)},
+          .tone = item.week == world.weekNumberForTracking ? Tone::accent : Tone::plain,
+          .press = leadingToProject(world, project.filmId)};
   if (item.boost) row.action = {boostButton(world, *item.boost, project, BoostWords::brief)};
   return row;
 }
@@ -72,7 +71,7 @@ Row dueRow(const WorldState& world, const AgendaItem& item) {
 Row trainingRow(const WorldState& world, const AgendaItem& item) {
   const Trait& trait = traits[item.index];
   return {.label = "Train",
-          .detail = std::format("{} is your weakest: {} of 100", spokenName(trait), world.*trait.points),
+          .detail = tb::format("{} is your weakest: {} of 100", spokenName(trait), world.*trait.points),
           .press = opens<TalentTraitsViewController>(),
           .action = {trainButton(world, item.index)}};
 }
@@ -81,7 +80,7 @@ Row openRow(const Game& game, const AgendaItem& item) {
   switch (item.kind) {
     case AgendaItem::Kind::submissions:
       return {.label = "Send showreels",
-              .detail = std::format("There is energy for {}", counted(item.count, "more role", "more roles")),
+              .detail = tb::format("There is energy for {}", counted(item.count, "more role", "more roles")),
               .press = opens<CastingNetworkViewController>()};
     case AgendaItem::Kind::job:
       return {.label = "Find work",
@@ -93,8 +92,8 @@ Row openRow(const Game& game, const AgendaItem& item) {
               .press = opens<ActorsGuildViewController>()};
     case AgendaItem::Kind::footageReel:
       return {.label = "Cut a new showreel",
-              .detail = std::format("Your footage is good for about {} more",
-                                    counted(item.count, "point", "points")),
+              .detail = tb::format("Your footage is good for about {} more",
+                                   counted(item.count, "point", "points")),
               .press = opens<ShowreelViewController>()};
     default:
       return trainingRow(game.world, item);
@@ -114,7 +113,7 @@ Row runningRow(const Game& game, const AgendaItem& item) {
     case AgendaItem::Kind::contract:
       return {.label = world.weeklyJobTitle,
               .value = weeks_left,
-              .detail = std::format("{} a week", shortMoney(game.locale, world.weeklyJobIncome)),
+              .detail = tb::format("{} a week", shortMoney(game.locale, world.weeklyJobIncome)),
               .press = opens<JobBoardViewController>()};
     default:
       return {.label = className(world.saveAllCompletedClasses[item.index]),
@@ -153,7 +152,7 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
             .press = opens<PaymentTransactionsViewController>()};
   }
   if (outcome.kind == Outcome::Kind::notSelected) {
-    return {.label = std::format("Not selected for {}", counted(outcome.count, "role", "roles")),
+    return {.label = tb::format("Not selected for {}", counted(outcome.count, "role", "roles")),
             .tone = Tone::quiet,
             .press = openNotSelected};
   }
@@ -161,7 +160,7 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
   const char* const what = outcome.kind == Outcome::Kind::booked   ? "Booked"
                            : outcome.kind == Outcome::Kind::opened ? "Opened"
                                                                    : "Wrapped";
-  return {.label = std::format("{}: {}", what, titleWithSeason(project)),
+  return {.label = tb::format("{}: {}", what, titleWithSeason(project)),
           .detail = project.role,
           .picture = {posterOf(world, project)},
           .tone = outcome.kind == Outcome::Kind::wrapped ? Tone::plain : Tone::good,
@@ -178,7 +177,7 @@ std::vector<Node> dueRows(const Game& game, std::size_t most) {
     rows.emplace_back(dueRow(game.world, items[at]));
   }
   if (items.size() > most) {
-    rows.emplace_back(Row{.label = std::format("{} more to come", items.size() - most),
+    rows.emplace_back(Row{.label = tb::format("{} more to come", items.size() - most),
                           .press = opens<ActiveAuditionViewController>()});
   }
   return rows;

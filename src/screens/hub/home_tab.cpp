@@ -1,5 +1,5 @@
-#include <format>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/talent_scores.h"
 #include "core/text.h"
@@ -19,7 +19,7 @@ Tiles careerTiles(const WorldState& world) {
 }
 
 Card profile(const WorldState& world) {
-  return {.title = std::format("{} years old", world.ageCount),
+  return {.title = tb::format("{} years old", world.ageCount),
           .subtitle = world.aboutDescription,
           .picture = {performerPicture(world)}};
 }

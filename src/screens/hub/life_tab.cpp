@@ -1,6 +1,6 @@
-#include <format>
 
 #include "career/classes.h"
+#include "core/format.h"
 #include "life/energy.h"
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
@@ -12,7 +12,7 @@ namespace {
 
 view::Row drain(const char* label, std::int64_t energy) {
   return {.label = label,
-          .value = energy == 0 ? "0" : std::format("{:+}", -energy),
+          .value = energy == 0 ? "0" : tb::format("{:+}", -energy),
           .tone = energy > 0 ? view::Tone::warning : view::Tone::quiet};
 }
 

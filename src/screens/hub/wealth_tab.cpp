@@ -1,5 +1,5 @@
-#include <format>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
@@ -31,7 +31,7 @@ Section books(const Game& game) {
 
 Chart indexChart(const char* title, const RealList& history) {
   const std::vector<double> values(history.begin(), history.end());
-  return historyChart(title, "week", values, [](double index) { return std::format("{:.3f}", index); });
+  return historyChart(title, "week", values, [](double index) { return tb::format("{:.3f}", index); });
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <format>
 
 #include "career/classes.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/talent_scores.h"
 #include "screens/backstage/casting_network_view_controller.h"
@@ -23,7 +23,7 @@ namespace {
 std::string classesSummary(const WorldState& world) {
   const auto running = std::ranges::count_if(
       world.saveAllCompletedClasses, [](const ActingClass& taken) { return taken.weeksRemaining > 0; });
-  return running == 0 ? "Learn the craft at Julien" : std::format("{} running", running);
+  return running == 0 ? "Learn the craft at Julien" : tb::format("{} running", running);
 }
 
 std::string projectsSummary(const WorldState& world) {
@@ -37,8 +37,8 @@ std::string projectsSummary(const WorldState& world) {
     return project.funnelStage == funnel::invited && project.didAct == 1 &&
            project.weekAudition >= world.weekNumberForTracking;
   });
-  return std::format("{} submitted • {} invited • {} booked", at(funnel::submitted), invited,
-                     at(funnel::booked));
+  return tb::format("{} submitted • {} invited • {} booked", at(funnel::submitted), invited,
+                    at(funnel::booked));
 }
 
 std::string jobSummary(const WorldState& world) {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <format>
 #include <numeric>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 #include "film/cast_list.h"
@@ -27,9 +27,9 @@ using namespace view;
 namespace {
 
 std::string kindOf(const Film& film) {
-  std::string kind = std::format("{} • {}", typeName(film.typeOfFilm), film.yearReleased);
+  std::string kind = tb::format("{} • {}", typeName(film.typeOfFilm), film.yearReleased);
   if (!film.ageRating.empty()) kind += " • " + film.ageRating;
-  if (film.lengthMinutes > 0) kind += std::format(" • {} min", film.lengthMinutes);
+  if (film.lengthMinutes > 0) kind += tb::format(" • {} min", film.lengthMinutes);
   return kind;
 }
 
@@ -38,25 +38,25 @@ std::string kindOf(const Film& film) {
 Tiles scores(const Game& game, const Film& film, std::optional<std::size_t> place) {
   return {
       {{.label = "Imbd",
-        .value = std::format("{:.1f}", film.imbdRating),
+        .value = tb::format("{:.1f}", film.imbdRating),
         .detail = plainCount(game.locale, shownRatings(film)) + " " + plural(shownRatings(film), "rating")},
        {.label = "Metascore",
         .value = std::to_string(film.imbdMetascore),
         .detail = plainCount(game.locale, film.numMetascoreRatings) + " " +
                   plural(film.numMetascoreRatings, "critic")},
-       {.label = "Top 250", .value = place ? std::format("#{}", *place) : "Unranked"}}};
+       {.label = "Top 250", .value = place ? tb::format("#{}", *place) : "Unranked"}}};
 }
 
 Meter popularity(const Film& film) {
   const double change = film.currentPopularity - film.lastWeekPopularity;
   std::string trend = "as last week";
   if (std::abs(change) >= 0.05) {
-    trend = std::format("{} {:.1f} since last week", change > 0 ? "up" : "down", std::abs(change));
+    trend = tb::format("{} {:.1f} since last week", change > 0 ? "up" : "down", std::abs(change));
   }
   return {.label = "Popularity",
           .value = film.currentPopularity,
           .maximum = 100,
-          .text = std::format("{:.1f}, {}", film.currentPopularity, trend)};
+          .text = tb::format("{:.1f}, {}", film.currentPopularity, trend)};
 }
 
 // --- The player's own rating ---
@@ -71,7 +71,7 @@ void askForRating(Stage& stage, const std::string& title, std::int64_t filmId) {
   std::vector<Button> answers;
   for (std::int64_t stars = mostStars; stars >= 1; --stars) {
     answers.push_back(
-        {.label = std::format("{} {}", stars, starsOf(stars)), .press = [filmId, stars](Stage& asked) {
+        {.label = tb::format("{} {}", stars, starsOf(stars)), .press = [filmId, stars](Stage& asked) {
            rateFilm(asked.game(), filmIndex(asked.game().world, filmId), stars);
          }});
   }
@@ -95,16 +95,16 @@ Chart starChart(const StarHistogram& histogram) {
   Chart chart{.kind = Chart::Kind::histogram, .title = "How viewers rate it"};
   const auto ratings =
       static_cast<double>(std::accumulate(histogram.begin(), histogram.end(), std::int64_t{0}));
-  const auto percent = [](double share) { return std::format("{:.1f}%", share); };
+  const auto percent = [](double share) { return tb::format("{:.1f}%", share); };
   double highest = 0;
   for (std::size_t star = 0; star < histogram.size(); ++star) {
     const double share = static_cast<double>(histogram[star]) / ratings * 100;
-    chart.points.push_back({.label = std::format("{}★", star + 1), .value = share, .text = percent(share)});
+    chart.points.push_back({.label = tb::format("{}★", star + 1), .value = share, .text = percent(share)});
     highest = std::max(highest, share);
   }
-  chart.scale = roundScale(0, highest, [](double mark) { return std::format("{:.0f}%", mark); });
+  chart.scale = roundScale(0, highest, [](double mark) { return tb::format("{:.0f}%", mark); });
   const auto most = std::ranges::max_element(histogram);
-  chart.summary = std::format("The rating given most is {} of 10.", most - histogram.begin() + 1);
+  chart.summary = tb::format("The rating given most is {} of 10.", most - histogram.begin() + 1);
   return chart;
 }
 

@@ -1,8 +1,8 @@
 #include "screens/reception/quotes_view_controller.h"
 
-#include <format>
 #include <vector>
 
+#include "core/format.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -32,7 +32,7 @@ Card quoteCard(const Quote& quote) {
 Page QuotesViewController::view(const Game& game) {
   const std::vector<std::size_t> rows = quotesOf(game.world, film_id_);
   return {.title = "In Your Words",
-          .subtitle = std::format("Quotes: {}", rows.size()),
+          .subtitle = tb::format("Quotes: {}", rows.size()),
           .nodes = {PagedList{
               .key = "quotes",
               .size = rows.size(),

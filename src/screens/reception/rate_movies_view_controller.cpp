@@ -1,7 +1,6 @@
 #include "screens/reception/rate_movies_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "film/movie_reviews.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
@@ -15,7 +14,7 @@ void RateMoviesViewController::load(Stage& stage) { title_ = &drawTitleToReview(
 Choice RateMoviesViewController::stars() {
   Choice choice{.label = "Your rating"};
   for (std::int64_t stars = 1; stars <= mostStars; ++stars) {
-    choice.options.push_back({.label = std::format("{} ★", stars),
+    choice.options.push_back({.label = tb::format("{} ★", stars),
                               .chosen = rating_ == stars,
                               .press = [this, stars](Stage&) { rating_ = stars; }});
   }
@@ -32,12 +31,12 @@ void RateMoviesViewController::submit(Stage& stage) {
     return stage.show(std::move(refusal));
   }
   const std::size_t reviews = stage.game().world.saveAllMovieReviews.size();
-  stage.say(std::format("Your review of {} is out. You have written {} in all.", title_->title, reviews));
+  stage.say(tb::format("Your review of {} is out. You have written {} in all.", title_->title, reviews));
   stage.close();
 }
 
 Page RateMoviesViewController::view(const Game&) {
-  return {.title = std::format("What do you think about {} ({})?", title_->title, title_->year),
+  return {.title = tb::format("What do you think about {} ({})?", title_->title, title_->year),
           .subtitle =
               "As your fanbase grows, you can earn weekly income from reviews. Fans want to know your "
               "thoughts",

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <format>
 #include <string_view>
 
+#include "core/format.h"
 #include "film/film_record.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
@@ -35,7 +35,7 @@ Card scoreCard(const std::string& who, double score, std::string_view badge, con
   return {
       .title = std::string(known->name),
       .picture = {{.kind = PictureKind::icon, .name = std::string(badge)}},
-      .nodes = {Tiles{{{.label = who, .value = std::format("{}%", wholePercent(score)), .detail = count}}}}};
+      .nodes = {Tiles{{{.label = who, .value = tb::format("{}%", wholePercent(score)), .detail = count}}}}};
 }
 
 std::string dated(const DateLabel& date) { return date.month + " " + date.dayAndYear; }

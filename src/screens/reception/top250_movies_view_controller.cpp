@@ -1,7 +1,6 @@
 #include "screens/reception/top250_movies_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "screens/film/box_office_parts.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
@@ -16,7 +15,7 @@ namespace {
 // A title of the player's stands out and leads to its page.
 template <class Title>
 Row rowOf(const WorldState& world, std::size_t place, const Title& title) {
-  Row row{.label = std::format("{}. {}", place, title.title)};
+  Row row{.label = tb::format("{}. {}", place, title.title)};
   if (title.filmId < 0) return row;
   row.tone = Tone::accent;
   row.picture = {posterOfFilm(world, title.filmId, title.imageString)};
@@ -33,8 +32,8 @@ Row movieRow(const Game& game, std::size_t place, const BoxOfficeWeekends& movie
 
 Row showRow(const WorldState& world, std::size_t place, const TopShow& show) {
   Row row = rowOf(world, place, show);
-  row.value = std::format("{:.1f}", show.imdbRating);
-  if (show.seasonNumber >= 1) row.detail = std::format("Season {}", show.seasonNumber);
+  row.value = tb::format("{:.1f}", show.imdbRating);
+  if (show.seasonNumber >= 1) row.detail = tb::format("Season {}", show.seasonNumber);
   return row;
 }
 

@@ -1,7 +1,6 @@
 #include "screens/talent/acting_classes_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 
@@ -11,17 +10,17 @@ using namespace view;
 
 namespace {
 
-std::string nameOf(const JulliardClass& row) { return std::format("Drama {}: {}", row.classCode, row.title); }
+std::string nameOf(const JulliardClass& row) { return tb::format("Drama {}: {}", row.classCode, row.title); }
 
 Row takenRow(const ActingClass& taken) {
   Row shown{.label = className(taken)};
   if (taken.weeksRemaining > 0) {
-    shown.value = std::format("{} of {} weeks left", taken.weeksRemaining, taken.weeksTotal);
-    shown.detail = std::format("-{} energy each week", taken.energyCost);
+    shown.value = tb::format("{} of {} weeks left", taken.weeksRemaining, taken.weeksTotal);
+    shown.detail = tb::format("-{} energy each week", taken.energyCost);
     shown.tone = Tone::accent;
   } else {
-    shown.value = std::format("+{:.0f} experience", taken.experience);
-    shown.detail = std::format("Finished, begun in {}", taken.yearStarted);
+    shown.value = tb::format("+{:.0f} experience", taken.experience);
+    shown.detail = tb::format("Finished, begun in {}", taken.yearStarted);
     shown.tone = Tone::quiet;
   }
   return shown;
@@ -47,7 +46,7 @@ void ActingClassesViewController::load(Stage& stage) { options_ = openClasses(st
 
 void ActingClassesViewController::signUp(Stage& stage, const ClassOption& option) {
   if (Refusal refusal = signUpForClass(stage.game(), option)) return stage.show(std::move(refusal));
-  stage.say(std::format("Signed up: {}, {} weeks.", nameOf(*option.offered), option.weeks));
+  stage.say(tb::format("Signed up: {}, {} weeks.", nameOf(*option.offered), option.weeks));
 }
 
 Button ActingClassesViewController::signUpButton(const Game& game, const ClassOption& option) {
@@ -66,9 +65,9 @@ Button ActingClassesViewController::signUpButton(const Game& game, const ClassOp
 
 Card ActingClassesViewController::optionCard(const Game& game, const ClassOption& option) {
   return {.title = nameOf(*option.offered),
-          .subtitle = std::format("Level {}", option.offered->classLevel),
-          .nodes = {Text{.text = std::format("{} weeks • -{} energy each week • +{:.0f} experience",
-                                             option.weeks, option.energyCost, option.offered->percentage)},
+          .subtitle = tb::format("Level {}", option.offered->classLevel),
+          .nodes = {Text{.text = tb::format("{} weeks • -{} energy each week • +{:.0f} experience",
+                                            option.weeks, option.energyCost, option.offered->percentage)},
                     signUpButton(game, option)}};
 }
 
@@ -86,7 +85,7 @@ Page ActingClassesViewController::view(const Game& game) {
           .nodes = {Meter{.label = "Curriculum",
                           .value = done * 100,
                           .maximum = 100,
-                          .text = std::format("{:.0f}%", done * 100)},
+                          .text = tb::format("{:.0f}%", done * 100)},
                     caption("Finish every class to earn a bonus experience boost."), offered(game),
                     Section{.heading = "YOUR CLASSES", .nodes = {transcript(game)}}}};
 }

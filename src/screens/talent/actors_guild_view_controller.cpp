@@ -1,9 +1,9 @@
 #include "screens/talent/actors_guild_view_controller.h"
 
 #include <algorithm>
-#include <format>
 
 #include "career/guild.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/moments.h"
 #include "screens/parts.h"
@@ -25,7 +25,7 @@ Card membersCard(const Game& game) {
   const WorldState& world = game.world;
   return {
       .title = world.myName,
-      .subtitle = std::format("Member since {}", world.memberSince),
+      .subtitle = tb::format("Member since {}", world.memberSince),
       .nodes = {
           Text{.text = "Member in good standing. You contribute 3% of earnings up to $750,000 to the guild, "
                        "with access to union-only opportunities."},
@@ -40,8 +40,8 @@ Section wayIn(const Game& game, std::int64_t eligibility) {
                 Meter{.label = "Principal roles booked",
                       .value = static_cast<double>(eligibility),
                       .maximum = static_cast<double>(rolesForEligibility),
-                      .text = std::format("{} of {}", std::min(eligibility, rolesForEligibility),
-                                          rolesForEligibility)},
+                      .text = tb::format("{} of {}", std::min(eligibility, rolesForEligibility),
+                                         rolesForEligibility)},
                 Button{.label = "Join",
                        .press = join,
                        .price = currency(game.locale, guildInitiationFee, 0),

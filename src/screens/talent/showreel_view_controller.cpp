@@ -1,8 +1,7 @@
 #include "screens/talent/showreel_view_controller.h"
 
-#include <format>
-
 #include "career/showreel.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/parts.h"
@@ -39,13 +38,13 @@ void ShowreelViewController::produce(Stage& stage) {
     return stage.show(std::move(refusal));
   }
   scenes_.clear();
-  stage.say(std::format("That's a wrap. Your new showreel is rated {}.", stage.game().world.showreelScore));
+  stage.say(tb::format("That's a wrap. Your new showreel is rated {}.", stage.game().world.showreelScore));
 }
 
 Section ShowreelViewController::footage() const {
   return {.heading = "EXISTING FOOTAGE",
           .nodes = {Row{.label = "Choose footage",
-                        .value = std::format("{} of {}", chosen_->filmIds.size(), mostFootage),
+                        .value = tb::format("{} of {}", chosen_->filmIds.size(), mostFootage),
                         .detail = "Cut a reel from your finished work",
                         .press = [chosen = chosen_](Stage& stage) {
                           stage.open(std::make_unique<ShowreelFootageViewController>(chosen));
@@ -56,12 +55,11 @@ Choice ShowreelViewController::packages(const Game& game) {
   Choice choice{.label = "Package"};
   for (std::size_t index = 0; index < scenePackages.size(); ++index) {
     const ScenePackage& package = scenePackages[index];
-    choice.options.push_back(
-        {.label = std::format("{} • {} • {}", package.title,
-                              counted(static_cast<std::int64_t>(package.scenes), "scene"),
-                              currency(game.locale, package.cost, 0)),
-         .chosen = index == package_,
-         .press = [this, index](Stage&) { package_ = index; }});
+    choice.options.push_back({.label = tb::format("{} • {} • {}", package.title,
+                                                  counted(static_cast<std::int64_t>(package.scenes), "scene"),
+                                                  currency(game.locale, package.cost, 0)),
+                              .chosen = index == package_,
+                              .press = [this, index](Stage&) { package_ = index; }});
   }
   return choice;
 }

@@ -1,7 +1,6 @@
 #include "screens/talent/trait_parts.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/text.h"
 #include "screens/parts.h"
 
@@ -17,12 +16,12 @@ view::Button trainButton(const WorldState& world, std::size_t index) {
   const Trait& trait = traits[index];
   const bool is_full = world.*trait.points >= highestTrait;
   const std::int64_t next = nextValue(world, trait);
-  return {.label = std::format("Train to {}", next),
+  return {.label = tb::format("Train to {}", next),
           .press = [k = static_cast<int>(index) + 1](Stage& stage) { stage.show(buyTrait(stage.game(), k)); },
           .price = energyPrice(world.*trait.price),
           .offReason = is_full ? "Maxed out" : "",
           .refusal = briefOf(traitRefusal(world, trait)),
-          .name = std::format("Train {} to {}", spokenName(trait), next)};
+          .name = tb::format("Train {} to {}", spokenName(trait), next)};
 }
 
 }  // namespace tb

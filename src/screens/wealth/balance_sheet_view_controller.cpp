@@ -1,7 +1,6 @@
 #include "screens/wealth/balance_sheet_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 #include "screens/wealth/money_parts.h"
@@ -49,7 +48,7 @@ PagedList vehicles(const Game& game) {
           .nodeAt = [&game](std::size_t index) {
             const Transportation& vehicle = game.world.saveAllTransportationOwnedList[index];
             Row row = moneyRow(game, vehicle.title, vehicleValue(game.world, vehicle),
-                               std::format("{} in {}", paid(game, vehicle.pricePaid), vehicle.yearPurchased));
+                               tb::format("{} in {}", paid(game, vehicle.pricePaid), vehicle.yearPurchased));
             row.picture = {{.kind = PictureKind::vehicle, .name = vehicle.imageName}};
             return row;
           }};

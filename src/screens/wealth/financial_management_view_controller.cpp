@@ -1,7 +1,6 @@
 #include "screens/wealth/financial_management_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 #include "screens/wealth/money_parts.h"
@@ -18,7 +17,7 @@ std::string changeOfYear(const WorldState& world) {
   if (world.saveLastYTDPaycheck == 0) return "";
   const double change =
       (world.yearToDatePaycheck - world.saveLastYTDPaycheck) / world.saveLastYTDPaycheck * 100;
-  return std::format("{:.1f}% against last year", change);
+  return tb::format("{:.1f}% against last year", change);
 }
 
 Section paycheck(const Game& game) {
@@ -73,7 +72,7 @@ Section FinancialManagementViewController::income(const Game& game) const {
     kinds.push_back({wordsFor(kind).several, years_.back().of(kind)});
   return {.heading = "INCOME",
           .nodes = {netIncome(game),
-                    moneyPie(game, std::format("What your work paid in {}", game.world.yearNumber), kinds,
+                    moneyPie(game, tb::format("What your work paid in {}", game.world.yearNumber), kinds,
                              "No work has paid anything this year yet."),
                     yearBars(game, "Paid by your titles, year by year", years_, &YearOfPayments::total)}};
 }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <format>
 #include <utility>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 
@@ -60,8 +60,8 @@ Chart moneyPie(const Game& game, std::string title, const std::vector<MoneyPart>
   }
   if (chart.points.empty()) return chart;
   const MoneyPart& largest = largestOf(parts);
-  chart.summary = std::format("{} in all. Most of it: {}, {:.0f}%.", shownMoney(game.locale, whole),
-                              largest.label, largest.amount / whole * 100);
+  chart.summary = tb::format("{} in all. Most of it: {}, {:.0f}%.", shownMoney(game.locale, whole),
+                             largest.label, largest.amount / whole * 100);
   return chart;
 }
 
@@ -77,7 +77,7 @@ Chart yearBars(const Game& game, std::string title, const std::vector<YearOfPaym
   const auto [least, most] = std::ranges::minmax_element(bars, {}, &MoneyPart::amount);
   chart.scale = roundScale(std::min(least->amount, 0.0), std::max(most->amount, 0.0),
                            [&game](double mark) { return shownMoney(game.locale, mark); });
-  chart.summary = std::format("Most in {}: {}.", most->label, shownMoney(game.locale, most->amount));
+  chart.summary = tb::format("Most in {}: {}.", most->label, shownMoney(game.locale, most->amount));
   return chart;
 }
 

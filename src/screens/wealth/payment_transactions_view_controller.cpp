@@ -1,7 +1,6 @@
 #include "screens/wealth/payment_transactions_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 #include "screens/wealth/money_parts.h"
@@ -13,8 +12,8 @@ using namespace view;
 namespace {
 
 Row paymentRow(const Game& game, const Payment& payment) {
-  std::string detail = std::format("Week {} • {}", payment.week, wordsFor(payment.kind).one);
-  if (!payment.source.empty()) detail += std::format(" from {}", payment.source);
+  std::string detail = tb::format("Week {} • {}", payment.week, wordsFor(payment.kind).one);
+  if (!payment.source.empty()) detail += tb::format(" from {}", payment.source);
   return {.label = payment.title,
           .value = cash(game.locale, payment.amount),
           .detail = std::move(detail),
@@ -59,7 +58,7 @@ Section PaymentTransactionsViewController::yearSection(const Game& game) {
   return {.heading = std::to_string(year.year),
           .nodes = {
               Buttons{{std::move(earlier), std::move(later)}},
-              PagedList{.key = std::format("{} {}", year.year, kind_ ? wordsFor(*kind_).several : "all"),
+              PagedList{.key = tb::format("{} {}", year.year, kind_ ? wordsFor(*kind_).several : "all"),
                         .size = rows.size(),
                         .nodeAt = [this, &game, rows](
                                       std::size_t index) { return paymentRow(game, history_[rows[index]]); },
@@ -71,7 +70,7 @@ Page PaymentTransactionsViewController::view(const Game& game) {
   for (const YearOfPayments& year : years_) in_all += paidIn(year);
   return {.title = "Payments",
           .subtitle = "What your titles have paid you",
-          .nodes = {Tiles{{moneyTile(game, std::format("In {}", years_[year_].year), paidIn(years_[year_])),
+          .nodes = {Tiles{{moneyTile(game, tb::format("In {}", years_[year_].year), paidIn(years_[year_])),
                            moneyTile(game, "In all", in_all)}},
                     kindChoice(),
                     yearBars(game, "Year by year", years_,

@@ -1,9 +1,7 @@
 #include "screens/wealth/weekly_expense_list_view_controller.h"
 
-#include <algorithm>
-#include <format>
-#include <functional>
-
+#include "core/descending.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 #include "screens/wealth/money_parts.h"
@@ -18,8 +16,8 @@ namespace {
 constexpr double weeksOfAYear = 52;
 
 Row itemRow(const Game& game, const WeeklyLineItem& item) {
-  std::string detail = std::format("since {}", item.year);
-  if (item.energyBoost != 0) detail += std::format(" • {:+} energy", item.energyBoost);
+  std::string detail = tb::format("since {}", item.year);
+  if (item.energyBoost != 0) detail += tb::format(" • {:+} energy", item.energyBoost);
   return {.label = item.title,
           .value = cash(game.locale, item.amount),
           .detail = std::move(detail),
@@ -51,7 +49,7 @@ Chart shares(const Game& game, const std::vector<std::size_t>& expenses) {
     const WeeklyLineItem& item = game.world.saveAllWeeklyLineItems[index];
     parts.push_back({item.title, item.amount});
   }
-  std::ranges::stable_sort(parts, std::ranges::greater{}, &MoneyPart::amount);
+  sortDescending(parts, &MoneyPart::amount);
   while (parts.size() > mostSlices) {
     const double small_change = parts.back().amount;
     parts.pop_back();

@@ -1,7 +1,6 @@
 #include "screens/week/front_page_nodes.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "screens/moments.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
@@ -24,7 +23,7 @@ std::string partAndType(const Story& story) {
   if (story.project.empty()) return "";
   const Audition& project = story.project.front();
   const std::string type = typeName(project.typeOfFilm);
-  return project.didAct < 1 || project.role.empty() ? type : std::format("{} • {}", project.role, type);
+  return project.didAct < 1 || project.role.empty() ? type : tb::format("{} • {}", project.role, type);
 }
 
 std::string amountWords(const Locale& locale, double amount) {
@@ -38,7 +37,7 @@ std::string momentLine(const Story& story) {
   const std::string title = titleWithSeason(project);
   switch (story.about.kind) {
     case NewsKind::offer:
-      return project.role.empty() ? title : std::format("{} • {}", title, project.role);
+      return project.role.empty() ? title : tb::format("{} • {}", title, project.role);
     case NewsKind::opening:
     case NewsKind::premiere:
       return title;

@@ -1,7 +1,6 @@
 #include "screens/week/weekly_summary_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/film/new_release_view_controller.h"
@@ -78,7 +77,7 @@ Section WeeklySummaryViewController::feed(const Game& game) {
 
 Page WeeklySummaryViewController::view(const Game& game) {
   Page page{.title = "REVIEW",
-            .subtitle = std::format("Week {} of {}", summary_.week, summary_.year),
+            .subtitle = tb::format("Week {} of {}", summary_.week, summary_.year),
             .head = Page::Head::line};
   page.nodes.push_back(balance(game, summary_.balance));
   page.nodes.push_back(feed(game));

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <format>
 #include <vector>
 
+#include "core/format.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
 #include "screens/work/audition_detail_view_controller.h"
@@ -73,7 +73,7 @@ std::vector<std::size_t> projectsOf(const WorldState& world, Listed list) {
 Row projectRow(const WorldState& world, const Audition& project) {
   return {.label = titleWithSeason(project),
           .value = progressWords(world, project),
-          .detail = std::format("{} • {}", typeName(project.typeOfFilm), project.role),
+          .detail = tb::format("{} • {}", typeName(project.typeOfFilm), project.role),
           .picture = {posterOf(world, project)},
           .tone = isOver(world, project) ? Tone::quiet : Tone::plain,
           .press = [id = project.filmId](Stage& stage) { openProject(stage, id); }};

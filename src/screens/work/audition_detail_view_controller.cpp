@@ -1,11 +1,10 @@
 #include "screens/work/audition_detail_view_controller.h"
 
-#include <format>
-
 #include "career/boosts.h"
 #include "career/bribe.h"
 #include "career/withdrawal.h"
 #include "core/audition_list.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/parts.h"
@@ -126,7 +125,7 @@ Page AuditionDetailViewController::view(const Game& game) {
   if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list anymore.")}};
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
-            .subtitle = std::format("{} • {}", typeName(project.typeOfFilm), guildWords(project.isUnion))};
+            .subtitle = tb::format("{} • {}", typeName(project.typeOfFilm), guildWords(project.isUnion))};
   page.nodes = {posterOf(game.world, project), theState(game.world, project),
                 Text{.text = project.description}, thePreparation(project)};
   if (const auto offered = boostOf(game.world, project)) {

@@ -1,10 +1,10 @@
 #include "screens/work/boost_parts.h"
 
 #include <array>
-#include <format>
 #include <memory>
 
 #include "core/audition_list.h"
+#include "core/format.h"
 #include "screens/film/promote_film_view_controller.h"
 #include "screens/parts.h"
 
@@ -41,7 +41,7 @@ view::Button boostButton(const WorldState& world, const Boost& offered, const Au
           .press = [id = project.filmId, kind = offered.kind](Stage& stage) { boost(stage, id, kind); },
           .price = energyPrice(offered.energyPrice),
           .refusal = briefOf(boostRefusal(world, offered)),
-          .name = std::format("{} {}", said.spoken, project.title),
+          .name = tb::format("{} {}", said.spoken, project.title),
           .weight = view::Button::Weight::primary};
 }
 

@@ -1,7 +1,6 @@
 #include "screens/work/job_board_view_controller.h"
 
-#include <format>
-
+#include "core/format.h"
 #include "core/number_style.h"
 #include "screens/parts.h"
 
@@ -15,9 +14,9 @@ Section presentJob(const Game& game) {
   const WorldState& world = game.world;
   return {.heading = "YOUR JOB",
           .nodes = {Row{.label = world.weeklyJobTitle,
-                        .value = std::format("{} a week", currency(game.locale, world.weeklyJobIncome, 0)),
-                        .detail = std::format("{} • -{} energy each week", jobWeeksLeft(world),
-                                              world.weeklyEnergyCost)}}};
+                        .value = tb::format("{} a week", currency(game.locale, world.weeklyJobIncome, 0)),
+                        .detail = tb::format("{} • -{} energy each week", jobWeeksLeft(world),
+                                             world.weeklyEnergyCost)}}};
 }
 
 }  // namespace
@@ -26,19 +25,19 @@ void JobBoardViewController::load(Stage& stage) { board_ = openJobBoard(stage.ga
 
 void JobBoardViewController::accept(Stage& stage, const JobOffer& offer) {
   if (Refusal refusal = acceptJob(stage.game(), offer)) return stage.show(std::move(refusal));
-  stage.say(std::format("You start as a {} for {} weeks.", offer.job.jobTitle, offer.contractWeeks));
+  stage.say(tb::format("You start as a {} for {} weeks.", offer.job.jobTitle, offer.contractWeeks));
 }
 
 Card JobBoardViewController::offerCard(const Game& game, const JobOffer& offer) {
   return {.title = std::string(offer.job.jobTitle),
-          .subtitle = std::format("{} Week Contract", offer.contractWeeks),
+          .subtitle = tb::format("{} Week Contract", offer.contractWeeks),
           .nodes = {Text{.text = std::string(offer.job.jobDescription)},
                     Row{.label = "Pay", .value = currency(game.locale, offer.job.jobPay, 0) + " a week"},
-                    Row{.label = "Energy", .value = std::format("-{} each week", offer.job.energyCost)},
+                    Row{.label = "Energy", .value = tb::format("-{} each week", offer.job.energyCost)},
                     Button{.label = "Accept",
                            .press = [this, offer](Stage& stage) { accept(stage, offer); },
                            .refusal = briefOf(jobRefusal(game.world)),
-                           .name = std::format("Accept {}", offer.job.jobTitle),
+                           .name = tb::format("Accept {}", offer.job.jobTitle),
                            .weight = Button::Weight::primary}}};
 }
 

@@ -1,8 +1,7 @@
 #include "screens/work/post_release_audition_view_controller.h"
 
-#include <format>
-
 #include "core/audition_list.h"
+#include "core/format.h"
 #include "film/film_record.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
@@ -66,8 +65,8 @@ Page PostReleaseAuditionViewController::view(const Game& game) {
   if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list anymore.")}};
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
-            .subtitle = std::format("{} • {} • {}", typeName(project.typeOfFilm), project.role,
-                                    progressWords(game.world, project))};
+            .subtitle = tb::format("{} • {} • {}", typeName(project.typeOfFilm), project.role,
+                                   progressWords(game.world, project))};
   page.nodes = {posterOf(game.world, project)};
   if (hasFigures(project)) {
     const ReleaseFigures figures = figuresOf(game.world, project);

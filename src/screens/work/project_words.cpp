@@ -1,9 +1,9 @@
 #include "screens/work/project_words.h"
 
 #include <array>
-#include <format>
 #include <vector>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 
@@ -26,7 +26,7 @@ std::string wrappedWords(const WorldState& world, const Audition& project) {
 template <class Titled>
 std::string withSeason(const Titled& work) {
   if (work.typeOfFilm != filmType::series || work.seasonNumber < 2) return work.title;
-  return std::format("{} Season {}", work.title, work.seasonNumber);
+  return tb::format("{} Season {}", work.title, work.seasonNumber);
 }
 
 }  // namespace
@@ -76,9 +76,9 @@ view::Section roleSection(const Audition& project) {
   if (project.numberOfEpisodesActed > 0) {
     // The length of the season is known once the role is taken.
     const std::string season =
-        project.numberOfEpisodesTotal > 0 ? std::format(" of {}", project.numberOfEpisodesTotal) : "";
+        project.numberOfEpisodesTotal > 0 ? tb::format(" of {}", project.numberOfEpisodesTotal) : "";
     section.nodes.push_back(
-        view::Row{.label = "Episodes", .value = std::format("{}{}", project.numberOfEpisodesActed, season)});
+        view::Row{.label = "Episodes", .value = tb::format("{}{}", project.numberOfEpisodesActed, season)});
   }
   return section;
 }
@@ -87,9 +87,9 @@ std::string payWords(const Locale& locale, const Terms& terms) {
   std::vector<std::string> words;
   if (terms.fee > 0) words.push_back(currency(locale, terms.fee, 0));
   if (terms.buyout > 0) words.push_back(currency(locale, terms.buyout, 0) + " buyout");
-  if (terms.royalty > 0) words.push_back(std::format("{:.2f}% royalty", terms.royalty));
+  if (terms.royalty > 0) words.push_back(tb::format("{:.2f}% royalty", terms.royalty));
   if (words.empty()) words.emplace_back("Unpaid");
-  if (terms.residual > 0) words.push_back(std::format("{:.1f}% residual", terms.residual * 100));
+  if (terms.residual > 0) words.push_back(tb::format("{:.1f}% residual", terms.residual * 100));
   std::string joined = words.front();
   for (std::size_t index = 1; index < words.size(); ++index) joined += " • " + words[index];
   return joined;

@@ -1,9 +1,9 @@
 #include "screens/work/release_figures.h"
 
 #include <algorithm>
-#include <format>
 #include <numeric>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office_tables.h"
 #include "screens/film/box_office_parts.h"
@@ -52,7 +52,7 @@ Tiles figureTiles(const Game& game, const Audition& project, const ReleaseFigure
        .detail = isSeries(project) ? "viewers" : ""},
       {.label = "BUDGET", .value = shortMoney(game.locale, figures.budget)},
       {.label = "RETURN",
-       .value = std::format("{:.0f}%", share),
+       .value = tb::format("{:.0f}%", share),
        .detail = "of the budget",
        .tone = share >= 100 ? Tone::good : Tone::warning},
   }};
@@ -62,7 +62,7 @@ Chart figureChart(const Game& game, const Audition& project, const ReleaseFigure
   if (!isSeries(project)) return takingsChart(game, "Takings by week", figures.weeks);
   return barChart(
       "Viewers by episode", figures.weeks,
-      [](std::size_t episode) { return std::format("Episode {}", episode + 1); },
+      [](std::size_t episode) { return tb::format("Episode {}", episode + 1); },
       [](double viewers) { return shortCount(static_cast<std::int64_t>(viewers)); });
 }
 

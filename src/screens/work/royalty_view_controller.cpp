@@ -1,9 +1,9 @@
 #include "screens/work/royalty_view_controller.h"
 
 #include <algorithm>
-#include <format>
 
 #include "career/royalty_stake.h"
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/signed_agent.h"
 #include "core/text.h"
@@ -38,7 +38,7 @@ std::string shareOf(const Audition& offer) {
 }
 
 std::string chanceWords(std::int64_t chance, std::int64_t bonus) {
-  return std::format("{}% Chance + {}% Agent Bonus", chance, bonus);
+  return tb::format("{}% Chance + {}% Agent Bonus", chance, bonus);
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ Section RoyaltyViewController::theAsk(const Game& game, const Audition& offer) {
   const std::int64_t bonus = negotiationBonus(game.world);
   return {.heading = "YOUR ASK",
           .nodes = {Tiles{{{.label = "Royalty",
-                            .value = std::format("{:.2f}%", percentAsked(offer, steps_)),
+                            .value = tb::format("{:.2f}%", percentAsked(offer, steps_)),
                             .detail = shareOf(offer)}}},
                     Meter{.label = "They agree",
                           .value = static_cast<double>(chanceOfNegotiation(steps_) + bonus),
@@ -83,7 +83,7 @@ Page RoyaltyViewController::view(const Game& game) {
   if (offer == nullptr)
     return {.title = "Royalty", .nodes = {caption("This offer is not on the table anymore.")}};
   return {.title = offer->title,
-          .subtitle = std::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
+          .subtitle = tb::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
           .nodes = {posterOf(game.world, *offer), theMessage(game.world, email_), theAsk(game, *offer),
                     roleSection(*offer), theProject(game, *offer)}};
 }

@@ -1,9 +1,9 @@
 #include "screens/work/syndication_section.h"
 
 #include <algorithm>
-#include <format>
 #include <string>
 
+#include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/parts.h"
@@ -23,8 +23,8 @@ Row networkRow(const Game& game, const std::string& network, std::int64_t price,
 Row inForce(const Game& game, const Syndication& title) {
   const auto won = static_cast<std::size_t>(title.networkIndexWon);
   Row row = networkRow(game, title.networkNames[won], title.networkOffers[won],
-                       std::format("On the air, {} left of {}", counted(title.weeksRemaining, "week"),
-                                   counted(title.networkYears[won], "year")));
+                       tb::format("On the air, {} left of {}", counted(title.weeksRemaining, "week"),
+                                  counted(title.networkYears[won], "year")));
   row.picture = {{.kind = PictureKind::logo, .name = title.networkImages[won]}};
   row.tone = Tone::accent;
   return row;
@@ -59,7 +59,7 @@ std::optional<Section> syndicationSection(const Game& game, std::int64_t filmId)
   for (std::size_t deal = title.networkNameSigned.size(); deal-- > 0;) {
     section.nodes.emplace_back(
         networkRow(game, title.networkNameSigned[deal], title.networkOfferSigned[deal],
-                   std::format("Ran for {}", counted(title.networkYearSigned[deal], "year"))));
+                   tb::format("Ran for {}", counted(title.networkYearSigned[deal], "year"))));
   }
   return section;
 }

@@ -1,11 +1,11 @@
 #include "shells/sqlite/sqlite_port.h"
 
-#include <format>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "core/debug_log.h"
+#include "core/format.h"
 
 namespace tb {
 
@@ -55,8 +55,8 @@ Result<> createTables(const Database& database) {
       "CREATE TABLE pieces (key TEXT, piece INTEGER, shape INTEGER, value BLOB, PRIMARY KEY (key, piece)) "
       "WITHOUT ROWID",
       "CREATE TABLE kept_aside (key TEXT, piece INTEGER, shape INTEGER, value BLOB)",
-      std::format("PRAGMA application_id = {}", applicationId),
-      std::format("PRAGMA user_version = {}", schemaVersion),
+      tb::format("PRAGMA application_id = {}", applicationId),
+      tb::format("PRAGMA user_version = {}", schemaVersion),
       "COMMIT",
   };
   for (const std::string& statement : statements) {
@@ -68,7 +68,7 @@ Result<> createTables(const Database& database) {
 // Moves the rows of every damaged key out of the way. Rows of a key that are sound go along: part of a list
 // would pass for the whole.
 Result<> setDamagedRowsAside(const Database& database) {
-  const std::string keys = std::format("key IN (SELECT key FROM pieces WHERE {})", damagedRows);
+  const std::string keys = tb::format("key IN (SELECT key FROM pieces WHERE {})", damagedRows);
   const std::string statements[] = {
       "BEGIN IMMEDIATE",
       "INSERT INTO kept_aside SELECT key, piece, shape, value FROM pieces WHERE " + keys,
@@ -103,9 +103,9 @@ std::string sentence(const Error& error) {
     case SQLITE_READONLY:
       return "The career file is write-protected.";
     case SQLITE_IOERR:
-      return std::format("The disk reported an error ({}).", error.message);
+      return tb::format("The disk reported an error ({}).", error.message);
     default:
-      return std::format("The career file could not be written ({}).", error.message);
+      return tb::format("The career file could not be written ({}).", error.message);
   }
 }
 
@@ -118,14 +118,14 @@ OpenFailure failureOf(const Error& error, const std::filesystem::path& file) {
   using enum OpenFailure::Kind;
   switch (error.code) {
     case SQLITE_BUSY:
-      return {alreadyOpen, std::format("Another program is using {}. Close it there first.", file.string())};
+      return {alreadyOpen, tb::format("Another program is using {}. Close it there first.", file.string())};
     case laterSchema:
       return {
           newerVersion,
           "This career was saved by a newer version of Top Billing. Update the game to play it; nothing was "
           "changed."};
     default:
-      return {cannotWrite, std::format("Top Billing cannot keep its saves in {}. {}",
+      return {cannotWrite, tb::format("Top Billing cannot keep its saves in {}. {}",
                                        file.parent_path().string(), sentence(error))};
   }
 }
@@ -137,7 +137,7 @@ std::expected<std::filesystem::path, OpenFailure> moveAside(const std::filesyste
   int number = 0;
   do {
     number += 1;
-    aside = file.parent_path() / std::format("career.damaged-{}.sqlite", number);
+    aside = file.parent_path() / tb::format("career.damaged-{}.sqlite", number);
   } while (std::filesystem::exists(aside, error));
   for (const std::string_view companion : {"-wal", "-journal", "-shm", ""}) {
     const std::filesystem::path from = file.string() + std::string(companion);
@@ -163,7 +163,7 @@ std::expected<std::unique_ptr<SqlitePort>, OpenFailure> SqlitePort::open(
     if (!aside) return std::unexpected(aside.error());
     notice =
         Notice{"⚠️ Career File Damaged ⚠️",
-               std::format("Your career could not be read. The damaged file was kept as {}, and a new career "
+               tb::format("Your career could not be read. The damaged file was kept as {}, and a new career "
                            "begins.",
                            aside->string())};
     career = openCareer(file);
@@ -234,7 +234,7 @@ Result<SqlitePort::Career> SqlitePort::prepareCareer(Database database) {
 }
 
 Result<> SqlitePort::readPieces(Career& career) {
-  const auto bad = career.database.number(std::format("SELECT count(*) FROM pieces WHERE {}", damagedRows));
+  const auto bad = career.database.number(tb::format("SELECT count(*) FROM pieces WHERE {}", damagedRows));
   if (!bad) return std::unexpected(bad.error());
   if (*bad > 0) {
     if (auto done = setDamagedRowsAside(career.database); !done) return done;

@@ -14,6 +14,7 @@
 #include <span>
 #include <string>
 
+#include "banks/texts.h"
 #include "screens/app.h"
 #include "shells/system_clock.h"
 #include "shells/web/host.h"
@@ -58,6 +59,9 @@ EXPORT(answer) const std::byte* answerAddress() { return answer.data(); }
 
 // Incoming: the stored pieces. Everything else comes after this.
 EXPORT(open_store) void openStore() { game.emplace(tb::readPieces(incoming)); }
+
+// Incoming: the texts. Once; only the page that a new career begins with goes without them.
+EXPORT(hand_in_texts) void handInTexts() { tb::handInTexts(incomingText()); }
 
 // Incoming: the locale. Loads the career, or opens the form of a new one.
 EXPORT(start) void start() {

@@ -1,8 +1,6 @@
 // Where the points of a chart stand, in a square of 100 by 100 with the value axis upwards. The square is
 // stretched to the plot; texts and markers are placed over it in percent.
 
-import { area, curveMonotoneX, line, pie, arc } from "d3-shape";
-
 import type { Chart, ChartPoint } from "../view_types";
 
 export interface Bar {
@@ -42,21 +40,62 @@ export function plotOf(chart: Chart): Plot {
 
 const round = (figure: number): number => Math.round(figure * 100) / 100;
 
-export function linePath(points: readonly ChartPoint[], plot: Plot): string {
-  const shape = line<ChartPoint>(
-    (_, index) => round(plot.across(index)),
-    (point) => round(100 - plot.up(point.value)),
-  );
-  return shape.curve(curveMonotoneX)([...points]) ?? "";
+interface Place {
+  readonly x: number;
+  readonly y: number;
 }
 
+function placesOf(points: readonly ChartPoint[], plot: Plot): Place[] {
+  return points.map((point, index) => ({ x: round(plot.across(index)), y: round(100 - plot.up(point.value)) }));
+}
+
+// The slope of the curve at each place, so that it goes through all of them and never rises or falls where they
+// do not (M. Steffen, 1990).
+function slopesOf(places: readonly Place[]): number[] {
+  const last = places.length - 1;
+  const width = (index: number) => places[index + 1]!.x - places[index]!.x;
+  const steepness = (index: number) => (places[index + 1]!.y - places[index]!.y) / width(index);
+  const inner = places.map((_, index) => {
+    if (index === 0 || index === last) return 0;
+    const before = steepness(index - 1);
+    const after = steepness(index);
+    const mean = (before * width(index) + after * width(index - 1)) / (width(index - 1) + width(index));
+    return (Math.sign(before) + Math.sign(after)) * Math.min(Math.abs(before), Math.abs(after), Math.abs(mean) / 2);
+  });
+  const atEnd = (gap: number, neighbour: number) => (3 * steepness(gap) - inner[neighbour]!) / 2;
+  return inner.map((slope, index) => {
+    if (index === 0) return atEnd(0, 1);
+    return index === last ? atEnd(last - 1, last - 1) : slope;
+  });
+}
+
+// A curve through the places; a line through two, a dot at one.
+function curveThrough(places: readonly Place[]): string {
+  const [first, second] = places;
+  if (!first) return "";
+  const start = `M${first.x},${first.y}`;
+  if (!second) return `${start}Z`;
+  if (places.length === 2) return `${start}L${second.x},${second.y}`;
+  const slopes = slopesOf(places);
+  const pieces = places.slice(1).map((to, index) => {
+    const from = places[index]!;
+    const third = (to.x - from.x) / 3;
+    const out = [from.x + third, from.y + third * slopes[index]!];
+    const back = [to.x - third, to.y - third * slopes[index + 1]!];
+    return `C${[...out, ...back].map(round).join(",")},${to.x},${to.y}`;
+  });
+  return start + pieces.join("");
+}
+
+export function linePath(points: readonly ChartPoint[], plot: Plot): string {
+  return curveThrough(placesOf(points, plot));
+}
+
+// The area between the line and the bottom.
 export function areaPath(points: readonly ChartPoint[], plot: Plot): string {
-  const shape = area<ChartPoint>(
-    (_, index) => round(plot.across(index)),
-    100,
-    (point) => round(100 - plot.up(point.value)),
-  );
-  return shape.curve(curveMonotoneX)([...points]) ?? "";
+  const places = placesOf(points, plot);
+  const line = curveThrough(places).replace("Z", "");
+  return line && `${line}L${places.at(-1)!.x},100L${places[0]!.x},100Z`;
 }
 
 export function bars(kind: "bar" | "histogram", points: readonly ChartPoint[], plot: Plot): Bar[] {
@@ -74,11 +113,36 @@ export function bars(kind: "bar" | "histogram", points: readonly ChartPoint[], p
   });
 }
 
+const innerRadius = 27;
+const outerRadius = 49;
+
+// The ring from one share of a whole turn to another, both counted from the top.
+function slice(from: number, to: number): string {
+  if (to - from > 0.9999) return wholeRing;
+  const at = (radius: number, share: number) =>
+    [Math.sin(share * 2 * Math.PI), -Math.cos(share * 2 * Math.PI)].map((part) => round(radius * part)).join(",");
+  const large = to - from > 0.5 ? 1 : 0;
+  return (
+    `M${at(outerRadius, from)}A${outerRadius},${outerRadius},0,${large},1,${at(outerRadius, to)}` +
+    `L${at(innerRadius, to)}A${innerRadius},${innerRadius},0,${large},0,${at(innerRadius, from)}Z`
+  );
+}
+
+// An arc that ends where it starts is none, so a circle takes two. The hole goes the other way around.
+const circle = (radius: number, sweep: 0 | 1): string => {
+  const half = `A${radius},${radius},0,0,${sweep},0,`;
+  return `M0,${-radius}${half}${radius}${half}${-radius}Z`;
+};
+const wholeRing = circle(outerRadius, 1) + circle(innerRadius, 0);
+
 // One path a point, in a square of 100 around the middle; empty for a point without a share.
 export function slices(points: readonly ChartPoint[]): string[] {
-  const shape = arc<{ startAngle: number; endAngle: number }>().innerRadius(27).outerRadius(49);
-  const shares = pie<ChartPoint>()
-    .sort(null)
-    .value((point) => Math.max(point.value, 0))([...points]);
-  return shares.map((share) => (share.endAngle > share.startAngle ? (shape(share) ?? "") : ""));
+  const values = points.map((point) => Math.max(point.value, 0));
+  const whole = values.reduce((sum, value) => sum + value, 0);
+  let before = 0;
+  return values.map((value) => {
+    const from = before / whole;
+    before += value;
+    return value > 0 ? slice(from, before / whole) : "";
+  });
 }

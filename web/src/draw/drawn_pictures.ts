@@ -1,9 +1,27 @@
 // Pictures as the page shows them: each is drawn once, kept as the address of an image, and stands on the page as
 // one element, however much is drawn in it. In lists they are drawn when they come near the screen and the browser
-// has nothing else to do, so that a page with many of them opens at once.
+// has nothing else to do, so that a page with many of them opens at once. The art itself is a script of its own,
+// which is fetched after the first page has been painted: until then every picture is one that is not drawn yet.
 
-import { pictureArt } from "../art/picture_art";
 import type { Picture } from "../view_types";
+
+let art: typeof import("../art/picture_art") | undefined;
+let loading: Promise<void> | undefined;
+
+// Resolves when pictures can be drawn; rejects when the art could not be fetched. The next call then tries again.
+export function loadArt(): Promise<void> {
+  loading ??= import("../art/picture_art").then(
+    (loaded) => {
+      art = loaded;
+      ask();
+    },
+    (error: unknown) => {
+      loading = undefined;
+      throw error;
+    },
+  );
+  return loading;
+}
 
 // Some hundreds of pictures make a career; of those drawn longest ago some may have to be drawn again.
 const mostKept = 400;
@@ -26,12 +44,12 @@ export function addressIfDrawn(key: string): string | undefined {
   return address;
 }
 
-// The address of the picture, which is drawn now if it has not been.
-export function draw(shown: Picture): string {
+// The address of the picture, which is drawn now if it has not been; undefined before the art is loaded.
+export function draw(shown: Picture): string | undefined {
   const key = keyOf(shown);
   const known = addressIfDrawn(key);
-  if (known !== undefined) return known;
-  const address = addressOf(pictureArt(shown));
+  if (known !== undefined || !art) return known;
+  const address = addressOf(art.pictureArt(shown));
   kept.set(key, address);
   if (kept.size > mostKept) kept.delete(kept.keys().next().value!);
   return address;
@@ -75,7 +93,7 @@ function drawSome(timeLeft: () => number): void {
 }
 
 function ask(): void {
-  if (asked || near.size === 0) return;
+  if (asked || near.size === 0 || !art) return;
   asked = true;
   whenIdle(drawSome);
 }

@@ -65,7 +65,7 @@ export function Bar({ page }: { readonly page: View.Page }) {
     <header class="bar">
       <div class="bar-in">
         {isOpening(page) && (
-          <span class="wordmark" aria-hidden="true" dangerouslySetInnerHTML={{ __html: wordmark() }} />
+          <span class="wordmark" aria-hidden="true" dangerouslySetInnerHTML={{ __html: wordmark }} />
         )}
         {page.close.map((close) => (
           <button key="close" type="button" class="bar-back" data-handle={close.handle} onClick={press}>

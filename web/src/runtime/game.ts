@@ -11,6 +11,7 @@ interface Exports {
   incoming(size: number): number;
   answer(): number;
   open_store(): void;
+  hand_in_texts(): void;
   start(): void;
   view(): number;
   press(handle: number): void;
@@ -24,8 +25,8 @@ interface Exports {
 }
 
 const exportNames = [
-  "_initialize", "incoming", "answer", "open_store", "start", "view", "press", "type", "slide", "tick", "back",
-  "saving_failed", "export_store", "import_store",
+  "_initialize", "incoming", "answer", "open_store", "hand_in_texts", "start", "view", "press", "type", "slide", "tick",
+  "back", "saving_failed", "export_store", "import_store",
 ] as const satisfies readonly Exclude<keyof Exports, "memory">[];
 
 // The game stopped in the middle of something. `cause` is the trap; the log is what it last said.
@@ -43,6 +44,7 @@ export interface GameHost {
 const linesKept = 20;
 
 export class Game {
+  textsAreIn = false;
   private stopped = false;
 
   private constructor(
@@ -66,6 +68,15 @@ export class Game {
       exports.open_store();
     });
     return game;
+  }
+
+  // The rows of all banks. A new career can be filled in without them; everything after that needs them.
+  handInTexts(texts: Uint8Array): void {
+    this.guarded(() => {
+      this.handIn(texts);
+      this.exports.hand_in_texts();
+    });
+    this.textsAreIn = true;
   }
 
   // Loads the career, or opens the form of a new one. What follows, apart from the export and the import of

@@ -40,11 +40,13 @@ function careerOn(page: Page): Career {
 // The career that is stored here now; nothing when it can't be opened.
 export async function storedCareer(
   module: WebAssembly.Module,
+  texts: Uint8Array,
   locale: Uint8Array,
   storage: Storage,
 ): Promise<Career | undefined> {
   try {
     const game = await Game.open(module, { commit: () => undefined }, storage.all());
+    game.handInTexts(texts);
     game.start(locale);
     return careerOn(game.page());
   } catch {
@@ -53,7 +55,12 @@ export async function storedCareer(
 }
 
 // What the file holds, or why it can't be brought in: a sentence for the player.
-export async function readSave(module: WebAssembly.Module, locale: Uint8Array, file: Blob): Promise<ReadSave | string> {
+export async function readSave(
+  module: WebAssembly.Module,
+  texts: Uint8Array,
+  locale: Uint8Array,
+  file: Blob,
+): Promise<ReadSave | string> {
   if (file.size > largestFile) return "This file is too large to be a save of Top Billing.";
   let changes: Change[] = [];
   const keep = (more: Change[]) => {
@@ -63,6 +70,7 @@ export async function readSave(module: WebAssembly.Module, locale: Uint8Array, f
     const game = await Game.open(module, { commit: keep }, []);
     const refusal = game.importStore(new Uint8Array(await file.arrayBuffer()));
     if (refusal !== "") return refusal;
+    game.handInTexts(texts);
     game.start(locale);
     return { changes, career: careerOn(game.page()) };
   } catch (error) {

@@ -1,31 +1,32 @@
 // Keeps a game running in the page: loads it, saves what it writes, starts it anew when it stopped, and steps
 // aside for another tab. What the player sees of that is `state`; shell_view.tsx draws it.
 
+import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
 import { Game, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
+import { program, texts } from "./parts";
 import { type Career, downloadSave, type ReadSave, readSave, storedCareer } from "./saves";
 import { type Refusal, Storage } from "./storage";
 import { TabLock } from "./tab_lock";
 import { Ticker } from "./ticker";
 import { Updates } from "./updates";
 
-declare const WASM_FILE: string;
-
 export type Showing =
   | { readonly kind: "loading" }
   | { readonly kind: "elsewhere" } // the game is open in another tab
   | { readonly kind: "playing"; readonly page: Page }
   | { readonly kind: "stopped" } // the game stopped in the middle of something
-  | { readonly kind: "unavailable" }; // its program did not load
+  | { readonly kind: "unavailable" }; // its program or its texts did not load
 
 export interface ShellState {
   readonly showing: Showing;
   readonly refusal: Refusal | undefined; // nothing is saved here, and why
   readonly failing: string | undefined; // the last save did not get through, and why
+  readonly textsMissing: boolean; // a press needs the texts, which could not be fetched
   readonly updateReady: boolean;
   readonly installOffered: boolean;
 }
@@ -35,16 +36,18 @@ export class Shell {
     showing: { kind: "loading" },
     refusal: undefined,
     failing: undefined,
+    textsMissing: false,
     updateReady: false,
     installOffered: false,
   };
   private listener: ((state: ShellState) => void) | undefined;
 
-  private module: Promise<WebAssembly.Module> | undefined;
   private storage: Promise<Storage> | undefined;
   private game: Game | undefined;
   private runs = 0; // a run that was overtaken by a later one, or by another tab, leaves without a word
+  private waitingPress: number | undefined; // for the texts
   private askedToKeep = false;
+  private fetchesRest = false;
   private readonly locale = localeMessage(navigator.language || "en-US");
 
   private readonly lock = new TabLock({
@@ -59,7 +62,7 @@ export class Shell {
   private readonly backGesture = new BackGesture(() => this.actions.back());
 
   readonly actions: Actions = {
-    press: (handle) => this.act((game) => game.press(handle)),
+    press: (handle) => this.press(handle),
     type: (handle, text) => this.act((game) => game.type(handle, text)),
     slide: (handle, value) => this.act((game) => game.slide(handle, value)),
     back: () => this.act((game) => game.back()),
@@ -76,14 +79,18 @@ export class Shell {
   async start(): Promise<void> {
     // The program is loaded even while another tab plays: this page's own version of it may be gone from the
     // server by the time that tab is closed.
-    this.loadModule().catch(() => undefined);
+    program.get().catch(() => undefined);
     await this.lock.acquire();
-    await this.updates.start();
   }
 
-  // After a stop, or when the program did not load.
+  // After a stop, or when a part of the game did not load.
   startAgain(): void {
     void this.run();
+  }
+
+  // After a press that needs the texts, which did not load.
+  fetchTextsAgain(): void {
+    this.handInTexts().catch(() => this.change({ textsMissing: true }));
   }
 
   playHere(): void {
@@ -96,15 +103,15 @@ export class Shell {
   }
 
   async download(): Promise<void> {
-    await downloadSave(await this.loadModule(), await this.openStorage());
+    await downloadSave(await program.get(), await this.openStorage());
   }
 
   async read(file: Blob): Promise<ReadSave | string> {
-    return readSave(await this.loadModule(), this.locale, file);
+    return readSave(await program.get(), await texts.get(), this.locale, file);
   }
 
   async careerInPlay(): Promise<Career | undefined> {
-    return storedCareer(await this.loadModule(), this.locale, await this.openStorage());
+    return storedCareer(await program.get(), await texts.get(), this.locale, await this.openStorage());
   }
 
   // Puts the save in the place of the one in play, and plays it. Rejects when it can't be stored; everything is
@@ -119,13 +126,17 @@ export class Shell {
     this.runs += 1;
     const thisRun = this.runs;
     this.game = undefined;
+    this.waitingPress = undefined;
     this.show({ kind: "loading" });
     try {
-      const [module, storage] = await Promise.all([this.loadModule(), this.openStorage()]);
+      const storage = await this.openStorage();
+      const isNew = storage.all().length === 0;
+      const [module, rows] = await Promise.all([program.get(), isNew ? undefined : texts.get()]);
       if (thisRun !== this.runs) return;
       this.change({ refusal: storage.refusal });
       const game = await Game.open(module, { commit: (changes) => storage.save(changes) }, storage.all());
       if (thisRun !== this.runs) return;
+      if (rows) game.handInTexts(rows);
       game.start(this.locale);
       this.game = game;
       this.show({ kind: "playing", page: game.page() });
@@ -134,6 +145,42 @@ export class Shell {
       if (error instanceof GameStopped) this.stop(error);
       else this.show({ kind: "unavailable" });
     }
+  }
+
+  // A button that is pressed before the texts are there is answered when they are.
+  private press(handle: number): void {
+    if (!this.game || this.game.textsAreIn || isChoice(this.current.showing, handle)) {
+      this.act((game) => game.press(handle));
+    } else if (this.waitingPress === undefined) {
+      this.waitingPress = handle;
+      this.handInTexts().catch(() => {
+        this.waitingPress = undefined;
+        this.change({ textsMissing: true });
+      });
+    }
+  }
+
+  // Rejects when the texts could not be fetched.
+  private async handInTexts(): Promise<void> {
+    const { runs } = this;
+    const rows = await texts.get();
+    this.change({ textsMissing: false });
+    if (runs !== this.runs || !this.game || this.game.textsAreIn) return;
+    const handle = this.waitingPress;
+    this.waitingPress = undefined;
+    this.act((game) => {
+      game.handInTexts(rows);
+      if (handle !== undefined) game.press(handle);
+    });
+  }
+
+  // What the first page goes without: it is fetched once that is painted, and then all is kept for offline.
+  private async fetchRest(): Promise<void> {
+    if (this.fetchesRest) return;
+    this.fetchesRest = true;
+    await new Promise((painted) => requestAnimationFrame(() => setTimeout(painted)));
+    await Promise.allSettled([this.handInTexts(), loadArt()]);
+    await this.updates.start();
   }
 
   private act(action: (game: Game) => void): void {
@@ -168,17 +215,6 @@ export class Shell {
     storage?.close();
   }
 
-  private loadModule(): Promise<WebAssembly.Module> {
-    if (!this.module) {
-      this.module = fetchProgram();
-      // A failure is tried again the next time it is wanted.
-      this.module.catch(() => {
-        this.module = undefined;
-      });
-    }
-    return this.module;
-  }
-
   private openStorage(): Promise<Storage> {
     this.storage ??= Storage.open({
       failed: (why) => {
@@ -192,6 +228,7 @@ export class Shell {
 
   private show(showing: Showing): void {
     this.change({ showing });
+    if (showing.kind !== "loading") void this.fetchRest();
     const page = showing.kind === "playing" ? showing.page : undefined;
     this.ticker.watch(page);
     this.backGesture.watch(page);
@@ -203,10 +240,10 @@ export class Shell {
   }
 }
 
-async function fetchProgram(): Promise<WebAssembly.Module> {
-  const answer = await fetch(WASM_FILE);
-  if (!answer.ok) throw new Error(`The game's program: ${answer.status} ${answer.statusText}`);
-  // Compiling while it arrives is faster, but insists on a type that not every host knows.
-  const streams = answer.headers.get("Content-Type")?.startsWith("application/wasm") ?? false;
-  return streams ? WebAssembly.compileStreaming(answer) : WebAssembly.compile(await answer.arrayBuffer());
+// Options are chosen on the form of a new career too, where nothing of the texts is shown.
+function isChoice(showing: Showing, handle: number): boolean {
+  if (showing.kind !== "playing") return false;
+  return showing.page.nodes.some(
+    (node) => node.kind === "choice" && node.content.options.some((option) => option.handle === handle),
+  );
 }

@@ -54,7 +54,7 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
     case "unavailable":
       return (
         <Standing title="The game did not load" corner={corner}>
-          <p role="alert">Its program could not be fetched. Are you online? Your saves are safe in this browser.</p>
+          <p role="alert">A part of it could not be fetched. Are you online? Your saves are safe in this browser.</p>
           <p>
             <button type="button" class="shell-button shell-primary" onClick={() => shell.startAgain()}>
               Try again
@@ -115,6 +115,14 @@ function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Ele
       {state.refusal && <p class="shell-warning">{refusals[state.refusal]}</p>}
       {state.failing && (
         <p class="shell-warning">Not saved: {state.failing} You can play on; it tries again after each thing you do.</p>
+      )}
+      {state.textsMissing && (
+        <p class="shell-warning shell-at-foot">
+          The rest of the game could not be fetched. Are you online?{" "}
+          <button type="button" class="shell-button" onClick={() => shell.fetchTextsAgain()}>
+            Try again
+          </button>
+        </p>
       )}
       {mayUpdate(state) && (
         <p>

@@ -1,0 +1,9 @@
+#pragma once
+
+// Temp jobs. The rows stand in banks/jobs.txt.
+
+#include "banks/banks.h"
+
+#define JOBS_BANKS(BANK) BANK(jobDescription, 13, "")
+
+DECLARE_BANKS(JOBS_BANKS)

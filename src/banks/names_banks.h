@@ -1,0 +1,13 @@
+#pragma once
+
+// The names of invented people. The rows stand in banks/names.txt.
+
+#include "banks/banks.h"
+
+#define NAMES_BANKS(BANK)       \
+  BANK(firstNames, 92, "")      \
+  BANK(lastNameBank, 254, "")   \
+  BANK(maleFirstNames, 120, "") \
+  BANK(femaleFirstNames, 120, "")
+
+DECLARE_BANKS(NAMES_BANKS)

@@ -1,0 +1,144 @@
+#include "banks/texts.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "core/stop.h"
+
+namespace tb {
+
+#ifdef __wasm__
+
+namespace {
+
+std::string handedIn;
+
+}  // namespace
+
+void handInTexts(std::string texts) { handedIn = std::move(texts); }
+
+std::string_view texts() {
+  if (handedIn.empty()) stopTheGame("the texts are wanted before they were handed in");
+  return handedIn;
+}
+
+#else
+
+namespace {
+
+constexpr char allTimeFile[] = {
+#embed "banks/all_time.txt"
+};
+constexpr char auditionFile[] = {
+#embed "banks/audition.txt"
+};
+constexpr char bankableFile[] = {
+#embed "banks/bankable.txt"
+};
+constexpr char boxOfficeFile[] = {
+#embed "banks/box_office.txt"
+};
+constexpr char criticsFile[] = {
+#embed "banks/critics.txt"
+};
+constexpr char earningsFile[] = {
+#embed "banks/earnings.txt"
+};
+constexpr char filmFile[] = {
+#embed "banks/film.txt"
+};
+constexpr char jobsFile[] = {
+#embed "banks/jobs.txt"
+};
+constexpr char namesFile[] = {
+#embed "banks/names.txt"
+};
+constexpr char rateMoviesFile[] = {
+#embed "banks/rate_movies.txt"
+};
+constexpr char reviewSummaryFile[] = {
+#embed "banks/review_summary.txt"
+};
+constexpr char syndicationFile[] = {
+#embed "banks/syndication.txt"
+};
+constexpr char talentFile[] = {
+#embed "banks/talent.txt"
+};
+constexpr char titlesFile[] = {
+#embed "banks/titles.txt"
+};
+constexpr char userReviewsFile[] = {
+#embed "banks/user_reviews.txt"
+};
+constexpr char weekFile[] = {
+#embed "banks/week.txt"
+};
+
+constexpr std::array<std::string_view, 16> files = {{
+    {allTimeFile, sizeof allTimeFile},
+    {auditionFile, sizeof auditionFile},
+    {bankableFile, sizeof bankableFile},
+    {boxOfficeFile, sizeof boxOfficeFile},
+    {criticsFile, sizeof criticsFile},
+    {earningsFile, sizeof earningsFile},
+    {filmFile, sizeof filmFile},
+    {jobsFile, sizeof jobsFile},
+    {namesFile, sizeof namesFile},
+    {rateMoviesFile, sizeof rateMoviesFile},
+    {reviewSummaryFile, sizeof reviewSummaryFile},
+    {syndicationFile, sizeof syndicationFile},
+    {talentFile, sizeof talentFile},
+    {titlesFile, sizeof titlesFile},
+    {userReviewsFile, sizeof userReviewsFile},
+    {weekFile, sizeof weekFile},
+}};
+
+std::string allFiles() {
+  std::string all;
+  for (const std::string_view file : files) all += file;
+  return all;
+}
+
+}  // namespace
+
+std::string_view texts() {
+  static const std::string all = allFiles();
+  return all;
+}
+
+#endif
+
+namespace {
+
+std::string unescaped(std::string_view row) {
+  std::string text;
+  for (std::size_t place = 0; place < row.size(); ++place) {
+    const bool line_break = row.substr(place).starts_with("\\n");
+    text += line_break ? '\n' : row[place];
+    if (line_break) place += 1;
+  }
+  return text;
+}
+
+}  // namespace
+
+Banks readBanks(std::string_view texts) {
+  Banks banks;
+  std::vector<std::string>* bank = nullptr;
+  while (!texts.empty()) {
+    const std::size_t end = std::min(texts.find('\n'), texts.size());
+    const std::string_view line = texts.substr(0, end);
+    texts.remove_prefix(std::min(end + 1, texts.size()));
+    if (line.empty() || line.starts_with('#')) continue;
+    if (line.starts_with('[')) {
+      bank = &banks[line.substr(1, line.size() - 2)];
+    } else if (bank != nullptr) {
+      bank->push_back(unescaped(line));
+    }
+  }
+  return banks;
+}
+
+}  // namespace tb
