@@ -31,7 +31,7 @@ need_native() {
 
 need_page() {
   need "building the page" clang-19 lld-19 libc++-19-dev-wasm32 libc++abi-19-dev-wasm32 wasi-libc \
-    libclang-rt-19-dev-wasm32 cmake ninja-build ca-certificates
+    libclang-rt-19-dev-wasm32 binaryen cmake ninja-build ca-certificates
   # A Node.js that was installed by other means will do.
   command -v node >/dev/null && command -v npm >/dev/null || need "building the page" nodejs npm
 }

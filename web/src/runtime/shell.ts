@@ -88,9 +88,11 @@ export class Shell {
     void this.run();
   }
 
-  // After a press that needs the texts, which did not load.
+  // After a press that needs the texts, which did not load. The art did not either, then.
   fetchTextsAgain(): void {
-    this.handInTexts().catch(() => this.change({ textsMissing: true }));
+    this.handInTexts()
+      .then(loadArt)
+      .catch(() => this.change({ textsMissing: !this.game?.textsAreIn }));
   }
 
   playHere(): void {
