@@ -86,7 +86,7 @@ std::string countedWords(const std::vector<Story>& folded, NewsKind kind, std::s
   if (count > 1 || first->project.empty()) return tb::format("{} {}", count, what);
   const Audition& project = first->project.front();
   const bool is_commercial = project.typeOfFilm == filmType::commercial;
-  return tb::format("{} {}", is_commercial ? "A commercial" : project.title, what);
+  return tb::format("{} {}", is_commercial ? "a commercial" : project.title, what);
 }
 
 }  // namespace
@@ -113,7 +113,9 @@ FrontPage layFrontPage(const Game& game) {
 std::string foldedWords(const std::vector<Story>& folded) {
   const std::string refused = countedWords(folded, NewsKind::refusal, "said no");
   const std::string silent = countedWords(folded, NewsKind::silence, "never wrote back");
-  return refused.empty() || silent.empty() ? refused + silent : refused + ", " + silent;
+  std::string words = refused.empty() || silent.empty() ? refused + silent : refused + ", " + silent;
+  if (words.starts_with("a commercial")) words.front() = 'A';
+  return words;
 }
 
 }  // namespace tb

@@ -94,7 +94,7 @@ TEST_F(FrontPages, SeveralRefusalsAndSilencesFoldIntoOneRow) {
   tell(NewsKind::refusal, 1);
   EXPECT_EQ(foldedWords(lay().folded), "2 said no");
   tell(NewsKind::silence, 5);
-  EXPECT_EQ(foldedWords(lay().folded), "2 said no, A commercial never wrote back");
+  EXPECT_EQ(foldedWords(lay().folded), "2 said no, a commercial never wrote back");
 }
 
 TEST_F(FrontPages, AFirstRoleAndALeadAreMomentsAndOtherRolesAreNot) {

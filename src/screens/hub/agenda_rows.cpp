@@ -29,9 +29,8 @@ using namespace view;
 
 namespace {
 
-// Projects on show at once.
-constexpr std::size_t dueOnHome = 4;
-constexpr std::size_t dueOnATab = 3;
+// Projects on show at once: what there is room for stands below them, and is to be seen without scrolling.
+constexpr std::size_t mostDue = 3;
 
 std::string counted(std::int64_t count, const char* one, const char* several) {
   return tb::format("{} {}", count, count == 1 ? one : several);
@@ -44,14 +43,22 @@ Operation opens() {
 
 // --- What is due ---
 
+// A rating on a line of its own, and that nothing more can be done for it.
+std::string ratingWords(const char* name, double rating, const AgendaItem& item) {
+  return tb::format("\n{} {:.0f} of 100{}", name, rating, item.boost ? "" : " • fully prepared");
+}
+
 std::string readiness(const AgendaItem& item, const Audition& project) {
   switch (item.kind) {
     case AgendaItem::Kind::audition:
-      return tb::format("\nReady {:.0f} of 100", project.rehearsalRating);
+      return ratingWords("Ready", project.rehearsalRating, item);
     case AgendaItem::Kind::shoot:
-      return project.didAct == 1 ? tb::format("\nPerformance {:.0f} of 100", project.performanceRating) : "";
+      return project.didAct == 1 ? ratingWords("Performance", project.performanceRating, item) : "";
     default:
-      return tb::format("\nHype {:.0f}", project.hypeRating);
+      // Hype fills the opening of a film or a series; a commercial has none.
+      if (project.typeOfFilm == filmType::commercial) return "";
+      return tb::format("\nHype {:.0f}{}", project.hypeRating,
+                        project.promoteHypeCount > 0 ? " • promoted" : "");
   }
 }
 
@@ -157,8 +164,9 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
             .press = openNotSelected};
   }
   const Audition& project = world.saveAllAuditionList[outcome.index];
+  const char* const opened = project.typeOfFilm == filmType::series ? "Premiered" : "Opened";
   const char* const what = outcome.kind == Outcome::Kind::booked   ? "Booked"
-                           : outcome.kind == Outcome::Kind::opened ? "Opened"
+                           : outcome.kind == Outcome::Kind::opened ? opened
                                                                    : "Wrapped";
   return {.label = tb::format("{}: {}", what, titleWithSeason(project)),
           .detail = project.role,
@@ -170,14 +178,14 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
 // --- All of them ---
 
 // The first few; the rest in a row that leads to them.
-std::vector<Node> dueRows(const Game& game, std::size_t most) {
+std::vector<Node> dueRows(const Game& game) {
   const std::vector<AgendaItem> items = dueItems(game.world);
   std::vector<Node> rows;
-  for (std::size_t at = 0; at < items.size() && at < most; ++at) {
+  for (std::size_t at = 0; at < items.size() && at < mostDue; ++at) {
     rows.emplace_back(dueRow(game.world, items[at]));
   }
-  if (items.size() > most) {
-    rows.emplace_back(Row{.label = tb::format("{} more to come", items.size() - most),
+  if (items.size() > mostDue) {
+    rows.emplace_back(Row{.label = tb::format("{} more to come", items.size() - mostDue),
                           .press = opens<ActiveAuditionViewController>()});
   }
   return rows;
@@ -198,6 +206,17 @@ void addRunningRows(std::vector<Node>& rows, const Game& game, Wanted isWanted) 
 }
 
 constexpr auto anyKind = [](AgendaItem::Kind) { return true; };
+constexpr auto isGuild = [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::guild; };
+
+// What is due, and what of the wanted kinds there is room for. The guild opens once in a career, so it leads.
+template <class Wanted>
+std::vector<Node> rowsAhead(const Game& game, Wanted isWanted) {
+  std::vector<Node> rows;
+  addOpenRows(rows, game, isGuild);
+  rows.append_range(dueRows(game));
+  addOpenRows(rows, game, [&](AgendaItem::Kind kind) { return !isGuild(kind) && isWanted(kind); });
+  return rows;
+}
 
 std::vector<Node> underNext(std::vector<Node> rows) {
   if (rows.empty()) return {};
@@ -208,8 +227,7 @@ std::vector<Node> underNext(std::vector<Node> rows) {
 
 Section thisWeek(const Game& game) {
   if (const auto steps = firstSteps(game.world)) return firstWeek(*steps);
-  Section section{.heading = "THIS WEEK", .nodes = dueRows(game, dueOnHome)};
-  addOpenRows(section.nodes, game, anyKind);
+  Section section{.heading = "THIS WEEK", .nodes = rowsAhead(game, anyKind)};
   addRunningRows(section.nodes, game, anyKind);
   return section;
 }
@@ -224,8 +242,8 @@ std::vector<Node> lastWeek(const Game& game) {
 }
 
 std::vector<Node> nextAtWork(const Game& game) {
-  std::vector<Node> rows = dueRows(game, dueOnATab);
-  addOpenRows(rows, game, [](AgendaItem::Kind kind) { return kind != AgendaItem::Kind::training; });
+  std::vector<Node> rows =
+      rowsAhead(game, [](AgendaItem::Kind kind) { return kind != AgendaItem::Kind::training; });
   addRunningRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::answers; });
   return underNext(std::move(rows));
 }
@@ -234,7 +252,7 @@ std::vector<Node> nextInPublic(const Game& game) {
   std::vector<Node> rows;
   for (const AgendaItem& item : dueItems(game.world)) {
     const bool is_release = item.kind == AgendaItem::Kind::release;
-    if (is_release && rows.size() < dueOnATab) rows.emplace_back(dueRow(game.world, item));
+    if (is_release && rows.size() < mostDue) rows.emplace_back(dueRow(game.world, item));
   }
   return underNext(std::move(rows));
 }

@@ -26,6 +26,16 @@ std::string partAndType(const Story& story) {
   return project.didAct < 1 || project.role.empty() ? type : tb::format("{} • {}", project.role, type);
 }
 
+// What the line leaves out: the title, where it says no more than "a commercial", of the headline the part,
+// and the name of a job that is over, which stands until the next week ends.
+std::string detailWords(const WorldState& world, const Story& story, bool isLead) {
+  if (story.about.kind == NewsKind::jobEnded) return world.weeklyJobTitle;
+  const std::string part = isLead ? partAndType(story) : "";
+  if (story.project.empty() || story.text.contains(story.project.front().title)) return part;
+  const std::string title = titleWithSeason(story.project.front());
+  return part.empty() ? title : tb::format("{} • {}", title, part);
+}
+
 std::string amountWords(const Locale& locale, double amount) {
   if (amount == 0) return "";
   return (amount > 0 ? "+" : "") + shownMoney(locale, amount);
@@ -52,7 +62,7 @@ Headline headlineNode(const Game& game, const Story& story, bool isLead) {
   const News& about = story.about;
   return {.stamp = std::string(newsRule(about.kind).stamp),
           .text = story.text,
-          .detail = isLead ? partAndType(story) : "",
+          .detail = detailWords(game.world, story, isLead),
           .value = amountWords(game.locale, about.amount),
           .picture = pictureOf(game.world, story),
           .tone = toneOf(about.kind),
