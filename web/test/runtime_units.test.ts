@@ -90,7 +90,7 @@ test("money, numbers and months are written as the device writes them", () => {
   const capitals = (tag: string) => localeFields(tag).slice(6 + 12);
   assert.equal(capitals("ru-RU")[0], "ЯНВАРЬ"); // in every script, as its language does it
   assert.equal(capitals("tr-TR")[3], "NİSAN");
-  assert.equal(capitals("el-GR")[0], "ΙΑΝΟΥΑΡΙΟΣ");
+  assert.match(capitals("el-GR")[0]!, /^ΙΑΝΟΥΑΡΙΟ[ΣΥ]$/); // without its accent; the case is the browser's
   for (const tag of ["en", "ar-EG", "fa-IR", "hi-IN", "de-CH", "fr-FR", "tr-TR", "th-TH", "und", "eo"]) {
     const fields = localeFields(tag);
     assert.equal(fields.length, 6 + 2 * 12, tag);
