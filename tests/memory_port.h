@@ -1,6 +1,6 @@
 #pragma once
 
-// The store's pieces in memory, and commits that fail when a test says so.
+// A store port in memory, with commits that can be made to fail.
 
 #include <algorithm>
 #include <cstdint>
@@ -40,7 +40,7 @@ class MemoryPort : public StorePort {
 
   std::map<std::pair<std::string, std::int64_t>, StoredPiece> pieces;
   std::vector<StoredPiece> keptAside;
-  std::vector<StoreChange> lastCommit;  // of those that succeeded
+  std::vector<StoreChange> lastCommit;  // the last successful one
   int commits = 0;
 
  private:

@@ -25,7 +25,7 @@ std::string joined(std::initializer_list<std::string> parts) {
   return line;
 }
 
-// What a shell shows by color alone. Nothing for what is plain.
+// The tone as text, because a shell shows it by color. Empty for plain.
 std::string toneMark(Tone tone) {
   constexpr std::array marks = {"", " <quiet>", " <good>", " <warning>", " <accent>"};
   return marks[static_cast<std::size_t>(tone)];
@@ -44,13 +44,13 @@ std::string stepMark(Row::Step step) {
   return marks[static_cast<std::size_t>(step)];
 }
 
-// The text without its figures, which say how far a thing is and not what it is.
+// The text without digits.
 std::string withoutDigits(std::string text) {
   std::erase_if(text, [](char letter) { return letter >= '0' && letter <= '9'; });
   return text;
 }
 
-// Walks a laid-out page and hands every text and every usable thing to the visitor.
+// Visits every text and every usable item of a laid-out page.
 template <class OnText, class OnUse>
 class Walk {
  public:
@@ -77,7 +77,7 @@ class Walk {
     on_page_ = true;
     nodes(page.nodes);
     for (const Button& main : page.main) {
-      on_page_ = main.label != "End Week";  // that one stands around every page
+      on_page_ = main.label != "End Week";  // End Week is on every page
       node(main);
     }
     on_page_ = false;
@@ -101,7 +101,7 @@ class Walk {
   void nodes(const std::vector<Node>& nodes) {
     for (const Node& each : nodes) std::visit([this](const auto& kind) { this->node(kind); }, each.node);
   }
-  // One of many that look the same. What stands in an item of a list belongs to it.
+  // Visits an item of a list together with its contents.
   template <class Visit>
   void asItem(const std::string& likeness, Visit visit) {
     const std::string outer = likeness_;
@@ -258,7 +258,7 @@ class Walk {
 
 }  // namespace
 
-// The state as the next launch would find it. Only what was written since the last look is decoded again.
+// The state in the store. Decodes only what was written since the last comparison.
 class StoredWorld {
  public:
   explicit StoredWorld(const Game& game) : stored_{.store = game.store, .random = game.random} {}
@@ -274,7 +274,7 @@ class StoredWorld {
   }
 
  private:
-  // True when the store holds another value than at the last look.
+  // True when the store's value changed since the last comparison.
   bool isChanged(std::string_view key) {
     static const SaveStore::Entry none;
     const SaveStore::Entry* const entry = stored_.store.entry(key);

@@ -1,7 +1,6 @@
 #pragma once
 
-// A player: finds things on the page by what is written on them, and uses them. After each use the test fails
-// where memory and store differ, so no action of a test goes unsaved.
+// A player who uses items of the page by their labels. After each use, memory and store are compared.
 
 #include <gtest/gtest.h>
 #include <initializer_list>
@@ -20,44 +19,44 @@ class Player {
  public:
   explicit Player(App& app);
 
-  // Uses the button, row, card, option, tab or icon with this label, or with this name for a screen reader.
-  // Fails the test when there is none, or when it is off.
+  // Presses the button, row, card, option, tab or icon with this label or screen-reader name. Fails the test
+  // when there is none or it is off.
   void press(const std::string& label);
-  void follow(std::initializer_list<std::string> labels);  // one after the other
-  // Writes into the field, or moves the slider, with this label.
+  void follow(std::initializer_list<std::string> labels);  // presses in order
+  // Types into the field, or moves the slider, with this label.
   void type(const std::string& label, const std::string& text);
   void slide(const std::string& label, double value);
 
-  // Everything that can be read on the page, line by line, the dialog first. What a shell shows by color or
-  // weight stands behind it in angle brackets, what can be pressed in square ones.
+  // All texts of the page, one per line, the dialog first. Tones are appended in angle brackets; usable items
+  // are in square brackets.
   [[nodiscard]] std::vector<std::string> words() const;
   [[nodiscard]] bool sees(const std::string& text) const;
   [[nodiscard]] std::string title() const { return app_.view().title; }
-  // The page as it is laid out; good until the next use of anything.
+  // The laid-out page; valid until the next use.
   [[nodiscard]] const view::Page& page() const { return app_.view(); }
   void expectSees(std::initializer_list<std::string> texts) const;
-  // The title of the notice over the page; empty when there is none.
+  // The title of the open notice; empty when there is none.
   [[nodiscard]] std::string notice() const;
-  // The passing line of what was done just now; empty when there is none.
+  // The passing line; empty when there is none.
   [[nodiscard]] std::string said() const;
-  // That notice is over the page, and is answered with OK.
+  // Expects the notice and answers it with OK.
   void expectTold(const std::string& title);
 
-  // The handles of all that can be pressed, typed into or slid now.
+  // An item that can be pressed, typed into or slid.
   struct Usable {
     std::string label;
     view::Handle handle;
     enum class Kind : std::uint8_t { press, type, slide } kind;
     double minimum = 0;
     double maximum = 0;
-    bool onPage = false;    // false: a tab, an icon, a way back or an answer, which stand around the page
-    int item = 0;           // the card or list item that it stands in, from 1
-    std::string likeness;   // the same for items that differ in names and figures only; empty outside items
-    std::string name = {};  // for a screen reader, where it is not the label
+    bool onPage = false;    // false: a tab, an icon, the back button or an answer
+    int item = 0;           // number of the card or list item that contains it, from 1
+    std::string likeness;   // equal for items that differ only in names and figures; empty outside items
+    std::string name = {};  // screen-reader name, if it differs from the label
   };
   [[nodiscard]] std::vector<Usable> usable() const;
 
-  // Uses what was found by usable().
+  // Uses an item from usable().
   void press(const Usable& usable);
   void type(const Usable& usable, const std::string& text);
   void slide(const Usable& usable, double value);

@@ -1,6 +1,6 @@
 #pragma once
 
-// Records in a line: the fields that set one apart, by name, as in "filmId 7, genres [Drama, Western]".
+// Records as text with their nondefault fields: "filmId 7, genres [Drama, Western]".
 
 #include <format>
 #include <string>
@@ -32,7 +32,7 @@ std::string textOf(const std::vector<T>& values) {
   return "[" + text + "]";
 }
 
-// The fields in which the record is another than `before`.
+// The fields that differ from `before`.
 template <RecordType Record>
 std::string changes(const Record& before, const Record& record) {
   std::vector<std::string> old;
@@ -46,7 +46,7 @@ std::string changes(const Record& before, const Record& record) {
   return text;
 }
 
-// The fields that are not as in a new record; the records of a list one after the other, each in brackets.
+// The fields that differ from a default record; records of a list are each in brackets.
 template <RecordType Record>
 std::string shown(const Record& record) {
   return changes(Record{}, record);
@@ -58,7 +58,7 @@ std::string shown(const List<Record>& list) {
   return text;
 }
 
-// A record inside another one.
+// A nested record.
 template <RecordType Record>
 std::string textOf(const Record& record) {
   return "(" + shown(record) + ")";

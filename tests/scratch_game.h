@@ -1,6 +1,6 @@
 #pragma once
 
-// A game whose store lasts as long as the test.
+// A game with a store in memory.
 
 #include <gtest/gtest.h>
 #include <string>
@@ -13,8 +13,7 @@
 namespace tb::test {
 
 struct ScratchGame {
-  // Chance is scripted draw by draw. For a whole week, whose steps may draw as they like, it is low unless a
-  // test says otherwise.
+  // By default unscripted draws fail. For tests of a whole week, `Unscripted::low` gives low values instead.
   explicit ScratchGame(Unscripted unscripted = Unscripted::fails) : random(unscripted) {}
 
   MemoryPort port;
@@ -23,7 +22,7 @@ struct ScratchGame {
   Game game{.store = store, .random = random};
   WorldState& world = game.world;
 
-  // The newest line of the week's feed and of the log.
+  // Expects the line as the newest one of the feed and of the log.
   void expectToldInBothLists(const std::string& line) const {
     ASSERT_FALSE(world.WeekFeed.empty() || world.activityTracker.empty()) << "nothing of " << line;
     EXPECT_EQ(world.WeekFeed.back(), line);
@@ -39,7 +38,7 @@ struct ScratchGame {
   }
 };
 
-// A rule tried in a game of its own.
+// Base class for tests of a rule.
 struct RuleTest : testing::Test, ScratchGame {
   using ScratchGame::ScratchGame;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-// Chance, scripted: a test says what the next draws give, and sees when a rule draws more or fewer.
+// A scripted random source: tests set the next draws and detect extra or missing ones.
 
 #include <cstdint>
 #include <deque>
@@ -10,10 +10,10 @@
 
 namespace tb::test {
 
-// What a draw gives that the test did not script.
+// The result of an unscripted draw.
 enum class Unscripted : std::uint8_t {
   fails,
-  low,  // the low end of its range, for stories of many draws
+  low,  // the lowest value, for tests with many draws
 };
 
 class ScriptedRandom : public RandomSource {
@@ -23,23 +23,23 @@ class ScriptedRandom : public RandomSource {
   ScriptedRandom& operator=(const ScriptedRandom&) = delete;
   ~ScriptedRandom() override { EXPECT_EQ(words_.size(), 0u) << "draws that no rule took"; }
 
-  // The next RandomRange(n) gives `value`.
+  // The next draw is RandomRange(n) and gives `value`.
   ScriptedRandom& range(std::int64_t n, std::int64_t value) {
-    // The middle of the words that RandomRange maps to `value`, so that none is drawn again.
+    // The middle of the words that map to `value`, so that none is rejected.
     const auto numerator =
         (static_cast<unsigned __int128>(value) << 64) + (static_cast<unsigned __int128>(1) << 63);
     words_.push_back(static_cast<std::uint64_t>(numerator / static_cast<unsigned __int128>(n)));
     return *this;
   }
 
-  // The next RandomUnit(a, b) gives a + share · (b - a), to the resolution of the draw; share 1 gives exactly
-  // b.
+  // The next draw is RandomUnit(a, b) and gives a + share · (b - a) to the resolution of the draw; share 1
+  // gives exactly b.
   ScriptedRandom& unit(double share) {
     constexpr std::int64_t steps = (std::int64_t{1} << 53) + 1;
     return range(steps, share >= 1 ? steps - 1 : static_cast<std::int64_t>(share * 0x1p53));
   }
 
-  // The next `count` draws are of no interest: they give the low end.
+  // The next `count` draws give their lowest values.
   ScriptedRandom& any(int count) {
     words_.insert(words_.end(), static_cast<std::size_t>(count), lowWord);
     return *this;
@@ -56,7 +56,7 @@ class ScriptedRandom : public RandomSource {
   }
 
  private:
-  // The low end of every range, and never drawn again.
+  // The lowest value of every range; never rejected.
   static constexpr std::uint64_t lowWord = 1;
 
   Unscripted unscripted_;

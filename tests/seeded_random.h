@@ -1,6 +1,6 @@
 #pragma once
 
-// Chance that is the same in every run.
+// A deterministic random source.
 
 #include <cstdint>
 #include <random>

@@ -20,7 +20,7 @@ std::string elementText(const T& element) {
   } else if constexpr (requires { textOf(element); }) {
     return textOf(element);
   } else {
-    return "one";  // a record that is never saved
+    return "one";  // a record type without fields for the save file
   }
 }
 
@@ -29,11 +29,11 @@ void addChanges(std::string& text, std::string_view key, const T& before, const 
   if (!(before == now)) text += std::format("  {} {}\n", key, elementText(now));
 }
 
-// What the lines of the week are about is tried with the front page.
+// News is tested with the front page.
 void addChanges(std::string&, std::string_view, const std::vector<News>&, const std::vector<News>&) {}
 
-// Lists grow at their ends: what is alike at both is left out, and between that element stands against
-// element where their number is the same.
+// Lists grow at their ends: equal elements at both ends are omitted. The rest is compared element by element
+// if the number is the same.
 template <class T>
 void addChanges(std::string& text, std::string_view key, const List<T>& before, const List<T>& now) {
   const std::size_t shorter = std::min(before.size(), now.size());

@@ -1,7 +1,6 @@
 #pragma once
 
-// What rules do, case by case, on a sheet that is held against a file in tests/golden: figures over a range
-// of inputs, and what changed in the state.
+// A sheet of cases that is compared with a file in tests/golden: values for inputs, and changes of the state.
 
 #include <functional>
 #include <string>
@@ -20,13 +19,13 @@ class Sheet {
   Sheet& operator=(const Sheet&) = delete;
   ~Sheet();
 
-  // A line of its own.
+  // Adds a line.
   void line(const std::string& text) { text_ += text + "\n"; }
 
-  // What the rule changes in a new state that was prepared so. Chance is the same for the same `seed`.
+  // Adds the changes that the rule makes to a prepared new state, with a generator seeded by `seed`.
   void changes(const std::string& what, const Prepare& prepare, const Rule& rule, std::uint64_t seed = 1);
 
-  // The text that `read` makes of that state and of chance.
+  // Adds the text that `read` returns for the prepared state.
   void text(const std::string& what, const Prepare& prepare, const std::function<std::string(Game&)>& read,
             std::uint64_t seed = 1);
 

@@ -1,5 +1,4 @@
-// The browser of the tests and of the drawing of icons: Chromium without a window, with nothing that talks to
-// a network by itself.
+// Headless Chromium for tests and icons, without background network requests.
 
 import { chromium } from "playwright-core";
 

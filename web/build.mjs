@@ -1,6 +1,6 @@
-// Builds the static site into dist/: the page's script and styles, the game's WebAssembly, and the service
-// worker that keeps them for play without a network. Every file but the entry points carries a hash of its
-// content in its name, so that an old page never meets a new file.
+// Builds the static site into dist/: script, styles, WebAssembly, and the service worker for offline play.
+// All files except the entry points have a content hash in their name, so that an old page never loads a new
+// file.
 //
 //   node build.mjs [--wasm <file>] [--out <directory>]
 
@@ -20,8 +20,7 @@ const { values: options } = parseArgs({
   },
 });
 
-// Preact, hooks and const enums need nothing newer; these are the browsers that have WebAssembly's
-// bulk memory, Web Locks and IndexedDB's commit().
+// The oldest browsers with WebAssembly bulk memory, Web Locks and IndexedDB's commit().
 const browsers = ["es2022", "chrome100", "firefox100", "safari16"];
 
 const bundling = {
@@ -53,7 +52,7 @@ const staticFiles = readdirSync(join(here, "static"), { recursive: true, withFil
 
 const wasm = putHashed("top_billing", "wasm", readFileSync(options.wasm));
 
-// The rows of all banks, without the comments and the empty lines between them (src/banks/texts.h).
+// The rows of all banks, without comments and empty lines (src/banks/texts.h).
 const banks = join(here, "../src/banks");
 const rows = readdirSync(banks)
   .filter((name) => name.endsWith(".txt"))
@@ -62,7 +61,7 @@ const rows = readdirSync(banks)
   .filter((line) => line !== "" && !line.startsWith("#"));
 const texts = putHashed("texts", "txt", rows.map((row) => `${row}\n`).join(""));
 
-// The art is a script of its own, which the page imports when it has been painted.
+// The art is a separate script, which the page imports after its first paint.
 const art = await build({ ...bundling, entryPoints: [join(here, "src/art/picture_art.ts")], format: "esm" });
 const artScript = putHashed("art", "js", art.outputFiles[0].contents);
 const artApart = {
@@ -89,10 +88,10 @@ const names = { "{script}": script, "{style}": style, "{wasm}": wasm };
 const index = readFileSync(join(here, "static/index.html"), "utf8").replace(/\{\w+\}/g, (name) => names[name] ?? name);
 put("index.html", index);
 
-// What is kept for play without a network. Home screens keep their own copies of the PNG icons.
+// The files for offline play. Home screens keep their own copies of the PNG icons.
 const files = [script, style, wasm, texts, artScript, ...staticFiles.filter((name) => !name.endsWith(".png"))];
 
-// The version is a hash over all of it: any change is a new version, nothing else is.
+// The version is a hash of all files.
 const version = hashOf([index, ...files.map((name) => name + hashOf(readFileSync(join(options.out, name))))].join("\n"));
 const worker = await build({
   ...bundling,
@@ -103,8 +102,7 @@ const worker = await build({
 });
 put("service-worker.js", worker.outputFiles[0].contents);
 
-// Pressed as small as it gets, for servers that hand out what is compressed already: that takes seconds, too
-// long to do while somebody waits.
+// Precompressed files at the highest level, which takes too long to do per request.
 for (const name of [wasm, script, style, texts, artScript]) {
   const content = readFileSync(join(options.out, name));
   put(`${name}.br`, brotliCompressSync(content, { params: { [constants.BROTLI_PARAM_QUALITY]: constants.BROTLI_MAX_QUALITY } }));

@@ -1,5 +1,5 @@
-// Draws the icon of the game, a star in the lights of a marquee, and writes it to static/icons/: the SVG, and
-// the PNGs for home screens. Run by hand after a change of the drawing; the files are committed.
+// Draws the game's icon, a star in marquee lights, and writes the SVG and the PNGs to static/icons/. Run it
+// after changing the drawing; the files are committed.
 //
 //   node icon.mjs
 
@@ -16,7 +16,7 @@ function round(value) {
   return Math.round(value * 10) / 10;
 }
 
-// Ten facets, light and dark in turn, like brass letters under a lamp. Flat colours keep the PNGs small.
+// Ten alternating light and dark facets. Flat colors keep the PNGs small.
 function star(radius) {
   const points = Array.from({ length: 10 }, (_, index) => {
     const angle = (index * Math.PI) / 5 - Math.PI / 2;
@@ -31,7 +31,7 @@ function star(radius) {
     .join("");
 }
 
-// Bulbs in a ring, every other one brighter, as if the light were running.
+// Bulbs in a ring, every other one brighter.
 function bulbs(radius) {
   const count = 20;
   return Array.from({ length: count }, (_, index) => {
@@ -42,8 +42,8 @@ function bulbs(radius) {
   }).join("");
 }
 
-// `corner`: how far the background is rounded; a mask or a phone rounds it by itself. `scale`: how much of the
-// icon the drawing takes; a mask may cut away all but the middle four fifths.
+// `corner`: the background's corner radius (0 when a mask or the phone rounds it). `scale`: the size of the
+// drawing; a mask may show only the middle four fifths.
 function drawing(corner, scale) {
   return `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${size} ${size}">
 <rect width="${size}" height="${size}" rx="${corner}" fill="#54102a"/>

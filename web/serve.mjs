@@ -1,9 +1,8 @@
-// Serves the built site on this machine, to be played at the address that it prints.
+// Serves the built site locally and prints its address.
 //
 //   node serve.mjs [--dir <directory>] [--port <number>] [--open]
 //
-// The next free port is taken where that one is in use. --open opens the address in a browser where there is a
-// desktop to open it on.
+// Uses the next free port if the given one is in use. --open opens the address in a browser.
 
 import { spawn } from "node:child_process";
 import { dirname, join } from "node:path";
@@ -23,6 +22,6 @@ const { address } = await serve(options.dir, Number(options.port));
 console.log(`Top Billing is served at ${address}`);
 if (options.open && (process.env.DISPLAY || process.env.WAYLAND_DISPLAY)) {
   spawn("xdg-open", [address], { stdio: "ignore", detached: true })
-    .on("error", () => undefined) // no such program: the address is printed
+    .on("error", () => undefined) // no such program; the address is printed anyway
     .unref();
 }

@@ -1,5 +1,4 @@
-// A server of static files for this machine, for playing and for the tests: compressed once, with the types
-// that a browser insists on.
+// A local static file server with compression, for playing and for tests.
 
 import { createReadStream } from "node:fs";
 import { readFile, stat } from "node:fs/promises";
@@ -25,15 +24,15 @@ const encoders = {
   gzip: (content) => promisify(gzip)(content, { level: 9 }),
 };
 
-// A name with a hash in it never changes its content. Everything else is asked for anew each time, so that a
-// new version is found at once.
+// Files with a hash in their name never change. All others are revalidated, so that a new version is found at
+// once.
 function cacheControl(name) {
   return /-[0-9a-f]{10}\.\w+$/.test(name) ? "public, max-age=31536000, immutable" : "no-store";
 }
 
 class Site {
   #folder;
-  #sent; // is told the size of each answer
+  #sent; // callback with the size of each response
   #compressed = new Map(); // by encoding, name and time of change
 
   constructor(folder, sent) {
@@ -72,7 +71,7 @@ class Site {
     return response.end(content);
   }
 
-  // The file that an address means; none when the address leaves the folder.
+  // The file of an address; none when it is outside the folder.
   #fileOf(url) {
     let path;
     try {
@@ -91,13 +90,13 @@ class Site {
   }
 }
 
-// As the build left it beside the file, or made now.
+// The precompressed file, or compressed now.
 async function compressed(encoding, file) {
   const made = () => readFile(file).then(encoders[encoding]);
   return encoding === "br" ? readFile(`${file}.br`).catch(made) : made();
 }
 
-// The best that the browser takes: "gzip, br;q=0" takes gzip alone.
+// The best encoding that the browser accepts: gzip for "gzip, br;q=0".
 function wantedEncoding(request) {
   const listed = String(request.headers["accept-encoding"] ?? "").split(",");
   const accepted = listed.filter((part) => !/;\s*q=0(\.0*)?\s*$/.test(part)).map((part) => part.split(";")[0].trim());
@@ -109,8 +108,8 @@ function refuse(response, status) {
   response.end(status === 404 ? "Not found\n" : "Not allowed\n");
 }
 
-// Serves the folder on the port, or on the next free one; on any with 0. Resolves to the address and the way to
-// stop, once it listens. `sent` is told the size of each answer's content, in bytes.
+// Serves the folder on the port or the next free one; 0 means any port. Resolves to the address and a
+// function to stop, once it is listening. `sent` is called with the size of each response body in bytes.
 export function serve(folder, port, sent = () => undefined) {
   const site = new Site(normalize(folder), sent);
   const server = createServer((request, response) => {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Titles of all time: tables. The rows stand in banks/all_time.txt.
+// Tables of the most successful titles. The rows are in banks/all_time.txt.
 
 #include "banks/banks.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Projects on their way. The rows stand in banks/audition.txt.
+// Log lines about submissions, auditions and shoots. The rows are in banks/audition.txt.
 
 #include "banks/banks.h"
 

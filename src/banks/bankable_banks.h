@@ -1,6 +1,6 @@
 #pragma once
 
-// Stars: a table. The rows stand in banks/bankable.txt.
+// The table of stars. The rows are in banks/bankable.txt.
 
 #include "banks/banks.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-// The game's texts. A bank is a constant list of rows; which row comes is drawn, each with the same chance.
-// The rows stand in banks/*.txt. Each of these files has a header of its own, such as banks/film_banks.h,
-// which lists its banks: a new bank concerns only those who draw from its file. Rows that are told to the
-// player are drawn with tellRow() (banks/draw.h), the others here.
+// The game's texts. A bank is a constant list of rows, from which one is drawn uniformly. The rows are in
+// banks/*.txt. Each of these files has its own header, such as banks/film_banks.h, so a new bank recompiles
+// only the users of its file. Sentences for the player are drawn with drawFreshRow() (banks/draw.h), other
+// rows with drawRow().
 
 #include <span>
 #include <string>
@@ -14,25 +14,25 @@
 
 namespace tb {
 
-// A bank by its name in the texts.
+// A bank, identified by its name in the text files.
 struct Bank {
   std::string_view name;
   bool operator==(const Bank&) const = default;
 };
 
-// A file's list holds BANK(name, number of rows, placeholders that its rows may hold) for each bank. This
-// makes each of them a constant, such as bank::premiere; the tests hold the rows to the rest.
+// A header lists BANK(name, number of rows, allowed placeholders) for each bank. This declares a constant for
+// each, such as bank::premiere; the tests check the number of rows and the placeholders.
 #define DECLARE_BANK(name, count, placeholders) inline constexpr Bank name{#name};
 #define DECLARE_BANKS(list) \
   namespace tb::bank {      \
   list(DECLARE_BANK)        \
   }
 
-// The rows of a bank as they stand in its file, in its order: with the marks of banks/draw.h.
-// There have to be texts (banks/texts.h).
+// The rows of a bank in the order of its file, including the marks of banks/draw.h. The texts must be set
+// (banks/texts.h).
 [[nodiscard]] std::span<const std::string> rowsOf(Bank bank);
 
-// A row of the bank, drawn with RandomRange(its count): a name, a handle. It can come twice running.
+// A uniformly drawn row of the bank, such as a name. The same row can be drawn twice in a row.
 [[nodiscard]] const std::string& drawRow(RandomSource& random, Bank bank);
 
 }  // namespace tb

@@ -1,6 +1,6 @@
 #pragma once
 
-// The box office. The rows stand in banks/box_office.txt.
+// Box office. The rows are in banks/box_office.txt.
 
 #include "banks/banks.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Critics. The rows stand in banks/critics.txt.
+// Critics. The rows are in banks/critics.txt.
 
 #include "banks/banks.h"
 

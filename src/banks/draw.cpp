@@ -9,8 +9,8 @@ namespace tb {
 
 namespace {
 
-constexpr std::size_t mostRemembered = 20;  // rows of a bank
-constexpr std::int64_t fansToSpeakOf = 1'000;
+constexpr std::size_t maxRecent = 20;  // rows per bank
+constexpr std::int64_t minFansForFame = 1'000;
 
 enum Need : std::uint8_t { agent = 1, set = 2, fame = 4, job = 8, booked = 16, principal = 32 };
 
@@ -24,7 +24,7 @@ constexpr std::array<Mark, 5> marks = {{{.word = "@agent ", .need = agent},
                                         {.word = "@job ", .need = job},
                                         {.word = "@booked ", .need = booked}}};
 
-bool hasWrappedAPart(const WorldState& world) {
+bool hasWrappedRole(const WorldState& world) {
   return std::ranges::contains(world.saveAllFilmList, 1, &Film::didAct);
 }
 
@@ -33,9 +33,9 @@ bool holds(const WorldState& world, const Subject& subject, Need need) {
     case agent:
       return signedAgent(world).has_value();
     case set:
-      return hasWrappedAPart(world);
+      return hasWrappedRole(world);
     case fame:
-      return world.totalFans >= fansToSpeakOf;
+      return world.totalFans >= minFansForFame;
     case job:
       return world.weeklyJobContractRemaining >= 1;
     case booked:
@@ -52,15 +52,15 @@ bool isTrue(const WorldState& world, const Subject& subject, const MarkedRow& ro
   });
 }
 
-template <class CanBeTold>
-std::size_t standIn(std::size_t drawn, std::size_t rows, const std::vector<std::size_t>& told,
-                    CanBeTold isTrueRow) {
+template <class IsTrueRow>
+std::size_t replacementRow(std::size_t drawn, std::size_t rows, const std::vector<std::size_t>& recent,
+                           IsTrueRow isTrueRow) {
   for (std::size_t step = 0; step < rows; ++step) {
     const std::size_t row = (drawn + step) % rows;
-    if (!std::ranges::contains(told, row) && isTrueRow(row)) return row;
+    if (!std::ranges::contains(recent, row) && isTrueRow(row)) return row;
   }
-  const auto oldest = std::ranges::find_if(told, isTrueRow);
-  return oldest == told.end() ? drawn : *oldest;
+  const auto oldest = std::ranges::find_if(recent, isTrueRow);
+  return oldest == recent.end() ? drawn : *oldest;
 }
 
 template <class Work>
@@ -97,12 +97,12 @@ MarkedRow markedRow(std::string_view row) {
   return marked;
 }
 
-std::string_view tellRow(Game& game, Bank bank, const Subject& subject) {
+std::string_view drawFreshRow(Game& game, Bank bank, const Subject& subject) {
   const std::span<const std::string> rows = rowsOf(bank);
   const auto drawn = static_cast<std::size_t>(RandomRange(game.random, std::ssize(rows)));
   const auto isTrueRow = [&](std::size_t row) { return isTrue(game.world, subject, markedRow(rows[row])); };
-  const std::size_t row = standIn(drawn, rows.size(), game.told.of(bank.name), isTrueRow);
-  game.told.add(bank.name, row, std::min(rows.size() / 2, mostRemembered));
+  const std::size_t row = replacementRow(drawn, rows.size(), game.recentRows.of(bank.name), isTrueRow);
+  game.recentRows.add(bank.name, row, std::min(rows.size() / 2, maxRecent));
   return markedRow(rows[row]).text;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Residuals, equity and royalties. The rows stand in banks/earnings.txt.
+// Residuals, equity and royalties. The rows are in banks/earnings.txt.
 
 #include "banks/banks.h"
 

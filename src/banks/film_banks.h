@@ -1,6 +1,6 @@
 #pragma once
 
-// Premieres and promotion. The rows stand in banks/film.txt.
+// Premieres and promotion. The rows are in banks/film.txt.
 
 #include "banks/banks.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Temp jobs. The rows stand in banks/jobs.txt.
+// Temp jobs. The rows are in banks/jobs.txt.
 
 #include "banks/banks.h"
 

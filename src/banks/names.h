@@ -1,6 +1,6 @@
 #pragma once
 
-// The names of invented people.
+// Names of fictional people.
 
 #include <string>
 
@@ -8,10 +8,10 @@
 
 namespace tb {
 
-// A director, a writer: a first name of either sex and a surname.
+// A random name, for a director or a writer.
 [[nodiscard]] std::string inventedName(RandomSource& random);
 
-// A man or a woman by name: a character, a rival, an agent.
+// A random name by gender, for a character, a rival or an agent.
 [[nodiscard]] std::string inventedName(RandomSource& random, bool isMale);
 
 }  // namespace tb

@@ -1,6 +1,6 @@
 #pragma once
 
-// The names of invented people. The rows stand in banks/names.txt.
+// Names of fictional people. The rows are in banks/names.txt.
 
 #include "banks/banks.h"
 

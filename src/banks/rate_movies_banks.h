@@ -1,6 +1,6 @@
 #pragma once
 
-// Reviewing: a table of titles, and the sentences of a review by star pairs. The rows stand in
+// The table of titles to review, and the sentences of reviews by stars. The rows are in
 // banks/rate_movies.txt.
 
 #include "banks/banks.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-// The summary of what audiences write: four sentences, by register and mood. The rows stand in
+// Summaries of audience reviews: four sentences by register and mood. The rows are in
 // banks/review_summary.txt.
 
 #include "banks/banks.h"

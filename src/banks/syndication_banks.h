@@ -1,6 +1,6 @@
 #pragma once
 
-// Syndication. The rows stand in banks/syndication.txt.
+// Syndication. The rows are in banks/syndication.txt.
 
 #include "banks/banks.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Classes and the showreel. The rows stand in banks/talent.txt.
+// Classes and the showreel. The rows are in banks/talent.txt.
 
 #include "banks/banks.h"
 

@@ -12,15 +12,15 @@ namespace tb {
 
 namespace {
 
-std::string handedIn;
+std::string currentTexts;
 
 }  // namespace
 
-void handInTexts(std::string texts) { handedIn = std::move(texts); }
+void setTexts(std::string texts) { currentTexts = std::move(texts); }
 
 std::string_view texts() {
-  if (handedIn.empty()) stopTheGame("the texts are wanted before they were handed in");
-  return handedIn;
+  if (currentTexts.empty()) stopTheGame("the texts are wanted before they were handed in");
+  return currentTexts;
 }
 
 #else

@@ -1,7 +1,7 @@
 #pragma once
 
-// Where the rows of all banks come from. A native program holds them. The page fetches them after it has
-// drawn the first page and hands them in once: they are as large as everything else that it fetches.
+// The source of all banks' rows. Native programs embed the text files. The web page fetches them after its
+// first paint and passes them in, because they are as large as everything else that it loads.
 
 #include <map>
 #include <string>
@@ -10,17 +10,17 @@
 
 namespace tb {
 
-// Every file of banks/*.txt, one after the other. They last as long as the program. In the page: stops the
-// game when they have not been handed in.
+// All files of banks/*.txt, concatenated; valid until the program ends. In the web page: stops the game when
+// they have not been set.
 [[nodiscard]] std::string_view texts();
 
 #ifdef __wasm__
-// Once, and before anything is drawn from a bank.
-void handInTexts(std::string texts);
+// Sets the texts. Called once, before a row is drawn.
+void setTexts(std::string texts);
 #endif
 
-// The rows of each bank by its name, which is a part of `texts`. "[name]" begins a bank, every line after it
-// is a row with "\n" for a line break, and empty lines and "#" comments say nothing.
+// The rows of each bank by name; the names point into `texts`. "[name]" starts a bank, and every line after
+// it is a row, with "\n" for a line break. Empty lines and lines that start with "#" are ignored.
 using Banks = std::map<std::string_view, std::vector<std::string>>;
 [[nodiscard]] Banks readBanks(std::string_view texts);
 

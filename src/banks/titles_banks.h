@@ -1,6 +1,7 @@
 #pragma once
 
-// The catalogue: tables, " | " between the columns (film/catalogue.h). The rows stand in banks/titles.txt.
+// The tables of the catalogue, with " | " between columns (film/catalogue.h). The rows are in
+// banks/titles.txt.
 
 #include "banks/banks.h"
 

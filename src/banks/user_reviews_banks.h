@@ -1,6 +1,6 @@
 #pragma once
 
-// Audiences. The rows stand in banks/user_reviews.txt.
+// Audience reviews. The rows are in banks/user_reviews.txt.
 
 #include "banks/banks.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the weekly feed says when there is no news. The rows stand in banks/week.txt.
+// Lines for a week without news. The rows are in banks/week.txt.
 
 #include "banks/banks.h"
 

@@ -4,13 +4,13 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t springCleaning = 25;
-constexpr std::int64_t winterCleaning = 50;
-constexpr std::int64_t oldestInvitation = 19;  // weeks
+constexpr std::int64_t firstCleanupWeek = 25;
+constexpr std::int64_t secondCleanupWeek = 50;
+constexpr std::int64_t maxInvitationAge = 19;  // weeks
 
-bool isForgotten(const Audition& audition, std::int64_t now) {
+bool isRemoved(const Audition& audition, std::int64_t now) {
   const bool stale = audition.funnelStage == funnel::invited && audition.didAct == 1 &&
-                     now - audition.weekAudition > oldestInvitation;
+                     now - audition.weekAudition > maxInvitationAge;
   return stale || audition.funnelStage == funnel::closed;
 }
 
@@ -18,9 +18,9 @@ bool isForgotten(const Audition& audition, std::int64_t now) {
 
 void cleanUpAuditions(Game& game) {
   WorldState& world = game.world;
-  if (world.weekNumber != springCleaning && world.weekNumber != winterCleaning) return;
+  if (world.weekNumber != firstCleanupWeek && world.weekNumber != secondCleanupWeek) return;
   world.saveAllAuditionList.erase_if(
-      [&](const Audition& audition) { return isForgotten(audition, world.weekNumberForTracking); });
+      [&](const Audition& audition) { return isRemoved(audition, world.weekNumberForTracking); });
   world.save = world.saveAllAuditionList;
 }
 

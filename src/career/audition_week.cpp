@@ -16,22 +16,22 @@ namespace tb {
 
 namespace {
 
-// How the agent takes what becomes of a project from the agency, in points of the relationship.
-namespace agentTakes {
+// Changes of the relationship with the agent by the outcome of the agency's projects, in points.
+namespace agentMood {
 constexpr double silence = -1;
 constexpr double invitation = 2;
 constexpr double rejection = -2.5;
 constexpr double offer = 5;
 constexpr double wrap = 3;
-}  // namespace agentTakes
+}  // namespace agentMood
 
-constexpr double experienceOfInvitation = 0.25;  // of the difficulty
-constexpr double shareOfOffer = 3;               // the difficulty is divided by it
-constexpr double mostExperienceOfShoot = 8;      // points
-constexpr double mostExperienceOfCommercial = 2;
-constexpr std::int64_t bribeThatSkipsTheDie = 51;
+constexpr double invitationExperience = 0.25;  // fraction of the difficulty
+constexpr double offerDivisor = 3;             // divisor of the difficulty
+constexpr double maxShootExperience = 8;       // points
+constexpr double maxCommercialExperience = 2;
+constexpr std::int64_t bribeThatSkipsRoll = 51;
 
-// One pass over the list.
+// The state of one pass over the list.
 struct Pass {
   Game& game;
   WorldState& world = game.world;
@@ -42,33 +42,33 @@ struct Pass {
   void moveTo(std::size_t index, std::int64_t funnelStage) {
     world.saveAllAuditionList.edit(index).funnelStage = funnelStage;
   }
-  void tellAgent(std::size_t index, double points) {
+  void changeAgentMood(std::size_t index, double points) {
     if (project(index).sourceId > 0) agentRelationshipDelta += points;
   }
 };
 
-// The feed never speaks of a commercial by its title; the log does.
+// The feed never names a commercial; the log does.
 std::string nameOf(const Audition& project) {
   return project.typeOfFilm == filmType::commercial ? "a commercial" : project.title;
 }
 
-// What the performer only directs or pays for is cast without a word to the performer; commercials excepted.
-bool isHeardOf(const Audition& project) {
+// Casting of projects that the performer only directs or invests in is not announced, except commercials.
+bool isAnnounced(const Audition& project) {
   return project.didAct >= 1 || project.typeOfFilm == filmType::commercial;
 }
 
-// One face of three wins. A stranger to the guild who tries for a principal role is given a second one.
-bool winsTheDie(Pass& pass, const Audition& project) {
+// Wins one time in three. A non-member who auditions for a principal role gets a second draw.
+bool winsRoll(Pass& pass, const Audition& project) {
   const bool is_given_a_break = project.isPrincipal == rolePart::principal && pass.world.isSAG == 0;
   const std::int64_t face = RandomBetween(pass.game.random, 1, 3);
   return face == 2 || (face == 3 && is_given_a_break);
 }
 
-// A score that meets the chance has the die still to win, however high it is. One that falls short of it may
-// be let through to the die, the likelier the closer it came.
-bool prevails(Pass& pass, const Audition& project, std::int64_t score, std::int64_t chance) {
+// A score that meets the chance still has to win the die roll. A lower score may get that roll too, with a
+// chance that grows as it comes closer.
+bool winsAudition(Pass& pass, const Audition& project, std::int64_t score, std::int64_t chance) {
   if (score < chance && RandomBetween(pass.game.random, 1, chance) >= score) return false;
-  return winsTheDie(pass, project);
+  return winsRoll(pass, project);
 }
 
 std::int64_t drawChance(Pass& pass, const Audition& project) {
@@ -81,27 +81,27 @@ void invite(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   if (project.isPrincipal <= rolePart::principal) {
     pass.moveTo(index, funnel::invited);
-    if (isHeardOf(project)) {
+    if (isAnnounced(project)) {
       const std::string weeks = std::to_string(project.weekAudition - pass.week() - 1);
       feedLine(pass.world, {NewsKind::invitation, project.filmId},
                tb::format("You were invited to audition for {} in {} week(s).", nameOf(project), weeks));
       logActivity(pass.world,
-                  fill(tellRow(pass.game, bank::invitation), {{"title", project.title}, {"n", weeks}}));
-      pass.world.experience += project.auditionDifficulty * experienceOfInvitation;
+                  fill(drawFreshRow(pass.game, bank::invitation), {{"title", project.title}, {"n", weeks}}));
+      pass.world.experience += project.auditionDifficulty * invitationExperience;
     }
   }
-  pass.tellAgent(index, agentTakes::invitation);
+  pass.changeAgentMood(index, agentMood::invitation);
 }
 
-// Two weeks in three the application stays in the pile and is looked at again.
+// Two times in three the submission stays open for another week.
 void leaveUnanswered(Pass& pass, std::size_t index) {
   if (RandomRange(pass.game.random, 3) != 1) return;
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::closed);
   feedLine(pass.world, {NewsKind::silence, project.filmId},
            tb::format("You never heard back after applying for {}.", nameOf(project)));
-  logActivity(pass.world, fill(tellRow(pass.game, bank::silence), {{"title", project.title}}));
-  pass.tellAgent(index, agentTakes::silence);
+  logActivity(pass.world, fill(drawFreshRow(pass.game, bank::silence), {{"title", project.title}}));
+  pass.changeAgentMood(index, agentMood::silence);
 }
 
 bool isInvited(Pass& pass, const Audition& project) {
@@ -109,8 +109,8 @@ bool isInvited(Pass& pass, const Audition& project) {
   if (project.didAct < 1) return true;
   const std::int64_t score = RandomBetween(pass.game.random, 0, pass.world.showreelScore) + project.didBribe;
   debugLog(tb::format("My experience == {} -- {} -- {}", project.didBribe, score, project.title));
-  const bool prevailed = prevails(pass, project, score, chance);
-  return prevailed || (score >= chance && project.didBribe >= bribeThatSkipsTheDie);
+  const bool prevailed = winsAudition(pass, project, score, chance);
+  return prevailed || (score >= chance && project.didBribe >= bribeThatSkipsRoll);
 }
 
 void answerSubmission(Pass& pass, std::size_t index) {
@@ -124,22 +124,22 @@ void answerSubmission(Pass& pass, std::size_t index) {
 void offerRole(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   pass.moveTo(index, funnel::booked);
-  if (isHeardOf(project)) {
+  if (isAnnounced(project)) {
     feedLine(pass.world, {NewsKind::offer, project.filmId},
              tb::format("You auditioned for {} and the cast director offered you the role. Shooting begins "
                         "in {} week(s).",
                         nameOf(project), project.weekToWork - pass.week() - 1));
-    pass.world.experience += project.auditionDifficulty / shareOfOffer;
+    pass.world.experience += project.auditionDifficulty / offerDivisor;
   }
-  pass.tellAgent(index, agentTakes::offer);
+  pass.changeAgentMood(index, agentMood::offer);
 }
 
-// The record stays among the invited: its week lies in the past, so it is never auditioned for again.
+// The record stays in the invited stage; its audition week is in the past, so it is not handled again.
 void reject(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   feedLine(pass.world, {NewsKind::refusal, project.filmId},
            tb::format("You auditioned for {} but you were not selected for the role.", nameOf(project)));
-  pass.tellAgent(index, agentTakes::rejection);
+  pass.changeAgentMood(index, agentMood::rejection);
 }
 
 void audition(Pass& pass, std::size_t index) {
@@ -149,7 +149,7 @@ void audition(Pass& pass, std::size_t index) {
   const std::int64_t rating =
       RandomBetween(pass.game.random, 0, static_cast<std::int64_t>(project.rehearsalRating));
   debugLog(tb::format("Audition Chance -- {} -- Audition Rating -- {}", chance, rating));
-  if (project.didAct < 1 || prevails(pass, project, rating, chance)) return offerRole(pass, index);
+  if (project.didAct < 1 || winsAudition(pass, project, rating, chance)) return offerRole(pass, index);
   reject(pass, index);
 }
 
@@ -157,17 +157,17 @@ void audition(Pass& pass, std::size_t index) {
 
 News wrapOf(const Audition& project) { return {NewsKind::wrap, project.filmId}; }
 
-void tellOfShoot(Pass& pass, const Audition& project) {
+void logShoot(Pass& pass, const Audition& project) {
   const bool commercial = project.typeOfFilm == filmType::commercial;
   const std::string season = project.seasonNumber >= 2 ? tb::format(" Season {}", project.seasonNumber) : "";
   feedLine(pass.world, wrapOf(project),
            commercial ? "You wrapped filming for a commercial."
                       : tb::format("You wrapped filming for {}{}.", project.title, season));
   pass.world.experience +=
-      RandomUnit(pass.game.random, 0, commercial ? mostExperienceOfCommercial : mostExperienceOfShoot);
+      RandomUnit(pass.game.random, 0, commercial ? maxCommercialExperience : maxShootExperience);
 }
 
-void tellOfOwnProduction(Pass& pass, const Audition& project) {
+void logOwnProduction(Pass& pass, const Audition& project) {
   feedLine(pass.world, wrapOf(project),
            project.typeOfFilm == filmType::feature
                ? tb::format("Filming wrapped for {}, a film you directed and produced.", project.title)
@@ -176,30 +176,30 @@ void tellOfOwnProduction(Pass& pass, const Audition& project) {
                             project.title));
 }
 
-void tellOfInvestment(Pass& pass, const Audition& project) {
+void logInvestment(Pass& pass, const Audition& project) {
   const std::string stake = tb::format("{:.0f}%", project.equityPercentage);
   logLine(pass.world, wrapOf(project),
-          fill(tellRow(pass.game, bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
+          fill(drawFreshRow(pass.game, bank::investmentWrap), {{"title", project.title}, {"stake", stake}}));
 }
 
 void wrap(Pass& pass, std::size_t index) {
   const Audition& project = pass.project(index);
   if (pass.week() != project.weekToWork) return;
-  makeFilm(pass.game, project);
-  if (isHeardOf(project)) {
-    tellOfShoot(pass, project);
+  addFilm(pass.game, project);
+  if (isAnnounced(project)) {
+    logShoot(pass, project);
   } else if (project.isPrincipal == rolePart::ownProduction) {
-    tellOfOwnProduction(pass, project);
+    logOwnProduction(pass, project);
   } else {
-    tellOfInvestment(pass, project);
+    logInvestment(pass, project);
   }
-  pass.tellAgent(index, agentTakes::wrap);
+  pass.changeAgentMood(index, agentMood::wrap);
   pass.moveTo(index, funnel::wrapped);
 }
 
 // --- The pass ---
 
-void liveWeek(Pass& pass, std::size_t index) {
+void advanceProject(Pass& pass, std::size_t index) {
   switch (pass.project(index).funnelStage) {
     case funnel::submitted:
       return answerSubmission(pass, index);
@@ -208,13 +208,13 @@ void liveWeek(Pass& pass, std::size_t index) {
     case funnel::booked:
       return wrap(pass, index);
     case funnel::wrapped:
-      return advanceReleasedProject(pass.game, index);
+      return advanceReleasedProject(pass.game, pass.project(index));
     default:
       return;  // closed
   }
 }
 
-void changeAgentsMood(Pass& pass) {
+void applyAgentMood(Pass& pass) {
   const auto agent = signedAgent(pass.world);
   if (pass.agentRelationshipDelta == 0 || !agent) return;
   pass.world.saveAllTalentAgents.edit(*agent).relationship += pass.agentRelationshipDelta;
@@ -225,10 +225,10 @@ void changeAgentsMood(Pass& pass) {
 void resolveAuditionsForWeek(Game& game) {
   Pass pass{.game = game};
   const std::size_t records = game.world.saveAllAuditionList.size();
-  for (std::size_t index = 0; index < records; ++index) liveWeek(pass, index);
-  changeAgentsMood(pass);
+  for (std::size_t index = 0; index < records; ++index) advanceProject(pass, index);
+  applyAgentMood(pass);
 
-  // The carry is paid, not spent: what a title brought comes in every week until the game is closed.
+  // fanGainCarry is added every week and not reset until the next launch, on purpose.
   if (records > 0) game.world.totalFans += game.world.fanGainCarry;
   postBoxOfficeChirp(game);
 }

@@ -1,18 +1,17 @@
 #pragma once
 
-// A week of every project that the performer is attached to.
+// The weekly step of all projects.
 
 #include "core/game.h"
 
 namespace tb {
 
-// Walks `saveAllAuditionList` once. A submission is answered, heard of no more or left waiting; an invitation
-// is auditioned for in its week; a booking wraps in its week and becomes a film; what is wrapped lives its
-// release and the weeks after it. A record that moves on waits there for the next week.
+// Goes through `saveAllAuditionList` once. A submission is answered, dropped or stays open; an audition takes
+// place in its week; a booked project wraps in its week and becomes a film; a wrapped project goes through
+// its release and run. A record moves at most one stage per week.
 //
-// Then the fans that titles brought are paid out, and the signed agent hears how the agency's projects went.
-// Writes the auditions, the films, `totalFans`, `experience` and `activityTracker`, and the agents and what
-// the releases touched when they changed. The clock shows the week that is ending.
+// Then adds the titles' fans, and updates the relationship with the signed agent by the outcome of the
+// agency's projects. The clock shows the week that is ending.
 void resolveAuditionsForWeek(Game& game);
 
 }  // namespace tb

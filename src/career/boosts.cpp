@@ -1,5 +1,6 @@
 #include "career/boosts.h"
 
+#include "core/find.h"
 #include "core/house_notices.h"
 #include "film/promotion.h"
 
@@ -7,11 +8,11 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t mostBoosts = 9;  // of each kind
+constexpr std::int64_t maxBoosts = 9;  // of each kind
 constexpr double fullRating = 100;
-constexpr double pointsOfBoost = 1.5;
+constexpr double boostPoints = 1.5;
 
-// Each one is dearer than the last, in energy: 4 to 16 for rehearsals, 17 to 31 on set.
+// Energy prices rise with each boost: 4 to 16 for rehearsals, 17 to 31 on set.
 std::int64_t priceOf(std::int64_t bought, std::int64_t firstStep, double factor) {
   return static_cast<std::int64_t>(static_cast<double>(bought + firstStep) * factor);
 }
@@ -19,12 +20,12 @@ std::int64_t rehearsalPrice(std::int64_t bought) { return priceOf(bought, 3, 1.5
 std::int64_t performancePrice(std::int64_t bought) { return priceOf(bought, 10, 1.75); }
 
 bool canRehearse(const Audition& project, std::int64_t now) {
-  return project.rehearsalBoostCount < mostBoosts && project.rehearsalRating < fullRating &&
+  return project.rehearsalBoostCount < maxBoosts && project.rehearsalRating < fullRating &&
          now <= project.weekAudition;
 }
 
 bool canPerform(const Audition& project, std::int64_t now) {
-  return project.performanceBoostCount < mostBoosts && project.performanceRating < fullRating &&
+  return project.performanceBoostCount < maxBoosts && project.performanceRating < fullRating &&
          now <= project.weekToWork;
 }
 
@@ -55,25 +56,27 @@ Refusal boostRefusal(const WorldState& world, const Boost& boost) {
   return notEnoughEnergy("\nYou don't have the energy for this right now.");
 }
 
-Refusal buyBoost(Game& game, std::size_t auditionIndex) {
+Refusal buyBoost(Game& game, std::int64_t filmId) {
   WorldState& world = game.world;
-  const auto boost = boostOf(world, world.saveAllAuditionList[auditionIndex]);
+  const auto index = find(world.saveAllAuditionList, &Audition::filmId, filmId);
+  if (!index) return {};
+  const auto boost = boostOf(world, world.saveAllAuditionList[*index]);
   if (!boost) return {};
   if (Refusal refusal = boostRefusal(world, *boost)) return refusal;
 
   world.totalEnergyAvailable -= boost->energyPrice;
-  Audition& project = world.saveAllAuditionList.edit(auditionIndex);
+  Audition& project = world.saveAllAuditionList.edit(*index);
   switch (boost->kind) {
     case BoostKind::rehearse:
-      project.rehearsalRating += pointsOfBoost;
+      project.rehearsalRating += boostPoints;
       project.rehearsalBoostCount += 1;
       break;
     case BoostKind::performance:
-      project.performanceRating += pointsOfBoost;
+      project.performanceRating += boostPoints;
       project.performanceBoostCount += 1;
       break;
     case BoostKind::promote:
-      world.selectedAuditionIndex = static_cast<std::int64_t>(auditionIndex);
+      world.selectedAuditionIndex = static_cast<std::int64_t>(*index);
       break;
   }
   return {};

@@ -1,7 +1,6 @@
 #pragma once
 
-// The one button by which the performer works on a project: rehearsing for the audition, then the
-// performance, then promotion.
+// The button to work on a project: rehearse before the audition, perform before the wrap, then promote.
 
 #include <cstdint>
 #include <optional>
@@ -18,15 +17,15 @@ struct Boost {
   std::int64_t energyPrice;  // points
 };
 
-// What the button offers for a project now; nothing when there is nothing left to do.
+// The boost available for a project now, if any.
 [[nodiscard]] std::optional<Boost> boostOf(const WorldState& world, const Audition& project);
 
-// Why the performer cannot press it now: the energy is missing.
+// Why it cannot be bought: not enough energy.
 [[nodiscard]] Refusal boostRefusal(const WorldState& world, const Boost& boost);
 
-// Presses it for the project at `auditionIndex`: takes the energy and adds 1.5 points to the rating. A
-// promotion sets `selectedAuditionIndex` and is then given in its interview. Refuses without the energy; does
-// nothing when nothing is offered. Writes the energy and the list.
-Refusal buyBoost(Game& game, std::size_t auditionIndex);
+// Buys the boost of a project: spends the energy and adds 1.5 points to the rating. A promotion only sets
+// `selectedAuditionIndex`, for the interview screen. Refused without enough energy; does nothing when no
+// boost is available.
+Refusal buyBoost(Game& game, std::int64_t filmId);
 
 }  // namespace tb

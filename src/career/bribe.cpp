@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/bands.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "core/house_notices.h"
 
@@ -13,8 +14,8 @@ namespace {
 constexpr std::int64_t weakestBribe = 10;
 constexpr std::int64_t strengths = 90;
 
-// How the strength above the weakest is put. The stop at the end of each phrase is followed by the sentence's
-// own.
+// Phrases for the strength above the minimum. Each ends with a period, and the sentence adds another, on
+// purpose.
 struct PhraseBand {
   std::int64_t upTo;
   std::string_view phrase;
@@ -37,15 +38,17 @@ Refusal bribeRefusal(const WorldState& world) {
   return notEnoughCash("You don't have enough cash to bribe the Casting Director.");
 }
 
-Notice bribeCastingDirector(Game& game, std::size_t auditionIndex) {
+std::optional<Notice> bribeCastingDirector(Game& game, std::int64_t filmId) {
   WorldState& world = game.world;
-  if (Refusal refusal = bribeRefusal(world)) return *std::move(refusal);
+  const auto index = find(world.saveAllAuditionList, &Audition::filmId, filmId);
+  if (!index || !isBribeOffered(world.saveAllAuditionList[*index])) return {};
+  if (Refusal refusal = bribeRefusal(world)) return refusal;
 
   world.totalCashAvailable -= static_cast<double>(world.saveBribePrice);
   world.saveBribePrice *= 2;
   const std::int64_t strength = RandomRange(game.random, strengths);
-  world.saveAllAuditionList.edit(auditionIndex).didBribe = strength + weakestBribe;
-  return {
+  world.saveAllAuditionList.edit(*index).didBribe = strength + weakestBribe;
+  return Notice{
       .title = "🤝 BRIBED 🤝",
       .message = tb::format("You bribed the Casting Director and {}.\n\nThis does not mean you automatically "
                             "earn the role, just the chance to audition.",

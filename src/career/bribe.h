@@ -1,22 +1,21 @@
 #pragma once
 
-// A word, and an envelope, for the casting director. It lifts a submission in the pile; the audition itself
-// stays as it is.
+// A bribe to the casting director. It helps a submission to be answered and does not affect the audition.
 
 #include "core/game.h"
 #include "core/notice.h"
 
 namespace tb {
 
-// Whether a project can be bribed for: while the submission waits, and once.
+// Whether a bribe is possible for a project: once, while the submission is open.
 [[nodiscard]] bool isBribeOffered(const Audition& project);
 
-// Why the performer cannot bribe anybody now: the cash is missing.
+// Why no bribe is possible: not enough cash.
 [[nodiscard]] Refusal bribeRefusal(const WorldState& world);
 
-// Bribes for the project at `auditionIndex`, which must offer it. Costs `saveBribePrice` in cash and doubles
-// it for the rest of the career; the strength is drawn, 10 to 99. Answers what it did, or that the cash is
-// missing. Writes the cash, the price and the list.
-[[nodiscard]] Notice bribeCastingDirector(Game& game, std::size_t auditionIndex);
+// Pays a bribe for a project. Costs `saveBribePrice` and doubles it for the rest of the career; the strength
+// is drawn, 10 to 99. The notice says what it did, or that there is not enough cash. Nothing happens when no
+// bribe is possible for the project.
+std::optional<Notice> bribeCastingDirector(Game& game, std::int64_t filmId);
 
 }  // namespace tb

@@ -9,9 +9,9 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t fewestListings = 5;
-constexpr std::int64_t mostListings = 8;
-constexpr int mostRedraws = 10;  // of a title that is on the board already; then it stands there twice
+constexpr std::int64_t minListings = 5;
+constexpr std::int64_t maxListings = 8;
+constexpr int maxRedraws = 10;  // of a title that is already on the board; after that it is listed twice
 
 const Movie& drawMovie(Game& game, const CastingBoard& board, const MadeTitles& made) {
   const auto is_taken = [&](const Movie& movie) {
@@ -19,7 +19,7 @@ const Movie& drawMovie(Game& game, const CastingBoard& board, const MadeTitles& 
         board, [&](const CastingListing& taken) { return taken.movie->title == movie.title; });
   };
   const Movie* movie = &RandomElement(game.random, movies());
-  for (int redraw = 0; redraw < mostRedraws && is_taken(*movie); ++redraw)
+  for (int redraw = 0; redraw < maxRedraws && is_taken(*movie); ++redraw)
     movie = &RandomElement(game.random, movies());
   return newTitle(movies(), *movie, made, is_taken);
 }
@@ -39,7 +39,7 @@ CastingListing drawListing(Game& game, const CastingBoard& board, const MadeTitl
 
 CastingBoard openCastingNetwork(Game& game) {
   game.world.filmId += 1;
-  const std::int64_t listings = RandomBetween(game.random, fewestListings, mostListings);
+  const std::int64_t listings = RandomBetween(game.random, minListings, maxListings);
   const MadeTitles made = madeTitles(game.world);
   CastingBoard board;
   for (std::int64_t place = 1; place <= listings; ++place) {

@@ -1,7 +1,6 @@
 #pragma once
 
-// The casting network: a board of roles to submit for, made afresh each time it is opened. Nothing of it is
-// saved until the performer submits.
+// The casting network: a board of roles to submit for. It is drawn each time it is opened and not saved.
 
 #include <cstdint>
 #include <string>
@@ -12,11 +11,10 @@
 
 namespace tb {
 
-// A role on the board. Fields that the project's record shares are told there (Audition,
-// core/records/career.h).
+// A role on the board. Fields with the same name as in Audition (core/records/career.h) mean the same.
 struct CastingListing {
   std::int64_t filmId = 0;
-  const Movie* movie = nullptr;  // of the catalogue
+  const Movie* movie = nullptr;  // in the catalogue
   std::string role;
   std::int64_t isPrincipal = 0;  // rolePart::background or rolePart::principal
   std::int64_t isUnion = 0;
@@ -34,8 +32,7 @@ struct CastingListing {
 
 using CastingBoard = std::vector<CastingListing>;
 
-// Draws a board of five to eight roles. Raises `filmId` by 1 and writes it; the listings take the numbers
-// that follow it, so that each is a project of its own.
+// Draws a board of five to eight roles. Increments `filmId`; the listings get the ids after it.
 [[nodiscard]] CastingBoard openCastingNetwork(Game& game);
 
 }  // namespace tb

@@ -15,23 +15,22 @@ constexpr std::array<std::string_view, 4> typesOfBackground = {"Extra", "Stand-I
 constexpr std::array<std::string_view, 2> typesOfPrincipals = {"Support", "Lead"};
 
 constexpr std::array<TvRole, 2> typesOfPrincipalForTV = {{
-    {.label = "Co-Star", .fewestEpisodes = 1, .mostEpisodes = 1},
-    {.label = "Recurring", .fewestEpisodes = 2, .mostEpisodes = 4},
+    {.label = "Co-Star", .minEpisodes = 1, .maxEpisodes = 1},
+    {.label = "Recurring", .minEpisodes = 2, .maxEpisodes = 4},
 }};
 
 double dollars(std::int64_t amount) { return static_cast<double>(amount); }
 
 bool isPrincipalRole(const CastingListing& listing) { return listing.isPrincipal == rolePart::principal; }
 
-// The share of later earnings: 1 to 1.9 %, and what the agent adds.
+// Residual rate: 1 to 1.9 %, plus the agent's bonus.
 double drawResidual(Game& game) {
   constexpr double least = 0.01;
   constexpr double most = 0.019;
   return RandomUnit(game.random, least, most) + game.world.agentResidualBonus;
 }
 
-// A small production pays better than a big one: it needs the name on its poster, where the big one has names
-// enough.
+// A small production pays better than a big one, because it needs the performer's name more.
 void drawFeatureFilm(Game& game, CastingListing& listing, const TvRole&) {
   constexpr double bigBudget = 749'999;
   listing.budget = dollars(10'000 * RandomBetween(game.random, 10, 99));
@@ -42,7 +41,7 @@ void drawFeatureFilm(Game& game, CastingListing& listing, const TvRole&) {
   if (listing.isUnion == 1) listing.residual = drawResidual(game);
 }
 
-// Principals of a series are always in the guild; the background keeps the flag that was drawn.
+// Principal roles in a series are always union; background roles keep the drawn flag.
 void drawSeries(Game& game, CastingListing& listing, const TvRole& tvRole) {
   const std::int64_t size = RandomBetween(game.random, 10, 99);
   listing.budget = dollars(10'000 * size);
@@ -51,7 +50,7 @@ void drawSeries(Game& game, CastingListing& listing, const TvRole& tvRole) {
     listing.payment = dollars(5 * size + 450);
     return;
   }
-  const std::int64_t episodes = RandomBetween(game.random, tvRole.fewestEpisodes, tvRole.mostEpisodes);
+  const std::int64_t episodes = RandomBetween(game.random, tvRole.minEpisodes, tvRole.maxEpisodes);
   listing.role = tvRole.label;
   listing.isUnion = 1;
   listing.numberOfEpisodesActed = episodes;
@@ -69,7 +68,7 @@ void drawUnionCommercial(Game& game, CastingListing& listing) {
   if (RandomRange(game.random, 2) == 1) listing.residual = drawResidual(game);
 }
 
-// Outside the guild a commercial may be bought out: 60 to 140 % of the fee, once and for all.
+// A non-union commercial may pay a one-time buyout of 60 to 140 % of the fee.
 void drawFreeCommercial(Game& game, CastingListing& listing) {
   const std::int64_t size = RandomBetween(game.random, 2, 50);
   const std::int64_t payment = isPrincipalRole(listing) ? 50 * size : std::min<std::int64_t>(10 * size, 250);

@@ -1,35 +1,33 @@
 #pragma once
 
-// What a role on the casting board offers.
+// The terms of a role on the casting board.
 
 #include "career/casting_board.h"
 
 namespace tb {
 
-// A principal role in a series, and in how many episodes it is seen.
+// A principal role in a series, and its number of episodes.
 struct TvRole {
   std::string_view label;
-  std::int64_t fewestEpisodes;
-  std::int64_t mostEpisodes;
+  std::int64_t minEpisodes;
+  std::int64_t maxEpisodes;
 };
 
-// Draws the part of the terms that goes by the type of the listing's project: budget, pay, buyout, residual
-// and episodes, and where the type decides them the role and the union flag. The part and the union flag of
-// the performer's own guild stand in the listing. `tvRole` is the role that a principal has if it is a
-// series.
+// Draws the terms that depend on the listing's type: budget, pay, buyout, residual and episodes, and for some
+// types the role and the union flag. The listing already has its part and its union flag. `tvRole` is used
+// for a principal role in a series.
 void drawTerms(Game& game, CastingListing& listing, const TvRole& tvRole);
 
-// A role label for a part in anything but a series.
+// Draws a role label for anything but a series.
 [[nodiscard]] std::string drawRole(Game& game, std::int64_t isPrincipal);
 
-// One of the two roles that a series has for a principal.
+// Draws one of the two principal roles of a series.
 [[nodiscard]] const TvRole& drawTvRole(Game& game);
 
-// The union flag: three projects in four are for performers of the same standing with the guild.
+// Draws the union flag: with a chance of three in four it matches the performer's guild membership.
 [[nodiscard]] std::int64_t drawUnionFlag(Game& game);
 
-// Draws all of a listing that is not decided yet: the project, the part, the role and the union flag stand in
-// it.
+// Draws the rest of a listing whose project, part, role and union flag are set.
 void completeListing(Game& game, CastingListing& listing, const TvRole& tvRole);
 
 }  // namespace tb

@@ -1,6 +1,6 @@
 #pragma once
 
-// The curriculum of Julien: 47 drama classes in four levels.
+// Julien's curriculum: 47 drama classes in four levels.
 
 #include <array>
 #include <cstdint>
@@ -12,13 +12,13 @@ struct JulliardClass {
   std::int64_t id;
   std::string_view title;
   std::string_view classCode;
-  double percentage;        // the experience that it gives
+  double percentage;        // experience points on completion
   std::int64_t classLevel;  // 1 to 4
 };
 
 extern const std::array<JulliardClass, 47> julliardClasses;
 
-// The class with an id, or null.
+// The class with this id, or null.
 [[nodiscard]] const JulliardClass* classWithId(std::int64_t id);
 
 }  // namespace tb

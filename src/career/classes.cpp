@@ -13,19 +13,19 @@ namespace tb {
 
 namespace {
 
-// The number of classes taken up to which each level is open; the next one opens with it exhausted.
+// The number of taken classes up to which each level is open.
 struct TierBand {
   std::int64_t upTo;
   std::int64_t tier;
 };
 constexpr std::array<TierBand, 3> tiers = {
     {{.upTo = 17, .tier = 1}, {.upTo = 27, .tier = 2}, {.upTo = 38, .tier = 3}}};
-constexpr std::int64_t highestTier = 4;
+constexpr std::int64_t maxTier = 4;
 
-constexpr std::int64_t mostOptions = 5;
-constexpr int mostDraws = 100;             // the draw of options gives up after these
-constexpr std::int64_t shortestClass = 4;  // weeks
-constexpr std::int64_t longestClass = 8;
+constexpr std::int64_t maxOptions = 5;
+constexpr int maxDraws = 100;              // attempts to draw different options
+constexpr std::int64_t minClassWeeks = 4;  // weeks
+constexpr std::int64_t maxClassWeeks = 8;
 
 std::vector<const JulliardClass*> classesOfLevel(std::int64_t level) {
   std::vector<const JulliardClass*> pool;
@@ -35,8 +35,8 @@ std::vector<const JulliardClass*> classesOfLevel(std::int64_t level) {
   return pool;
 }
 
-ClassOption priced(RandomSource& random, const JulliardClass& row) {
-  const std::int64_t weeks = RandomBetween(random, shortestClass, longestClass);
+ClassOption withTerms(RandomSource& random, const JulliardClass& row) {
+  const std::int64_t weeks = RandomBetween(random, minClassWeeks, maxClassWeeks);
   const std::int64_t energy = 4 * row.classLevel + 10 + RandomRange(random, 4);
   return {.offered = &row,
           .weeks = weeks,
@@ -61,7 +61,7 @@ std::int64_t classEnergy(const WorldState& world) {
 std::int64_t classTier(const WorldState& world) {
   const std::int64_t taken = std::ssize(world.saveAllCompletedClasses);
   const TierBand* const band = bandOf(tiers, taken);
-  return band != nullptr ? band->tier : highestTier;
+  return band != nullptr ? band->tier : maxTier;
 }
 
 double completionPercentage(const WorldState& world) {
@@ -71,12 +71,12 @@ double completionPercentage(const WorldState& world) {
 
 std::vector<ClassOption> openClasses(Game& game) {
   const std::vector<const JulliardClass*> pool = classesOfLevel(classTier(game.world));
-  const std::int64_t wanted = 1 + RandomRange(game.random, mostOptions);
+  const std::int64_t wanted = 1 + RandomRange(game.random, maxOptions);
   std::vector<ClassOption> options;
-  for (int draw = 0; draw < mostDraws && std::ssize(options) < wanted; ++draw) {
+  for (int draw = 0; draw < maxDraws && std::ssize(options) < wanted; ++draw) {
     const JulliardClass& row = *RandomElement<const JulliardClass*>(game.random, pool);
     const bool offered_already = std::ranges::contains(options, &row, &ClassOption::offered);
-    if (!offered_already && !isTaken(game.world, row.id)) options.push_back(priced(game.random, row));
+    if (!offered_already && !isTaken(game.world, row.id)) options.push_back(withTerms(game.random, row));
   }
   return options;
 }
@@ -87,7 +87,7 @@ Refusal classRefusal(const WorldState& world, const ClassOption& option) {
                   .message = "You have already signed up or completed this class.",
                   .brief = "Signed up"};
   }
-  // What the running classes take is asked, not what the new one will: one class too many can be begun.
+  // The new class's own energy cost is not checked, on purpose: one class too many is possible.
   if (classEnergy(world) > world.totalEnergyMax - world.weeklyEnergyCost) {
     return Notice{
         .title = "⚡️ Not Enough Weekly Energy ⚡️",
@@ -115,9 +115,9 @@ Refusal signUpForClass(Game& game, const ClassOption& option) {
                                            .level = option.offered->classLevel,
                                            .cost = static_cast<std::int64_t>(option.cost),
                                            .yearStarted = world.yearNumber});
-  logActivity(world, fill(tellRow(game, bank::classSignUp), {{"title", option.offered->title},
-                                                             {"code", option.offered->classCode},
-                                                             {"weeks", std::to_string(option.weeks)}}));
+  logActivity(world, fill(drawFreshRow(game, bank::classSignUp), {{"title", option.offered->title},
+                                                                  {"code", option.offered->classCode},
+                                                                  {"weeks", std::to_string(option.weeks)}}));
   return {};
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Acting classes at Julien. `saveAllCompletedClasses` holds every class ever taken: it runs while its
-// `weeksRemaining` is at least 1 and stays in the list as done. A running class takes its energy each week.
+// Acting classes at Julien. `saveAllCompletedClasses` holds all classes taken: a class runs while its
+// `weeksRemaining` is at least 1 and costs energy each week.
 
 #include <cstdint>
 #include <vector>
@@ -12,39 +12,38 @@
 
 namespace tb {
 
-// A class as it is offered today.
+// A class on offer, with its terms.
 struct ClassOption {
   const JulliardClass* offered;
   std::int64_t weeks;       // 4 to 8
   double cost;              // dollars, for the whole class
-  std::int64_t energyCost;  // each week
+  std::int64_t energyCost;  // points per week
 };
 
-// The level that is open to the performer, 1 to 4, by the number of classes taken.
+// The level open to the performer, 1 to 4, by the number of classes taken.
 [[nodiscard]] std::int64_t classTier(const WorldState& world);
 
-// Whether the performer has signed up for the class, now or ever.
+// Whether the performer ever signed up for the class.
 [[nodiscard]] bool isTaken(const WorldState& world, std::int64_t classId);
 
-// The part of the curriculum that was taken, 0 to 1.
+// The fraction of the curriculum that was taken, 0 to 1.
 [[nodiscard]] double completionPercentage(const WorldState& world);
 
-// The energy that the running classes take each week, in points.
+// The energy cost of the running classes, in points per week.
 [[nodiscard]] std::int64_t classEnergy(const WorldState& world);
 
-// Draws today's options: one to five different classes of the open level that were not taken yet, fewer when
-// fewer are left.
+// Draws one to five different classes of the open level that were not taken yet, or fewer when fewer are
+// left.
 [[nodiscard]] std::vector<ClassOption> openClasses(Game& game);
 
-// Why the performer cannot sign up now: the class was taken already, the running classes take more energy
-// than the job leaves, or the cash is missing.
+// Why the performer cannot sign up: the class was taken already, the running classes need more energy than
+// the job leaves, or there is not enough cash.
 [[nodiscard]] Refusal classRefusal(const WorldState& world, const ClassOption& option);
 
-// Signs up for an option, or refuses: pays for it, adds the class, logs it. Writes cash, classes and log.
+// Signs up for a class: pays for it, adds it and logs it; or refuses.
 Refusal signUpForClass(Game& game, const ClassOption& option);
 
-// A week of every running class. One that ends is told of and gives its experience. Writes the classes, and
-// what an ended class changed.
+// Runs a week of all classes. A class that ends gives its experience and is logged.
 void advanceClasses(Game& game);
 
 }  // namespace tb

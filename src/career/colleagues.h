@@ -1,7 +1,7 @@
 #pragma once
 
-// How good the people are who make a project with the performer. They keep to the performer's own level:
-// better actors are seen by better directors.
+// Ratings of directors and writers. They are close to the performer's own level: better actors get better
+// directors.
 
 #include <cstdint>
 
@@ -9,14 +9,14 @@
 
 namespace tb {
 
-// A director as the week finds one: the performer's level, up to 15 points to either side, and a leap of up
-// to 15 points that is rarer the farther it goes. Can be below 0.
+// Draws a director's form: the performer's level plus or minus up to 15 points, plus a bonus of up to 15
+// points, where higher ones are rarer. Can be negative.
 [[nodiscard]] std::int64_t drawDirectorForm(Game& game);
 
-// The rating of a director who is hired: such a form, and for one below 0 a beginner's rating of 1 to 7.
+// Draws a hired director's rating: a form, or 1 to 7 when that is negative.
 [[nodiscard]] std::int64_t drawDirectorRating(Game& game);
 
-// The same for a writer, without the leap.
+// The same for a writer, without the bonus.
 [[nodiscard]] std::int64_t drawWriterRating(Game& game);
 
 }  // namespace tb

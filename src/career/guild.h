@@ -1,6 +1,6 @@
 #pragma once
 
-// The actors' guild: an initiation fee once, 3 % of earnings for good, and the union castings.
+// The actors' guild: a one-time initiation fee, dues of 3 % of earnings, and access to union roles.
 
 #include <cstdint>
 
@@ -12,14 +12,14 @@ namespace tb {
 inline constexpr double guildInitiationFee = 3000;      // dollars
 inline constexpr std::int64_t rolesForEligibility = 2;  // principal roles booked
 
-// How many principal roles the performer has booked.
+// The number of principal roles booked.
 [[nodiscard]] std::int64_t guildEligibility(const WorldState& world);
 
-// Why the guild does not take the performer in now: too few roles, or the cash for the fee is missing.
+// Why the performer cannot join: too few principal roles, or not enough cash.
 [[nodiscard]] Refusal guildRefusal(const WorldState& world);
 
-// Joins: pays the fee, sets `isSAG` and `memberSince`, and adds the monthly dues to the weekly items. Refuses
-// below two roles and without the cash; does nothing for a member. Writes all that it changed.
+// Joins the guild: pays the fee, sets `isSAG` and `memberSince`, and adds the dues to the weekly items.
+// Refused with fewer than two roles or without the cash; does nothing for a member.
 Refusal joinGuild(Game& game);
 
 }  // namespace tb

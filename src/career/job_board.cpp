@@ -15,11 +15,11 @@ struct Span {
   std::int64_t high;
 };
 
-// One kind of job. Its description is the row of the bank at the same place.
+// A kind of job. Its description is the bank's row with the same index.
 struct JobKind {
   std::string_view title;
-  Span energy;     // points a week
-  Span payInTens;  // dollars a week, divided by ten
+  Span energy;     // points per week
+  Span payInTens;  // tens of dollars per week
 };
 
 constexpr std::array<JobKind, 13> jobKinds = {{
@@ -38,13 +38,13 @@ constexpr std::array<JobKind, 13> jobKinds = {{
     {.title = "Social Media Content Assistant", .energy = {8, 15}, .payInTens = {25, 40}},
 }};
 
-constexpr std::int64_t mostSlots = 5;
-constexpr std::int64_t shortestContract = 4;  // weeks
-constexpr std::int64_t longestContract = 12;
+constexpr std::int64_t maxSlots = 5;
+constexpr std::int64_t minContractWeeks = 4;  // weeks
+constexpr std::int64_t maxContractWeeks = 12;
 
 std::int64_t drawFrom(RandomSource& random, Span span) { return RandomBetween(random, span.low, span.high); }
 
-// The terms of every job are drawn once a board, so that a job that shows twice pays the same in both places.
+// Terms are drawn once per board, so that a job listed twice pays the same in both places.
 std::vector<JobList> randomJobList(RandomSource& random) {
   const std::span<const std::string> descriptions = rowsOf(bank::jobDescription);
   std::vector<JobList> jobs;
@@ -63,12 +63,12 @@ std::vector<JobList> randomJobList(RandomSource& random) {
 
 std::vector<JobOffer> openJobBoard(Game& game) {
   const std::vector<JobList> jobs = randomJobList(game.random);
-  const std::int64_t slots = RandomRange(game.random, mostSlots + 1);
+  const std::int64_t slots = RandomRange(game.random, maxSlots + 1);
   std::vector<JobOffer> board;
   for (std::int64_t slot = 0; slot < slots; ++slot) {
     const JobList& job = RandomElement<JobList>(game.random, jobs);
     board.push_back(
-        {.job = job, .contractWeeks = RandomBetween(game.random, shortestContract, longestContract)});
+        {.job = job, .contractWeeks = RandomBetween(game.random, minContractWeeks, maxContractWeeks)});
   }
   return board;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The job board: temp jobs for a few weeks, of weekly pay against weekly energy. The state of the one job
-// that is held is `weeklyJobTitle`, `weeklyJobIncome`, `weeklyEnergyCost` and `weeklyJobContractRemaining`.
+// The job board: temp jobs for a few weeks, with weekly pay and energy cost. The current job is in
+// `weeklyJobTitle`, `weeklyJobIncome`, `weeklyEnergyCost` and `weeklyJobContractRemaining`.
 
 #include <cstdint>
 #include <string_view>
@@ -12,12 +12,12 @@
 
 namespace tb {
 
-// A job of the list that a board is filled from, as it is paid today.
+// A kind of job with its drawn terms.
 struct JobList {
   std::string_view jobTitle;
   std::string_view jobDescription;
-  std::int64_t energyCost;  // each week, 6 to 22
-  double jobPay;            // dollars a week, 200 to 500
+  std::int64_t energyCost;  // points per week, 6 to 22
+  double jobPay;            // dollars per week, 200 to 500
 };
 
 // A job on the board.
@@ -26,14 +26,14 @@ struct JobOffer {
   std::int64_t contractWeeks;  // 4 to 12
 };
 
-// Draws today's board: none to five jobs. One job can stand there twice, on terms of its own.
+// Draws a board of zero to five jobs. A job can be listed twice, with different contract lengths.
 [[nodiscard]] std::vector<JobOffer> openJobBoard(Game& game);
 
-// Why no job can be taken now: a contract runs.
+// Why no job can be accepted: a contract is running.
 [[nodiscard]] Refusal jobRefusal(const WorldState& world);
 
-// Takes a job. Refuses while a contract runs; asks for no energy, so a job can take more than the week has.
-// Writes the job's variables and the log.
+// Accepts a job; refused while a contract is running. The energy is not checked, so a job can cost more than
+// is available.
 Refusal acceptJob(Game& game, const JobOffer& offer);
 
 }  // namespace tb

@@ -4,9 +4,9 @@
 
 namespace tb {
 
-// One week of the job: counts `weeklyJobContractRemaining` down. In the week in which it reaches 0 the player
-// hears that the contract has ended, while pay, energy cost and title stay; a week later they are cleared. So
-// a job of n weeks pays n times and takes its energy at n + 1 refills. Writes the job's keys and the cash.
+// Runs a week of the job: counts down `weeklyJobContractRemaining`. When it reaches 0 the end of the contract
+// is logged; pay, energy cost and title are cleared a week later. So a job of n weeks pays n times and costs
+// energy at n + 1 refills.
 void advanceJobContract(Game& game);
 
 }  // namespace tb

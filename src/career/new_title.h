@@ -1,6 +1,6 @@
 #pragma once
 
-// Choosing the title of a new project.
+// Chooses the title of a new project.
 
 #include <span>
 #include <string_view>
@@ -11,13 +11,12 @@
 
 namespace tb {
 
-// The titles that the performer has made, or has been booked to make.
+// Titles that the performer has made or is booked for.
 using MadeTitles = std::unordered_set<std::string_view>;
-[[nodiscard]] MadeTitles madeTitles(const WorldState& world);  // good until the lists of projects change
+[[nodiscard]] MadeTitles madeTitles(const WorldState& world);  // valid until the lists of projects change
 
-// The title for a project for which `drawn` was drawn from `table`: itself, or, when it was made already, the
-// next of its type in the table (after the last one the first) that was not made and is not `taken`. With all
-// of them made the drawn one comes again.
+// Returns `drawn`, which was drawn from `table`, if the performer has not made it; else the next title of its
+// type (wrapping around) that is neither made nor `taken`; else `drawn` again.
 template <class IsTaken>
 [[nodiscard]] const Movie& newTitle(std::span<const Movie> table, const Movie& drawn, const MadeTitles& made,
                                     IsTaken taken) {

@@ -10,16 +10,16 @@ namespace tb {
 
 namespace {
 
-// What each term adds to the difficulty, in points.
+// Terms of the difficulty, in points.
 constexpr double principalRole = 20;
 constexpr double otherRole = 5;
-constexpr double mostOfMoney = 100;  // the budget alone, and the pay alone
+constexpr double maxMoneyTerm = 100;  // for the budget and for the pay each
 constexpr double unionForMembers = 10;
 constexpr double unionForStrangers = 40;
 constexpr double outsideTheUnion = 5;
 constexpr double seriesRole = 10;
 
-// By filmType; a series adds to it by the number of episodes.
+// By filmType; a series adds points by the number of episodes.
 constexpr std::array<double, 5> difficultyOfType = {25, seriesRole, 5, 1, 5};
 
 struct EpisodeBand {
@@ -29,9 +29,9 @@ struct EpisodeBand {
 constexpr std::array<EpisodeBand, 2> episodeBands = {{{.upTo = 1, .points = 5}, {.upTo = 4, .points = 15}}};
 constexpr double manyEpisodes = 25;
 
-// Whole units of money, up to 100 of them.
+// Money in whole units, at most 100.
 double moneyTerm(double amount, std::int64_t unit) {
-  return std::min(static_cast<double>(static_cast<std::int64_t>(amount) / unit), mostOfMoney);
+  return std::min(static_cast<double>(static_cast<std::int64_t>(amount) / unit), maxMoneyTerm);
 }
 
 double unionTerm(const Audition& project, bool isGuildMember) {

@@ -1,7 +1,6 @@
 #pragma once
 
-// What a project starts from when it enters the performer's list: how ready the performer is, how hard the
-// role is to get and what the world expects of the title.
+// The initial values of a new project: rehearsal, performance, hype and difficulty.
 
 #include <cstdint>
 
@@ -9,18 +8,17 @@
 
 namespace tb {
 
-// How strong the performer's audition would be today, in points, above 0.
+// Draws the score of an audition without further rehearsals, in points, above 0.
 [[nodiscard]] double drawRehearsalRating(Game& game);
 
-// The performance that comes of such a rehearsal before any work on it: 60 to 90 % of it.
+// Draws the initial performance: 60 to 90 % of the rehearsal rating.
 [[nodiscard]] double drawPerformanceRating(Game& game, double rehearsalRating);
 
-// The anticipation of a project by a director of that rating, in points; a low enough director makes it
-// negative.
+// Draws the hype of a project by its director's rating, in points; can be negative for a low rating.
 [[nodiscard]] std::int64_t drawHypeRating(Game& game, std::int64_t directorRating);
 
-// How hard a role is to get, in points, 0 and up: by the part, the money in the project, the residual, the
-// guild and the type. Reads the record's terms.
+// The difficulty of getting a role, in points, 0 and up: by part, budget and pay, residual, union flag and
+// type.
 [[nodiscard]] double auditionDifficulty(const Audition& project, bool isGuildMember);
 
 }  // namespace tb

@@ -12,8 +12,8 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t shortestSeason = 8;  // episodes
-constexpr std::int64_t longestSeason = 12;
+constexpr std::int64_t minSeasonEpisodes = 8;  // episodes
+constexpr std::int64_t maxSeasonEpisodes = 12;
 
 }  // namespace
 
@@ -47,8 +47,8 @@ void startProject(Game& game, Audition& project) {
   project.performanceRating = drawPerformanceRating(game, project.rehearsalRating);
   project.weekReleased = drawReleaseWeek(game, project.weekToWork);
   project.auditionDifficulty = auditionDifficulty(project, world.isSAG == 1);
-  project.numberOfEpisodesTotal =
-      std::max(project.numberOfEpisodesActed, RandomBetween(game.random, shortestSeason, longestSeason));
+  project.numberOfEpisodesTotal = std::max(project.numberOfEpisodesActed,
+                                           RandomBetween(game.random, minSeasonEpisodes, maxSeasonEpisodes));
   if (project.typeOfFilm == filmType::series) {
     project.isContinued = 0;
     project.seasonNumber = 1;

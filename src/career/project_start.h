@@ -1,17 +1,17 @@
 #pragma once
 
-// A project as it comes to the performer: what its listing says, and what is drawn as it enters the list.
+// Turns a listing into a project of the performer.
 
 #include "career/casting_board.h"
 #include "core/game.h"
 
 namespace tb {
 
-// The record of a listing, with nothing of the performer in it yet.
+// The project's record with the listing's data only.
 [[nodiscard]] Audition projectFrom(const CastingListing& listing);
 
-// Draws what a project starts from in the present week: the performer's preparation, the release, the season,
-// the hype and the writer. Its weeks, its terms and its director stand in the record. Writes nothing.
+// Draws the performer's preparation, the release week, the season, the hype and the writer. The record must
+// already have its weeks, terms and director.
 void startProject(Game& game, Audition& project);
 
 }  // namespace tb

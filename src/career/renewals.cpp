@@ -9,6 +9,7 @@
 #include "career/preparation.h"
 #include "career/schedule.h"
 #include "core/bands.h"
+#include "core/find.h"
 #include "core/log.h"
 #include "film/catalogue.h"
 #include "film/film_record.h"
@@ -24,27 +25,27 @@ constexpr std::int64_t outsideSagas = -1;       // Audition::franchise and franc
 // --- The verdict ---
 
 enum class Verdict : std::uint8_t {
-  wait,    // asked again next week
-  retire,  // no next one, and no word about it
-  end,     // no next one, and the player hears of it
+  wait,    // decided in a later week
+  retire,  // ends without a log line
+  end,     // ends with a log line
   carryOn,
 };
 
-// A rating that falls between the two rows stays undecided.
+// A rating between the two rows gives no verdict.
 struct RatingBand {
   double from;
   double upTo;
-  bool hasAChance;
+  bool canContinue;
 };
 constexpr std::array<RatingBand, 2> ratingBands = {{
-    {.from = 0, .upTo = 4, .hasAChance = false},
-    {.from = 4.01, .upTo = 300, .hasAChance = true},
+    {.from = 0, .upTo = 4, .canContinue = false},
+    {.from = 4.01, .upTo = 300, .canContinue = true},
 }};
 
 Verdict verdictOn(Game& game, double rating) {
   const RatingBand* const band = bandOf(ratingBands, rating);
   if (band == nullptr) return Verdict::wait;
-  if (!band->hasAChance) return Verdict::end;
+  if (!band->canContinue) return Verdict::end;
   return rating > static_cast<double>(RandomBetween(game.random, 1, 12)) ? Verdict::carryOn : Verdict::end;
 }
 
@@ -52,12 +53,12 @@ Verdict judge(Game& game, const Audition& project) {
   const WorldState& world = game.world;
   if (project.isPrincipal != rolePart::principal) return Verdict::retire;
   if (world.weekNumberForTracking - project.weekReleased < weeksUntilVerdict) return Verdict::wait;
-  const std::size_t film = filmIndex(world, project.filmId);
-  if (film == world.saveAllFilmList.size()) return Verdict::retire;
-  return verdictOn(game, world.saveAllFilmList[film].imbdRating);
+  const auto film = find(world.saveAllFilmList, &Film::filmId, project.filmId);
+  if (!film) return Verdict::retire;
+  return verdictOn(game, world.saveAllFilmList[*film].imbdRating);
 }
 
-// A feature film goes on only as part of a saga.
+// Only feature films of a saga can continue.
 bool isUndecided(const Audition& project, std::int64_t typeOfFilm) {
   const bool can_go_on = typeOfFilm == filmType::series || project.franchiseId != outsideSagas;
   return project.funnelStage >= funnel::wrapped && project.isContinued == 0 &&
@@ -71,7 +72,7 @@ struct Factors {
   double high;
 };
 
-// What success is worth, by half the sum of the viewers' rating and the critics' score in whole tens.
+// The factor on budget and pay by the mean of the rating and the metascore's whole tens.
 struct SuccessBand {
   double from;
   double upTo;
@@ -87,7 +88,7 @@ constexpr std::array<SuccessBand, 5> successBands = {{
 }};
 constexpr SuccessBand betweenBands = {.pay = {1.1, 1.1}, .royalty = {1.1, 1.1}};
 
-constexpr double biggestBudget = 3e9;  // dollars
+constexpr double maxInstalmentBudget = 3e9;  // dollars
 
 double drawFactor(Game& game, Factors factors) { return RandomUnit(game.random, factors.low, factors.high); }
 
@@ -99,7 +100,7 @@ const SuccessBand& successOf(const Film& film) {
 
 void setTerms(Game& game, Audition& next, const SuccessBand& success) {
   const double factor = drawFactor(game, success.pay);
-  next.budget = std::min(factor * next.budget, biggestBudget);
+  next.budget = std::min(factor * next.budget, maxInstalmentBudget);
   next.payment *= (factor + RandomUnit(game.random, 0.5, 1.5)) * 0.5;
   if (next.royalty > 0) next.royalty *= drawFactor(game, success.royalty);
   next.buyout = 0;
@@ -114,8 +115,8 @@ void setSchedule(Game& game, Audition& next) {
   next.workYear = yearOfWork(game.world, next.weekToWork);
 }
 
-// The performer starts anew. What is not set here goes on as it was: the cast and crew, the agency, the
-// residual, and the one interview that a title is given.
+// Resets the performer's preparation. Everything else is copied: cast and crew, agency, residual, and whether
+// the title was promoted.
 void setPreparation(Game& game, Audition& next) {
   next.rehearsalRating = drawRehearsalRating(game);
   next.performanceRating = drawPerformanceRating(game, next.rehearsalRating);
@@ -126,17 +127,17 @@ void setPreparation(Game& game, Audition& next) {
   next.didAct = 1;
   next.equityPercentage = 0;
   next.equityDollarsInvested = 0;
-  // The hype speaks of a director as one would be found today; the director is the same as before.
+  // The hype uses a newly drawn director's form, although the director stays the same.
   next.hypeRating = static_cast<double>(drawHypeRating(game, drawDirectorForm(game)));
 }
 
-// The performer is in 8, 10 or 12 episodes, as far as the season has them.
+// The performer is in 8, 10 or 12 episodes, at most in all of the season.
 void setEpisodes(Game& game, Audition& next) {
   const std::int64_t episodes = 8 + 2 * RandomRange(game.random, 3);
   next.numberOfEpisodesActed = std::min(next.numberOfEpisodesTotal, episodes);
 }
 
-// The project after `project`, booked. Saga and episodes are its own to set.
+// The next instalment of `project`, booked. The caller sets saga and episodes.
 Audition nextInstalment(Game& game, const Audition& project) {
   WorldState& world = game.world;
   world.filmId += 1;
@@ -150,7 +151,8 @@ Audition nextInstalment(Game& game, const Audition& project) {
   next.franchiseId = outsideSagas;
   setSchedule(game, next);
   setPreparation(game, next);
-  setTerms(game, next, successOf(world.saveAllFilmList[filmIndex(world, project.filmId)]));
+  setTerms(game, next,
+           successOf(world.saveAllFilmList[*find(world.saveAllFilmList, &Film::filmId, project.filmId)]));
   return next;
 }
 
@@ -163,7 +165,7 @@ void end(Game& game, std::size_t index, Bank bank) {
   Audition& project = game.world.saveAllAuditionList.edit(index);
   project.isContinued = endedForGood;
   logLine(game.world, {NewsKind::cancellation, project.filmId},
-          fill(tellRow(game, bank), {{"title", project.title}}));
+          fill(drawFreshRow(game, bank), {{"title", project.title}}));
 }
 
 // --- Series ---
@@ -173,7 +175,7 @@ void orderSeason(Game& game, std::size_t index) {
   Audition next = nextInstalment(game, world.saveAllAuditionList[index]);
   setEpisodes(game, next);
   logLine(world, {NewsKind::renewal, next.filmId},
-          fill(tellRow(game, bank::seriesRenewal),
+          fill(drawFreshRow(game, bank::seriesRenewal),
                {{"title", next.title}, {"season", std::to_string(next.seasonNumber)}}));
   renew(world, index, std::move(next));
 }
@@ -199,14 +201,14 @@ void orderFilm(Game& game, std::size_t index, const MovieFranchise& entry) {
   next.franchise = entry.movieNumber;
   next.franchiseId = entry.id;
   logLine(world, {NewsKind::renewal, next.filmId},
-          fill(tellRow(game, bank::sagaRenewal),
+          fill(drawFreshRow(game, bank::sagaRenewal),
                {{"title", world.saveAllAuditionList[index].title}, {"nextTitle", next.title}}));
   renew(world, index, std::move(next));
 }
 
 // --- The passes ---
 
-// Judges what was there when the pass began; what it adds is booked and its turn comes with its own release.
+// Handles the projects that existed when the pass began, not the ones it adds.
 template <class CarryOn>
 void decide(Game& game, std::int64_t typeOfFilm, Bank endBank, CarryOn carryOn) {
   WorldState& world = game.world;

@@ -1,17 +1,16 @@
 #pragma once
 
-// The next season of a series and the next film of a saga, ordered from the eleventh week after a release on.
-// Both read `imbdRating`, the viewers' score: up to 4 ends it, and above that the more the likelier.
+// Renewal of series and sagas, from the eleventh week after a release on. Decided by `imbdRating`: up to 4
+// ends it; above that the chance grows with the rating.
 
 #include "core/game.h"
 
 namespace tb {
 
-// Looks at every released series of the performer's that may still be renewed. A new season is a project of
-// its own and already booked. Writes the list, `filmId` and the log when one was decided.
+// Decides about all released series that may still be renewed. A new season is added as a booked project.
 void renewSeries(Game& game);
 
-// The same for the films of a saga, which ends when its catalogue has no further entry.
+// The same for films of a saga. A saga also ends after its last film in the catalogue.
 void renewSaga(Game& game);
 
 }  // namespace tb

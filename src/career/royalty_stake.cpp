@@ -9,6 +9,7 @@
 #include "career/new_title.h"
 #include "career/project_start.h"
 #include "career/schedule.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "core/house_notices.h"
 #include "core/log.h"
@@ -20,10 +21,10 @@ namespace tb {
 
 namespace {
 
-constexpr double leastPercent = 0.25;
-constexpr double highestForAWeakAgent = 0.35;  // of an agent who brings no royalty bonus to speak of
-constexpr double stepOfPercent = 0.1;          // of the percent on offer
-constexpr std::int64_t chanceOfStep = 10;
+constexpr double minPercent = 0.25;
+constexpr double maxForAWeakAgent = 0.35;  // percent, when the agent's royalty bonus is small
+constexpr double stepFraction = 0.1;       // fraction of the offered percentage
+constexpr std::int64_t chancePerStep = 10;
 
 // --- The offer ---
 
@@ -37,11 +38,11 @@ bool isInInbox(const WorldState& world, std::int64_t emailId) {
 }
 
 double drawPercent(Game& game, const TalentAgent& agent) {
-  const double highest = agent.royaltyBonus <= leastPercent ? highestForAWeakAgent : agent.royaltyBonus;
-  return RandomUnit(game.random, leastPercent, highest);
+  const double highest = agent.royaltyBonus <= minPercent ? maxForAWeakAgent : agent.royaltyBonus;
+  return RandomUnit(game.random, minPercent, highest);
 }
 
-// A role as the casting board has them, without its money.
+// A role drawn as on the casting board, without pay.
 Audition drawProject(Game& game, double percent) {
   CastingListing listing{.isPrincipal = rolePart::principal};
   const Movie& drawn = RandomElement(game.random, royaltyMovies());
@@ -53,7 +54,7 @@ Audition drawProject(Game& game, double percent) {
   Audition project = projectFrom(listing);
   project.payment = 0;
   project.buyout = 0;
-  project.residual = 0;  // it would be a part of the fee
+  project.residual = 0;  // residuals depend on the fee
   project.royalty = percent;
   return project;
 }
@@ -69,13 +70,13 @@ Notice book(Game& game, Audition project, double percent) {
   project.source = agent.agency;
   project.sourceId = agent.id;
   project.funnelStage = funnel::booked;
-  // The e-mail may have waited: the weeks count from the signature.
+  // The schedule starts now, not when the e-mail arrived.
   const Schedule schedule = drawSchedule(game);
   project.weekAudition = schedule.weekAudition;
   project.weekToWork = schedule.weekToWork;
   startProject(game, project);
 
-  const std::string line = fill(tellRow(game, bank::royaltySignedBank),
+  const std::string line = fill(drawFreshRow(game, bank::royaltySignedBank),
                                 {{"title", project.title}, {"percent", tb::format("{:.2f}%", percent)}});
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));
@@ -91,11 +92,11 @@ void closeOffer(Game& game, std::int64_t emailId) {
 
 const Audition* stakeOffer(const WorldState& world, std::int64_t emailId) {
   if (!isInInbox(world, emailId) || agentOf(world) == nullptr) return nullptr;
-  const auto offer = std::ranges::find(world.stakeOffers, emailId, &EmailedProject::emailId);
-  return offer == world.stakeOffers.end() ? nullptr : &offer->project;
+  const auto offer = find(world.stakeOffers, &EmailedProject::emailId, emailId);
+  return offer ? &world.stakeOffers[*offer].project : nullptr;
 }
 
-void makeStakeOffer(Game& game, std::int64_t emailId) {
+void drawStakeOffer(Game& game, std::int64_t emailId) {
   const TalentAgent* const agent = agentOf(game.world);
   if (agent == nullptr || !isInInbox(game.world, emailId)) return;
   if (stakeOffer(game.world, emailId) != nullptr) return;
@@ -104,10 +105,10 @@ void makeStakeOffer(Game& game, std::int64_t emailId) {
 }
 
 double percentAsked(const Audition& offer, std::int64_t steps) {
-  return offer.royalty * (1 + stepOfPercent * static_cast<double>(steps));
+  return offer.royalty * (1 + stepFraction * static_cast<double>(steps));
 }
 
-std::int64_t chanceOfNegotiation(std::int64_t steps) { return 100 - chanceOfStep * steps; }
+std::int64_t chanceOfNegotiation(std::int64_t steps) { return 100 - chancePerStep * steps; }
 
 std::int64_t negotiationBonus(const WorldState& world) {
   const TalentAgent* const agent = agentOf(world);

@@ -1,7 +1,7 @@
 #pragma once
 
-// A stake instead of pay: an e-mail, which comes through the agent, offers a role in a project that has no
-// money for a fee. The performer names a percent of its gross; the more, the less likely the team agrees.
+// A stake instead of pay: an e-mail from the agent offers a role without a fee. The performer asks for a
+// percentage of the gross; a higher one is less likely to be accepted.
 
 #include <cstdint>
 
@@ -11,36 +11,35 @@
 namespace tb {
 
 inline constexpr std::int64_t stakeNegotiationEnergy = 25;
-inline constexpr std::int64_t mostStakeSteps = 10;  // above the percent on offer
+inline constexpr std::int64_t maxStakeSteps = 10;  // above the offered percentage
 
-// The project that an e-mail offers, with the percent on offer as its `royalty`; null when the e-mail is
-// gone, when nobody is signed who could close the deal, and before makeStakeOffer().
+// The project that an e-mail offers, with the offered percentage as its `royalty`; null when the e-mail is
+// gone, when no agent is signed, and before drawStakeOffer().
 [[nodiscard]] const Audition* stakeOffer(const WorldState& world, std::int64_t emailId);
 
-// Draws the project and the percent of an e-mail that is opened for the first time; the percent lies between
-// 0.25 and the signed agent's `royaltyBonus`. Nothing when it was drawn before, or nothing is offered.
-void makeStakeOffer(Game& game, std::int64_t emailId);
+// Draws the project and the percentage of an e-mail when it is first opened; the percentage is between 0.25
+// and the signed agent's `royaltyBonus`. Does nothing when it is already drawn or there is no offer.
+void drawStakeOffer(Game& game, std::int64_t emailId);
 
-// The percent asked for `steps` (0 to mostStakeSteps) above the one on offer: each adds a tenth of that.
+// The percentage that is `steps` (0 to maxStakeSteps) above the offered one; each step adds a tenth of it.
 [[nodiscard]] double percentAsked(const Audition& offer, std::int64_t steps);
 
-// The chance in percent that the team agrees to it, the agent's bonus not counted: 100, and 10 less a step.
+// The chance in percent that the team accepts, without the agent's bonus: 100 minus 10 per step.
 [[nodiscard]] std::int64_t chanceOfNegotiation(std::int64_t steps);
 
-// What the signed agent adds to that chance, in points; 0 without one.
+// The signed agent's bonus on that chance, in points; 0 without an agent.
 [[nodiscard]] std::int64_t negotiationBonus(const WorldState& world);
 
 struct StakeAnswer {
   Notice notice;
-  bool isFinal;  // the e-mail is answered, one way or the other
+  bool isFinal;  // the offer is closed
 };
 
-// Why nothing can be negotiated now: the energy is missing.
+// Why the offer cannot be negotiated: not enough energy.
 [[nodiscard]] Refusal stakeRefusal(const WorldState& world);
 
-// Asks for that percent, once. On success the role is booked without fee, buyout or residual, to be shot in
-// the weeks that come. Without the energy nothing happens. The e-mail has to be on offer. Writes the energy,
-// the e-mails and, on success, `filmId`, the list and the log.
+// Asks for the percentage, once. On success the role is booked without fee, buyout or residual. Without
+// enough energy nothing changes. stakeOffer() must not be null.
 [[nodiscard]] StakeAnswer negotiateStake(Game& game, std::int64_t emailId, std::int64_t steps);
 
 }  // namespace tb

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/calendar.h"
+
 namespace tb {
 
 Schedule drawSchedule(Game& game) {
@@ -14,8 +16,7 @@ std::int64_t drawReleaseWeek(Game& game, std::int64_t weekToWork) {
 }
 
 std::int64_t yearOfWork(const WorldState& world, std::int64_t weekToWork) {
-  constexpr std::int64_t weeksOfAYear = 52;
-  const std::int64_t week = std::max<std::int64_t>(weekToWork % weeksOfAYear, 1);
+  const std::int64_t week = std::max<std::int64_t>(weekToWork % weeksPerYear, 1);
   return week < world.weekNumber ? world.yearNumber + 1 : world.yearNumber;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// When a project happens, in weeks of `weekNumberForTracking`.
+// The weeks of a project, as values of `weekNumberForTracking`.
 
 #include <cstdint>
 
@@ -10,15 +10,15 @@ namespace tb {
 
 struct Schedule {
   std::int64_t weekAudition;  // 2 to 15 weeks from now
-  std::int64_t weekToWork;    // the wrap, 4 to 20 weeks after the audition
+  std::int64_t weekToWork;    // week of the wrap, 4 to 20 weeks after the audition
 };
 [[nodiscard]] Schedule drawSchedule(Game& game);
 
-// The release: 8 to 15 weeks after the wrap.
+// Draws the release week, 8 to 15 weeks after the wrap.
 [[nodiscard]] std::int64_t drawReleaseWeek(Game& game, std::int64_t weekToWork);
 
-// The calendar year of filming. A project is taken to wrap within a year: when its week of the year is
-// already behind the present one, it is next year's.
+// The calendar year of filming. A project is assumed to wrap within a year: when its week of the year is
+// before the current one, it is next year.
 [[nodiscard]] std::int64_t yearOfWork(const WorldState& world, std::int64_t weekToWork);
 
 }  // namespace tb

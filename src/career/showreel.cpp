@@ -16,17 +16,17 @@ namespace tb {
 
 namespace {
 
-// Of three perfect scenes, a perfect level and the best cut there would be 425 points. The divisor is the
-// same for one scene, which is why short reels rate low, and why the strongest actors pass 100.
-constexpr double pointsOfAPerfectReel = 425;
+// Three perfect scenes, a perfect level and the best cut add up to 425 points. The divisor is the same for
+// fewer scenes, so short reels score low; the strongest actors can exceed 100.
+constexpr double perfectReelPoints = 425;
 
-constexpr double worstCutOfFootage = 10;
-constexpr double worstCutOfScenes = 0;
+constexpr double minFootageCut = 10;
+constexpr double minSceneCut = 0;
 constexpr double bestCut = 25;
 
 std::int64_t scoreOfReel(const WorldState& world, std::int64_t scenes, double cut) {
   const double points = static_cast<double>(scenes + overallTalent(world)) + cut;
-  return static_cast<std::int64_t>(points / pointsOfAPerfectReel * 100);
+  return static_cast<std::int64_t>(points / perfectReelPoints * 100);
 }
 
 std::int64_t reelScore(Game& game, std::int64_t scenes, double worstCut) {
@@ -75,7 +75,7 @@ std::vector<std::size_t> allPerformanceFootage(const WorldState& world) {
 }
 
 void openShowreel(Game& game) {
-  // A save from elsewhere can hold one list without the other: scenes that can't be told are no scenes.
+  // An imported save can hold one list without the other; entries without a counterpart are dropped.
   WorldState& world = game.world;
   while (world.newScenesProduced.size() > world.newSceneDescriptions.size())
     world.newScenesProduced.pop_back();
@@ -90,7 +90,7 @@ Refusal roomForScene(std::size_t packageIndex, std::size_t scenes) {
 
 Refusal chooseFootage(std::vector<std::int64_t>& filmIds, std::int64_t filmId) {
   if (std::erase(filmIds, filmId) > 0) return {};
-  if (filmIds.size() >= mostFootage) {
+  if (filmIds.size() >= maxFootage) {
     return Notice{.title = "⚡️ Limit Reached ⚡️",
                   .message = "\nYou can only select up to 3 scenes for your showreel."};
   }
@@ -99,7 +99,7 @@ Refusal chooseFootage(std::vector<std::int64_t>& filmIds, std::int64_t filmId) {
 }
 
 std::int64_t previewFootageReel(Game& game, std::span<const std::int64_t> filmIds) {
-  return reelScore(game, footageSum(game.world, filmIds), worstCutOfFootage);
+  return reelScore(game, footageSum(game.world, filmIds), minFootageCut);
 }
 
 std::int64_t likelyFootageScore(const WorldState& world) {
@@ -109,8 +109,8 @@ std::int64_t likelyFootageScore(const WorldState& world) {
   }
   if (scores.empty()) return 0;
   std::ranges::sort(scores, std::greater{});
-  scores.resize(std::min(scores.size(), mostFootage));
-  return scoreOfReel(world, std::reduce(scores.begin(), scores.end()), (worstCutOfFootage + bestCut) / 2);
+  scores.resize(std::min(scores.size(), maxFootage));
+  return scoreOfReel(world, std::reduce(scores.begin(), scores.end()), (minFootageCut + bestCut) / 2);
 }
 
 Refusal reelRefusal(const WorldState& world, double cost) {
@@ -141,7 +141,7 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
   if (Refusal refusal = checkScenes(package, sceneDescriptions.size())) return refusal;
   if (Refusal refusal = payFor(game, package.cost)) return refusal;
 
-  // The scenes of this reel take the place of those of the last one.
+  // Replaces the scenes of the previous reel.
   WorldState& world = game.world;
   world.newScenesProduced.clear();
   world.newSceneDescriptions.clear();
@@ -155,11 +155,11 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
   world.existingFootageScore = static_cast<double>(sum);
   if (!footageFilmIds.empty()) sum = footageSum(world, footageFilmIds);
 
-  world.showreelScore = reelScore(game, sum, worstCutOfScenes);
-  logActivity(world,
-              fill(tellRow(game, bank::showreelScene), {{"amount", currency(game.locale, package.cost, 0)},
-                                                        {"description", joinedWithAnd(sceneDescriptions)},
-                                                        {"n", std::to_string(world.showreelScore)}}));
+  world.showreelScore = reelScore(game, sum, minSceneCut);
+  logActivity(world, fill(drawFreshRow(game, bank::showreelScene),
+                          {{"amount", currency(game.locale, package.cost, 0)},
+                           {"description", joinedWithAnd(sceneDescriptions)},
+                           {"n", std::to_string(world.showreelScore)}}));
   return {};
 }
 

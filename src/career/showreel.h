@@ -1,7 +1,7 @@
 #pragma once
 
-// The showreel that casting sees first. A new reel replaces the old one, so its score, in points, can fall.
-// It is cut from footage of finished work, or from scenes shot for it.
+// The showreel. A new reel replaces the old one, so its score (points) can go down. It is cut from footage of
+// finished work or from new scenes.
 
 #include <array>
 #include <cstdint>
@@ -15,10 +15,10 @@
 
 namespace tb {
 
-// What a production company offers.
+// An offer of a production company.
 struct ScenePackage {
   std::string_view title;
-  std::size_t scenes;  // as many as it holds
+  std::size_t scenes;  // maximum number of scenes
   double cost;         // dollars
 };
 
@@ -32,38 +32,36 @@ inline constexpr std::array<ScenePackage, 3> scenePackages = {{
 }};
 
 inline constexpr double footageReelCost = 399;  // dollars
-inline constexpr std::size_t mostFootage = 3;   // scenes in a reel
+inline constexpr std::size_t maxFootage = 3;    // clips in a reel
 
-// Where in `saveAllAuditionList` the footage stands that a reel can be cut from: the performer's wrapped
-// work.
+// Indexes in `saveAllAuditionList` of the footage for a reel: the performer's wrapped work.
 [[nodiscard]] std::vector<std::size_t> allPerformanceFootage(const WorldState& world);
 
-// Reads the showreel's keys back when its screen opens; every scene then has its score.
+// Repairs the lists of scenes when the screen opens, so that every scene has a score.
 void openShowreel(Game& game);
 
-// Refuses one more scene than a package (0 to 2) holds, with `scenes` of them written already.
+// Refuses another scene when a package (0 to 2) is full; `scenes` is the number of scenes so far.
 Refusal roomForScene(std::size_t packageIndex, std::size_t scenes);
 
-// Adds a scene to the chosen footage, or takes it out again. Refuses a fourth.
+// Adds a clip to the chosen footage, or removes it if it is chosen. Refuses a fourth clip.
 Refusal chooseFootage(std::vector<std::int64_t>& filmIds, std::int64_t filmId);
 
-// The score of a reel cut from the footage with these film ids, as it would come out today. Another cut comes
-// out differently.
+// Draws the score of a reel cut from the footage with these film ids. Each call draws a new cut.
 [[nodiscard]] std::int64_t previewFootageReel(Game& game, std::span<const std::int64_t> filmIds);
 
-// The score that a reel of the best footage would come out with, by an average cut; 0 without any footage.
+// The expected score of a reel from the best footage with an average cut; 0 without footage.
 [[nodiscard]] std::int64_t likelyFootageScore(const WorldState& world);
 
-// Why a reel of that price, in dollars, cannot be paid for now.
+// Why a reel at that price (dollars) cannot be bought: not enough cash.
 [[nodiscard]] Refusal reelRefusal(const WorldState& world, double cost);
 
-// Pays for the reel that was previewed at `tempScore` and takes that score. Refuses without a choice or
-// without the cash. Writes cash, score and log.
+// Buys the reel that was previewed with `tempScore` and sets the showreel score to it. Refused without chosen
+// footage or without the cash.
 Refusal buildShowreelFromFootage(Game& game, std::span<const std::int64_t> filmIds, std::int64_t tempScore);
 
-// Has the scenes of a package (0 to 2) shot: one description each. When footage is chosen too, the reel is
-// rated by the footage in their place. Refuses more scenes than the package holds, none at all, and without
-// the cash. Writes cash, score, scenes and log.
+// Buys a package (0 to 2) of new scenes, one description each. If footage is also chosen, the footage sets
+// the score instead of the scenes. Refused with no scenes, with more than the package holds, or without the
+// cash.
 Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
                               std::span<const std::string> sceneDescriptions,
                               std::span<const std::int64_t> footageFilmIds);

@@ -5,7 +5,7 @@
 #include "banks/audition_banks.h"
 #include "banks/draw.h"
 #include "career/project_start.h"
-#include "core/audition_list.h"
+#include "core/find.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 
@@ -13,8 +13,8 @@ namespace tb {
 
 namespace {
 
-// A member works for the guild's productions only, everybody else for the others only.
-Refusal guildObjects(const WorldState& world, const CastingListing& listing) {
+// Members can submit for union roles only, non-members for non-union roles only.
+Refusal unionRefusal(const WorldState& world, const CastingListing& listing) {
   if (listing.isUnion == world.isSAG) return {};
   if (listing.isUnion == 0) {
     return Notice{
@@ -39,12 +39,12 @@ Audition submittedRecord(Game& game, const CastingListing& listing) {
 }  // namespace
 
 Refusal submissionRefusal(const WorldState& world, const CastingListing& listing) {
-  if (auditionIndex(world, listing.filmId)) {
+  if (find(world.saveAllAuditionList, &Audition::filmId, listing.filmId)) {
     return Notice{.title = "🎭 SUBMITTED! 🎭",
                   .message = "\nYou already submitted for this role. Choose another one.",
                   .brief = "Submitted"};
   }
-  if (Refusal refusal = guildObjects(world, listing)) return refusal;
+  if (Refusal refusal = unionRefusal(world, listing)) return refusal;
   if (world.totalEnergyAvailable < submissionEnergy) {
     return Notice{.title = "⚡️ Not Enough Energy! ⚡️",
                   .message = "\nYou don't have the energy to submit for this role.",
@@ -58,9 +58,10 @@ Refusal submitToCastingListing(Game& game, const CastingListing& listing) {
   if (Refusal refusal = submissionRefusal(world, listing)) return refusal;
 
   world.totalEnergyAvailable -= submissionEnergy;
-  world.filmId = std::max(world.filmId, listing.filmId);  // listings are answered in any order; it only rises
+  world.filmId =
+      std::max(world.filmId, listing.filmId);  // listings can be used in any order; never decreases
   world.saveAllAuditionList.push_back(submittedRecord(game, listing));
-  logActivity(world, fill(tellRow(game, bank::submission), {{"title", listing.movie->title}}));
+  logActivity(world, fill(drawFreshRow(game, bank::submission), {{"title", listing.movie->title}}));
   return {};
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Submitting for a role of the casting board.
+// Submission for a role on the casting board.
 
 #include <cstdint>
 
@@ -12,12 +12,11 @@ namespace tb {
 
 inline constexpr std::int64_t submissionEnergy = 20;
 
-// Why the performer cannot submit now: the role was submitted for already, it is union work and the performer
-// outside the guild, or the other way round, or the energy is missing.
+// Why the performer cannot submit: already submitted, a union role without membership or the reverse, or not
+// enough energy.
 [[nodiscard]] Refusal submissionRefusal(const WorldState& world, const CastingListing& listing);
 
-// Puts the project of a listing on the performer's list, or refuses. Writes the energy, `filmId`, the list
-// and the log.
+// Adds the listing's project to the performer's list, or refuses.
 Refusal submitToCastingListing(Game& game, const CastingListing& listing);
 
 }  // namespace tb

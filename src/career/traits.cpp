@@ -9,7 +9,7 @@ namespace tb {
 
 namespace {
 
-// How much dearer the next point gets, each with the same chance.
+// The factor on the next price, drawn uniformly.
 constexpr std::array<std::int64_t, 10> energyCostMultiples = {1, 1, 1, 1, 1, 1, 1, 1, 2, 3};
 
 }  // namespace
@@ -23,7 +23,7 @@ const std::array<Trait, 5> traits = {{
 }};
 
 std::int64_t nextValue(const WorldState& world, const Trait& trait) {
-  return std::min(world.*trait.price / trait.pricePerPoint, highestTrait);
+  return std::min(world.*trait.price / trait.pricePerPoint, maxTrait);
 }
 
 Refusal traitRefusal(const WorldState& world, const Trait& trait) {
@@ -35,7 +35,7 @@ Refusal traitRefusal(const WorldState& world, const Trait& trait) {
 Refusal buyTrait(Game& game, int k) {
   WorldState& world = game.world;
   const Trait& trait = traits[static_cast<std::size_t>(k - 1)];
-  if (world.*trait.points >= highestTrait) return {};
+  if (world.*trait.points >= maxTrait) return {};
   if (Refusal refusal = traitRefusal(world, trait)) return refusal;
 
   world.*trait.points = nextValue(world, trait);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The five traits that the player trains. Energy buys them, and a trait tracks what was paid for it: the new
-// value is the price paid (half of it for the voice, whose prices run double).
+// The five traits that the player trains with energy. A trait's new value is the energy paid for it (half of
+// it for the voice, whose prices are double).
 
 #include <array>
 #include <cstdint>
@@ -16,21 +16,21 @@ struct Trait {
   std::string_view label;
   std::int64_t WorldState::* points;  // 1 and up
   std::int64_t WorldState::* price;   // energy for the next purchase
-  std::int64_t pricePerPoint;         // the new value is the price paid, divided by this
+  std::int64_t pricePerPoint;         // divisor of the price for the new value
 };
 
 extern const std::array<Trait, 5> traits;
 
-inline constexpr std::int64_t highestTrait = 100;
+inline constexpr std::int64_t maxTrait = 100;
 
-// The value that the next purchase gives: 1 to 100.
+// The value after the next purchase, 1 to 100.
 [[nodiscard]] std::int64_t nextValue(const WorldState& world, const Trait& trait);
 
-// Why the next point cannot be bought now: the energy is missing.
+// Why the trait cannot be raised: not enough energy.
 [[nodiscard]] Refusal traitRefusal(const WorldState& world, const Trait& trait);
 
-// Buys trait k (1 to 5) for energy. Does nothing from 100 on; refuses without the energy. A trait that chance
-// raised above its price falls back to it. Writes the energy, the trait and its next price.
+// Raises trait k (1 to 5) for energy. Does nothing at 100 or above; refused without enough energy. A trait
+// above its price is set down to it.
 Refusal buyTrait(Game& game, int k);
 
 }  // namespace tb

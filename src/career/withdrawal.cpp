@@ -5,7 +5,7 @@
 
 #include "banks/audition_banks.h"
 #include "banks/draw.h"
-#include "core/audition_list.h"
+#include "core/find.h"
 #include "core/log.h"
 
 namespace tb {
@@ -14,19 +14,19 @@ bool isWithdrawalOffered(const Audition& project) { return project.funnelStage <
 
 void withdrawFromRole(Game& game, std::int64_t filmId) {
   WorldState& world = game.world;
-  const auto index = auditionIndex(world, filmId);
+  const auto index = find(world.saveAllAuditionList, &Audition::filmId, filmId);
   if (!index || !isWithdrawalOffered(world.saveAllAuditionList[*index])) return;
 
-  constexpr double mostOfFans = 0.01;
+  constexpr double maxFanLoss = 0.01;
   const std::string title = world.saveAllAuditionList[*index].title;
   const Subject subject = subjectOf(world.saveAllAuditionList[*index]);
   world.saveAllAuditionList.erase_at(*index);
-  const auto most = static_cast<std::int64_t>(static_cast<double>(world.totalFans) * mostOfFans);
+  const auto most = static_cast<std::int64_t>(static_cast<double>(world.totalFans) * maxFanLoss);
   const std::int64_t lost = RandomBetween(game.random, 0, std::max<std::int64_t>(most, 0));
   world.totalFans -= lost;
   world.trackFans.push_back(world.totalFans);
-  logActivity(
-      world, fill(tellRow(game, bank::withdrawal, subject), {{"title", title}, {"n", std::to_string(lost)}}));
+  logActivity(world, fill(drawFreshRow(game, bank::withdrawal, subject),
+                          {{"title", title}, {"n", std::to_string(lost)}}));
 }
 
 }  // namespace tb

@@ -1,17 +1,16 @@
 #pragma once
 
-// Walking away from a role.
+// Withdrawal from a role.
 
 #include "core/game.h"
 
 namespace tb {
 
-// Whether a project can still be left: until it is wrapped.
+// Whether the performer can withdraw from a project: until it is wrapped.
 [[nodiscard]] bool isWithdrawalOffered(const Audition& project);
 
-// Takes the project with that id off the list. Costs up to a hundredth of the fans, whether or not anybody
-// knew of the role. Does nothing when the project is not there or is wrapped. Writes the list, `totalFans`,
-// `trackFans` and the log.
+// Removes the project from the list. Costs up to 1 % of the fans. Does nothing when the project does not
+// exist or is wrapped.
 void withdrawFromRole(Game& game, std::int64_t filmId);
 
 }  // namespace tb

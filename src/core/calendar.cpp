@@ -9,7 +9,7 @@ namespace tb {
 
 namespace {
 
-// The Friday of a week, or nothing for a week that no year has.
+// The Friday of a week; nothing for a week number that no year has.
 std::optional<std::chrono::year_month_day> fridayOf(std::int64_t week, std::int64_t year) {
   using namespace std::chrono;
   constexpr std::int64_t weeksInTheLongestYear = 53;

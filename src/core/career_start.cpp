@@ -15,7 +15,8 @@ constexpr Int startingEnergy = 100;
 constexpr Real basicNeedsAmount = 50.0;  // a week
 constexpr Real fanBonusWithoutAgent = 1.0;
 
-// What outlives a career. Before the table's values are set, because they empty the vault.
+// Carries values over to the next career. Runs before the table's restart values are set, because those empty
+// the vault.
 void carryOver(WorldState& world) {
   world.totalCashAvailable = world.myVault;
   world.totalEnergyMax = startingEnergy + std::max<Int>(world.permanentEnergyUpgrade, 0);
@@ -23,9 +24,9 @@ void carryOver(WorldState& world) {
   world.experience = static_cast<Real>(std::max<Int>(world.permanentExperience, 0));
 }
 
-// What no launch reads back is not in memory, where its change would show: it leaves the store with its
-// career.
-void forgetUnread(SaveStore& store) {
+// A launch does not read these keys, so memory does not show a change in them: they are removed from the
+// store here.
+void eraseUnreadKeys(SaveStore& store) {
   for (const Variable& variable : variables()) {
     if (!variable.isKept && variable.load == Load::never) store.remove(variable.key);
   }
@@ -54,7 +55,7 @@ Refusal confirmNewCareer(Game& game, const NewCareerForm& form) {
 void restartCareer(Game& game) {
   carryOver(game.world);
   setRestartValues(game.world);
-  forgetUnread(game.store);
+  eraseUnreadKeys(game.store);
   ensureBasicNeeds(game);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
-// How a career begins, and how it begins again: the new-career form, the restart, and what must hold in every
-// career from its first moment on.
+// The start of a career: the new-career form, the restart, and what every career has from its first moment.
 
 #include "core/game.h"
 #include "core/notice.h"
@@ -11,7 +10,7 @@ namespace tb {
 // The year in which every career begins.
 inline constexpr Int firstYear = 2026;
 
-// What the form holds when it is confirmed. The age is not in it: it is written when chosen.
+// The contents of the form when it is confirmed. The age is not part of it: chooseAge() sets it at once.
 struct NewCareerForm {
   String myName;
   String aboutDescription;
@@ -19,25 +18,25 @@ struct NewCareerForm {
   Image headshotImage;  // empty while none is chosen
 };
 
-// Sets the performer's age in years, and the year of birth to match, and writes both. A form whose age is
-// never touched leaves the start values, 18 and 2005, which do not match.
+// Sets the performer's age in years and the matching year of birth. If it is never called, the start values
+// 18 and 2005 stay, which do not match.
 void chooseAge(Game& game, Int age);
 
-// Starts the career of the form: sets and writes name, biography, gender, picture and year, and marks the
-// form as done. Refused, with nothing changed, while the name is empty; a name of blanks passes.
+// Starts a career: sets name, biography, gender, picture and year, and marks the form as done. Refused, with
+// nothing changed, while the name is empty; a name of spaces is accepted.
 Refusal confirmNewCareer(Game& game, const NewCareerForm& form);
 
-// Wipes the career: every variable takes and writes the table's value at a restart. The vault becomes the
-// cash that the next career starts with, lasting energy and experience carry over, and the form is due again
-// (enterPlayerDetails 0). What the table marks `kept` stays, the cameo sales and the company's salary and
-// attribute points among it, on purpose.
+// Resets the career: every variable gets its restart value from the table. The vault becomes the starting
+// cash of the next career, permanent energy and experience carry over, and the form has to be filled in again
+// (enterPlayerDetails 0). Variables marked `kept` do not change; cameo sales and the company's salary and
+// attribute points are among them on purpose.
 void restartCareer(Game& game);
 
-// Every career pays for its basic needs: adds and writes the weekly item when the list has none.
+// Adds the weekly Basic Needs item when the list has none: every career pays for it.
 void ensureBasicNeeds(Game& game);
 
-// With no agent signed, fan gains are neither widened nor lost: agentFanBonus becomes 1 and is written. Does
-// nothing while an agent is signed.
+// Sets agentFanBonus to 1 when no agent is signed, so that fan gains are not multiplied. Does nothing while
+// an agent is signed.
 void normaliseAgentFanBonus(Game& game);
 
 }  // namespace tb

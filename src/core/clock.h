@@ -1,13 +1,13 @@
 #pragma once
 
-// The time of day, with which posts are stamped. The shell hands in the device's clock; without one the time
-// stands still, so that what a test plays is the same at any hour.
+// The current time, used as the timestamp of posts. The shell passes in the device's clock; the default clock
+// is stopped, so that tests do not depend on the time.
 
 #include "core/plain_types.h"
 
 namespace tb {
 
-// Gives the present moment.
+// Returns the current time.
 using Clock = plist::Date (*)();
 
 // Always January 1, 2001, midnight UTC.

@@ -7,7 +7,7 @@
 namespace tb {
 
 void debugLog(std::string_view line) {
-  // One line and one write, whatever the text: lines of several processes do not mix.
+  // A single write, so that lines of several processes do not interleave.
   std::string whole(line);
   std::ranges::replace(whole, '\n', ' ');
   whole += '\n';

@@ -1,7 +1,6 @@
 #pragma once
 
-// The debug log: one line each on the standard error stream, for whoever looks into a failure. The game shows
-// none of it.
+// The debug log: one line per message on standard error, for debugging. The game never shows it.
 
 #include <string_view>
 

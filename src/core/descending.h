@@ -1,7 +1,7 @@
 #pragma once
 
-// Lists by a figure, the greatest first; what has the same figure keeps its order. One sort for rows of all
-// types: a sort that is stamped out for each type takes two to four kilobytes of the page's program.
+// Stable descending sort by a number. One sort is shared by rows of all types: each instance of a sort
+// template would add two to four kilobytes to the page's program.
 
 #include <cstddef>
 #include <functional>
@@ -11,10 +11,10 @@
 
 namespace tb {
 
-// The indexes of the figures, that of the greatest first.
+// The indexes of the numbers, sorted by descending number.
 [[nodiscard]] std::vector<std::size_t> descendingOrder(std::span<const double> figures);
 
-// `figure` is a member of a row, or a function of it.
+// `figure` is a member of the row, or a function that takes the row.
 template <class Row, class Figure>
 void sortDescending(std::vector<Row>& rows, Figure figure) {
   std::vector<double> figures;

@@ -1,15 +1,17 @@
 #pragma once
 
-// The week that just ended, seen when the clock already shows the new one: by the summary, and by what is
-// told of that week from then on.
+// The week that just ended, for code that runs when the clock already shows the new week, such as the
+// summary.
 
 #include <cstdint>
 
+#include "core/calendar.h"
 #include "core/world_state.h"
 
 namespace tb {
 
-// By the calendar. In the last week of a year `weekNumber` is 53 and `yearNumber` still the old year.
+// Calendar week and year. After the last week of a year `weekNumber` is 53 and `yearNumber` is still the old
+// year.
 struct EndedWeek {
   std::int64_t week;
   std::int64_t year;
@@ -20,8 +22,7 @@ struct EndedWeek {
 }
 
 [[nodiscard]] constexpr EndedWeek endedWeek(const WorldState& world) {
-  constexpr std::int64_t weeksOfAYear = 52;
-  if (world.weekNumber == 1) return {.week = weeksOfAYear, .year = world.yearNumber - 1};
+  if (world.weekNumber == 1) return {.week = weeksPerYear, .year = world.yearNumber - 1};
   return {.week = world.weekNumber - 1, .year = world.yearNumber};
 }
 

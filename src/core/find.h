@@ -1,6 +1,6 @@
 #pragma once
 
-// Finding a record of a list by a field. The one way to do it: a position, or nothing.
+// Finds a record of a list by the value of a field. The result is an index, or nothing.
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace tb {
 
-// Where the first record whose field has this value stands; nothing when there is none.
+// The index of the first record whose field has this value; nothing when there is none.
 template <class Record, class Field, class Value>
 [[nodiscard]] std::optional<std::size_t> find(const List<Record>& list, Field Record::* field,
                                               const Value& value) {
@@ -20,15 +20,15 @@ template <class Record, class Field, class Value>
   return std::nullopt;
 }
 
-// Where an integer field stands in a record, in bytes.
+// The offset of an integer field in a record, in bytes.
 template <class Record>
 [[nodiscard]] std::size_t offsetOf(const Record& record, std::int64_t Record::* field) {
   return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(record.*field)) -
                                   reinterpret_cast<const std::byte*>(&record));
 }
 
-// The same by an id, which never changes while its record is in the list. Long lists have an index of ids
-// that are small counts: a career has thousands of titles, and tens of thousands of market records.
+// The same for an id field, which must not change while its record is in the list. Long lists keep a table of
+// small ids, because a career has thousands of titles and tens of thousands of market records.
 template <class Record>
 [[nodiscard]] std::optional<std::size_t> find(const List<Record>& list, std::int64_t Record::* id,
                                               std::int64_t value) {
@@ -36,8 +36,8 @@ template <class Record>
   return list.firstWithId(offsetOf(list.front(), id), value);
 }
 
-// Calls visit(index) for every record with this id, front to back. The visit may edit records but neither add
-// nor erase any.
+// Calls visit(index) for every record with this id, front to back. `visit` may edit records but must not add
+// or erase any.
 template <class Record, class Visit>
 void forEachWith(const List<Record>& list, std::int64_t Record::* id, std::int64_t value, Visit visit) {
   if (list.empty()) return;

@@ -6,12 +6,12 @@ namespace tb {
 
 namespace {
 
-// Room for the largest double in full, with nine digits after the point.
-constexpr std::size_t mostCharacters = 330;
+// Enough for the largest double with nine digits after the decimal point.
+constexpr std::size_t maxCharacters = 330;
 
 template <class Number, class... How>
 void append(std::string& out, Number number, How... how) {
-  std::array<char, mostCharacters> text;
+  std::array<char, maxCharacters> text;
   const auto end = std::to_chars(text.data(), text.data() + text.size(), number, how...).ptr;
   out.append(text.data(), end);
 }
@@ -36,7 +36,7 @@ std::string formatValues(std::string_view text, std::span<const FormatValue> val
   std::string out;
   std::size_t used = 0;
   while (!text.empty()) {
-    const FormatField field = takeFormatField(text);
+    const FormatField field = nextFormatField(text);
     out += field.before;
     if (field.style == FormatField::Style::none) break;
     const FormatValue& value = values[used++];

@@ -1,14 +1,14 @@
 #pragma once
 
-// Text with values in it: tb::format("{} of {}", done, all). What it writes is what std::format writes, and a
-// placeholder that does not fit its value does not compile. The library's own is written for more than the
-// game says: it makes a tenth of the page's program, and two seconds of each file's compile time.
+// A small std::format: tb::format("{} of {}", done, all). Its output is the same as std::format's, and a
+// field that does not match its value does not compile. std::format itself would be a tenth of the page's
+// program and cost two seconds of compile time per file.
 //
 //   {}       a text, a whole number, or a figure with as few digits as tell it from its neighbors
 //   {:+}     a whole number with its sign
 //   {:.1f}   a figure with so many digits after the point, 0 to 9; {:.{}f} takes their number from the values
 //
-// There is no way to write a brace.
+// A literal brace cannot be written.
 
 #include <array>
 #include <concepts>
@@ -23,13 +23,13 @@ namespace tb {
 
 struct FormatField {
   enum class Style : std::uint8_t { none, plain, withSign, fixed, fixedOfValue, unknown };
-  std::string_view before;  // the text in front of it
+  std::string_view before;  // the text before it
   Style style = Style::none;
-  int digits = 0;  // after the point
+  int digits = 0;  // after the decimal point
 };
 
-// The next field of the text, which is taken off it.
-constexpr FormatField takeFormatField(std::string_view& text) {
+// Parses the next field and removes it from the text.
+constexpr FormatField nextFormatField(std::string_view& text) {
   using enum FormatField::Style;
   const std::size_t open = text.find('{');
   FormatField field{.before = text.substr(0, open)};
@@ -94,14 +94,14 @@ class FormatText {
   std::string_view text;
 
  private:
-  static void fieldsAndValuesDiffer() {}  // not constexpr: where it is called, compiling ends
+  static void fieldsAndValuesDiffer() {}  // not constexpr: a call in a constant expression fails to compile
 
   static consteval bool fits(std::string_view text, std::span<const FormatValue::Kind> kinds) {
     using Kind = FormatValue::Kind;
     std::size_t used = 0;
     const auto next = [&](Kind kind) { return used < kinds.size() && kinds[used++] == kind; };
     while (!text.empty()) {
-      switch (takeFormatField(text).style) {
+      switch (nextFormatField(text).style) {
         case FormatField::Style::none:
           break;
         case FormatField::Style::plain:

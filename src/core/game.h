@@ -1,11 +1,11 @@
 #pragma once
 
-// What every rule works on. Rules are free functions over Game&, or over less where that is enough.
+// What a rule works on. Rules are free functions over Game&, or over less when that is enough.
 
 #include "core/clock.h"
 #include "core/locale.h"
 #include "core/random.h"
-#include "core/told_rows.h"
+#include "core/recent_rows.h"
 #include "core/world_state.h"
 
 namespace tb {
@@ -18,7 +18,7 @@ struct Game {
   Locale locale = {};
   WorldState world = {};
   WorldState stored = {};  // the plain variables as the store holds them (core/save.h); its lists stay empty
-  ToldRows told = {};
+  RecentRows recentRows = {};
   Clock clock = stoppedClock;
 };
 

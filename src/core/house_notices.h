@@ -1,7 +1,6 @@
 #pragma once
 
-// Refusals that many rules share, in the style of the house: a title between two emoji and one plain
-// sentence.
+// Refusals shared by many rules. A refusal has a title between two emoji and one plain sentence.
 
 #include <string>
 #include <utility>
@@ -10,7 +9,7 @@
 
 namespace tb {
 
-// The two reasons that stand on more buttons than all others.
+// The two most common reasons on buttons.
 inline constexpr char tooLittleEnergy[] = "Too little energy";
 inline constexpr char tooLittleCash[] = "Too little cash";
 

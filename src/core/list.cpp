@@ -108,7 +108,7 @@ namespace {
 
 // A table is worth its memory when ids are not much more than there are elements, and a walk is as good as a
 // table in a list of a few pieces.
-constexpr std::size_t mostIdsPerElement = 16;
+constexpr std::size_t maxIdsPerElement = 16;
 constexpr std::size_t shortList = 2 * ListBase::pieceLength;
 
 }  // namespace
@@ -124,7 +124,7 @@ bool ListBase::indexIds(std::size_t field) const {
   if (ids_.field != field) ids_ = {.field = field, .first = {}, .last = {}, .next = {}};
   for (std::size_t index = ids_.next.size(); index < size(); ++index) {
     const std::int64_t id = idAt(field, index);
-    if (id < 0 || static_cast<std::size_t>(id) > mostIdsPerElement * size()) return false;
+    if (id < 0 || static_cast<std::size_t>(id) > maxIdsPerElement * size()) return false;
     const auto entry = static_cast<std::size_t>(id);
     if (entry >= ids_.first.size()) {
       ids_.first.resize(entry + 1, IdIndex::none);

@@ -9,8 +9,8 @@ namespace tb {
 
 namespace {
 
-// In place, not by assignment: a list that was assigned to counts as changed.
-void startOver(WorldState& world) {
+// Rebuilt in place: assigning to a list would mark it as changed.
+void resetWorld(WorldState& world) {
   std::destroy_at(&world);
   std::construct_at(&world);
 }
@@ -18,8 +18,8 @@ void startOver(WorldState& world) {
 }  // namespace
 
 void loadWorld(Game& game) {
-  startOver(game.world);
-  startOver(game.stored);
+  resetWorld(game.world);
+  resetWorld(game.stored);
   for (const Variable& variable : variables()) {
     if (variable.load == Load::atStart) loadVariable(game, variable);
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-// How the device writes money, numbers and months. The shell fills it in; without one it is en_US.
+// The device's formats for money, numbers and months. The shell fills it in; the default is en_US.
 
 #include <array>
 #include <string>
@@ -17,7 +17,7 @@ struct Locale {
   std::array<std::string, 12> months = {"January",   "February", "March",    "April",
                                         "May",       "June",     "July",     "August",
                                         "September", "October",  "November", "December"};
-  // The same in capitals, as the device's language writes them.
+  // The months in capitals, by the rules of the device's language.
   std::array<std::string, 12> monthCapitals = {"JANUARY",   "FEBRUARY", "MARCH",    "APRIL",
                                                "MAY",       "JUNE",     "JULY",     "AUGUST",
                                                "SEPTEMBER", "OCTOBER",  "NOVEMBER", "DECEMBER"};

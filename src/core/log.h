@@ -1,10 +1,9 @@
 #pragma once
 
-// The two logs of a career. `WeekFeed` holds the lines of the coming weekly summary, oldest first;
-// `activityTracker` is the record of the whole career, newest first, never pruned.
+// The two logs of a career. `WeekFeed` holds the lines of the next weekly summary, oldest first;
+// `activityTracker` is the log of the whole career, newest first, and is never trimmed.
 //
-// These functions are the only way to add a line. None of them saves: the step that logs writes
-// `activityTracker` with the rest of what it changed.
+// These functions are the only way to add a line.
 
 #include <string>
 
@@ -12,13 +11,13 @@
 
 namespace tb {
 
-// Into both logs.
+// Adds to both logs.
 void logLine(WorldState& world, const News& about, const std::string& text);
 
-// Into the coming summary alone.
+// Adds to the next summary only.
 void feedLine(WorldState& world, const News& about, std::string text);
 
-// Into the career's record alone.
+// Adds to the career's log only.
 void logActivity(WorldState& world, std::string text);
 
 }  // namespace tb

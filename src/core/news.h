@@ -1,7 +1,7 @@
 #pragma once
 
-// What a line of the week is about. Every line of `WeekFeed` has its News beside it, in memory only, so that
-// the review can show a booking as a booking without reading the sentence.
+// The kind of a line of the week. Every line of `WeekFeed` has its News in `weekFeedNews`, in memory only, so
+// that the review knows what a line is about without parsing its text.
 
 #include <cstdint>
 
@@ -12,9 +12,9 @@ enum class NewsKind : std::uint8_t {
   invitation,  // to an audition
   offer,       // a role was won at an audition
   refusal,     // a role was lost at an audition
-  silence,     // a submission that nobody answers any more
-  wrap,        // of a project that the performer is in, has made or has put money into
-  // What becomes of a title
+  silence,     // a submission that will not be answered
+  wrap,        // of a project that the performer acts in, makes or invests in
+  // Titles
   opening,   // in theaters, or a first screening
   premiere,  // of a season
   renewal,   // a further season or film is ordered
@@ -25,7 +25,7 @@ enum class NewsKind : std::uint8_t {
   // Money
   payday,       // residuals, royalties, shares, a first payment
   syndication,  // a network buys the reruns
-  // The trade
+  // The industry
   guild,
   agent,
   classDone,
@@ -40,14 +40,14 @@ enum class NewsKind : std::uint8_t {
   company,
 };
 
-// There is no news of no kind: a line can't be added without saying what it is about.
+// Has no default kind, so every line has to say what it is about.
 struct News {
   News(NewsKind kind, std::int64_t filmId = 0, double amount = 0)
       : kind(kind), filmId(filmId), amount(amount) {}
 
   NewsKind kind;
-  std::int64_t filmId;  // of the project; 0 for none, since projects count from 1
-  double amount;        // dollars that came in, negative for a loss; 0 where no money is meant
+  std::int64_t filmId;  // of the project; 0 for none, because the ids of projects start at 1
+  double amount;        // dollars received, negative for a loss; 0 when the line is not about money
   bool operator==(const News&) const = default;
 };
 

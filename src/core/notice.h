@@ -5,17 +5,16 @@
 
 namespace tb {
 
-// What the player is to see when a rule cannot act, or has something to say.
+// A message to the player: why a rule cannot act, or what it did.
 struct Notice {
   std::string title;
   std::string message;
-  // Of a refusal: the reason in a few words, for the button that would run into it. The notice is the same
-  // with or without it.
+  // For a refusal: the reason in a few words, shown on the button before it is pressed.
   std::string brief = {};
   bool operator==(const Notice& other) const { return title == other.title && message == other.message; }
 };
 
-// What a rule of the player's answers: nothing when it was done, else the notice that tells why not.
+// The result of a player's action: nothing when it was done, else the notice that says why not.
 using Refusal = std::optional<Notice>;
 
 }  // namespace tb

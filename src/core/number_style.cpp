@@ -9,7 +9,7 @@ namespace tb {
 
 namespace {
 
-// One row of a short form: amounts below `below` are shown divided by `unit`.
+// A row of a short form: amounts less than `below` are shown divided by `unit`.
 struct ShortForm {
   double below;
   double unit;
@@ -42,10 +42,10 @@ const ShortForm* formOf(const std::array<ShortForm, Count>& forms, double amount
   return nullptr;
 }
 
-// What stands for an amount that is no number, wherever the device is from.
+// Shown for an amount that is not a number, in every locale.
 constexpr const char* noNumber = "$0";
 
-// The digits of a number that is not negative, grouped by threes, with the locale's separators.
+// The digits of a nonnegative number in groups of three, with the locale's separators.
 std::string groupedDigits(const Locale& locale, double amount, int digits) {
   const std::string plain = tb::format("{:.{}f}", amount, digits);
   const std::size_t whole = std::min(plain.find('.'), plain.size());

@@ -1,6 +1,6 @@
 #pragma once
 
-// How numbers are shown. Every figure that a player reads goes through one of these.
+// Number formats. Every number on a screen is formatted by one of these functions.
 
 #include <cstdint>
 #include <string>
@@ -10,16 +10,17 @@
 namespace tb {
 
 // An amount of money in short form: $99.50, $100, $1.5K, $12K, $3.4M, $120M, $1.2B. Empty for a negative
-// amount and for 10^12 and more, and callers rely on that; "$0" for what is no number.
+// amount and for 10^12 and more, and callers rely on that; "$0" for an amount that is not a number.
 [[nodiscard]] std::string shortMoney(const Locale& locale, double v);
 
-// A count of people or units in short form: 999, 1.0K, 1.0M, 1.0B. Empty for negatives and from 10^12.
+// A count of people or units in short form: 999, 1.0K, 1.0M, 1.0B. Empty for negative counts and for 10^12
+// and more.
 [[nodiscard]] std::string shortCount(std::int64_t n);
 
 // An amount in full, with exactly `digits` digits after the decimal point: $1,234.50, -$3; "$0" as above.
 [[nodiscard]] std::string currency(const Locale& locale, double amount, int digits);
 
-// Cash as the hub shows it: cents while there is less than 1,000, whole units from there on.
+// Cash as the hub shows it: with cents below 1,000, in whole units from 1,000 on.
 [[nodiscard]] std::string cash(const Locale& locale, double amount);
 
 // A whole number with the locale's group separators: 1,234,567.

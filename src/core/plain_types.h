@@ -1,6 +1,6 @@
 #pragma once
 
-// The plain types of the state and its records that the standard library has no name for.
+// The plain types of the state and its records that are not in the standard library.
 
 #include <cstddef>
 #include <vector>

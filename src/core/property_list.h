@@ -1,11 +1,11 @@
 #pragma once
 
-// Binary property lists ("bplist00"): the one form in which the game's values leave memory. Saves, slots,
-// backups and exported files all are property lists, so that any other reader of the format opens them.
+// Binary property lists ("bplist00"): the game's only file format. Saves, slots, backups and exported files
+// are property lists, so any other reader of the format opens them.
 //
-// The reader faces files from outside. It bounds depth, sizes, offsets and the total work, trusts no count
-// in the file, and answers a bad file with a ReadError; it never crashes and never makes more of a file than
-// 64 times its size and 16 MiB (property_list_objects.h tells why).
+// The reader gets untrusted files. It bounds depth, sizes, offsets and total work, checks every count, and
+// returns a ReadError for a bad file; it never crashes, and never allocates more than 64 times the size of
+// the file plus 16 MiB (property_list_objects.h says why).
 
 #include <cstddef>
 #include <cstdint>
@@ -27,7 +27,7 @@ using Array = std::vector<Value>;
 using Dictionary = std::vector<std::pair<std::string, Value>>;  // in the order written; no key twice
 
 struct Value {
-  // Integers above the signed 64-bit range are outside the game's numbers; the reader refuses them.
+  // The game has no integers above the signed 64-bit range; the reader rejects them.
   using Variant = std::variant<bool, std::int64_t, double, std::string, Data, Date, Array, Dictionary>;
   Variant held;
 
@@ -38,21 +38,21 @@ struct Value {
     return std::get_if<T>(&held);
   }
 
-  // The value under `key` when this is a dictionary that has it, else null.
+  // The value of `key` if this is a dictionary that has it, else null.
   [[nodiscard]] const Value* find(std::string_view key) const;
 };
 
 enum class ReadError : std::uint8_t {
   notAPropertyList,  // no bplist00 header, or too short to hold a trailer
-  badTrailer,        // sizes, counts or offsets of the trailer do not fit the file
-  badObject,         // an object runs past the end, has no known marker, or names a key twice
-  badReference,      // a reference to no object, or a circle of references
-  badText,           // a string that is no ASCII or UTF-16, or a key that is no string
+  badTrailer,        // sizes, counts or offsets in the trailer do not match the file
+  badObject,         // an object runs past the end, has an unknown marker, or has a duplicate key
+  badReference,      // a reference to a missing object, or a cycle of references
+  badText,           // a string that is not ASCII or UTF-16, or a key that is not a string
   tooDeep,           // nested deeper than maximumDepth
-  tooMuchWork,       // objects shared so often that reading them out would outgrow the file
+  tooMuchWork,       // the values would take far more memory than the file
 };
 
-// Arrays and dictionaries inside one another, the root counted.
+// The nesting depth of arrays and dictionaries, including the root.
 inline constexpr std::size_t maximumDepth = 64;
 
 // A plain sentence for the debug log.

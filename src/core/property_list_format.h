@@ -1,11 +1,11 @@
 #pragma once
 
-// The layout of a binary property list, for its reader and its writer.
+// The layout of a binary property list, for the reader and the writer.
 //
 //   "bplist00"
-//   the objects          a marker byte (kind above, size or count below), then the content
-//   the offset table     where each object stands in the file, by object number
-//   the trailer          32 bytes: what sizes the two kinds of number have, and where the table stands
+//   the objects          a marker byte (kind in the high half, size or count in the low half), then the
+//   content the offset table     the offset of each object in the file, by object number the trailer 32
+//   bytes: the sizes of offsets and references, and the offset of the table
 //
 // Arrays and dictionaries hold object numbers ("references"). All numbers are big-endian.
 
@@ -20,18 +20,19 @@ inline constexpr std::string_view header = "bplist00";
 enum Marker : std::uint8_t {
   falseMarker = 0x08,
   trueMarker = 0x09,
-  integerMarker = 0x10,  // below: 2^n bytes; 1, 2 and 4 unsigned, 8 and 16 signed
-  realMarker = 0x20,     // below: 2^n bytes, 4 or 8
-  dateMarker = 0x33,     // a real of 8 bytes
-  dataMarker = 0x40,     // below, here and on: the count, or countFollows and then an integer object
-  asciiMarker = 0x50,    // counts bytes
-  utf16Marker = 0x60,    // counts units of 2 bytes
+  integerMarker = 0x10,  // low half: 2^n bytes; 1, 2 and 4 unsigned, 8 and 16 signed
+  realMarker = 0x20,     // low half: 2^n bytes, 4 or 8
+  dateMarker = 0x33,     // an 8-byte real
+  dataMarker =
+      0x40,  // low half, for this and the following: the count, or countFollows and an integer object
+  asciiMarker = 0x50,  // counts bytes
+  utf16Marker = 0x60,  // counts 2-byte units
   arrayMarker = 0xA0,
   dictionaryMarker = 0xD0,  // counts pairs: all key references, then all value references
 };
 inline constexpr std::uint8_t countFollows = 0x0F;
 
-// Where the trailer's fields stand, from its first byte. What comes before them is not used.
+// Offsets of the trailer's fields from its first byte. The bytes before them are unused.
 inline constexpr std::size_t trailerSize = 32;
 inline constexpr std::size_t offsetSizeAt = 6;
 inline constexpr std::size_t referenceSizeAt = 7;

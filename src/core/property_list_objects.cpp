@@ -17,8 +17,8 @@ std::uint64_t bigEndian(std::span<const std::byte> bytes) {
   return value;
 }
 
-// An integer of `content`: the 16-byte form is for numbers above the signed 64-bit range, which are outside
-// the game's numbers; it is read when its upper half says nothing but the sign.
+// An integer from `content`. The 16-byte form is accepted only when the number fits in 64 bits, so that the
+// upper half is just the sign.
 std::expected<Object, ReadError> integerObject(std::span<const std::byte> content) {
   const std::size_t lowSize = content.size() < largestNumber ? content.size() : largestNumber;
   const auto value = static_cast<std::int64_t>(bigEndian(content.last(lowSize)));
@@ -112,7 +112,7 @@ std::expected<Object, ReadError> Objects::object(Reference reference) const {
   return std::unexpected(ReadError::badObject);
 }
 
-// An object whose marker, just before `at`, gives a count or says that it follows as an integer.
+// An object whose marker, just before `at`, holds the count or says that an integer with the count follows.
 std::expected<Object, ReadError> Objects::sized(ObjectKind kind, std::uint8_t low, std::size_t at) const {
   std::uint64_t count = low;
   if (low == format::countFollows) {
@@ -140,7 +140,7 @@ Reference Objects::referenceAt(std::span<const std::byte> content, std::size_t i
 }
 
 std::expected<std::string, ReadError> textOf(const Object& object, Budget& budget) {
-  // A unit of UTF-16 is at most 3 bytes of UTF-8.
+  // A UTF-16 unit becomes at most 3 bytes of UTF-8.
   const bool ascii = object.kind == ObjectKind::asciiText;
   if (!ascii && object.kind != ObjectKind::utf16Text) return std::unexpected(ReadError::badText);
   if (!budget.spend(object.entries, ascii ? 1 : 3)) return std::unexpected(ReadError::tooMuchWork);

@@ -1,7 +1,7 @@
 #pragma once
 
-// Reads a binary property list object by object, for values and for records alike. Nothing in the file is
-// trusted: every size, count, offset and reference is checked against the file before it is used.
+// Reads a binary property list object by object. Nothing in the file is trusted: every size, count, offset
+// and reference is checked before it is used.
 
 #include <cstddef>
 #include <cstdint>
@@ -32,14 +32,14 @@ struct Object {
   ObjectKind kind = ObjectKind::boolean;
   std::int64_t integer = 0;  // of a boolean (0 or 1) and an integer
   double real = 0;           // of a real and a date
-  // Data and text as they stand in the file; the references of an array or a dictionary (keys, then values).
+  // The raw bytes of data and text; the references of an array or a dictionary (keys, then values).
   std::span<const std::byte> content;
   std::size_t entries = 0;  // elements of an array, pairs of a dictionary
 };
 
 class Objects {
  public:
-  // `file` has to outlive what is made here.
+  // `file` has to outlive the result.
   [[nodiscard]] static std::expected<Objects, ReadError> open(std::span<const std::byte> file);
 
   [[nodiscard]] Reference root() const { return root_; }
@@ -47,7 +47,7 @@ class Objects {
   // `reference` may be any number.
   [[nodiscard]] std::expected<Object, ReadError> object(Reference reference) const;
 
-  // The reference at `index` of a container's content; not checked yet, object() does that.
+  // The reference at `index` of a container's content. It is not checked; object() does that.
   [[nodiscard]] Reference referenceAt(std::span<const std::byte> content, std::size_t index) const;
 
  private:
@@ -56,7 +56,7 @@ class Objects {
   [[nodiscard]] std::expected<Object, ReadError> sized(ObjectKind kind, std::uint8_t low,
                                                        std::size_t at) const;
 
-  std::span<const std::byte> objects_;  // header and objects: all that stands before the offset table
+  std::span<const std::byte> objects_;  // header and objects: everything before the offset table
   std::span<const std::byte> offsets_;
   std::uint64_t count_ = 0;
   Reference root_ = 0;
@@ -64,17 +64,17 @@ class Objects {
   std::size_t reference_size_ = 0;
 };
 
-// What may be made out of one file, in bytes of memory.
+// Limits the memory that one file may take, in bytes.
 //
-// An object may be referred to any number of times, and each time is a value of its own in memory, so that a
-// small file can describe something huge. Files that the game or a friend wrote come nowhere near the bound:
-// 16 MiB alone are 52,000 strings of 300 characters that are one object in the file, and each reference adds
-// at least 64 bytes to that, each record of a list, at 60 bytes of references and more, several thousand.
+// An object can be referenced many times and each reference becomes a separate value in memory, so a small
+// file can describe something huge. Genuine files stay far below the limit: 16 MiB alone allow 52,000 copies
+// of a 300-character string that is one object in the file, and every reference raises the limit by at least
+// 64 bytes.
 class Budget {
  public:
   explicit Budget(std::size_t fileSize) : left_(smallFiles + timesFileSize * std::uint64_t{fileSize}) {}
 
-  // False when `count` things of `size` bytes are more than what is left.
+  // False when `count` items of `size` bytes exceed what is left.
   [[nodiscard]] bool spend(std::uint64_t count, std::uint64_t size = 1) {
     if (count > left_ / size) return false;
     left_ -= count * size;
@@ -88,7 +88,7 @@ class Budget {
   std::uint64_t left_;
 };
 
-// The text of a text object, in UTF-8. Other objects give badText.
+// The text of a text object in UTF-8; badText for other objects.
 [[nodiscard]] std::expected<std::string, ReadError> textOf(const Object& object, Budget& budget);
 
 }  // namespace tb::plist

@@ -7,8 +7,7 @@
 namespace tb::plist {
 namespace {
 
-// A name that stands twice in a dictionary has no one meaning, and no writer of the format makes one: the
-// file is refused.
+// A file with a duplicate key in a dictionary is ambiguous and no writer produces one, so it is rejected.
 bool namesAKeyTwice(const Dictionary& dictionary) {
   std::vector<std::string_view> keys;
   keys.reserve(dictionary.size());
@@ -54,7 +53,7 @@ class ValueReader {
 
   using ReadContent = std::expected<Value, ReadError> (ValueReader::*)(const Object&);
 
-  // A circle longer than maximumDepth is told as tooDeep.
+  // A cycle longer than maximumDepth is reported as tooDeep.
   std::expected<Value, ReadError> container(Reference reference, const Object& object, ReadContent content) {
     if (std::ranges::contains(path_.begin(), path_.begin() + depth_, reference)) {
       return std::unexpected(ReadError::badReference);
@@ -101,7 +100,7 @@ class ValueReader {
 
   const Objects& objects_;
   Budget budget_;
-  std::array<Reference, maximumDepth> path_{};  // the containers that are being read, the outermost first
+  std::array<Reference, maximumDepth> path_{};  // the containers being read, outermost first
   std::size_t depth_ = 0;
 };
 

@@ -7,8 +7,8 @@ namespace {
 
 constexpr char32_t replacementCharacter = 0xFFFD;
 
-// What a first byte says: how many bytes follow it, and the range of the first of them. The narrow ranges
-// keep out overlong forms, surrogates and what lies above U+10FFFF.
+// What a lead byte says: how many bytes follow, and the range of the first of them. The narrow ranges exclude
+// overlong forms, surrogates and code points above U+10FFFF.
 struct Lead {
   std::uint8_t first, last;
   int following;
@@ -41,7 +41,7 @@ void appendCharacter(std::string& text, char32_t character) {
 
 }  // namespace
 
-char32_t takeCharacter(std::string_view& text) {
+char32_t readCharacter(std::string_view& text) {
   const auto byte = static_cast<std::uint8_t>(text.front());
   text.remove_prefix(1);
   if (byte < 0x80) return byte;
@@ -71,7 +71,7 @@ std::u16string toUtf16(std::string_view utf8) {
   std::u16string units;
   units.reserve(utf8.size());
   while (!utf8.empty()) {
-    const char32_t character = takeCharacter(utf8);
+    const char32_t character = readCharacter(utf8);
     if (character < 0x10000) {
       units.push_back(static_cast<char16_t>(character));
     } else {

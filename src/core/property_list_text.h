@@ -9,17 +9,17 @@
 
 namespace tb::plist {
 
-// The character at the front of `utf8`, which is not empty; takes its bytes off. Ill-formed bytes are U+FFFD,
-// one for each longest piece that could have begun a character.
-char32_t takeCharacter(std::string_view& utf8);
+// Reads the first character of `utf8`, which must not be empty, and removes its bytes. Ill-formed input gives
+// one U+FFFD for each maximal invalid sequence.
+char32_t readCharacter(std::string_view& utf8);
 
 [[nodiscard]] bool isAscii(std::string_view text);
 
-// Ill-formed bytes as takeCharacter() reads them.
+// Ill-formed bytes become U+FFFD as in readCharacter().
 [[nodiscard]] std::u16string toUtf16(std::string_view utf8);
 
-// Turns the big-endian units into UTF-8 at the end of `text`; false when a surrogate stands alone. An odd
-// last byte is not looked at.
+// Appends big-endian UTF-16 units to `text` as UTF-8; false for an unpaired surrogate. An odd last byte is
+// ignored.
 [[nodiscard]] bool appendUtf8(std::string& text, std::span<const std::byte> units);
 
 }  // namespace tb::plist

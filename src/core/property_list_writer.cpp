@@ -15,9 +15,9 @@ namespace tb::plist {
 namespace {
 
 constexpr Writer::Reference noObject = std::numeric_limits<Writer::Reference>::max();
-constexpr std::size_t countSizeAtMost = 1 + 1 + 8;  // marker, marker of the count, count
+constexpr std::size_t countSizeAtMost = 1 + 1 + 8;  // marker, the count's marker, count
 
-// Bytes that an unsigned number takes. Never 3, 5, 6 or 7: not every reader of the format knows those.
+// The number of bytes for an unsigned number: 1, 2, 4 or 8, because not every reader accepts other sizes.
 std::size_t sizeFor(std::uint64_t value) {
   if (value <= std::numeric_limits<std::uint8_t>::max()) return 1;
   if (value <= std::numeric_limits<std::uint16_t>::max()) return 2;
@@ -25,7 +25,7 @@ std::size_t sizeFor(std::uint64_t value) {
   return 8;
 }
 
-// What an integer's marker says of its size: 1, 2, 4, 8 bytes are 0, 1, 2, 3.
+// The size code in an integer's marker: 0, 1, 2, 3 for 1, 2, 4, 8 bytes.
 std::uint8_t sizeCode(std::size_t size) { return static_cast<std::uint8_t>(std::countr_zero(size)); }
 
 // Writes the low `size` bytes of `value` at `at`.
@@ -70,7 +70,7 @@ Writer::Reference Writer::boolean(bool value) {
 }
 
 Writer::Reference Writer::integer(std::int64_t value) {
-  // Below zero only 8 bytes will do: the shorter forms are unsigned.
+  // A negative number takes 8 bytes, because the shorter forms are unsigned.
   const auto bits = static_cast<std::uint64_t>(value);
   const std::size_t size = sizeFor(bits);
   return number(integers_, format::integerMarker | sizeCode(size), bits, size);
@@ -83,7 +83,8 @@ Writer::Reference Writer::real(double value) {
 
 Writer::Reference Writer::number(RecentNumbers& recent, std::uint8_t marker, std::uint64_t bits,
                                  std::size_t size) {
-  // The upper half of the product hangs on every bit; the factor is 2^64 over the golden ratio.
+  // Fibonacci hashing: every bit affects the upper half of the product. The factor is 2^64 over the golden
+  // ratio.
   const std::uint64_t spread = bits * 0x9E3779B97F4A7C15;
   Number& known = recent[(spread >> 32) % recent.size()];
   if (known.object != noObject && known.bits == bits) return known.object;
@@ -123,8 +124,8 @@ Writer::Reference Writer::text(std::string_view utf8) {
   return uniqueScalar(start);
 }
 
-// The scalar that was just written at `start`: taken back when the same bytes stand further up already. An
-// object's bytes say where it ends, so objects that begin alike for that length are the same.
+// Deduplicates the scalar that was just written at `start`: removes it when the same bytes were written
+// before. An object's bytes determine its length, so equal prefixes of that length are equal objects.
 Writer::Reference Writer::uniqueScalar(std::size_t start) {
   const std::string_view bytes(reinterpret_cast<const char*>(file_.data()) + start, file_.size() - start);
   const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>{}(bytes));
@@ -169,8 +170,8 @@ Writer::Reference Writer::container(std::uint8_t marker, std::size_t mark) {
   return object;
 }
 
-// The containers follow the scalars: only now is the number of objects known, and with it the references'
-// size.
+// Containers are written after the scalars, when the number of objects, and so the size of a reference, is
+// known.
 Bytes Writer::finish(Reference root) {
   const std::size_t referenceSize = sizeFor(offsets_.size());
   const std::size_t tableAtMost = file_.size() + containersSizeAtMost(referenceSize);
@@ -228,7 +229,7 @@ Writer::Reference addDictionary(Writer& writer, const Dictionary& dictionary) {
   return writer.dictionary(mark);
 }
 
-// Recurses as deep as the value is nested: the game's own are flat, and read() hands out none beyond
+// Recurses to the depth of the value: the game's own values are flat, and read() returns none deeper than
 // maximumDepth.
 Writer::Reference addValue(Writer& writer, const Value& value) {
   struct Add {

@@ -1,11 +1,10 @@
 #pragma once
 
-// Writes a binary property list object by object, for values and for records alike.
+// Writes a binary property list object by object.
 //
-// What is added twice is one object in the file, as every writer of the format does it: names of fields,
-// titles and small numbers are stored once. Numbers are remembered for a while only: most amounts of money
-// stand in a list once, and looking each up among all others would cost more than a second copy now and then.
-// Each call costs what it adds, so that a list costs in proportion to its length.
+// Equal values become one object in the file: field names, titles and small numbers are stored once. Only
+// recent numbers are remembered: most amounts of money occur once in a list, and looking each up among all
+// others would cost more than an occasional second copy. Encoding a list takes time linear in its length.
 
 #include <array>
 #include <cstddef>
@@ -33,14 +32,14 @@ class Writer {
   // `utf8` as plist::write takes it.
   Reference text(std::string_view utf8);
 
-  // Arrays and dictionaries are made from what was put aside since mark(): an array of its elements, a
-  // dictionary of all its keys and then all its values, in the same order. Containers inside come first.
+  // An array or dictionary is made from what was put aside since mark(): the elements of an array, or all
+  // keys and then all values of a dictionary, in the same order. Nested containers are finished first.
   [[nodiscard]] std::size_t mark() const { return aside_.size(); }
   void putAside(Reference object) { aside_.push_back(object); }
   Reference array(std::size_t mark);
   Reference dictionary(std::size_t mark);
 
-  // The file. The writer has given away what it held and is good for nothing more.
+  // Returns the file. The writer must not be used afterwards.
   [[nodiscard]] Bytes finish(Reference root);
 
  private:
@@ -57,7 +56,7 @@ class Writer {
     std::uint64_t bits;
     Reference object;
   };
-  // The numbers that were added lately; of those that share a place, the last one.
+  // A hash table of recently added numbers; a new number replaces the one in its slot.
   using RecentNumbers = std::array<Number, 1024>;
 
   std::byte* grow(std::size_t size);
@@ -71,13 +70,14 @@ class Writer {
   void writeContainers(std::size_t referenceSize);
 
   Bytes file_;
-  std::vector<std::size_t> offsets_;  // by object number; a container's is known when the file is finished
+  std::vector<std::size_t> offsets_;  // by object number; those of containers are set in finish()
   RecentNumbers integers_;
   RecentNumbers reals_;
-  std::vector<Slot> table_;  // all other scalars by their bytes in the file; a power of 2, half empty
+  std::vector<Slot> table_;  // hash table of all other scalars by their bytes; the size is a power of 2 and
+                             // at most half is used
   std::size_t in_table_ = 0;
   std::vector<Container> containers_;
-  std::vector<Reference> references_;  // of all containers, one after the other
+  std::vector<Reference> references_;  // of all containers, in sequence
   std::vector<Reference> aside_;
 };
 

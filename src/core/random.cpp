@@ -9,8 +9,8 @@ namespace tb {
 std::int64_t RandomRange(RandomSource& random, std::int64_t n) {
   if (n < 1) stopTheGame("RandomRange of nothing");
   const auto count = static_cast<std::uint64_t>(n);
-  // The high half of word · n is uniform once the words are refused that would give some results one word
-  // more than others: those whose low half is below 2^64 mod n.
+  // The high half of word · n is uniform once words whose low half is below 2^64 mod n are rejected; without
+  // that, some results would have one more word than others.
   const std::uint64_t refused = (0 - count) % count;
   unsigned __int128 product = 0;
   do {

@@ -6,8 +6,8 @@
 //
 //   RECORD_FIELDS(Child, id, name, gender, ...)
 //
-// in the order of the struct. The encoder, the decoder and the tests walk that list. It does not compile
-// when a field is missing, doubled or out of order, so a record cannot lose a field on its way to disk.
+// in the order of the struct. The encoder, the decoder and the tests use that list. A missing, repeated or
+// misordered field does not compile, so every field is saved.
 
 #include <cstddef>
 #include <cstdint>
@@ -23,7 +23,7 @@ template <class Record, class T>
 struct RecordField {
   std::string_view name;
   T Record::* member;
-  std::size_t offset;  // where it stands in the struct; only the order is of interest
+  std::size_t offset;  // in the struct, in bytes
 };
 
 // Specialised by RECORD_FIELDS: a tuple of RecordField, in the order of the struct.
@@ -56,7 +56,7 @@ struct AnyField {
 template <std::size_t>
 using AnyFieldAt = AnyField;
 
-// Whether the aggregate takes that many initialisers: it does up to the number of its fields.
+// Whether the aggregate can be initialized with that many values, which holds up to its number of fields.
 template <class Record, std::size_t... Index>
 consteval bool takesFields(std::index_sequence<Index...>) {
   return requires { Record{AnyFieldAt<Index>{}...}; };
@@ -91,7 +91,7 @@ consteval bool describesWholeRecord() {
       , TB_FIELD_AGAIN TB_PARENTHESES(Record, __VA_ARGS__))
 #define TB_FIELD_AGAIN() TB_FIELD_STEP
 
-// Stands in namespace tb, right after the struct.
+// Belongs in namespace tb, in core/fields/.
 #define RECORD_FIELDS(Record, ...)                                                         \
   template <>                                                                              \
   inline constexpr auto fieldsOf<Record> = std::tuple{TB_FIELD_LIST(Record, __VA_ARGS__)}; \

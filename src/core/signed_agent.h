@@ -7,7 +7,7 @@
 
 namespace tb {
 
-// Where in saveAllTalentAgents the signed agent stands: the first with isSigned 1; nothing when none is.
+// The index in saveAllTalentAgents of the first agent with isSigned 1; nothing when none is signed.
 [[nodiscard]] inline std::optional<std::size_t> signedAgent(const WorldState& world) {
   const List<TalentAgent>& agents = world.saveAllTalentAgents;
   for (std::size_t index = 0; index < agents.size(); ++index) {

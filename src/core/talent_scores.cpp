@@ -7,9 +7,9 @@ namespace tb {
 
 namespace {
 
-constexpr double highestScore = 100;
+constexpr double maxScore = 100;
 
-// The performance from x, the traits and the weight that experience has in it.
+// The performance score from x, the traits and the weighted experience.
 double roll(Game& game, double x, double experience) {
   const WorldState& world = game.world;
   const double craft =
@@ -18,7 +18,7 @@ double roll(Game& game, double x, double experience) {
   const double ability = x + craft + charisma;
 
   const double best = (experience + ability) * 0.25;
-  double worst = std::min(experience, std::min({craft, charisma, highestScore}));
+  double worst = std::min(experience, std::min({craft, charisma, maxScore}));
   if (best < worst) worst = best * 0.5;
   const double luck = RandomUnit(game.random, worst, best);
   return roundedScore((experience + ability + luck) / 5);
@@ -31,7 +31,7 @@ std::int64_t overallTalent(const WorldState& world) {
       world.talentTrait1 + world.talentTrait2 + world.talentTrait3 + world.talentTrait4 + world.talentTrait5;
   const std::int64_t weakest =
       std::min({world.talentTrait1, world.talentTrait2, world.talentTrait3, world.talentTrait4,
-                world.talentTrait5, static_cast<std::int64_t>(highestScore)});
+                world.talentTrait5, static_cast<std::int64_t>(maxScore)});
   return (sum + weakest) / 6;
 }
 
@@ -42,9 +42,7 @@ double talentRoll(Game& game) {
 
 double performanceRoll(Game& game, double x) { return roll(game, x, game.world.experience / 100); }
 
-double sceneRoll(Game& game, double x) {
-  return roll(game, x, std::min(game.world.experience, highestScore));
-}
+double sceneRoll(Game& game, double x) { return roll(game, x, std::min(game.world.experience, maxScore)); }
 
 double roundedScore(double score) { return std::round(score * 100) / 100; }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The scores from which auditions, rehearsals and scenes are rolled. Traits are 1 and up, with 100 as the
-// highest that can be bought; all results are in points.
+// The scores of auditions, rehearsals and scenes, in points. Traits are 1 and up; 100 is the most that can be
+// bought.
 
 #include <cstdint>
 
@@ -9,20 +9,20 @@
 
 namespace tb {
 
-// The level of the performer: the mean of the five traits in use and the smallest of them (at most 100), in
-// whole points. One weak trait counts twice, which is what makes evening them out worth it.
+// The performer's level in whole points: the mean of the five traits and the smallest of them (at most 100).
+// The weakest trait counts twice, which rewards balanced traits.
 [[nodiscard]] std::int64_t overallTalent(const WorldState& world);
 
-// How the voice is today: 0 to three quarters of trait 5, to two decimals.
+// A draw from 0 to three quarters of trait 5 (voice), to two decimals.
 [[nodiscard]] double talentRoll(Game& game);
 
-// One performance, to two decimals; x is usually a talentRoll(). Experience counts a hundredth.
+// A performance score, to two decimals; x is usually a talentRoll(). Experience has a weight of 0.01.
 [[nodiscard]] double performanceRoll(Game& game, double x);
 
-// A scene in front of the camera: as a performance, but experience counts in full, up to 100.
+// The score of a filmed scene: like a performance, but experience has full weight, up to 100.
 [[nodiscard]] double sceneRoll(Game& game, double x);
 
-// A score rounded to two decimals, as all of them are kept.
+// A score rounded to two decimals, as scores are stored.
 [[nodiscard]] double roundedScore(double score);
 
 }  // namespace tb

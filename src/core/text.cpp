@@ -4,7 +4,7 @@ namespace tb {
 
 namespace {
 
-// The code point of a two-byte UTF-8 sequence that starts at `place`, or 0 when none does.
+// The code point of the two-byte UTF-8 sequence at `place`, or 0 when there is none.
 char32_t twoByteLetter(std::string_view text, std::size_t place) {
   if (place + 1 >= text.size()) return 0;
   const auto lead = static_cast<unsigned char>(text[place]);
@@ -13,7 +13,7 @@ char32_t twoByteLetter(std::string_view text, std::size_t place) {
   return static_cast<char32_t>((lead & 0x1F) << 6 | (next & 0x3F));
 }
 
-// Latin-1 and Latin Extended-A, where small letters stand a fixed step from their capitals.
+// Latin-1 and Latin Extended-A, where small letters have a fixed distance from their capitals.
 char32_t capital(char32_t letter) {
   if (letter >= 0xE0 && letter <= 0xFE && letter != 0xF7) return letter - 0x20;
   if (letter == 0xFF) return 0x178;

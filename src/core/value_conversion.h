@@ -1,7 +1,7 @@
 #pragma once
 
-// Plain values to and from property lists, and which number may stand for which. Loads and the record codec
-// follow the same rules: a file that another program rewrote may hold 3 where 3.0 was, or 1 where true was.
+// Conversion between plain values and property lists. Numbers are converted leniently, because another
+// program may rewrite a file with 3 for 3.0, or 1 for true. Loading and the record codec share these rules.
 
 #include <concepts>
 #include <cstdint>
@@ -17,15 +17,15 @@ namespace tb {
 template <class T>
 concept NumberType = std::same_as<T, bool> || std::same_as<T, std::int64_t> || std::same_as<T, double>;
 
-// What a variable, a field of a record or an element of a plain list can be.
+// The types of plain variables, record fields and elements of plain lists.
 template <class T>
 concept PlainType = NumberType<T> || std::same_as<T, std::string> || std::same_as<T, plist::Data> ||
                     std::same_as<T, plist::Date>;
 
-// The number as another kind; nothing when it has no such meaning:
-// - an integer is a double, rounded to the nearest beyond 2^53;
-// - a double is an integer when it is exactly one, in the signed 64-bit range;
-// - 0 and 1 are a boolean, and a boolean is the integer 0 or 1 (but no double).
+// The number converted to another type; nothing when that is not possible:
+// - an integer converts to a double, rounded to the nearest beyond 2^53;
+// - a double converts to an integer when it is exactly one in the signed 64-bit range;
+// - the integers 0 and 1 convert to a boolean and back; a boolean does not convert to a double.
 template <NumberType To, NumberType From>
 [[nodiscard]] constexpr std::optional<To> numberAs(From from) {
   if constexpr (std::same_as<To, From>) {
@@ -43,7 +43,7 @@ template <NumberType To, NumberType From>
   }
 }
 
-// The value as a T; nothing when it is of another kind.
+// The value as a T; nothing when it has another type.
 template <PlainType T>
 [[nodiscard]] std::optional<T> valueAs(const plist::Value& value) {
   return std::visit(

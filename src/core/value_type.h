@@ -1,8 +1,7 @@
 #pragma once
 
-// What a type is to the save file, as data. The encoder, the decoder, saves and loads walk these tables, and
-// so are there once, not once for each record and variable: as templates they were a third of the page's
-// program.
+// Run-time type descriptions for the save file. The encoder, the decoder, saving and loading are written once
+// over these tables; as templates per type they were a third of the page's program.
 
 #include <cstddef>
 #include <cstdint>
@@ -28,21 +27,21 @@ struct FieldType {
   const ValueType* type;
 };
 
-// The elements of a vector, or of an optional, which has one or none.
+// Access to the elements of a vector or of an optional (none or one).
 struct Elements {
   std::size_t (*count)(const void* container) = nullptr;
   const void* (*at)(const void* container, std::size_t index) = nullptr;
-  void* (*append)(void* container) = nullptr;  // a new element, with its type's start values
+  void* (*append)(void* container) = nullptr;  // adds a default element
 };
 
 struct ValueType {
   enum class Form : std::uint8_t { boolean, integer, real, text, data, date, optional, list, record };
 
   Form form;
-  std::size_t size;                    // in bytes of memory
-  const ValueType* element = nullptr;  // of an optional and of a list
-  Elements elements{};                 // the same
-  std::span<const FieldType> fields;   // of a record, in its order
+  std::size_t size;                    // in memory, in bytes
+  const ValueType* element = nullptr;  // for an optional or a list
+  Elements elements{};                 // for an optional or a list
+  std::span<const FieldType> fields;   // for a record, in order
 };
 
 namespace detail {
@@ -57,7 +56,7 @@ consteval ValueType describeType();
 
 }  // namespace detail
 
-// The description of any type that a variable, a list or a field of a record can have.
+// The description of a type that a variable, a list or a record field can have.
 template <class T>
 inline constexpr ValueType typeOf = detail::describeType<T>();
 

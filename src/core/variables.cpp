@@ -22,15 +22,14 @@ consteval const ValueType* savedType() {
   }
 }
 
-// `kept` in the restart column: the restart leaves the variable as it is. (Made with an argument only, so
-// that
-// `{}` in the table is always a value of the variable's own type.)
+// The value `kept` in the restart column: the restart does not change the variable. (Its constructor takes an
+// argument so that `{}` in the table always means a value of the variable's own type.)
 struct Kept {
   explicit constexpr Kept(bool) {}
 };
 constexpr Kept kept{true};
 
-// A value column of the table as a value of the row's type; `kept` stays `kept`.
+// Converts a value of the table to the row's type; `kept` stays `kept`.
 template <class Type>
 constexpr Type rowValue(Type value) {
   return value;
@@ -40,8 +39,8 @@ constexpr Kept rowValue(Kept value) {
   return value;
 }
 
-// The restart column as a number; 0 for what is no number. `column` gives the value and is only asked for
-// numbers.
+// The restart value of a number; 0 for other types. `column` returns the value and is called for numbers
+// only.
 template <class Type, class Column>
 consteval double restartNumber(Column column) {
   if constexpr (std::is_arithmetic_v<Type> && !std::same_as<decltype(column()), Kept>) {
@@ -65,7 +64,7 @@ constexpr auto rows = std::to_array<Variable>({
 #include "core/world_variables.def"
 });
 
-// A list stands where what it shares with all others stands.
+// A list and its ListBase have the same address.
 static_assert(std::is_standard_layout_v<RealList> && sizeof(RealList) == sizeof(ListBase));
 
 template <class Type>

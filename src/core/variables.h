@@ -1,7 +1,6 @@
 #pragma once
 
-// The persisted rows of the table of variables (core/world_variables.def), as saves, loads and the restart
-// see them.
+// The persisted rows of core/world_variables.def as data, for saving, loading and the restart.
 
 #include <cstddef>
 #include <cstdint>
@@ -13,32 +12,31 @@
 
 namespace tb {
 
-// When a stored value comes back into the state.
+// When a stored value is read back.
 enum class Load : std::uint8_t {
-  atStart,  // at every start
-  never,    // written and never read: back to its start value at every launch
+  atStart,  // at every launch
+  never,    // saved but never read: reset to its start value at every launch
 };
 
-// One persisted row.
+// A persisted row.
 struct Variable {
   std::string_view key;
   std::size_t offset;     // in WorldState, in bytes
-  const ValueType* type;  // of the variable; of a list, that of its elements
+  const ValueType* type;  // of the variable, or of a list's elements
   bool isList;
   Load load;
-  bool isKept;     // at a restart
-  double restart;  // a number's value at a restart, where it is not kept; everything else is emptied
+  bool isKept;     // not changed by a restart
+  double restart;  // a number's value after a restart; other types are emptied
 };
 
 // All persisted rows, in the order of the table.
 [[nodiscard]] std::span<const Variable> variables();
 
-// Where the variable stands in the state: the variable itself when it is plain, its ListBase when it is a
-// list.
+// The address of the variable in the state: of the value if it is plain, of its ListBase if it is a list.
 [[nodiscard]] void* memberOf(WorldState& world, const Variable& variable);
 [[nodiscard]] ListBase& listOf(WorldState& world, const Variable& variable);
 
-// Calls visit(value) with a plain value as what it is. Variables are of six plain types.
+// Calls visit(value) with the plain value as its own type, one of six.
 template <class Visit>
 auto visitPlain(ValueType::Form form, void* value, Visit visit) {
   switch (form) {
@@ -58,12 +56,12 @@ auto visitPlain(ValueType::Form form, void* value, Visit visit) {
     case optional:
     case list:
     case record:
-      break;  // no plain value is of such a type
+      break;  // not a plain type
   }
   __builtin_unreachable();
 }
 
-// Sets every variable that a restart does not keep to its value at a restart, run-time variables included.
+// Sets every variable that is not `kept` to its restart value, including runtime variables.
 void setRestartValues(WorldState& world);
 
 }  // namespace tb

@@ -1,8 +1,8 @@
 #pragma once
 
-// The one game state: a flat set of named variables and record lists, each named after the key under which
-// it is saved. Its members come from one table, core/world_variables.def; how each is saved and loaded and
-// what a restart does to it stand in the same table (core/variables.h).
+// The game state: a flat struct of variables and record lists, each named after its key in the store. The
+// members are generated from core/world_variables.def, which also says how each is loaded and restarted
+// (core/variables.h).
 
 #include <cstdint>
 #include <string>

@@ -7,6 +7,7 @@
 #include "banks/draw.h"
 #include "banks/names.h"
 #include "core/bands.h"
+#include "core/calendar.h"
 #include "core/format.h"
 #include "core/text.h"
 #include "film/banana_scores.h"
@@ -18,29 +19,28 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t mostCards = 5;
-constexpr std::int64_t weeksOfAYear = 52;
+constexpr std::int64_t maxCards = 5;
 
 // --- Critics ---
 
-// What a critic writes and the score of the card, by the whole percent of all critics. Above the last band
-// there is neither.
+// A critic's bank of texts and the score on the card, by the critics' whole percent. Above the last band a
+// card has neither.
 struct CriticBand {
   std::int64_t upTo;
   Bank review;
-  double lowestScore;
-  double highestScore;
+  double minScore;
+  double maxScore;
 };
 constexpr std::array<CriticBand, 5> criticBands = {{
-    {.upTo = 20, .review = bank::longReviewBank1, .lowestScore = 1, .highestScore = 20},
-    {.upTo = 40, .review = bank::longReviewBank2, .lowestScore = 21, .highestScore = 40},
-    {.upTo = 60, .review = bank::longReviewBank3, .lowestScore = 41, .highestScore = 60},
-    {.upTo = 80, .review = bank::longReviewBank4, .lowestScore = 61, .highestScore = 80},
-    {.upTo = 100, .review = bank::longReviewBank5, .lowestScore = 81, .highestScore = 100},
+    {.upTo = 20, .review = bank::longReviewBank1, .minScore = 1, .maxScore = 20},
+    {.upTo = 40, .review = bank::longReviewBank2, .minScore = 21, .maxScore = 40},
+    {.upTo = 60, .review = bank::longReviewBank3, .minScore = 41, .maxScore = 60},
+    {.upTo = 80, .review = bank::longReviewBank4, .minScore = 61, .maxScore = 80},
+    {.upTo = 100, .review = bank::longReviewBank5, .minScore = 81, .maxScore = 100},
 }};
 constexpr double scoreOfAStar = 25;
 
-// The portraits are numbered from 1.
+// Portraits are numbered from 1.
 struct Portraits {
   std::string_view stem;
   std::int64_t count;
@@ -49,7 +49,7 @@ constexpr Portraits portraitsOfWomen = {.stem = "critic_f", .count = 24};
 constexpr Portraits portraitsOfMen = {.stem = "critic_m", .count = 35};
 constexpr int drawsForNewFace = 10;
 
-// A face that no other card shows; after ten draws, a face that one does.
+// Draws a portrait that no other card shows; gives up after ten draws.
 std::string drawPortrait(RandomSource& random, const Portraits& portraits, const std::vector<Review>& cards) {
   std::string image;
   for (int draw = 0; draw < drawsForNewFace; ++draw) {
@@ -63,24 +63,24 @@ Review criticCard(Game& game, const Film& film, double criticScore, const std::v
   Review card;
   if (const CriticBand* const band = bandOf(criticBands, wholePercent(criticScore))) {
     card.review = drawReview(game, band->review, film, lowerCase(mainGenre(film)));
-    const double score = RandomUnit(game.random, band->lowestScore, band->highestScore);
+    const double score = RandomUnit(game.random, band->minScore, band->maxScore);
     card.stars = std::max(1.0, score / scoreOfAStar);
   }
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.name = inventedName(game.random, is_male);
-  card.newsOutlet = tellRow(game, bank::reviewerCompanyBank);
+  card.newsOutlet = drawFreshRow(game, bank::reviewerCompanyBank);
   card.image = drawPortrait(game.random, is_male ? portraitsOfMen : portraitsOfWomen, others);
   return card;
 }
 
 // --- The audience ---
 
-// Tastes differ by a star to either side.
+// Draws stars within one of the audience score.
 std::int64_t drawStars(RandomSource& random, double audienceScore) {
   constexpr double scoreOfALevel = 20;
-  constexpr std::int64_t mostStars = 5;
+  constexpr std::int64_t maxStars = 5;
   const auto level = static_cast<std::int64_t>(audienceScore / scoreOfALevel);
-  return std::clamp<std::int64_t>(level + RandomRange(random, 3), 1, mostStars);
+  return std::clamp<std::int64_t>(level + RandomRange(random, 3), 1, maxStars);
 }
 
 AudienceReview audienceCard(Game& game, const Film& film, double audienceScore) {
@@ -92,25 +92,25 @@ AudienceReview audienceCard(Game& game, const Film& film, double audienceScore) 
 
 // --- Dates ---
 
-// The Friday of a week of the tracked count, which may lie in a year before.
+// The Friday of a tracked week, which can be in an earlier year.
 DateLabel dateOf(const Game& game, std::int64_t trackedWeek) {
   const WorldState& world = game.world;
   const std::int64_t weeks_ago = world.weekNumberForTracking - trackedWeek;
-  const std::int64_t weeks = world.yearNumber * weeksOfAYear + world.weekNumber - 1 - weeks_ago;
-  return dateLabel(game.locale, weeks % weeksOfAYear + 1, weeks / weeksOfAYear).value_or(DateLabel{});
+  const std::int64_t weeks = world.yearNumber * weeksPerYear + world.weekNumber - 1 - weeks_ago;
+  return dateLabel(game.locale, weeks % weeksPerYear + 1, weeks / weeksPerYear).value_or(DateLabel{});
 }
 
-// A week from the release on, up to a year after it.
+// Draws a week from the release to now, at most a year after the release.
 std::int64_t drawWeekOnShow(Game& game, const Film& film) {
   const std::int64_t weeks = game.world.weekNumberForTracking - film.weekReleased;
-  return film.weekReleased + RandomRange(game.random, std::clamp<std::int64_t>(weeks, 1, weeksOfAYear));
+  return film.weekReleased + RandomRange(game.random, std::clamp<std::int64_t>(weeks, 1, weeksPerYear));
 }
 
 }  // namespace
 
 std::vector<Review> drawCriticCards(Game& game, const Film& film, double criticScore) {
   std::vector<Review> cards;
-  while (std::ssize(cards) < std::min(mostCards, film.numMetascoreRatings)) {
+  while (std::ssize(cards) < std::min(maxCards, film.numMetascoreRatings)) {
     cards.push_back(criticCard(game, film, criticScore, cards));
     cards.back().date = dateOf(game, film.weekReleased);
   }
@@ -119,7 +119,7 @@ std::vector<Review> drawCriticCards(Game& game, const Film& film, double criticS
 
 std::vector<AudienceReview> drawAudienceCards(Game& game, const Film& film, double audienceScore) {
   std::vector<AudienceReview> cards;
-  while (std::ssize(cards) < std::min(mostCards, film.numImbdRatings)) {
+  while (std::ssize(cards) < std::min(maxCards, film.numImbdRatings)) {
     cards.push_back(audienceCard(game, film, audienceScore));
     cards.back().date = dateOf(game, drawWeekOnShow(game, film));
   }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The cards of the RottenBanana page: critics who signed what they wrote, and people who bought a ticket.
-// Made up whenever the page opens, never saved.
+// The review cards of the RottenBanana page, by critics and by the audience. Drawn whenever the page opens,
+// never saved.
 
 #include <cstdint>
 #include <string>
@@ -16,22 +16,22 @@ namespace tb {
 struct Review {
   std::string image;  // portrait
   std::string name;
-  std::string review;  // empty above 100 percent, where critics have no words
+  std::string review;  // empty when the score is above 100 percent
   double stars = 1;    // 1 to 4
   std::string newsOutlet;
   DateLabel date;  // of the release
 };
 
-// A card of the audience.
+// An audience member's card.
 struct AudienceReview {
   std::string name;
   std::string review;
-  DateLabel date;          // of a week since the release, within a year of it
+  DateLabel date;          // between the release and now, at most a year after the release
   std::int64_t stars = 1;  // 1 to 5
 };
 
-// Up to five cards each, and no more than critics or viewers have rated the title. Scores in percent, as
-// bananaScores() gives them.
+// Up to five cards each, and at most as many as there are ratings. Scores are in percent, from
+// bananaScores().
 [[nodiscard]] std::vector<Review> drawCriticCards(Game& game, const Film& film, double criticScore);
 [[nodiscard]] std::vector<AudienceReview> drawAudienceCards(Game& game, const Film& film,
                                                             double audienceScore);

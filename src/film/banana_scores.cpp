@@ -18,18 +18,18 @@ namespace {
 constexpr std::size_t letters = 26;
 constexpr std::size_t secondHalf = 13;  // the letter n
 
-// Percent by which an audience likes a title more or less for its first letter, a to z.
+// Percent added to the audience score by the title's first letter, a to z.
 constexpr std::array<int, letters> audienceNudges = {
     -12, 6, -7, 11, -17, 1, -10, 15, -8, 3, -18, 14, -5, 5, -9, 18, -14, 2, -6, 9, -15, 13, -13, 10, -16, 8};
 
-// What it takes to be certified, and to be verified.
+// Thresholds of the critics' and the audience's badges.
 constexpr double certifiedScore = 75;
 constexpr std::int64_t certifiedRatings = 80;
 constexpr double verifiedScore = 90;
 constexpr std::int64_t verifiedRatings = 500;
 constexpr double passableScore = 60;  // for both
 
-constexpr std::int64_t mostCounted = 10'000;  // reviews of an audience
+constexpr std::int64_t maxCounted = 10'000;  // audience reviews
 
 struct ConsensusBand {
   std::int64_t upTo;  // whole percent of the critics
@@ -44,7 +44,7 @@ constexpr std::array<ConsensusBand, 6> consensusBands = {{
     {.upTo = std::numeric_limits<std::int64_t>::max(), .bank = bank::criticConsensusBank90},
 }};
 
-// The place of the first letter in the alphabet, from 0; nothing when it is another character.
+// The index of the first letter in the alphabet; nothing when it is another character.
 std::optional<std::size_t> firstLetter(std::string_view title) {
   const std::string lower = lowerCase(title.substr(0, 1));
   if (lower.empty() || lower[0] < 'a' || lower[0] > 'z') return std::nullopt;
@@ -63,7 +63,7 @@ std::string_view audienceBadgeOf(const Film& film, double score) {
 
 }  // namespace
 
-// Critics frown on the first half of the alphabet, the more the later the letter, and smile on the second.
+// Titles in the first half of the alphabet lose points, more for later letters; the second half gains.
 double criticNudge(std::string_view title) {
   const auto letter = firstLetter(title);
   if (!letter) return 1;
@@ -89,7 +89,7 @@ std::int64_t wholePercent(double score) { return static_cast<std::int64_t>(score
 
 std::string drawConsensus(Game& game, const Film& film, double criticScore) {
   const ConsensusBand* const band = bandOf(consensusBands, wholePercent(criticScore));
-  return fill(tellRow(game, band->bank), {{"title", film.title}});
+  return fill(drawFreshRow(game, band->bank), {{"title", film.title}});
 }
 
 std::string criticCount(const Locale& locale, const Film& film) {
@@ -97,8 +97,8 @@ std::string criticCount(const Locale& locale, const Film& film) {
 }
 
 std::string audienceCount(const Locale& locale, const Film& film) {
-  const bool is_beyond = film.numImbdRatings > mostCounted;
-  return plainCount(locale, std::min(film.numImbdRatings, mostCounted)) +
+  const bool is_beyond = film.numImbdRatings > maxCounted;
+  return plainCount(locale, std::min(film.numImbdRatings, maxCounted)) +
          (is_beyond ? "+ Reviews" : " Reviews");
 }
 

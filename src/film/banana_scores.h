@@ -1,7 +1,7 @@
 #pragma once
 
-// The RottenBanana percentages: what critics and audiences make of a title, bent by the first letter of its
-// name, with the badge that each earns. Derived from the frozen scores whenever the page opens.
+// The RottenBanana percentages of critics and audience, adjusted by the first letter of the title, and their
+// badges. Computed from the saved scores.
 
 #include <cstdint>
 #include <string>
@@ -11,13 +11,12 @@
 
 namespace tb {
 
-// The factors by which the first letter of a title raises or lowers its two percentages, 0.82 to 1.18. A
-// title that does not start with a letter from A to Z is left alone: 1.
+// The factors for the two percentages by the title's first letter, 0.82 to 1.18; 1 when it is not A to Z.
 [[nodiscard]] double criticNudge(std::string_view title);
 [[nodiscard]] double audienceNudge(std::string_view title);
 
 struct BananaScores {
-  double critic = 0;    // percent; above 100 for a few titles, and shown so
+  double critic = 0;    // percent; exceeds 100 for a few titles, on purpose
   double audience = 0;  // percent, up to 100
   std::string_view criticBadge;
   std::string_view audienceBadge;
@@ -25,13 +24,13 @@ struct BananaScores {
 
 [[nodiscard]] BananaScores bananaScores(const Film& film);
 
-// A score as it is shown and looked up: its whole percent.
+// The whole percent of a score, for display and lookup.
 [[nodiscard]] std::int64_t wholePercent(double score);
 
-// What the critics agree on, by the critics' score.
+// Draws the consensus text for a critics' score.
 [[nodiscard]] std::string drawConsensus(Game& game, const Film& film, double criticScore);
 
-// "12 Reviews"; an audience beyond 10,000 is "10,000+ Reviews".
+// "12 Reviews"; "10,000+ Reviews" for an audience of more than 10,000.
 [[nodiscard]] std::string criticCount(const Locale& locale, const Film& film);
 [[nodiscard]] std::string audienceCount(const Locale& locale, const Film& film);
 

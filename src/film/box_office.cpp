@@ -17,9 +17,9 @@ namespace tb {
 
 namespace {
 
-constexpr double worthOpening = 5'000;  // dollars; below, no cinema abroad takes the film
+constexpr double minForeignOpening = 5'000;  // dollars; with less, the film does not open in a foreign market
 constexpr std::int64_t lastWeekOfRun = 7;
-constexpr std::int64_t weekOfClose = 8;
+constexpr std::int64_t closingWeek = 8;
 
 BoxOffice recordOf(const WorldState& world, const Audition& project, const Market& market, double opening) {
   return {.filmId = project.filmId,
@@ -33,21 +33,21 @@ BoxOffice recordOf(const WorldState& world, const Audition& project, const Marke
 }
 
 bool opensIn(const Market& market, double share, double gross) {
-  return share > 0 && (gross > worthOpening || market.countryId == domesticMarket);
+  return share > 0 && (gross > minForeignOpening || market.countryId == domesticMarket);
 }
 
-// The post takes the place of that of any other film that opened this week.
-void keepOpeningPost(Game& game, const Audition& project, double domesticGross) {
+// Replaces the post of another film that opened this week.
+void setOpeningPost(Game& game, const Audition& project, double domesticGross) {
   game.world.chirpId += 1;
   const std::string amount = shortMoney(game.locale, domesticGross);
   const std::string text =
-      fill(tellRow(game, bank::openingWeekend), {{"title", project.title}, {"amount", amount}});
+      fill(drawFreshRow(game, bank::openingWeekend), {{"title", project.title}, {"amount", amount}});
   Chirp post = industryChirp(game, "Box Office Jojo", "boxOfficeJojo.png", text + " ");
   post.filmId = project.filmId;
   game.world.openingChirp = {std::move(post)};
 }
 
-void takeWeek(const WorldState& world, const Film& film, std::int64_t weeksSinceRelease, BoxOffice& market) {
+void earnWeek(const WorldState& world, const Film& film, std::int64_t weeksSinceRelease, BoxOffice& market) {
   const double talk = std::pow(2, film.currentPopularity / 100) - 1;
   const double freshness = static_cast<double>(lastWeekOfRun - weeksSinceRelease) / 10;
   const double takings = market.openingWeekend * (talk + freshness) * 0.5;
@@ -56,21 +56,21 @@ void takeWeek(const WorldState& world, const Film& film, std::int64_t weeksSince
   market.totalGross += takings;
 }
 
-// Says what the film took so far.
-double takeWeekInAllMarkets(WorldState& world, const Film& film, std::int64_t weeksSinceRelease) {
+// Returns the gross so far.
+double earnWeekInAllMarkets(WorldState& world, const Film& film, std::int64_t weeksSinceRelease) {
   double gross = 0;
   forEachWith(world.saveAllBoxOfficeList, &BoxOffice::filmId, film.filmId, [&](std::size_t index) {
     BoxOffice& market = world.saveAllBoxOfficeList.edit(index);
-    takeWeek(world, film, weeksSinceRelease, market);
+    earnWeek(world, film, weeksSinceRelease, market);
     gross += market.totalGross;
-    if (market.countryId == domesticMarket) world.chirpId += 1;  // a number goes by, though nothing is posted
+    if (market.countryId == domesticMarket) world.chirpId += 1;  // a post id is skipped, without a post
   });
   return gross;
 }
 
 bool isDueToClose(const WorldState& world, const Film& film) {
   return film.typeOfFilm == filmType::feature && film.boxOfficeGross == 0 &&
-         world.weekNumberForTracking - film.weekReleased >= weekOfClose;
+         world.weekNumberForTracking - film.weekReleased >= closingWeek;
 }
 
 void closeRun(Game& game, std::size_t filmAt) {
@@ -79,7 +79,8 @@ void closeRun(Game& game, std::size_t filmAt) {
   Film& film = game.world.saveAllFilmList.edit(filmAt);
   film.boxOfficeGross = *gross;
   const std::string amount = shortMoney(game.locale, *gross);
-  logActivity(game.world, fill(tellRow(game, bank::closing), {{"title", film.title}, {"amount", amount}}));
+  logActivity(game.world,
+              fill(drawFreshRow(game, bank::closing), {{"title", film.title}, {"amount", amount}}));
 }
 
 }  // namespace
@@ -93,17 +94,17 @@ void openBoxOffice(Game& game, const Audition& project) {
     if (opensIn(market, share, gross)) {
       game.world.saveAllBoxOfficeList.push_back(recordOf(game.world, project, market, gross));
     }
-    if (market.countryId == domesticMarket) keepOpeningPost(game, project, gross);
+    if (market.countryId == domesticMarket) setOpeningPost(game, project, gross);
   }
 }
 
 void advanceBoxOffice(Game& game, const Audition& project, std::int64_t weeksSinceRelease) {
-  const std::size_t at = filmIndex(game.world, project.filmId);
-  if (at == game.world.saveAllFilmList.size()) return;
-  const Film& film = game.world.saveAllFilmList[at];
+  const auto index = find(game.world.saveAllFilmList, &Film::filmId, project.filmId);
+  if (!index) return;
+  const Film& film = game.world.saveAllFilmList[*index];
   const double freshness = static_cast<double>(lastWeekOfRun - weeksSinceRelease) / 10;
-  gainFansOfTitle(game, project, qualityOf(film), freshness);
-  const double gross = takeWeekInAllMarkets(game.world, film, weeksSinceRelease);
+  gainFansFromTitle(game, project, qualityOf(film), freshness);
+  const double gross = earnWeekInAllMarkets(game.world, film, weeksSinceRelease);
   if (weeksSinceRelease == lastWeekOfRun) payStakes(game, film, gross);
 }
 

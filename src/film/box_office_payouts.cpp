@@ -13,7 +13,7 @@ namespace tb {
 
 namespace {
 
-// The marks of an own production in its equity record.
+// Values in the equity record of the performer's own production.
 constexpr std::int64_t ownProductionSource = 3;
 constexpr double ownProductionManager = -1;
 
@@ -24,9 +24,9 @@ void announceEquity(Game& game, const Film& film, double payout, double gross) {
     logLine(game.world, about,
             "You received " + amount + " in box office earnings for directing and producing " + film.title);
   } else if (gross > film.budget) {
-    // A loss goes unmentioned: the record alone tells of it.
+    // A loss is recorded but not logged.
     logLine(game.world, about,
-            fill(tellRow(game, bank::equityPaidBank), {{"title", film.title}, {"amount", amount}}));
+            fill(drawFreshRow(game, bank::equityPaidBank), {{"title", film.title}, {"amount", amount}}));
   }
 }
 
@@ -43,7 +43,7 @@ void payEquity(Game& game, const Film& film, const Proceeds& proceeds) {
     payout.managerEarnings = ownProductionManager;
   }
   announceEquity(game, film, payout.payOut, proceeds.gross);
-  keepPayout(game, payout);
+  recordPayout(game, payout);
 }
 
 double commissionOf(const WorldState& world) {
@@ -56,9 +56,9 @@ void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds) {
   const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
   logLine(
       game.world, {NewsKind::payday, film.filmId, payout.payout},
-      fill(tellRow(game, bank::royaltyPaidBank),
+      fill(drawFreshRow(game, bank::royaltyPaidBank),
            {{"title", film.title}, {"amount", royalty}, {"gross", shortMoney(game.locale, proceeds.gross)}}));
-  keepPayout(game, std::move(payout));
+  recordPayout(game, std::move(payout));
 }
 
 }  // namespace

@@ -11,11 +11,11 @@ namespace tb {
 
 namespace {
 
-constexpr std::size_t placesOfAllTime = 250;
+constexpr std::size_t allTimeRanks = 250;
 constexpr double blockbusterOpening = 50'000'000;  // dollars, in one market
-constexpr std::int64_t weeksOnShow = 8;            // the opening included
+constexpr std::int64_t weeksOnShow = 8;            // including the opening
 
-// What the records of one film add up to.
+// Totals of a film's records.
 struct Takings {
   double opening = 0;
   double latest = 0;
@@ -112,7 +112,7 @@ std::vector<BoxOfficeWeekends> highestGrossing(const WorldState& world) {
   }
   for (const MovieRecord& record : movieRecords()) rows.push_back(rowOf(record));
   sortByGross(rows);
-  rows.resize(std::min(rows.size(), placesOfAllTime));
+  rows.resize(std::min(rows.size(), allTimeRanks));
   return rows;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The box office as its screens list it. Computed from the records when a screen opens, never saved.
+// Box office tables for screens, computed from the records and never saved.
 
 #include <cstdint>
 #include <string>
@@ -10,17 +10,17 @@
 
 namespace tb {
 
-// A film that the cinemas are showing. Grosses in dollars, all markets together.
+// A film in theaters. Grosses are in dollars, for all markets.
 struct InTheaters {
   std::int64_t filmId = 0;
   std::string title;
-  double weekendEarnings = 0;  // of the latest week; the opening in the first one
+  double weekendEarnings = 0;  // of the latest week, which can be the opening
   double totalGross = 0;
   std::string imageString;
   std::string description;
 };
 
-// A film in a ranking by gross. filmId is -1 and budget 0 for the built-in films of all time.
+// A film in a ranking by gross. Built-in films have filmId -1 and budget 0.
 struct BoxOfficeWeekends {
   std::int64_t filmId = -1;
   std::string title;
@@ -32,21 +32,20 @@ struct BoxOfficeWeekends {
   double budget = 0;
 };
 
-// The player's films while they are on show: from the week after the opening for seven weeks, until the last
-// takings are in. The highest latest weekend first.
+// The player's films in theaters, from week 1 to 7 after the opening, sorted by descending latest week.
 [[nodiscard]] std::vector<InTheaters> inTheaters(const WorldState& world);
 
-// All of the player's films that opened, highest gross first.
+// All films of the player that opened, by descending gross.
 [[nodiscard]] std::vector<BoxOfficeWeekends> filmsByGross(const WorldState& world);
 
-// The 250 highest-grossing films of all time: the built-in ones, and the player's that opened above 50
-// million in some market, those of one title counted together.
+// The 250 highest-grossing films: the built-in ones and the player's films that opened with more than 50
+// million dollars in a market. Films with the same title are added together.
 [[nodiscard]] std::vector<BoxOfficeWeekends> highestGrossing(const WorldState& world);
 
-// A film's takings in all markets together: the opening, then a week each.
+// A film's gross per week in all markets, starting with the opening.
 [[nodiscard]] std::vector<double> weeklyTakings(const WorldState& world, std::int64_t filmId);
 
-// What a film took for what it cost, in percent of the budget; 0 without a budget.
+// The gross in percent of the budget; 0 without a budget.
 [[nodiscard]] double returnOf(double gross, double budget);
 
 }  // namespace tb

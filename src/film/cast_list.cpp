@@ -13,11 +13,10 @@ namespace {
 
 constexpr std::size_t colleagues = 4;
 
-// A source that gives the same words for the same film: nothing here is left to chance, but stars are drawn
-// in one way only. (The mixing is that of SplitMix64.)
-class WordsOfFilm : public RandomSource {
+// A generator seeded by the film's id, so that the same film always has the same cast. (SplitMix64.)
+class FilmSeededRandom : public RandomSource {
  public:
-  explicit WordsOfFilm(std::int64_t filmId) : state_(static_cast<std::uint64_t>(filmId)) {}
+  explicit FilmSeededRandom(std::int64_t filmId) : state_(static_cast<std::uint64_t>(filmId)) {}
 
   std::uint64_t next() override {
     state_ += 0x9E3779B97F4A7C15;
@@ -36,7 +35,7 @@ class WordsOfFilm : public RandomSource {
 std::vector<std::string> castList(const Film& film) {
   std::vector<std::string> cast = film.didAct == 1 ? film.cast : std::vector<std::string>();
   if (film.typeOfFilm == filmType::commercial) return cast;
-  WordsOfFilm words(film.filmId);
+  FilmSeededRandom words(film.filmId);
   const auto small_part = film.isPrincipal == rolePart::background ? cast.begin() : cast.end();
   std::vector<std::string> others;
   while (others.size() < colleagues) {

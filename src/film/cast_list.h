@@ -1,6 +1,6 @@
 #pragma once
 
-// Who else is in a title, chosen where it is shown.
+// The cast of a title, computed for display.
 
 #include <string>
 #include <vector>
@@ -9,9 +9,9 @@
 
 namespace tb {
 
-// The cast of a film in the order of the poster: the performer of a lead first, that of a small part last,
-// and four of the industry's stars. Who only gave the money or directed is not in it. The same people every
-// time: they follow from the film's id. A commercial is played alone.
+// The cast of a film in billing order: four stars, with the performer first for a lead and last for a small
+// part. A performer who only directs or invests is not listed. The stars are derived from the film's id. A
+// commercial has only the performer.
 [[nodiscard]] std::vector<std::string> castList(const Film& film);
 
 }  // namespace tb

@@ -15,11 +15,11 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t lowestStarRating = 10;
-constexpr std::int64_t lowestStarRatingLastWeek = 50;
-constexpr std::int64_t highestStarRating = 100;
+constexpr std::int64_t minStarRating = 10;
+constexpr std::int64_t minStarRatingLastWeek = 50;
+constexpr std::int64_t maxStarRating = 100;
 
-// The columns of a row, taken one after the other.
+// Reads the columns of a row in order.
 class Columns {
  public:
   explicit Columns(std::string_view row) : rest_(row) {}
@@ -28,7 +28,7 @@ class Columns {
 
   std::int64_t number() { return numberIn(take(" | ")); }
 
-  // A figure with one digit after the point, such as 9.6.
+  // A number with one decimal, such as 9.6.
   double decimal() {
     std::string digits = text();
     std::erase(digits, '.');
@@ -60,7 +60,7 @@ class Columns {
   std::string_view rest_;
 };
 
-// A table of the bank, built once.
+// The bank parsed as a table; built once.
 template <class Row>
 std::vector<Row> table(Bank bank, Row (*rowOf)(Columns&)) {
   std::vector<Row> rows;
@@ -71,7 +71,7 @@ std::vector<Row> table(Bank bank, Row (*rowOf)(Columns&)) {
   return rows;
 }
 
-// Columns are taken in the order of the initialisers.
+// Columns are read in the order of the initializers.
 Movie movieOf(Columns& columns) {
   return {.title = columns.text(),
           .shortSummary = columns.text(),
@@ -158,16 +158,16 @@ std::span<const MovieFranchise> movieFranchises() {
   return rows;
 }
 
-const Sights& sightsOf(std::string_view title) {
-  static const std::map<std::string_view, const Sights*> known = [] {
-    std::map<std::string_view, const Sights*> all;
+const ReviewNouns& nounsOf(std::string_view title) {
+  static const std::map<std::string_view, const ReviewNouns*> known = [] {
+    std::map<std::string_view, const ReviewNouns*> all;
     for (const auto table : {movies(), royaltyMovies(), investmentMovies()}) {
       for (const Movie& movie : table) all[movie.title] = &movie.sights;
     }
     for (const MovieFranchise& entry : movieFranchises()) all[entry.title] = &entry.sights;
     return all;
   }();
-  static const Sights ofAnyTitle = {.prop = "letter", .place = "hallway"};
+  static const ReviewNouns ofAnyTitle = {.prop = "letter", .place = "hallway"};
   const auto found = known.find(title);
   return found == known.end() ? ofAnyTitle : *found->second;
 }
@@ -199,8 +199,8 @@ std::span<const std::string> starNames() {
 std::vector<Bankable> bankables(RandomSource& random) {
   std::vector<Bankable> stars = numberedStars();
   for (Bankable& star : stars) {
-    star.rating = RandomBetween(random, lowestStarRating, highestStarRating);
-    star.lastWeekRating = RandomBetween(random, lowestStarRatingLastWeek, highestStarRating);
+    star.rating = RandomBetween(random, minStarRating, maxStarRating);
+    star.lastWeekRating = RandomBetween(random, minStarRatingLastWeek, maxStarRating);
   }
   return stars;
 }

@@ -44,20 +44,20 @@ constexpr std::array<BudgetBand, 9> budgetBands = {{
     {.from = 1'000'000'001, .upTo = 6'000'000'000, .fewest = 1'000, .most = 10'000},
 }};
 
-// Beyond six billion the public stops believing in the figure: it brings hardly anybody.
-constexpr BudgetBand beyondBelief = {.from = 0, .upTo = 0, .fewest = 0, .most = 14};
+// Budgets above six billion dollars attract hardly anyone.
+constexpr BudgetBand hugeBudgetBand = {.from = 0, .upTo = 0, .fewest = 0, .most = 14};
 
 }  // namespace
 
 std::int64_t titleFanGain(Game& game, double budget, double quality, double weight) {
   const BudgetBand* const found = bandOf(budgetBands, static_cast<std::int64_t>(budget));
-  const BudgetBand& band = found == nullptr ? beyondBelief : *found;
+  const BudgetBand& band = found == nullptr ? hugeBudgetBand : *found;
   const double roll = RandomUnit(game.random, band.fewest, band.most);
   const double fame = bandOf(fameBands, game.world.totalFans)->multiplier;
   return static_cast<std::int64_t>(game.world.agentFanBonus * weight * (quality / 100) * fame * roll);
 }
 
-void gainFansOfTitle(Game& game, const Audition& project, double quality, double weight) {
+void gainFansFromTitle(Game& game, const Audition& project, double quality, double weight) {
   if (project.isPrincipal != rolePart::principal) return;
   game.world.fanGainCarry += titleFanGain(game, project.budget, quality, weight);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// Fans that titles bring to their lead.
+// Fans that a title brings to its lead.
 
 #include <cstdint>
 
@@ -8,11 +8,11 @@
 
 namespace tb {
 
-// How many fans one week of a title brings. `budget` in dollars, `quality` 0 to 100, `weight` 1 for a release
-// and for an episode, less for the weeks of a film's run. Scales with `totalFans` and `agentFanBonus`.
+// Draws the fans gained in a week of a title. `budget` is in dollars, `quality` 0 to 100, `weight` 1 for a
+// release or an episode and less for other weeks of a film. Scales with `totalFans` and `agentFanBonus`.
 [[nodiscard]] std::int64_t titleFanGain(Game& game, double budget, double quality, double weight);
 
-// Adds such a gain to `fanGainCarry` when the performer leads the project, and draws nothing otherwise.
-void gainFansOfTitle(Game& game, const Audition& project, double quality, double weight);
+// Adds a gain to `fanGainCarry` if the performer leads the project; else draws nothing.
+void gainFansFromTitle(Game& game, const Audition& project, double quality, double weight);
 
 }  // namespace tb

@@ -15,16 +15,16 @@ namespace {
 constexpr std::array<std::string_view, 3> cinemaRatings = {"PG", "PG-13", "R"};
 constexpr std::array<std::string_view, 3> televisionRatings = {"TV-PG", "TV-14", "TV-MA"};
 
-// What a title of some type comes out as. Lengths in steps of `stepMinutes`.
+// The possible lengths and age ratings of a type of title. Lengths are in steps of `stepMinutes`.
 struct Format {
   std::int64_t typeOfFilm;
   std::int64_t stepMinutes;
-  std::int64_t fewestSteps;
-  std::int64_t mostSteps;
+  std::int64_t minSteps;
+  std::int64_t maxSteps;
   std::span<const std::string_view> ageRatings;
 };
 
-// Commercials are not here: their length is not worth a minute.
+// Commercials have no entry: their length is 0 minutes.
 constexpr std::array<Format, 4> formats = {{
     {filmType::feature, 1, 65, 200, cinemaRatings},
     {filmType::series, 5, 6, 12, televisionRatings},
@@ -35,8 +35,7 @@ constexpr std::array<Format, 4> formats = {{
 void drawFormat(Game& game, Film& film) {
   const auto format = std::ranges::find(formats, film.typeOfFilm, &Format::typeOfFilm);
   if (format == formats.end()) return;
-  film.lengthMinutes =
-      format->stepMinutes * RandomBetween(game.random, format->fewestSteps, format->mostSteps);
+  film.lengthMinutes = format->stepMinutes * RandomBetween(game.random, format->minSteps, format->maxSteps);
   if (!format->ageRatings.empty()) film.ageRating = RandomElement(game.random, format->ageRatings);
 }
 
@@ -88,15 +87,11 @@ Film filmOf(const WorldState& world, const Audition& project) {
 
 }  // namespace
 
-void makeFilm(Game& game, const Audition& project) {
+void addFilm(Game& game, const Audition& project) {
   Film film = filmOf(game.world, project);
   drawFormat(game, film);
   drawNetwork(game, film);
   game.world.saveAllFilmList.push_front(std::move(film));
-}
-
-std::size_t filmIndex(const WorldState& world, std::int64_t filmId) {
-  return find(world.saveAllFilmList, &Film::filmId, filmId).value_or(world.saveAllFilmList.size());
 }
 
 bool isOut(const WorldState& world, const Film& film) {
@@ -104,6 +99,10 @@ bool isOut(const WorldState& world, const Film& film) {
 }
 
 std::string mainGenre(const Film& film) { return film.genres.empty() ? "" : film.genres.front(); }
+
+double meanScore(const Film& film) {
+  return (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
+}
 
 double qualityOf(const Film& film) {
   return (film.imbdRating * 10 + static_cast<double>(film.imbdMetascore)) * 0.5;

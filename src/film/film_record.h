@@ -1,6 +1,6 @@
 #pragma once
 
-// A film comes into being when its project wraps.
+// The Film record of a project.
 
 #include <cstddef>
 #include <cstdint>
@@ -10,20 +10,20 @@
 
 namespace tb {
 
-// The wrap: draws running time, age rating and, for a series, the network of its debut, and puts the film of
-// the project at the front of `saveAllFilmList`. Writes nothing: the weekly step saves the list.
-void makeFilm(Game& game, const Audition& project);
+// Adds the film of a wrapped project at the front of `saveAllFilmList`. Draws its length, age rating and, for
+// a series, its debut network.
+void addFilm(Game& game, const Audition& project);
 
-// Where the film of a project stands in `saveAllFilmList`, or the length of the list when it is not there.
-[[nodiscard]] std::size_t filmIndex(const WorldState& world, std::int64_t filmId);
-
-// True from the week after the release on, when the scores are there to be seen.
+// True from the week after the release on, when the scores are visible.
 [[nodiscard]] bool isOut(const WorldState& world, const Film& film);
 
-// The first of the genres; empty when there is none.
+// The first genre; empty when there is none.
 [[nodiscard]] std::string mainGenre(const Film& film);
 
-// What a film is worth after its release, 0 to 100: the mean of the two scores.
+// The mean of a film's rating and its metascore, 0 to 10.
+[[nodiscard]] double meanScore(const Film& film);
+
+// The quality of a released film, 0 to 100: the mean of its two scores.
 [[nodiscard]] double qualityOf(const Film& film);
 
 }  // namespace tb

@@ -11,13 +11,12 @@ namespace tb {
 struct Market {
   std::int64_t countryId;
   std::string_view name;
-  double share;  // of what the domestic market takes
+  double share;  // of the domestic gross
 };
 
 inline constexpr std::int64_t domesticMarket = 0;
 
-// In the order in which a film opens, the domestic market first. The names are as the trade prints them, the
-// second Indonesia included.
+// In the order of opening, the domestic market first. "Indonesia" is listed twice on purpose.
 inline constexpr std::array<Market, 52> markets = {{
     {0, "Domestic", 1.0},     {1, "United Kingdom", 0.14},
     {2, "Japan", 0.12},       {3, "South Korea", 0.09},

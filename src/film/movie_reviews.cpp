@@ -4,6 +4,7 @@
 
 #include "banks/draw.h"
 #include "banks/rate_movies_banks.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "core/house_notices.h"
 #include "core/text.h"
@@ -12,7 +13,7 @@ namespace tb {
 
 namespace {
 
-// The sentences that go with 1-2, 3-4, 5-6, 7-8 and 9-10 stars.
+// The banks of sentences for 1-2, 3-4, 5-6, 7-8 and 9-10 stars.
 struct SentenceBanks {
   Bank middle;
   Bank last;
@@ -27,9 +28,11 @@ constexpr std::array<SentenceBanks, 5> sentencesOfLevels = {{
 
 }  // namespace
 
-void rateFilm(Game& game, std::size_t filmIndex, std::int64_t stars) {
-  if (game.world.saveAllFilmList[filmIndex].myRating != 0) return;
-  game.world.saveAllFilmList.edit(filmIndex).myRating = static_cast<double>(stars);
+void rateFilm(Game& game, std::int64_t filmId, std::int64_t stars) {
+  List<Film>& films = game.world.saveAllFilmList;
+  const auto index = find(films, &Film::filmId, filmId);
+  if (!index || films[*index].myRating != 0) return;
+  films.edit(*index).myRating = static_cast<double>(stars);
 }
 
 Refusal reviewRefusal(const WorldState& world) {
@@ -54,9 +57,9 @@ Refusal needsRating(std::int64_t rating) {
 
 std::string generatedReview(Game& game, std::int64_t rating) {
   const SentenceBanks& sentences = sentencesOfLevels[static_cast<std::size_t>((rating - 1) / 2)];
-  const std::string_view first = tellRow(game, bank::reviewFirstSentence);
-  const std::string_view middle = tellRow(game, sentences.middle);
-  return tb::format("{} {} {}", first, middle, tellRow(game, sentences.last));
+  const std::string_view first = drawFreshRow(game, bank::reviewFirstSentence);
+  const std::string_view middle = drawFreshRow(game, sentences.middle);
+  return tb::format("{} {} {}", first, middle, drawFreshRow(game, sentences.last));
 }
 
 Refusal submitReview(Game& game, const std::string& title, std::int64_t rating, const std::string& text) {

@@ -1,7 +1,6 @@
 #pragma once
 
-// What the player thinks of titles: stars for the titles of the own career, and reviews of other people's
-// work, which fans read.
+// The player's opinions: stars for her own titles, and reviews of other titles.
 
 #include <cstdint>
 #include <string>
@@ -12,31 +11,29 @@
 
 namespace tb {
 
-inline constexpr std::int64_t reviewEnergy = 25;  // to sit down and watch a title
-inline constexpr std::int64_t mostStars = 10;
+inline constexpr std::int64_t reviewEnergy = 25;  // points per review
+inline constexpr std::int64_t maxStars = 10;
 
-// Gives the film at `filmIndex` the player's 1 to 10 stars, for good: a film that is rated already keeps its
-// stars. Writes `saveAllFilmList`.
-void rateFilm(Game& game, std::size_t filmIndex, std::int64_t stars);
+// Sets the player's 1 to 10 stars of a film. Does nothing when the film is already rated or does not exist.
+void rateFilm(Game& game, std::int64_t filmId, std::int64_t stars);
 
-// Why no review can be begun now: the energy is missing.
+// Why a review cannot be started: not enough energy.
 [[nodiscard]] Refusal reviewRefusal(const WorldState& world);
 
-// Takes the energy for a review, before its title is known; refuses without it. Writes
-// `totalEnergyAvailable`.
+// Spends the energy for a review, before the title is drawn; refused without enough energy.
 [[nodiscard]] Refusal startReview(Game& game);
 
-// The title that is to be reviewed. A title can come again.
+// Draws the title to review. Titles can repeat.
 [[nodiscard]] const CatalogueTitle& drawTitleToReview(RandomSource& random);
 
-// Refuses what can't be done before the player has chosen 1 to 10 stars: a rating of 0.
+// Refuses a rating of 0, which means that no stars are chosen yet.
 [[nodiscard]] Refusal needsRating(std::int64_t rating);
 
-// A review made up to go with a rating of 1 to 10 stars.
+// Draws a review text for a rating of 1 to 10 stars.
 [[nodiscard]] std::string generatedReview(Game& game, std::int64_t rating);
 
-// Publishes a review of a title: the newest of `saveAllMovieReviews`, which is written. Refused without a
-// rating (0) or without a word.
+// Adds a review of a title at the front of `saveAllMovieReviews`. Refused when the rating is 0 or the text is
+// blank.
 [[nodiscard]] Refusal submitReview(Game& game, const std::string& title, std::int64_t rating,
                                    const std::string& text);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The seven networks: a series starts on one of them, and they buy what has had its first run.
+// The seven networks, on which series start and which buy reruns.
 
 #include <array>
 #include <string_view>
@@ -10,7 +10,7 @@ namespace tb {
 inline constexpr std::array<std::string_view, 7> networks = {"Metflix",     "HPO Max", "Bisney",   "Fulu",
                                                              "Pryme Video", "Pear TV", "Panamount"};
 
-// The logo of each, in step. The odd ending of one is that of the picture that it names.
+// The logo of each network, in the same order. One has an odd extension because its picture file does.
 inline constexpr std::array<std::string_view, 7> networkLogos = {
     "imbdMetflix.png",    "imbdHpoMax.png", "imbdBisney.ong",   "imbdFulu.png",
     "imbdPrymeVideo.png", "imbdPear.png",   "imbdPanamount.png"};

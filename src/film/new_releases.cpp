@@ -23,7 +23,7 @@ struct StarBand {
   std::string_view stars;
 };
 
-// By the mean of both scores, 0 to 10. In the hairline gaps between the bands a critic is lost for words.
+// By the mean of both scores, 0 to 10. A score in a gap between two bands gives no quote.
 constexpr std::array<StarBand, 5> starBands = {{
     {.from = 0, .upTo = 1.99, .review = bank::longReviewBank1, .stars = "★"},
     {.from = 2, .upTo = 3.99, .review = bank::longReviewBank2, .stars = "★★"},
@@ -43,9 +43,8 @@ MetReview cardOf(Game& game, const Film& film) {
                  .season = film.seasonNumber};
   const bool is_male = RandomRange(game.random, 2) == 0;
   card.reviewerName = inventedName(game.random, is_male);
-  card.reviewerCompany = tellRow(game, bank::reviewerCompanyBank);
-  const double score = (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
-  if (const StarBand* const band = bandOf(starBands, score)) {
+  card.reviewerCompany = drawFreshRow(game, bank::reviewerCompanyBank);
+  if (const StarBand* const band = bandOf(starBands, meanScore(film))) {
     card.starString = band->stars;
     card.reviewString = drawReview(game, band->review, film, mainGenre(film));
   }

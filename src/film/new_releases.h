@@ -1,6 +1,6 @@
 #pragma once
 
-// What came out in the week that ended, as the summary offers it and the critics see it.
+// Titles that were released in the week that ended.
 
 #include <cstddef>
 #include <vector>
@@ -9,15 +9,15 @@
 
 namespace tb {
 
-// Sets `releaseOffered` when a wrapped project came out in the week that ended; commercials are no event.
+// Sets `releaseOffered` when a title other than a commercial was released in the week that ended.
 void offerRelease(WorldState& world);
 
-// The titles that came out in the week that ended, commercials left out: where each stands in
-// `saveAllFilmList`, in the order of the list, the latest wrap first.
+// Indexes in `saveAllFilmList` of the titles that were released in the week that ended, without commercials,
+// in the order of the list (latest wrap first).
 [[nodiscard]] std::vector<std::size_t> newReleases(const WorldState& world);
 
-// Fills `newReleaseReviews` with one critic's card for each of newReleases(), in their order. Drawn anew
-// whenever the screen opens; only the scores on the cards are the films' own.
+// Fills `newReleaseReviews` with a critic's card for each of newReleases(), in the same order. The texts are
+// drawn again whenever the screen opens; the scores are the films' own.
 void writeReleaseReviews(Game& game);
 
 }  // namespace tb

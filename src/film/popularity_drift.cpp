@@ -6,31 +6,32 @@ namespace tb {
 
 namespace {
 
-// A judgement is set against a rating of 1 to 10, and the bar can be out of reach.
-constexpr double lowestBar = 1;
-constexpr double highestBar = 13;
-constexpr double pointsOfDifference = 0.5;  // of popularity, for each point of rating
+// Range of the drawn threshold for a rating; it can exceed the highest rating.
+constexpr double minThreshold = 1;
+constexpr double maxThreshold = 13;
+constexpr double popularityPerRating =
+    0.5;  // points of popularity per point of rating above or below the threshold
 
-constexpr double leastForgotten = 0.1;  // points of popularity in a week
-constexpr double mostForgotten = 0.4;
-constexpr double highestPopularity = 100;
+constexpr double minDecay = 0.1;  // points of popularity per week
+constexpr double maxDecay = 0.4;
+constexpr double maxPopularity = 100;
 
 bool drifts(const WorldState& world, const Film& film) {
-  const bool in_the_talk = film.typeOfFilm == filmType::feature || film.typeOfFilm == filmType::series;
-  return in_the_talk && film.weekReleased < world.weekNumberForTracking && film.currentPopularity > 0;
+  const bool can_drift = film.typeOfFilm == filmType::feature || film.typeOfFilm == filmType::series;
+  return can_drift && film.weekReleased < world.weekNumberForTracking && film.currentPopularity > 0;
 }
 
 double changeOfWeek(Game& game, const Film& film) {
   const bool is_judged = RandomRange(game.random, 3) == 1;
-  if (!is_judged) return -RandomUnit(game.random, leastForgotten, mostForgotten);
-  return (film.imbdRating - RandomUnit(game.random, lowestBar, highestBar)) * pointsOfDifference;
+  if (!is_judged) return -RandomUnit(game.random, minDecay, maxDecay);
+  return (film.imbdRating - RandomUnit(game.random, minThreshold, maxThreshold)) * popularityPerRating;
 }
 
 void drift(Game& game, Film& film) {
   const double before = film.currentPopularity;
   const double change = changeOfWeek(game, film);
   film.currentPopularity =
-      change > 0 ? std::min(before + change, highestPopularity) : std::max(before + change, 0.0);
+      change > 0 ? std::min(before + change, maxPopularity) : std::max(before + change, 0.0);
   film.lastWeekPopularity = before;
 }
 

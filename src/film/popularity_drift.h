@@ -1,16 +1,15 @@
 #pragma once
 
-// What becomes of a title's popularity after its release: one week in three it is judged anew, and a good
-// rating lifts it; in the other weeks a little of it is forgotten.
+// The weekly change of a title's popularity. With a chance of one in three its rating raises or lowers it;
+// otherwise it falls a little.
 
 #include "core/game.h"
 
 namespace tb {
 
-// One week of every feature film and series that is out and still has some popularity, the newest wrap first.
-// A title that fell to 0 is never looked at again. Changes `currentPopularity` (0 to 100; what the hype of a
-// release put above 100 stays there while it falls) and `lastWeekPopularity`, and writes `saveAllFilmList`.
-// The clock already shows the new week.
+// Updates `currentPopularity` (0 to 100) and `lastWeekPopularity` of every released feature film and series
+// with a popularity above 0, in the order of the list. A release's hype can put the popularity above 100; it
+// is not cut to 100 while it falls. Runs when the clock already shows the new week.
 void driftPopularity(Game& game);
 
 }  // namespace tb

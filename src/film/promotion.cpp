@@ -5,15 +5,16 @@
 #include "banks/draw.h"
 #include "banks/film_banks.h"
 #include "core/bands.h"
+#include "core/find.h"
 #include "social/chirps.h"
 
 namespace tb {
 
 namespace {
 
-constexpr std::int64_t interviewAnswer = 1;  // Chirp::filmResponse of what is said on a talk show
+constexpr std::int64_t interviewAnswer = 1;  // Chirp::filmResponse of a talk show answer
 
-// The more people listen, the more a word is worth.
+// The hype of an interview grows with the number of fans.
 struct AudienceBand {
   std::int64_t upTo;  // fans
   std::int64_t least;
@@ -30,13 +31,13 @@ constexpr std::array<AudienceBand, 7> audienceBands = {{
     {.upTo = 9'999'999'999, .least = 20, .spread = 16},
 }};
 
-// With more fans than there are people, nobody is left to be told.
-std::int64_t hypeOfInterview(Game& game) {
+// Zero above the last band of fans.
+std::int64_t drawInterviewHype(Game& game) {
   const AudienceBand* const band = bandOf(audienceBands, game.world.totalFans);
   return band == nullptr ? 0 : band->least + RandomRange(game.random, band->spread);
 }
 
-void keepQuote(WorldState& world, const Audition& project, const Interview& interview,
+void saveQuote(WorldState& world, const Audition& project, const Interview& interview,
                const std::string& answer) {
   world.saveAllQuotes.push_back({.filmId = project.filmId,
                                  .filmName = project.title,
@@ -55,27 +56,28 @@ void postAnswer(Game& game, const Audition& project, const std::string& answer) 
 }  // namespace
 
 Interview openInterview(Game& game, const Audition& project) {
-  Interview interview{.talkShow = std::string(tellRow(game, bank::talkShows))};
-  interview.question = fill(tellRow(game, bank::promotionQuestions), {{"title", project.title}});
-  interview.totalHype = hypeOfInterview(game);
+  Interview interview{.talkShow = std::string(drawFreshRow(game, bank::talkShows))};
+  interview.question = fill(drawFreshRow(game, bank::promotionQuestions), {{"title", project.title}});
+  interview.totalHype = drawInterviewHype(game);
   return interview;
 }
 
-std::string suggestedAnswer(Game& game) { return std::string(tellRow(game, bank::promotionAnswers)); }
+std::string suggestedAnswer(Game& game) { return std::string(drawFreshRow(game, bank::promotionAnswers)); }
 
-Refusal promoteFilm(Game& game, std::size_t auditionIndex, const Interview& interview,
-                    const std::string& answer) {
+Refusal promoteFilm(Game& game, std::int64_t filmId, const Interview& interview, const std::string& answer) {
   const std::string said = trimmed(answer);
   if (said.empty()) {
     return Notice{.title = "🎤 Say Something 🎤", .message = "\nThe host is waiting for your answer."};
   }
-  Audition& project = game.world.saveAllAuditionList.edit(auditionIndex);
+  const auto index = find(game.world.saveAllAuditionList, &Audition::filmId, filmId);
+  if (!index) return {};
+  Audition& project = game.world.saveAllAuditionList.edit(*index);
   if (project.promoteHypeCount != 0) {
     return Notice{.title = "🎤 Already Promoted 🎤",
                   .message = "\nYou have given your interview for this title."};
   }
   postAnswer(game, project, said);
-  keepQuote(game.world, project, interview, said);
+  saveQuote(game.world, project, interview, said);
   project.promoteHypeCount = 1;
   project.hypeRating += static_cast<double>(interview.totalHype);
   return {};

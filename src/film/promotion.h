@@ -1,6 +1,6 @@
 #pragma once
 
-// The one interview that sells a title before its release.
+// The promotion interview of a title, once before its release.
 
 #include <string>
 
@@ -11,23 +11,23 @@ namespace tb {
 
 inline constexpr std::int64_t promotionEnergy = 25;  // charged by the button that opens the interview
 
-// An interview as it is drawn when its screen opens.
+// An interview, drawn when its screen opens.
 struct Interview {
   std::string talkShow;
   std::string question;
-  std::int64_t totalHype = 0;  // what it will add to the project's hype, by `totalFans`
+  std::int64_t totalHype = 0;  // added to the project's hype; depends on `totalFans`
 };
 
-// For the project at `selectedAuditionIndex`.
+// Draws an interview about the project.
 [[nodiscard]] Interview openInterview(Game& game, const Audition& project);
 
-// A ready answer for a performer who has none.
+// Draws a suggested answer.
 [[nodiscard]] std::string suggestedAnswer(Game& game);
 
-// Gives the interview: the answer is posted and kept as a quote, the hype rises, and the project can't be
-// promoted again. Refused, and nothing changes, when the answer is blank or the project was promoted before.
-// Writes `saveAllAuditionList`, `saveAllQuotes`, `saveAllChirpList` and `chirpId`.
-[[nodiscard]] Refusal promoteFilm(Game& game, std::size_t auditionIndex, const Interview& interview,
+// Gives the interview: posts the answer, saves it as a quote, raises the hype and marks the project as
+// promoted. Refused, with nothing changed, when the answer is blank or the project was already promoted. Does
+// nothing when the project does not exist.
+[[nodiscard]] Refusal promoteFilm(Game& game, std::int64_t filmId, const Interview& interview,
                                   const std::string& answer);
 
 }  // namespace tb

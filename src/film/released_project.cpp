@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/find.h"
 #include "film/box_office.h"
 #include "film/fan_gain.h"
 #include "film/film_record.h"
@@ -14,10 +15,10 @@ namespace {
 
 constexpr std::int64_t weeksInTheaters = 7;  // after the opening
 
-// A title of this quality keeps exactly the popularity that its hype promised.
+// At this quality the popularity after release equals the hype.
 constexpr double qualityAsExpected = 75;
 
-// In weeks after the release; 0 for what is released and has no run.
+// In weeks after the release; 0 for a type of title without a run.
 std::int64_t lastWeekOfRun(const Audition& project) {
   if (project.typeOfFilm == filmType::feature) return weeksInTheaters;
   if (project.typeOfFilm == filmType::series)
@@ -34,11 +35,10 @@ void publishScores(Game& game, const Audition& project, Film& film) {
   film.featuredReviews = {std::move(scores.featuredReview)};
 }
 
-void release(Game& game, std::size_t auditionIndex, Film& film) {
-  const Audition& project = game.world.saveAllAuditionList[auditionIndex];
+void release(Game& game, const Audition& project, Film& film) {
   publishScores(game, project, film);
   const double quality = qualityOf(film);
-  gainFansOfTitle(game, project, quality, 1);
+  gainFansFromTitle(game, project, quality, 1);
   const double factor = quality / qualityAsExpected;
   film.lastWeekPopularity = film.currentPopularity;
   film.currentPopularity *= factor;
@@ -46,20 +46,20 @@ void release(Game& game, std::size_t auditionIndex, Film& film) {
   if (project.typeOfFilm == filmType::series) premiereSeries(game, project);
   if (project.typeOfFilm == filmType::feature) {
     openBoxOffice(game, project);
-    game.world.saveAllAuditionList.edit(auditionIndex).hypeRating *= factor;
+    List<Audition>& projects = game.world.saveAllAuditionList;
+    projects.edit(*find(projects, &Audition::filmId, project.filmId)).hypeRating *= factor;
   }
 }
 
 }  // namespace
 
-void advanceReleasedProject(Game& game, std::size_t auditionIndex) {
-  const Audition& project = game.world.saveAllAuditionList[auditionIndex];
+void advanceReleasedProject(Game& game, const Audition& project) {
   const std::int64_t weeks = game.world.weekNumberForTracking - project.weekReleased;
   if (weeks < 0 || weeks > lastWeekOfRun(project)) return;
-  const std::size_t film = filmIndex(game.world, project.filmId);
-  if (film == game.world.saveAllFilmList.size()) return;
+  const auto film = find(game.world.saveAllFilmList, &Film::filmId, project.filmId);
+  if (!film) return;
 
-  if (weeks == 0) return release(game, auditionIndex, game.world.saveAllFilmList.edit(film));
+  if (weeks == 0) return release(game, project, game.world.saveAllFilmList.edit(*film));
   if (project.typeOfFilm == filmType::feature) advanceBoxOffice(game, project, weeks);
   if (project.typeOfFilm == filmType::series) advanceSeries(game, project, weeks);
 }

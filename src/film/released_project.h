@@ -1,6 +1,6 @@
 #pragma once
 
-// What becomes of a wrapped project, week by week.
+// The weekly step of a wrapped project.
 
 #include <cstddef>
 
@@ -8,14 +8,9 @@
 
 namespace tb {
 
-// One week of the project at `auditionIndex`, which is wrapped. In the week of its release: scores and fans,
-// then the opening of a feature film or the premiere of a series. In the weeks after: the run in the cinemas
-// with the payouts at its end, or the next episode. In any other week nothing. The clock shows the week that
-// is ending.
-//
-// May change the film, the project's hype, `fanGainCarry`, the box office, the viewing figures and the
-// payouts; writes the last four. The weekly step saves `saveAllAuditionList` and `saveAllFilmList`, and
-// `activityTracker` with them, when all projects are done.
-void advanceReleasedProject(Game& game, std::size_t auditionIndex);
+// Runs a week of a wrapped project. In the week of its release: scores, fans, and the opening of a feature
+// film or the premiere of a series. In the weeks of its run: box office with payouts at the end, or the next
+// episode. Does nothing in other weeks. The clock shows the week that is ending.
+void advanceReleasedProject(Game& game, const Audition& project);
 
 }  // namespace tb

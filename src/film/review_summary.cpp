@@ -18,7 +18,7 @@ namespace tb {
 
 namespace {
 
-// --- What reviews speak of ---
+// --- Topics of reviews ---
 
 using Words = std::span<const std::string_view>;
 
@@ -69,10 +69,10 @@ constexpr auto blame =
     std::to_array<std::string_view>({"hate", "hated", "bad", "terrible", "awful", "boring", "cringe", "messy",
                                      "confusing", "lazy", "flop", "trash", "waste", "pain", "mid"});
 
-constexpr std::size_t topicsNamed = 2;        // of each kind
-constexpr std::int64_t slangOfARegister = 2;  // from here on the reviews are casual
+constexpr std::size_t topicsNamed = 2;        // of praise and of blame each
+constexpr std::int64_t casualSlangWords = 2;  // slang words; with this many or more the reviews are casual
 
-// --- How they are summed up ---
+// --- Sentences ---
 
 struct SentenceBanks {
   Bank verdict;
@@ -81,7 +81,7 @@ struct SentenceBanks {
   Bank advice;
 };
 
-// By the words of praise less those of blame.
+// By the number of praising words minus the number of blaming words.
 struct Mood {
   std::int64_t upTo;
   std::string_view label;
@@ -124,7 +124,7 @@ constexpr std::array<Mood, 5> moods = {{
 
 // --- Reading ---
 
-// All reviews in one piece, in lower case. A word ends with its review.
+// All reviews concatenated in lower case, with a separator so that words do not merge.
 std::string joined(std::span<const std::string> reviews) {
   std::string text;
   for (const std::string& review : reviews) {
@@ -137,12 +137,11 @@ std::string joined(std::span<const std::string> reviews) {
 bool isLetterAt(std::string_view text, std::size_t place) {
   if (place >= text.size()) return false;
   const char c = text[place];
-  const bool is_accented =
-      static_cast<unsigned char>(c) >= 0x80;  // a byte of a letter beyond ASCII, or emoji
+  const bool is_accented = static_cast<unsigned char>(c) >= 0x80;  // part of a non-ASCII character
   return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || is_accented;
 }
 
-// True when the word stands in the text as a word of its own, and not inside of another.
+// True when the text contains the word as a whole word.
 bool hasWord(std::string_view text, std::string_view word) {
   for (std::size_t at = text.find(word); at != std::string_view::npos; at = text.find(word, at + 1)) {
     const bool begins_word = at == 0 || !isLetterAt(text, at - 1);
@@ -151,12 +150,12 @@ bool hasWord(std::string_view text, std::string_view word) {
   return false;
 }
 
-// How many of the words occur. How often one occurs makes no difference.
+// The number of different words that occur.
 std::int64_t wordsIn(const std::string& text, Words keywords) {
   return std::ranges::count_if(keywords, [&](std::string_view word) { return hasWord(text, word); });
 }
 
-// The topics that come up, the most discussed first, or `otherwise`.
+// The topics that occur, most frequent first, or `otherwise`.
 std::string topicsIn(const std::string& text, std::span<const Topic> topics, std::string_view otherwise) {
   std::vector<Topic> found(topics.begin(), topics.end());
   const auto discussed = [&](const Topic& topic) { return wordsIn(text, topic.keywords); };
@@ -175,7 +174,7 @@ std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
   const std::string text = joined(reviews);
   if (text.empty()) return "Not enough reviews to generate a summary yet.";
 
-  const bool is_casual = wordsIn(text, slang) >= slangOfARegister;
+  const bool is_casual = wordsIn(text, slang) >= casualSlangWords;
   const Mood& mood = *bandOf(moods, wordsIn(text, praise) - wordsIn(text, blame));
   const SentenceBanks& banks = is_casual ? mood.casual : mood.formal;
 
@@ -184,10 +183,10 @@ std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
   const std::string bad =
       topicsIn(text, complaintTopics, is_casual ? "a couple rough spots" : "a few rough edges");
 
-  const std::string verdict = fill(tellRow(game, banks.verdict), {{"subject", subject}});
-  const std::string balance = fill(tellRow(game, banks.balance), {{"good", good}, {"bad", bad}});
-  const std::string consensus = fill(tellRow(game, banks.consensus), {{"label", mood.label}});
-  const std::string_view advice = tellRow(game, banks.advice);
+  const std::string verdict = fill(drawFreshRow(game, banks.verdict), {{"subject", subject}});
+  const std::string balance = fill(drawFreshRow(game, banks.balance), {{"good", good}, {"bad", bad}});
+  const std::string consensus = fill(drawFreshRow(game, banks.consensus), {{"label", mood.label}});
+  const std::string_view advice = drawFreshRow(game, banks.advice);
   return tb::format("{} {} {} {}", verdict, balance, consensus, advice);
 }
 

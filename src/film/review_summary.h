@@ -1,6 +1,6 @@
 #pragma once
 
-// The paragraph above a title's audience reviews: what they come to, read off the words they use.
+// The summary above a title's audience reviews, based on keywords.
 
 #include <optional>
 #include <span>
@@ -10,9 +10,9 @@
 
 namespace tb {
 
-// Sums the reviews up in four sentences: a verdict, what is praised against what is blamed, the consensus and
-// an advice, in the tone in which the reviews are written. Without a title it speaks of "this film". Reviews
-// that are blank do not count; when none is left, the paragraph says that there are not enough.
+// Summarizes reviews in four sentences: a verdict, praise and blame, the consensus, and a recommendation, in
+// the tone of the reviews. An empty title becomes "this film". Blank reviews are ignored; if none is left,
+// the paragraph says that there are not enough reviews.
 [[nodiscard]] std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
                                            const std::optional<std::string>& title = std::nullopt);
 

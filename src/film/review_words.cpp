@@ -9,13 +9,13 @@ namespace {
 
 template <class Work>
 std::string reviewOf(Game& game, Bank bank, const Work& work, const std::string& genre) {
-  const Sights& seen = sightsOf(work.title);
-  return fill(tellRow(game, bank, subjectOf(work)), {{"title", work.title},
-                                                     {"director", work.directorName},
-                                                     {"name", game.world.myName},
-                                                     {"genre", genre},
-                                                     {"prop", seen.prop},
-                                                     {"place", seen.place}});
+  const ReviewNouns& seen = nounsOf(work.title);
+  return fill(drawFreshRow(game, bank, subjectOf(work)), {{"title", work.title},
+                                                          {"director", work.directorName},
+                                                          {"name", game.world.myName},
+                                                          {"genre", genre},
+                                                          {"prop", seen.prop},
+                                                          {"place", seen.place}});
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-// The words that people have for a title: rows of the banks of reviews, filled in.
+// Review texts about a title.
 
 #include <string>
 
@@ -9,8 +9,8 @@
 
 namespace tb {
 
-// A row of a bank of reviews to be told (banks/draw.h), with the title, its director, the performer and what
-// is seen in it filled in. Banks of critics also speak of the `genre`.
+// Draws a row of a review bank (banks/draw.h) and fills in the title, its director, the performer and its
+// nouns. Banks of critics also need the `genre`.
 [[nodiscard]] std::string drawReview(Game& game, Bank bank, const Film& film, const std::string& genre = "");
 [[nodiscard]] std::string drawReview(Game& game, Bank bank, const Audition& project,
                                      const std::string& genre);

@@ -11,33 +11,33 @@ namespace tb {
 
 namespace {
 
-// A count that is `fewest` + RandomRange(`spread`).
+// A count of `fewest` + RandomRange(`spread`).
 struct CountRoll {
   std::int64_t fewest;
   std::int64_t spread;
 };
 
-// How many people rated a title, and how many critics did.
+// The numbers of audience ratings and of critics' ratings.
 struct Audience {
   CountRoll ratings;
   CountRoll critics;
 };
 
-// Of commercials, and of everything by directors beyond the scale.
+// For commercials, and for directors outside the table.
 constexpr Audience smallAudience = {.ratings = {5, 6}, .critics = {1, 3}};
 constexpr Audience festivalAudience = {.ratings = {1, 10}, .critics = {1, 5}};
 
-// What a director's standing can bring: a rating of lowestRating to the top and raisedRating above it, a
-// metascore of lowestMetascore to the standing and raisedMetascore above it. Whoever stands below
-// `lowestStanding` is taken for an unknown talent of `unknownTalent`.
+// The range of scores by the director's rating ("standing"): the IMBD rating is from minRating to
+// topRating() plus raisedRating, the metascore from minMetascore to the standing plus raisedMetascore. A
+// standing below `minStanding` counts as `unknownTalent`.
 struct Standing {
   std::int64_t upTo;
   Bank review;
-  double lowestRating;
+  double minRating;
   double raisedRating;
-  std::int64_t lowestMetascore;
+  std::int64_t minMetascore;
   std::int64_t raisedMetascore;
-  Audience released;  // features and series
+  Audience released;  // for features and series
   Audience student;
   Audience shortFilm;
 };
@@ -48,10 +48,10 @@ constexpr Audience worldwide = {.ratings = {1'000, 1'999'001}, .critics = {5, 96
 constexpr Audience notedStudent = {.ratings = {5, 996}, .critics = {5, 21}};
 constexpr Audience notedShort = {.ratings = {10, 991}, .critics = {5, 96}};
 
-constexpr std::int64_t lowestStanding = 6;
+constexpr std::int64_t minStanding = 6;
 constexpr std::int64_t unknownTalent = 10;
 
-// No release is reviewed from the second of the five banks of long reviews.
+// The second of the five banks of long reviews is not used for releases.
 constexpr std::array<Standing, 4> standings = {{
     {30, bank::longReviewBank1, 1, 0, 5, 0, cult, festivalAudience, festivalAudience},
     {71, bank::longReviewBank3, 2, 0, 20, 0, popular, festivalAudience, festivalAudience},
@@ -87,8 +87,8 @@ std::string featuredReview(Game& game, const Standing& standing, const Audition&
   return drawReview(game, standing.review, project, genre);
 }
 
-// Nobody is perfect, and nobody is far from it for trying.
-void keepBelowPerfect(Game& game, Scores& scores) {
+// Redraws scores that reach the maximum.
+void capScores(Game& game, Scores& scores) {
   if (scores.imbdRating >= 10) scores.imbdRating = RandomUnit(game.random, 8, 10);
   if (scores.imbdMetascore >= 100) scores.imbdMetascore = 90 + RandomRange(game.random, 11);
 }
@@ -101,20 +101,20 @@ double topRating(std::int64_t directorRating) {
 
 Scores rollScores(Game& game, const Audition& project) {
   const double top = topRating(project.directorRating);
-  const std::int64_t reach = project.directorRating < lowestStanding ? unknownTalent : project.directorRating;
+  const std::int64_t reach = project.directorRating < minStanding ? unknownTalent : project.directorRating;
   Scores scores{.imbdRating = RandomUnit(game.random, 1, top),
                 .imbdMetascore = RandomBetween(game.random, 5, reach)};
   rollAudience(game, smallAudience, scores);
   if (const Standing* const standing = bandOf(standings, reach)) {
     scores.featuredReview = featuredReview(game, *standing, project);
-    scores.imbdRating = RandomUnit(game.random, standing->lowestRating, top + standing->raisedRating);
+    scores.imbdRating = RandomUnit(game.random, standing->minRating, top + standing->raisedRating);
     scores.imbdMetascore =
-        RandomBetween(game.random, standing->lowestMetascore, reach + standing->raisedMetascore);
+        RandomBetween(game.random, standing->minMetascore, reach + standing->raisedMetascore);
     if (const Audience* const audience = audienceOf(*standing, project.typeOfFilm)) {
       rollAudience(game, *audience, scores);
     }
   }
-  keepBelowPerfect(game, scores);
+  capScores(game, scores);
   return scores;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the world thinks of a title, rolled once, in the week of its release. The director alone sets the
-// range; the performer's talent has no part in it.
+// The scores of a title, drawn once in the week of its release. The range depends on the director only, not
+// on the performer's talent.
 
 #include <cstdint>
 #include <string>
@@ -15,12 +15,12 @@ struct Scores {
   std::int64_t imbdMetascore = 0;  // up to 100
   std::int64_t numImbdRatings = 0;
   std::int64_t numMetascoreRatings = 0;
-  std::string featuredReview;  // empty for directors beyond the scale
+  std::string featuredReview;  // empty for directors outside the table
 };
 
 [[nodiscard]] Scores rollScores(Game& game, const Audition& project);
 
-// The rating that a director can reach in an ordinary roll, 1 and up.
+// The highest rating of an ordinary draw for a director, 1 and up.
 [[nodiscard]] double topRating(std::int64_t directorRating);
 
 }  // namespace tb

@@ -18,13 +18,12 @@ namespace tb {
 
 namespace {
 
-// How the people behind a series lift what an advertiser pays: ratings of director and writer and the
-// performance, added up.
+// The bonus on ad revenue by the sum of the director's, the writer's and the performance rating.
 struct CrewBand {
   std::int64_t from;
   std::int64_t upTo;
   double lowest;
-  double raised;  // above the top of the score roll
+  double raised;  // above the range of the score draw
 };
 
 constexpr std::array<CrewBand, 3> crewBands = {{
@@ -33,8 +32,8 @@ constexpr std::array<CrewBand, 3> crewBands = {{
     {.from = 216, .upTo = 452, .lowest = 3, .raised = 3},
 }};
 
-// The part of an episode's audience that comes back, by the mean of both scores (0 to 10). Between the bands
-// lie hairline gaps, where everybody does.
+// The share of viewers who return for the next episode, by the mean of both scores (0 to 10). A score in a
+// gap between two bands keeps all viewers.
 struct RetentionBand {
   double from;
   double upTo;
@@ -59,8 +58,7 @@ double crewBonus(Game& game, const Audition& project) {
 }
 
 double retention(Game& game, const Film& film) {
-  const double score = (film.imbdRating + static_cast<double>(film.imbdMetascore) / 10) * 0.5;
-  const RetentionBand* const band = bandOf(retentionBands, score);
+  const RetentionBand* const band = bandOf(retentionBands, meanScore(film));
   return band == nullptr ? 1.0 : RandomUnit(game.random, band->least, band->most);
 }
 
@@ -70,7 +68,8 @@ std::int64_t hoursOf(Game& game, double views) {
 
 void logPremiere(Game& game, const Audition& project, double views) {
   const std::string count = plainCount(game.locale, static_cast<std::int64_t>(views));
-  logActivity(game.world, fill(tellRow(game, bank::premiere), {{"title", project.title}, {"views", count}}));
+  logActivity(game.world,
+              fill(drawFreshRow(game, bank::premiere), {{"title", project.title}, {"views", count}}));
 }
 
 void airEpisode(Game& game, const Film& film, std::int64_t weeksSinceRelease, Ratings& season) {
@@ -105,10 +104,10 @@ void premiereSeries(Game& game, const Audition& project) {
 
 void advanceSeries(Game& game, const Audition& project, std::int64_t weeksSinceRelease) {
   WorldState& world = game.world;
-  const std::size_t at = filmIndex(world, project.filmId);
-  if (at == world.saveAllFilmList.size()) return;
-  const Film& film = world.saveAllFilmList[at];
-  gainFansOfTitle(game, project, qualityOf(film), 1);
+  const auto index = find(world.saveAllFilmList, &Film::filmId, project.filmId);
+  if (!index) return;
+  const Film& film = world.saveAllFilmList[*index];
+  gainFansFromTitle(game, project, qualityOf(film), 1);
   const auto season = find(world.saveAllRatings, &Ratings::filmId, project.filmId);
   if (season) airEpisode(game, film, weeksSinceRelease, world.saveAllRatings.edit(*season));
 }

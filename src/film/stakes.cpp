@@ -8,7 +8,7 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t payoutIdOffset = 100;  // a payout's id above its film's
+constexpr std::int64_t payoutIdOffset = 100;  // a payout's id minus its film's id
 
 }  // namespace
 
@@ -39,9 +39,9 @@ RoyaltyPayout royaltyShare(const WorldState& world, const Film& film, const Proc
           .totalDealGross = proceeds.gross};
 }
 
-void keepPayout(Game& game, EquityPayout payout) { game.world.saveAllEquityPayouts.push_back(payout); }
+void recordPayout(Game& game, EquityPayout payout) { game.world.saveAllEquityPayouts.push_back(payout); }
 
-void keepPayout(Game& game, RoyaltyPayout payout) {
+void recordPayout(Game& game, RoyaltyPayout payout) {
   creditAgent(game, payout.agentEarnings);
   game.world.saveAllRoyaltyPayouts.push_back(std::move(payout));
 }

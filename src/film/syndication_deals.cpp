@@ -4,6 +4,7 @@
 
 #include "banks/draw.h"
 #include "banks/syndication_banks.h"
+#include "core/calendar.h"
 #include "core/ended_week.h"
 #include "core/find.h"
 #include "core/format.h"
@@ -16,40 +17,38 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t weeksOfBidding =
-    4;  // since the first bid ever made; a title that was sold waits no more
-constexpr std::size_t fewestBids = 2;
-constexpr std::int64_t weeksOfAYear = 52;
+constexpr std::int64_t biddingWeeks = 4;  // since the first bid ever; does not restart after a deal
+constexpr std::size_t minBids = 2;
 constexpr std::int64_t weeksBetweenResiduals = 12;
 constexpr std::int64_t noNetwork = -1;  // Syndication::networkIndexWon
 
-// What the news does to a title of the last years: an older one comes back stronger, a hit is a hit again.
-constexpr std::int64_t yearsInMemory = 4;
+// The popularity boost of a deal: higher for an older title, and for a hit.
+constexpr std::int64_t popularityYears = 4;
 constexpr double hit = 95;  // points of popularity
 constexpr double allTheTalk = 100;
 
-constexpr std::int64_t audienceOfReruns = 100'000;  // hours watched; with fewer nobody counts
+constexpr std::int64_t minRerunHours = 100'000;  // hours watched; fewer are not recorded
 
-// --- Striking a deal ---
+// --- Closing a deal ---
 
 void announce(Game& game, const Syndication& title, const NetworkDeal& deal) {
   const std::string amount = shortMoney(game.locale, static_cast<double>(deal.price));
-  const std::string years = tb::format("{} year{}", deal.years, deal.years == 1 ? "" : "s");
+  const std::string years = counted(deal.years, "year");
   logLine(game.world, {NewsKind::syndication, title.filmId},
-          fill(tellRow(game, bank::syndicationDealBank),
+          fill(drawFreshRow(game, bank::syndicationDealBank),
                {{"title", title.filmName}, {"amount", amount}, {"network", deal.network}, {"years", years}}));
 }
 
-void bringBackToMind(Game& game, std::size_t filmAt) {
+void boostPopularity(Game& game, std::size_t filmAt) {
   const std::int64_t years = game.world.yearNumber - game.world.saveAllFilmList[filmAt].yearReleased;
-  if (years > yearsInMemory) return;
+  if (years > popularityYears) return;
   Film& film = game.world.saveAllFilmList.edit(filmAt);
   film.lastWeekPopularity = film.currentPopularity;
   film.currentPopularity =
       film.currentPopularity < hit ? film.currentPopularity + static_cast<double>(years) : allTheTalk;
 }
 
-// Any of the bidders wins, the lowest as soon as the highest: what they talk about is not only money.
+// Draws the winner uniformly, regardless of price.
 void sign(Game& game, Syndication& title) {
   const std::int64_t won = RandomRange(game.random, std::ssize(title.networkOffers));
   const auto bid = static_cast<std::size_t>(won);
@@ -58,23 +57,23 @@ void sign(Game& game, Syndication& title) {
                             .network = title.networkNames[bid]};
   title.networkIndexWon = won;
   title.weekStarted = game.world.weekNumberForTracking;
-  title.weeksRemaining = deal.years * weeksOfAYear;
+  title.weeksRemaining = deal.years * weeksPerYear;
   title.didAcceptOffer = true;
   title.totalEarnings += deal.price;
   announce(game, title, deal);
 
-  const std::size_t film = filmIndex(game.world, title.filmId);
-  if (film == game.world.saveAllFilmList.size()) return;
-  bringBackToMind(game, film);
-  paySyndicationShares(game, game.world.saveAllFilmList[film], deal);
+  const auto film = find(game.world.saveAllFilmList, &Film::filmId, title.filmId);
+  if (!film) return;
+  boostPopularity(game, *film);
+  paySyndicationShares(game, game.world.saveAllFilmList[*film], deal);
 }
 
 bool isReadyToSign(const WorldState& world, const Syndication& title) {
-  return !title.didAcceptOffer && world.weekNumberForTracking - title.weekOfFirstOffer >= weeksOfBidding &&
-         title.networkOffers.size() >= fewestBids;
+  return !title.didAcceptOffer && world.weekNumberForTracking - title.weekOfFirstOffer >= biddingWeeks &&
+         title.networkOffers.size() >= minBids;
 }
 
-// --- A deal in force ---
+// --- An active deal ---
 
 void end(Syndication& title) {
   const auto won = static_cast<std::size_t>(title.networkIndexWon);
@@ -90,15 +89,14 @@ void end(Syndication& title) {
   title.networkImages.clear();
 }
 
-// The hours that the reruns of a week are watched, by those of the last count: a big return, and then less
-// every week, as the deal runs out.
-double hoursOfReruns(Game& game, const Syndication& title, double lastHours) {
+// The rerun hours of a week from the last recorded hours: a large increase at first, then less every week.
+double rerunHours(Game& game, const Syndication& title, double lastHours) {
   const std::int64_t weeks = game.world.weekNumberForTracking - title.weekStarted;
   if (weeks == 0) return lastHours * RandomUnit(game.random, 1.5, 2.0);
   const double left =
       static_cast<double>(title.weeksRemaining) / static_cast<double>(weeks + title.weeksRemaining);
   const double hours = (left - 0.3) * lastHours;
-  return hours > static_cast<double>(audienceOfReruns) ? hours : 0;
+  return hours > static_cast<double>(minRerunHours) ? hours : 0;
 }
 
 void showReruns(Game& game, const Syndication& title) {
@@ -106,8 +104,8 @@ void showReruns(Game& game, const Syndication& title) {
   const auto season = find(world.saveAllRatings, &Ratings::filmId, title.filmId);
   if (!season) return;
   const std::vector<std::int64_t>& watched = world.saveAllRatings[*season].hoursWatched;
-  if (watched.empty() || watched.back() < audienceOfReruns) return;
-  const double hours = hoursOfReruns(game, title, static_cast<double>(watched.back()));
+  if (watched.empty() || watched.back() < minRerunHours) return;
+  const double hours = rerunHours(game, title, static_cast<double>(watched.back()));
   if (hours <= 0) return;
   Ratings& counted = world.saveAllRatings.edit(*season);
   counted.hoursWatched.push_back(static_cast<std::int64_t>(hours));

@@ -1,19 +1,16 @@
 #pragma once
 
-// The reruns of a title on a network: which bid wins, what the deal brings week by week, and how it ends.
+// Syndication deals: which bid wins, the weekly income of a deal, and its end.
 
 #include "core/game.h"
 
 namespace tb {
 
-// When the summary opens, after the bids: a title that has waited four weeks since its first bid and has two
-// or more goes to any of the bidders, for the price and the years that it named; the news makes the title
-// talked about and pays whoever holds a stake. A deal in force counts its weeks down, the one in which it was
-// struck included: a residual every twelfth week, and viewers while the reruns are fresh. In the week after
-// its last a deal ends and the title is free for bids again.
-//
-// Writes `saveAllSyndication` and, each when it changed, the films, `saveAllRatings`, the payouts,
-// `saveAllWeeklyEarnings`, `workDuesPaidSAG`, the agents and `activityTracker`.
+// Runs when the summary opens, after drawSyndicationBids(). A title with two or more bids, the first of them
+// at least four weeks old, is sold to a random bidder for its price and term; this raises its popularity and
+// pays stakes. An active deal counts down its weeks, starting in the week it was closed: it pays a residual
+// every twelfth week and adds viewers at first. In the week after its last the deal ends, and the title can
+// get bids again.
 void advanceSyndicationDeals(Game& game);
 
 }  // namespace tb

@@ -16,13 +16,13 @@ namespace tb {
 
 namespace {
 
-constexpr std::int64_t weeksOfFirstRun = 29;
+constexpr std::int64_t firstRunWeeks = 29;
 
-// The interest of a week, in points of popularity; a title has to be above it.
-constexpr double leastInterest = 10;
-constexpr double mostInterest = 100;
+// Range of the drawn threshold in points of popularity; only titles above it get a bid.
+constexpr double minInterest = 10;
+constexpr double maxInterest = 100;
 
-// How long a network wants a title, by its popularity: `least` years and a draw out of `spread` on top.
+// The term of a bid by popularity: `least` + RandomRange(`spread`) years.
 struct TermBand {
   double from;
   double upTo;
@@ -36,24 +36,24 @@ constexpr std::array<TermBand, 5> termBands = {{
     {.from = 81, .upTo = 95, .least = 3, .spread = 3},
     {.from = 96, .upTo = 300, .least = 3, .spread = 5},
 }};
-constexpr std::int64_t yearsOutsideBands = 1;  // of the little known, and between the bands
+constexpr std::int64_t yearsOutsideBands = 1;  // below and between the bands
 
-// No network pays more than the highest price; what a title is worth beyond it is told in whole millions.
-constexpr double highestPrice = 1e9;  // dollars
+// Price cap. A value above it is replaced by a draw in whole millions.
+constexpr double maxPrice = 1e9;  // dollars
 constexpr double million = 1e6;
-constexpr std::int64_t leastMillions = 500;
-constexpr std::int64_t spreadOfMillions = 701;
+constexpr std::int64_t minMillions = 500;
+constexpr std::int64_t millionsSpread = 701;
 
-// A bid on a title with other bids is this far from what the title is worth.
-constexpr double lowestHaggle = 0.75;
-constexpr double highestHaggle = 1.25;
+// Range of the factor for later bids, relative to the title's value.
+constexpr double minHaggle = 0.75;
+constexpr double maxHaggle = 1.25;
 
-// --- What a title is worth ---
+// --- Value of a title ---
 
-// Both scores, up to 20.
+// The sum of both scores, up to 20.
 double scoresOf(const Film& film) { return film.imbdRating + static_cast<double>(film.imbdMetascore) / 10; }
 
-// The part of the first night's audience that was there at the end; nothing for a series that nobody counted.
+// The last episode's audience as a fraction of the premiere's; nothing for a series without viewing figures.
 std::optional<double> retentionOf(const WorldState& world, const Film& film) {
   const auto season = find(world.saveAllRatings, &Ratings::filmId, film.filmId);
   if (!season) return std::nullopt;
@@ -62,24 +62,24 @@ std::optional<double> retentionOf(const WorldState& world, const Film& film) {
   return views.back() / views.front();
 }
 
-double worthOfSeries(const WorldState& world, const Film& film) {
+double valueOfSeries(const WorldState& world, const Film& film) {
   const auto retention = retentionOf(world, film);
   if (!retention) return 0;
   return (*retention + scoresOf(film) / 200) * film.budget;
 }
 
-double worthOfMovie(const WorldState& world, const Film& film) {
+double valueOfMovie(const WorldState& world, const Film& film) {
   const bool has_closed = film.boxOfficeGross > 0;
   const double gross = has_closed ? film.boxOfficeGross : grossOf(world, film.filmId).value_or(0);
   const double profit = gross / film.budget - 1;
   return (std::max(profit * 0.5, 0.0) + scoresOf(film) / 20) * (film.budget * 0.25);
 }
 
-// In dollars, 0 for what cost nothing.
-double worthOf(const WorldState& world, const Film& film) {
+// In dollars; 0 without a budget.
+double valueOf(const WorldState& world, const Film& film) {
   if (film.budget <= 0) return 0;
   const double worth =
-      film.typeOfFilm == filmType::series ? worthOfSeries(world, film) : worthOfMovie(world, film);
+      film.typeOfFilm == filmType::series ? valueOfSeries(world, film) : valueOfMovie(world, film);
   return worth * film.currentPopularity / 100;
 }
 
@@ -97,21 +97,21 @@ std::int64_t drawYears(Game& game, double popularity) {
 }
 
 std::int64_t priceOf(Game& game, double worth) {
-  if (worth > highestPrice) {
-    worth = static_cast<double>(leastMillions + RandomRange(game.random, spreadOfMillions)) * million;
+  if (worth > maxPrice) {
+    worth = static_cast<double>(minMillions + RandomRange(game.random, millionsSpread)) * million;
   }
   debugLog(tb::format("Syndication offer == {:.2f}", worth));
   return static_cast<std::int64_t>(worth);
 }
 
-// Nothing when the title is worth nothing, which no series comes to. The first network to come pays what the
-// title is worth.
+// Nothing when the title's value is 0, which is never the case for a series. The first bid is exactly the
+// value.
 std::optional<Bid> drawBid(Game& game, const Film& film, bool isFirst) {
   const auto network = static_cast<std::size_t>(RandomRange(game.random, std::ssize(networks)));
   const std::int64_t years = drawYears(game, film.currentPopularity);
-  const double worth = worthOf(game.world, film);
+  const double worth = valueOf(game.world, film);
   if (!(worth > 0)) return std::nullopt;
-  const double haggle = isFirst ? 1 : RandomUnit(game.random, lowestHaggle, highestHaggle);
+  const double haggle = isFirst ? 1 : RandomUnit(game.random, minHaggle, maxHaggle);
   return Bid{.network = network, .years = years, .price = priceOf(game, worth * haggle)};
 }
 
@@ -136,12 +136,12 @@ Syndication newRecord(const WorldState& world, const Film& film) {
           .sourceId = film.sourceId};
 }
 
-bool hasHadItsRun(const WorldState& world, const Film& film) {
+bool isRunOver(const WorldState& world, const Film& film) {
   const bool is_shown_again = film.typeOfFilm == filmType::feature || film.typeOfFilm == filmType::series;
-  return is_shown_again && world.weekNumberForTracking - film.weekReleased >= weeksOfFirstRun;
+  return is_shown_again && world.weekNumberForTracking - film.weekReleased >= firstRunWeeks;
 }
 
-void takeBid(Game& game, const Film& film) {
+void recordBid(Game& game, const Film& film) {
   List<Syndication>& records = game.world.saveAllSyndication;
   const std::size_t at = find(records, &Syndication::filmId, film.filmId).value_or(records.size());
   const bool is_first = at == records.size();
@@ -158,11 +158,11 @@ void takeBid(Game& game, const Film& film) {
 
 }  // namespace
 
-void takeSyndicationBids(Game& game) {
+void drawSyndicationBids(Game& game) {
   for (const Film& film : game.world.saveAllFilmList) {
-    if (!hasHadItsRun(game.world, film)) continue;
-    if (RandomUnit(game.random, leastInterest, mostInterest) >= film.currentPopularity) continue;
-    takeBid(game, film);
+    if (!isRunOver(game.world, film)) continue;
+    if (RandomUnit(game.random, minInterest, maxInterest) >= film.currentPopularity) continue;
+    recordBid(game, film);
   }
 }
 

@@ -1,15 +1,14 @@
 #pragma once
 
-// Networks bid for the reruns of titles that are still talked about.
+// Networks' bids for the reruns of popular titles.
 
 #include "core/game.h"
 
 namespace tb {
 
-// When the summary opens, first of all: every film and series that came out 29 weeks ago or earlier and has
-// no deal in force may draw a bid of one of the seven networks, the likelier the more popular it is; a
-// popularity of 10 draws none, one above 100 draws one a week. A network bids for a title once until a deal
-// has run out. Writes `saveAllSyndication` when there was a bid.
-void takeSyndicationBids(Game& game);
+// The first step when the summary opens. Every film and series that was released 29 or more weeks ago and has
+// no active deal may get a bid by one of the seven networks. The chance grows with its popularity: none up to
+// 10, one bid per week above 100. A network bids for a title once until a deal has ended.
+void drawSyndicationBids(Game& game);
 
 }  // namespace tb

@@ -5,6 +5,7 @@
 
 #include "banks/draw.h"
 #include "banks/earnings_banks.h"
+#include "core/calendar.h"
 #include "core/guild_dues.h"
 #include "core/log.h"
 #include "core/number_style.h"
@@ -24,7 +25,7 @@ void payEquity(Game& game, const Film& film, const Proceeds& proceeds) {
       film.isPrincipal == rolePart::ownProduction
           ? "You received " + amount + " in syndication earnings for directing and producing " + film.title
           : "You received a " + amount + " payout for your investment in " + film.title + "'s syndication.");
-  keepPayout(game, payout);
+  recordPayout(game, payout);
 }
 
 void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds, const NetworkDeal& deal) {
@@ -34,23 +35,22 @@ void payRoyalty(Game& game, const Film& film, const Proceeds& proceeds, const Ne
   const std::string royalty = shortMoney(game.locale, royaltyOn(film, proceeds.gross));
   logLine(game.world, {NewsKind::payday, film.filmId, payout.payout},
           "You received a royalty of " + royalty + " for " + film.title + "'s syndication.");
-  keepPayout(game, std::move(payout));
+  recordPayout(game, std::move(payout));
 }
 
 // --- Residuals ---
 
-// Residuals lose a tenth with every whole year since the release, from the second year on. What is above 0
-// stays above 0, however old the title.
+// Residuals fall by a tenth per full year since the release, from the second year on. A rate above 0 stays
+// above 0.
 double agedRate(double rate, std::int64_t weeksSinceRelease) {
   constexpr std::int64_t firstWeekOfLoss = 53;
-  constexpr std::int64_t weeksOfAYear = 52;
-  constexpr double leftAfterAYear = 0.9;
+  constexpr double rateKeptPerYear = 0.9;
   if (weeksSinceRelease < firstWeekOfLoss) return rate;
-  return rate * std::pow(leftAfterAYear, weeksSinceRelease / weeksOfAYear);
+  return rate * std::pow(rateKeptPerYear, weeksSinceRelease / weeksPerYear);
 }
 
-// The agent lives on the roles that the agency brought; a role of the performer's own finding costs nothing.
-double takeCommission(Game& game, const Syndication& title, double gross) {
+// Commission is due only on roles from the agent.
+double chargeCommission(Game& game, const Syndication& title, double gross) {
   if (title.sourceId <= 0 || game.world.agentCommission <= 0) return 0;
   const double commission = gross * game.world.agentCommission;
   creditAgent(game, commission);
@@ -72,14 +72,14 @@ void paySyndicationResidual(Game& game, const Syndication& title) {
   WorldState& world = game.world;
   const double rate = agedRate(title.residualRate, world.weekNumberForTracking - title.filmReleased);
   const double gross = rate * title.payment;
-  // Dues are owed on residuals by everybody, member of the guild or not, and once.
-  const double net = gross - takeGuildDues(world, gross) - takeCommission(game, title, gross);
+  // Everyone owes dues on residuals, also non-members.
+  const double net = gross - chargeGuildDues(world, gross) - chargeCommission(game, title, gross);
   feedLine(world, {NewsKind::payday, title.filmId, net},
-           fill(tellRow(game, bank::residualPaidBank),
+           fill(drawFreshRow(game, bank::residualPaidBank),
                 {{"title", title.filmName}, {"amount", shortMoney(game.locale, net)}}));
   world.saveAllWeeklyEarnings.push_back({.filmId = title.filmId,
                                          .filmTitle = title.filmName,
-                                         .filmType = filmType::feature,  // of series, too
+                                         .filmType = filmType::feature,  // also for series
                                          .residualsEarned = net,
                                          .yearNumber = world.yearNumber,
                                          .weekNumberForTracking = world.weekNumberForTracking});

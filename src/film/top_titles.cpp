@@ -9,7 +9,7 @@ namespace tb {
 
 namespace {
 
-constexpr std::size_t placesOfAllTime = 250;
+constexpr std::size_t allTimeRanks = 250;
 constexpr double ratingOfTheBest = 8.0;
 
 std::vector<TopShow> topShows(const WorldState& world) {
@@ -26,7 +26,7 @@ std::vector<TopShow> topShows(const WorldState& world) {
     rows.push_back({.title = record.title, .imdbRating = record.imdbRating});
   }
   sortDescending(rows, &TopShow::imdbRating);
-  rows.resize(std::min(rows.size(), placesOfAllTime));
+  rows.resize(std::min(rows.size(), allTimeRanks));
   return rows;
 }
 

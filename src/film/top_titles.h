@@ -1,7 +1,7 @@
 #pragma once
 
-// The best of all time: the 250 films that took most, and the 250 series that are rated highest, the
-// player's among the others.
+// The all-time lists: the 250 films with the highest gross and the 250 series with the highest rating,
+// including the player's.
 
 #include <cstdint>
 #include <optional>
@@ -13,7 +13,7 @@
 
 namespace tb {
 
-// A series, or a season of the player's. filmId is -1 for the built-in ones.
+// A built-in series (filmId -1) or a season of the player's.
 struct TopShow {
   std::int64_t filmId = -1;
   std::string title;
@@ -23,15 +23,15 @@ struct TopShow {
 };
 
 struct TopTitles {
-  std::vector<BoxOfficeWeekends> movies;  // highest worldwide gross first
-  std::vector<TopShow> shows;             // highest rating first
+  std::vector<BoxOfficeWeekends> movies;  // by descending worldwide gross
+  std::vector<TopShow> shows;             // by descending rating
 };
 
-// Both lists as they stand today: of films those that opened above 50 million in a market, of series the
-// seasons rated above 8.0.
+// Computes both lists. The player's films need an opening above 50 million dollars in a market, seasons a
+// rating above 8.0.
 [[nodiscard]] TopTitles topTitles(const WorldState& world);
 
-// The film's place on either list, from 1; nothing when it is on none.
+// The film's rank on either list, 1 and up; nothing when it is on neither.
 [[nodiscard]] std::optional<std::size_t> placeOf(const TopTitles& lists, std::int64_t filmId);
 
 }  // namespace tb

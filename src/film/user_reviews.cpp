@@ -14,14 +14,14 @@ namespace {
 
 using StarShares = std::array<double, starsOfRating>;
 
-constexpr double spreadOfTaste = 2;   // stars
-constexpr double oddOpinions = 0.08;  // the part of the audience that rates at random
-constexpr double leastShown = 1.18;   // shown ratings to given ones, for a metascore of 0
-constexpr std::size_t mostReviews = 5;
+constexpr double ratingSpread = 2;             // stars
+constexpr double randomRatingShare = 0.08;     // share of ratings that are spread evenly
+constexpr double shownAtZeroMetascore = 1.18;  // shown ratings per given rating at a metascore of 0
+constexpr std::size_t maxReviews = 5;
 constexpr int drawsForReviews = 25;
-constexpr std::int64_t partThatIsHeard = 20;  // one rating in twenty
+constexpr std::int64_t ratingsPerReview = 20;  // one rating in twenty
 
-// What audiences write, by level of liking: 1-2, 3-4, 5-6, 7-8 and 9-10 stars.
+// Banks of audience reviews for 1-2, 3-4, 5-6, 7-8 and 9-10 stars.
 struct LevelBanks {
   Bank snippets;
   Bank bodies;
@@ -39,24 +39,24 @@ void normalise(StarShares& shares) {
   for (double& share : shares) share /= sum;
 }
 
-// A bell over the stars around the title's rating, on a floor of odd opinions.
+// A bell curve around the title's rating plus an even share.
 StarShares sharesOfStars(double rating) {
   StarShares shares{};
   for (std::size_t star = 0; star < starsOfRating; ++star) {
-    const double distance = (static_cast<double>(star + 1) - rating) / spreadOfTaste;
+    const double distance = (static_cast<double>(star + 1) - rating) / ratingSpread;
     shares[star] = std::exp(-0.5 * distance * distance);
   }
   normalise(shares);
   constexpr double evenShare = 1.0 / starsOfRating;
-  for (double& share : shares) share = oddOpinions * evenShare + (1 - oddOpinions) * share;
+  for (double& share : shares) share = randomRatingShare * evenShare + (1 - randomRatingShare) * share;
   normalise(shares);
   return shares;
 }
 
-// Stars that few gave have nobody to speak for them, so that a flop reads like one.
-bool isHeard(const StarHistogram& histogram, std::size_t star) {
+// Only star counts with enough ratings get reviews, so that a flop has no praise.
+bool hasReviewers(const StarHistogram& histogram, std::size_t star) {
   const std::int64_t ratings = std::accumulate(histogram.begin(), histogram.end(), std::int64_t{0});
-  return histogram[star] > 0 && histogram[star] * partThatIsHeard >= ratings;
+  return histogram[star] > 0 && histogram[star] * ratingsPerReview >= ratings;
 }
 
 Reviews reviewOf(Game& game, const Film& film, std::size_t star) {
@@ -71,7 +71,7 @@ Reviews reviewOf(Game& game, const Film& film, std::size_t star) {
 }  // namespace
 
 std::int64_t shownRatings(const Film& film) {
-  const double factor = static_cast<double>(film.imbdMetascore) / 100 + leastShown;
+  const double factor = static_cast<double>(film.imbdMetascore) / 100 + shownAtZeroMetascore;
   return static_cast<std::int64_t>(static_cast<double>(film.numImbdRatings) * factor);
 }
 
@@ -85,7 +85,7 @@ StarHistogram starHistogram(const Film& film) {
     fractions[star] = exact - std::floor(exact);
     left -= counts[star];
   }
-  const auto order = descendingOrder(fractions);  // by the largest fraction left
+  const auto order = descendingOrder(fractions);  // sorted by largest fractional remainder
   for (std::size_t turn = 0; left > 0; ++turn, --left) counts[order[turn % starsOfRating]] += 1;
   return counts;
 }
@@ -93,9 +93,9 @@ StarHistogram starHistogram(const Film& film) {
 std::vector<Reviews> drawUserReviews(Game& game, const Film& film, const StarHistogram& histogram) {
   std::vector<Reviews> reviews;
   if (film.numImbdRatings == 0) return reviews;
-  for (int draw = 0; draw < drawsForReviews && reviews.size() < mostReviews; ++draw) {
+  for (int draw = 0; draw < drawsForReviews && reviews.size() < maxReviews; ++draw) {
     const auto star = static_cast<std::size_t>(RandomRange(game.random, starsOfRating));
-    if (isHeard(histogram, star)) reviews.push_back(reviewOf(game, film, star));
+    if (hasReviewers(histogram, star)) reviews.push_back(reviewOf(game, film, star));
   }
   return reviews;
 }

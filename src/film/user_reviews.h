@@ -1,7 +1,7 @@
 #pragma once
 
-// What audiences think of a title, as its page shows it: how the ratings spread over the stars, and a few
-// reviews. Derived from the frozen scores whenever the page opens, never saved.
+// The audience's opinion of a title on its page: the distribution of stars and a few reviews. Computed from
+// the saved scores whenever the page opens, never saved.
 
 #include <array>
 #include <cstdint>
@@ -15,7 +15,7 @@ namespace tb {
 
 inline constexpr std::size_t starsOfRating = 10;
 
-// A review by somebody of the audience.
+// An audience review.
 struct Reviews {
   std::string username;
   std::int64_t rating = 0;  // 1 to 10 stars
@@ -24,22 +24,22 @@ struct Reviews {
   bool operator==(const Reviews&) const = default;
 };
 
-// How many ratings the page speaks of: more than were given, and the more the critics liked the title.
+// The number of ratings that the page shows. It exceeds `numImbdRatings` by a factor that grows with the
+// metascore.
 [[nodiscard]] std::int64_t shownRatings(const Film& film);
 
-// How many of the title's ratings fell on each of 1 to 10 stars; they add up to `numImbdRatings`.
+// The number of ratings for each of 1 to 10 stars; the sum is `numImbdRatings`.
 using StarHistogram = std::array<std::int64_t, starsOfRating>;
 [[nodiscard]] StarHistogram starHistogram(const Film& film);
 
-// Up to five reviews, each of a number of stars that at least one rating in twenty gave; none before the
-// release.
+// Up to five reviews with star counts that at least one rating in twenty has; none before the release.
 [[nodiscard]] std::vector<Reviews> drawUserReviews(Game& game, const Film& film,
                                                    const StarHistogram& histogram);
 
-// The short opinions on a title of one of five levels of liking, 0 to 4.
+// The bank of short reviews for a level from 0 (1-2 stars) to 4 (9-10 stars).
 [[nodiscard]] Bank snippetsOfLevel(std::size_t level);
 
-// The name under which somebody of the audience writes.
+// Draws an audience member's user name.
 [[nodiscard]] std::string drawHandle(RandomSource& random);
 
 }  // namespace tb

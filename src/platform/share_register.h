@@ -1,6 +1,6 @@
 #pragma once
 
-// Who owns the streaming company. The register is no record: it is counted anew from the records.
+// Ownership of the streaming company, computed from the records.
 
 #include <cstdint>
 
@@ -8,11 +8,11 @@
 
 namespace tb {
 
-// The shares there are: the player's, those of everyone who was ever on the executive team, and those of the
-// capital raises that found investors.
+// The number of shares: the player's, those of current and former executives, and those of completed capital
+// raises.
 [[nodiscard]] std::int64_t totalPlatformShares(const WorldState& world);
 
-// The player's fraction, 0 to 1; all of it while no share exists.
+// The player's fraction, 0 to 1; 1 when there are no shares.
 [[nodiscard]] double ownPlatformFraction(const WorldState& world);
 
 }  // namespace tb

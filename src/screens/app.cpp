@@ -31,7 +31,7 @@ const view::Page& App::view() {
   return laid_out_->page;
 }
 
-// What no screen says of itself.
+// Adds the parts of a page that no screen fills in.
 void App::addFrame(view::Page& page) {
   page.screen = stage_.topNumber();
   page.passing = stage_.passing();
@@ -97,7 +97,8 @@ void App::saveAndRefresh() {
   saveChanges(game_);
 }
 
-// The year turns before the screens that were opened appear, and again after what they did as they appeared.
+// Refreshes the hub, which can end a year, both before opened screens appear and after, because appear() can
+// change the state.
 void App::endAction() {
   saveAndRefresh();
   stage_.settle();

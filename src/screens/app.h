@@ -1,6 +1,6 @@
 #pragma once
 
-// The whole game as a shell sees it: a page to show, and what the player did.
+// The game's interface to a shell: the page to show, and the player's input.
 
 #include <memory>
 #include <optional>
@@ -14,32 +14,32 @@ namespace tb {
 
 class App {
  public:
-  // Loads the career that the store holds, or opens the form of a new one.
+  // Loads the career from the store, or opens the new-career form.
   App(SaveStore& store, RandomSource& random, Locale locale = {}, Clock clock = stoppedClock);
 
-  // The same with another screen at the bottom of the stack, for trying a screen or a shell alone.
+  // The same with another first screen, for tests of a single screen or shell.
   App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first,
       Clock clock = stoppedClock);
 
-  // What is on show now. Good until the next call of anything else.
+  // The current page. Valid until the next call of another function.
   [[nodiscard]] const view::Page& view();
 
-  // The player used what stands under the handle. An unknown handle, or one of another kind, does nothing.
-  // All that the action wrote is made durable before this returns.
+  // The player used the item with this handle. Does nothing for an unknown handle or one of another kind. All
+  // changes are durable when the function returns.
   void press(view::Handle handle);
   void type(view::Handle handle, const std::string& text);
   void slide(view::Handle handle, double value);
 
-  // `seconds` of the player's time went by (0 and up).
+  // `seconds` (0 and up) have passed.
   void tick(double seconds);
 
-  // Leaves the screen on top, where it can be left; on a tab of the hub, goes to the first one.
+  // Leaves the top screen if it can be left; on a tab of the hub, goes to the first tab.
   void back();
 
-  // The platform could not keep what was committed: tells the player, once until saving works again.
+  // The platform could not save a commit. Shows a notice, once until saving works again.
   void savingFailed(const std::string& why);
 
-  // Shows what the platform has to say, such as that a damaged career was put aside.
+  // Shows a notice from the platform, such as that a damaged career was moved.
   void tell(Notice notice);
 
   [[nodiscard]] const Game& game() const { return game_; }

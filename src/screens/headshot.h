@@ -1,7 +1,7 @@
 #pragma once
 
-// The performer's picture. It is saved as image data; the pictures that the game offers are drawn from their
-// name, so that the data is that name.
+// The performer's picture. The save format holds image data; the game's pictures are drawn from a name, so
+// the data is that name.
 
 #include <string>
 
@@ -10,18 +10,18 @@
 
 namespace tb {
 
-// The name of one of the pictures on offer, counted from 1.
+// The name of a picture, numbered from 1.
 [[nodiscard]] std::string headshotName(bool isMale, int number);
 
 [[nodiscard]] Image headshotImage(const std::string& name);
 
-// The name of the picture; empty before one is chosen, or when the data is no name.
+// The picture's name in the image data; empty when there is none.
 [[nodiscard]] std::string headshotIn(const Image& image);
 
-// The picture of that name at an age in years, 18 or more.
+// The picture with that name at an age in years (18 and up).
 [[nodiscard]] view::Picture headshotPicture(const std::string& name, std::int64_t age);
 
-// The performer as of today. Who chose no picture gets the first that the form has on offer.
+// The performer's picture at the current age; the form's first picture if none was chosen.
 [[nodiscard]] view::Picture performerPicture(const WorldState& world);
 
 }  // namespace tb

@@ -101,7 +101,7 @@ class Layout {
     visitAll(list.nodes);
     for (Button& turn : list.turns) visit(turn);
   }
-  // These say something and do nothing.
+  // Nodes without operations.
   void visit(Text&) {}
   void visit(Tiles&) {}
   void visit(Balance&) {}

@@ -1,6 +1,6 @@
 #pragma once
 
-// Laying a page out: lists are cut to what is on show, and everything that can be used gets its handle.
+// Layout of a page: cuts lists to the visible page and assigns handles to everything that can be used.
 
 #include <cstddef>
 #include <vector>
@@ -11,8 +11,8 @@
 namespace tb {
 
 struct LaidOutPage {
-  view::Page page;  // holds no PagedList; handles count from 1, from top to bottom
-  // By handle - 1: what using it does. A handle has one of the three.
+  view::Page page;  // without PagedList nodes; handles are numbered from 1, top to bottom
+  // By handle - 1: the operation, exactly one of the three.
   struct Use {
     Operation press;
     TextOperation type;
@@ -21,7 +21,7 @@ struct LaidOutPage {
   std::vector<Use> uses;
 };
 
-// While a dialog is up only its answers can be used: everything under it has handle 0.
+// While a dialog is open, only its answers have handles; everything else has handle 0.
 [[nodiscard]] LaidOutPage layOut(view::Page page, const Stage& stage);
 
 }  // namespace tb

@@ -8,11 +8,11 @@
 
 namespace tb {
 
-// The scene for news of that kind, under its stamp. Whether the news is a moment is for the news desk to say
+// The scene for a kind of news, titled with its stamp. Whether news is a moment is decided by isMoment()
 // (week/news_desk.h).
 [[nodiscard]] view::Moment momentOf(NewsKind kind, std::string line, std::vector<view::Picture> picture = {});
 
-// How news of that kind is tinted.
+// The tone of a kind of news.
 [[nodiscard]] view::Tone toneOf(NewsKind kind);
 
 }  // namespace tb

@@ -51,7 +51,7 @@ Meter scoreMeter(std::string label, std::int64_t score) {
 
 namespace {
 
-// Two to six of them.
+// Returns two to six values.
 std::vector<double> roundValues(double lowest, double highest) {
   constexpr double stepsWanted = 4;
   const double span = std::max({highest - lowest, std::abs(highest) * 1e-3, 1e-6});
@@ -77,10 +77,10 @@ std::string placeInHistory(std::string_view unit, std::size_t before) {
 }  // namespace
 
 std::vector<Chart::Tick> roundScale(double lowest, double highest, const ValueText& textOf) {
-  constexpr int mostTries = 60;  // doubling, so enough for every double that money or counts reach
+  constexpr int maxTries = 60;  // doublings; enough for any amount or count
   const auto readsTheSame = [](const Chart::Tick& a, const Chart::Tick& b) { return a.text == b.text; };
   std::vector<Chart::Tick> scale;
-  for (int tried = 0; tried < mostTries; ++tried) {
+  for (int tried = 0; tried < maxTries; ++tried) {
     scale.clear();
     for (const double mark : roundValues(lowest, highest)) scale.push_back({mark, textOf(mark)});
     if (std::ranges::adjacent_find(scale, readsTheSame) == scale.end()) break;

@@ -1,10 +1,9 @@
 #pragma once
 
-// What many screens are built from, so that each thing is shown in one way.
+// Parts shared by many screens.
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,54 +15,58 @@
 
 namespace tb {
 
-// A row that leads to another screen.
+// Opens another screen.
+template <class Opened>
+[[nodiscard]] Operation opens() {
+  return [](Stage& stage) { stage.open<Opened>(); };
+}
+
+// A row that opens another screen.
 template <class Opened>
 [[nodiscard]] view::Row leadingTo(std::string label, std::string detail = "", std::string value = "") {
   return {.label = std::move(label),
           .value = std::move(value),
           .detail = std::move(detail),
-          .press = [](Stage& stage) { stage.open(std::make_unique<Opened>()); }};
+          .press = opens<Opened>()};
 }
 
 [[nodiscard]] view::Text caption(std::string text);
 
-// Short money. A run can lose money, a balance can be negative and a fortune pass a trillion; such an amount
-// is written in full, since the short form has no words for it.
+// Money in short form, or in full for amounts without a short form (negative, or a trillion and more).
 [[nodiscard]] std::string shownMoney(const Locale& locale, double amount);
 
-// The energy that is left of the week.
+// The energy left this week.
 [[nodiscard]] view::Meter energyMeter(const WorldState& world);
 
-// The two figures that every screen has in view: cash, and the energy left of the week.
+// The figures at the top of every screen: cash and energy.
 [[nodiscard]] std::vector<view::StatTile> headFigures(const Game& game);
 
-// Why the button would refuse, in a few words; empty when it would not.
+// The brief reason of a refusal; empty when there is none.
 [[nodiscard]] std::string briefOf(const Refusal& refusal);
 
-// "⚡️ 12", as prices in energy are written.
+// A price in energy: "⚡️ 12".
 [[nodiscard]] std::string energyPrice(std::int64_t energy);
 
-// A 0 to 100 score, tinted by its band. A score above 100 fills the meter.
+// A meter of a score from 0 to 100, tinted by its band. A score above 100 fills it.
 [[nodiscard]] view::Meter scoreMeter(std::string label, std::int64_t score);
 
-// How a chart writes its values.
+// Formats a chart's values.
 using ValueText = std::function<std::string(double)>;
 
-// A line chart of what the game kept of a figure, oldest first; `unit` is what each entry stands for, such as
-// "week".
+// A line chart of a history, oldest first; `unit` is what an entry stands for, such as "week".
 [[nodiscard]] view::Chart historyChart(std::string title, std::string_view unit,
                                        std::span<const double> values, const ValueText& textOf);
 
-// Bars in their order, upwards and downwards from 0.
+// A bar chart; negative values are drawn below 0.
 [[nodiscard]] view::Chart barChart(std::string title, std::span<const double> values,
                                    const std::function<std::string(std::size_t)>& nameOf,
                                    const ValueText& textOf);
 
-// How long the job goes on: "3 weeks left".
+// The job's remaining weeks: "3 weeks left".
 [[nodiscard]] std::string jobWeeksLeft(const WorldState& world);
 
-// The scale of a chart: a few round values that span lowest to highest. Where the values lie so close that
-// two marks would read the same, it spans more.
+// A chart's scale: a few round values from at most lowest to at least highest. The span is widened until no
+// two labels are equal.
 [[nodiscard]] std::vector<view::Chart::Tick> roundScale(double lowest, double highest,
                                                         const ValueText& textOf);
 

@@ -1,5 +1,6 @@
 #include "screens/poster.h"
 
+#include "core/find.h"
 #include "film/film_record.h"
 
 namespace tb {
@@ -27,7 +28,7 @@ PosterFormat formatOf(std::int64_t typeOfFilm) {
 
 std::string mainGenre(const std::vector<std::string>& genres) { return genres.empty() ? "" : genres.front(); }
 
-// An audition and the film it becomes have the same poster.
+// For an Audition and for its Film, which have the same poster.
 template <class Work>
 Picture posterOfOwn(const WorldState& world, const Work& work, bool isTaken) {
   const bool renewed = work.typeOfFilm == filmType::series && work.seasonNumber >= 2;
@@ -63,8 +64,8 @@ Picture posterOf(const WorldState& world, const Audition& project) {
 Picture posterOf(const WorldState& world, const Film& film) { return posterOfOwn(world, film, true); }
 
 Picture posterOfFilm(const WorldState& world, std::int64_t filmId, const std::string& imageString) {
-  const std::size_t index = filmIndex(world, filmId);
-  if (index < world.saveAllFilmList.size()) return posterOf(world, world.saveAllFilmList[index]);
+  const auto index = find(world.saveAllFilmList, &Film::filmId, filmId);
+  if (index) return posterOf(world, world.saveAllFilmList[*index]);
   return {.kind = PictureKind::poster, .name = imageString};
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Posters: what the picture of a title is told, so that no screen puts one together by hand.
+// Builds the pictures of posters.
 
 #include <cstdint>
 #include <string>
@@ -11,16 +11,16 @@
 
 namespace tb {
 
-// Of a title that is still to be cast, or of somebody else's: nobody is billed.
+// For a title without the performer: nobody is billed.
 [[nodiscard]] view::Picture posterOf(const Movie& movie);
 [[nodiscard]] view::Picture posterOf(const CatalogueTitle& title);
 
-// Of the player's own. The performer is billed once a principal part is booked, or as its director; who
-// stands in the background is on no poster.
+// For the player's project. The performer is billed as the director or with a booked principal part, not with
+// a background part.
 [[nodiscard]] view::Picture posterOf(const WorldState& world, const Audition& project);
 [[nodiscard]] view::Picture posterOf(const WorldState& world, const Film& film);
 
-// Of the film with that id; of a film that is not in the filmography what the name alone gives.
+// For the film with this id; only by its image name when it is not in the filmography.
 [[nodiscard]] view::Picture posterOfFilm(const WorldState& world, std::int64_t filmId,
                                          const std::string& imageString);
 

@@ -80,7 +80,7 @@ Screen::TabsHere Stage::tabsHere() const {
 }
 
 void Stage::settle() {
-  // Appearing may open a further screen, which then appears in its turn.
+  // appear() can open another screen, which then has to appear too.
   while (!screens_.empty() && !screens_.back().appeared) {
     screens_.back().appeared = true;
     screens_.back().screen->appear(*this);

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the screens stand on: the game, the stack of screens, and the notices over them.
+// The stack of screens with the notices over it.
 
 #include <functional>
 #include <map>
@@ -17,8 +17,8 @@
 
 namespace tb {
 
-// A screen says what it shows and offers the player's operations. It holds no rule: an operation calls the
-// rule and shows what the rule answers.
+// A screen describes its page and its operations. It has no game rules: an operation calls a rule and shows
+// the result.
 class Screen {
  public:
   Screen() = default;
@@ -26,38 +26,37 @@ class Screen {
   Screen& operator=(const Screen&) = delete;
   virtual ~Screen() = default;
 
-  virtual void load(Stage&) {}          // once, as it is opened
+  virtual void load(Stage&) {}          // once, when it is opened
   virtual void appear(Stage&) {}        // each time it comes to the top, at the end of the player's action
-  virtual void leave(Stage&) {}         // as the player closes it
-  virtual void tick(Stage&, double) {}  // seconds that passed while it was on top
+  virtual void leave(Stage&) {}         // when the player closes it
+  virtual void tick(Stage&, double) {}  // seconds passed while it was on top
 
-  // The screen as it is now. Its operations may work on the screen itself, which outlives its page.
+  // The current page. Its operations may capture the screen, which outlives the page.
   [[nodiscard]] virtual view::Page view(const Game& game) = 0;
 
-  // What the way back is called; empty for a screen that cannot be left by it.
+  // The label of the back button; empty for a screen without one.
   [[nodiscard]] virtual std::string closeLabel() const { return "Back"; }
 
-  // The player goes back where there is nothing to leave. Does nothing unless the screen has a place that it
-  // starts from.
+  // The player goes back on a screen that cannot be closed: the hub returns to its first tab.
   virtual void goBack(Stage&) {}
 
-  // What is asked before the screen is left, by its own way back or by a tab, when something would be lost.
+  // The question before the screen is left, when something would be lost.
   struct Leaving {
     Notice question;
-    std::string stay;  // the two answers
+    std::string stay;  // label to stay on the screen
     std::string leave;
   };
   [[nodiscard]] virtual std::optional<Leaving> beforeLeaving() const { return {}; }
 
-  // Whether the tabs of the first screen can be used here and on the screens over this one.
+  // Whether the first screen's tabs are usable on this screen and on those above it.
   enum class TabsHere : std::uint8_t {
     inReach,
-    later,  // this has to be closed first; their place is kept
+    later,  // shown but off: this screen has to be closed first
     none,
   };
   [[nodiscard]] virtual TabsHere tabsHere() const { return TabsHere::inReach; }
 
-  // Of the first screen: adds to a page over it what stays in reach there.
+  // For the first screen: adds its tabs and figures to the page of a screen above it.
   virtual void addFrame(const Game&, TabsHere, view::Page&) {}
 };
 
@@ -67,53 +66,56 @@ class Stage {
 
   [[nodiscard]] Game& game() const { return game_; }
 
-  // Opens a screen over the one on top. It loads at once and appears when the action ends.
+  // Opens a screen on top. It loads at once and appears when the action ends.
   void open(std::unique_ptr<Screen> screen);
+  template <class Opened, class... Arguments>
+  void open(Arguments&&... arguments) {
+    open(std::make_unique<Opened>(std::forward<Arguments>(arguments)...));
+  }
 
-  // Leaves the screen on top for the one below, which appears again. The first screen stays.
+  // Closes the top screen; the one below appears again. Does nothing on the first screen.
   void close();
 
-  // The player leaves the screen on top: the same, but what would be lost is asked about first.
+  // Closes the top screen, after asking if something would be lost.
   void leave();
-  // Leaves all screens but the first in that way, and then goes on there.
+  // Leaves all screens but the first in the same way, then runs `then`.
   void leaveToFirst(Operation then);
 
-  // The first screen is a new place from now on: its lists are at their first page, and a shell shows it from
-  // its top.
+  // Gives the first screen a new number: its lists go to their first page, and a shell scrolls to its top.
   void renewFirst();
 
-  // Shows a notice with the one answer "OK". An empty refusal shows nothing.
+  // Shows a notice with the answer "OK". An empty refusal shows nothing.
   void show(Notice notice);
   void show(Refusal refusal);
 
-  // Asks before something is done; `answers` run their operation after the question is gone. An answer
-  // without an operation just ends the question.
+  // Asks a question. The operation of an answer runs after the question is closed; an answer without an
+  // operation only closes it.
   void ask(Notice question, std::vector<view::Button> answers);
 
-  // Takes the notice on top away; does nothing when there is none.
+  // Closes the top notice; does nothing when there is none.
   void dismiss();
 
-  // Plays a moment over the page that this action leads to; the next action ends it. A second one in the same
-  // action takes the place of the first.
+  // Plays a moment over the next page, until the next action. A second one in the same action replaces the
+  // first.
   void play(view::Moment moment);
 
-  // Says in a passing line what was done. The last one of an action is shown.
+  // Shows a passing line about what was done. Only the last one of an action is shown.
   void say(std::string line);
 
-  // Begins an action of the player: what was played and said of the one before has been shown.
+  // Starts an action: clears the moment and the passing line of the previous one.
   void begin() {
     moment_.clear();
     passing_.clear();
   }
 
-  // Lets screens that came to the top appear. Ends every action.
+  // Calls appear() for screens that came to the top. Ends every action.
   void settle();
 
   [[nodiscard]] Screen& top() const { return *screens_.back().screen; }
   [[nodiscard]] Screen& first() const { return *screens_.front().screen; }
-  // As far as all screens over the first allow.
+  // The most restrictive value of all screens above the first.
   [[nodiscard]] Screen::TabsHere tabsHere() const;
-  // The screens are numbered from 1 in the order in which they are opened, and keep their number.
+  // Screens are numbered from 1 in the order they are opened.
   [[nodiscard]] int topNumber() const { return screens_.back().number; }
   [[nodiscard]] std::size_t depth() const { return screens_.size(); }
   [[nodiscard]] const std::vector<view::Dialog>& dialogs() const { return dialogs_; }
@@ -121,11 +123,11 @@ class Stage {
 
   [[nodiscard]] const std::vector<view::Moment>& moment() const { return moment_; }  // none or one
 
-  // How far the player has paged through a list of the screen on top, in pages from 0.
+  // The current page of a list on the top screen, from 0.
   [[nodiscard]] std::size_t listPage(const std::string& key) const;
   void turnList(const std::string& key, std::size_t page);
 
-  // Which folds of the screen on top are open.
+  // Whether a fold on the top screen is open.
   [[nodiscard]] bool isFoldOpen(const std::string& key) const;
   void turnFold(const std::string& key);
 
@@ -143,7 +145,8 @@ class Stage {
   Game& game_;
   std::vector<Standing> screens_;
   int opened_ = 0;
-  std::vector<std::unique_ptr<Screen>> left_;  // closed during this action; their operation may still run
+  std::vector<std::unique_ptr<Screen>>
+      left_;  // closed during this action; their operation can still be running
   std::vector<view::Dialog> dialogs_;
   std::vector<view::Moment> moment_;
   int played_ = 0;

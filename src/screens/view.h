@@ -1,11 +1,10 @@
 #pragma once
 
-// The view vocabulary: what a screen is made of. A screen says what things are; a shell decides how they
-// look. Nothing here draws, and nothing here knows a rule.
+// The view vocabulary: the nodes of a page. A screen says what things are; a shell decides how they look. It
+// contains no drawing code and no game rules.
 //
-// A page is built anew after every action of the player. Operations stand in the nodes themselves; laying a
-// page out (screens/layout.h) numbers them, and a shell hands the number of what the player used back to the
-// App.
+// A page is rebuilt after every action of the player. Nodes hold their operations; layOut()
+// (screens/layout.h) numbers them, and a shell passes the number of the used item to the App.
 
 #include <cstdint>
 #include <functional>
@@ -15,9 +14,9 @@
 
 namespace tb {
 
-class Stage;  // what an operation works on: the game and the stack of screens (screens/stage.h)
+class Stage;  // the stack of screens (screens/stage.h), passed to operations
 
-// What happens when the player presses, types or slides.
+// Runs when the player presses, types or slides.
 using Operation = std::function<void(Stage&)>;
 using TextOperation = std::function<void(Stage&, const std::string&)>;
 using NumberOperation = std::function<void(Stage&, double)>;
@@ -26,38 +25,38 @@ using NumberOperation = std::function<void(Stage&, double)>;
 
 namespace tb::view {
 
-// The number under which a laid-out page knows an operation; 0 where there is none, or it is off.
+// The number of an operation on a laid-out page; 0 when there is none or it is off.
 using Handle = int;
 
-// What a text or figure says about itself; a shell tints by it and a screen reader hears it from the words.
+// The meaning of a text or figure, shown as color. Its words must say the same, for screen readers.
 enum class Tone : std::uint8_t {
   plain,
-  quiet,    // of less weight: captions, hints
+  quiet,    // less important: captions, hints
   good,     // gain, success
   warning,  // expenses, losses, danger
   accent,
 };
 
-// The band of a 0 to 100 score: below 25, 25 to 49, 50 to 79, 80 and above.
+// Bands of a score: below 25, 25 to 49, 50 to 79, 80 and above.
 enum class Band : std::uint8_t { poor, fair, good, great };
 
 enum class PictureKind : std::uint8_t { avatar, poster, logo, house, vehicle, card, photo, icon };
 
-// What a poster is made for; each has a look of its own.
+// The type of title on a poster; each has its own style.
 enum class PosterFormat : std::uint8_t { feature, series, commercial, student, shortFilm };
 
-// Drawn from its fields: the same picture for the same fields, every time, everywhere.
+// A picture drawn from its fields; equal fields always give the same picture.
 struct Picture {
   PictureKind kind = PictureKind::photo;
   std::string name;
-  std::string description;  // for those who do not see it; empty when the text beside it says the same
-  // Of a poster; the others leave them as they are.
-  std::string title;  // as it is lettered; empty for none
-  std::string genre;  // one of the catalogue's; any other, or none, leaves the choice to the name
+  std::string description;  // for screen readers; empty when adjacent text says the same
+  // For posters only.
+  std::string title;  // lettered on the poster; empty for none
+  std::string genre;  // from the catalogue; for an empty or unknown one the image name decides
   PosterFormat format = PosterFormat::feature;
-  int season = 0;      // of a series, from 2 on
-  std::string billed;  // the performer, where the part is one that a poster names; else empty
-  // Of an avatar: in years; 0 for an age that nobody knows.
+  int season = 0;      // of a series, when 2 or more
+  std::string billed;  // the performer's name if billed; else empty
+  // For avatars only: in years; 0 for unknown.
   int age = 0;
 };
 
@@ -67,14 +66,14 @@ struct Text {
     large,
     caption,
     quotation,
-    heading,  // over what follows it, until the next one
+    heading,  // above the nodes up to the next heading
   };
   std::string text;  // "\n" breaks the line
   Style style = Style::body;
   Tone tone = Tone::plain;
 };
 
-// A figure that is worth a large number.
+// A figure in a large font.
 struct StatTile {
   std::string label;
   std::string value;  // formatted
@@ -82,31 +81,31 @@ struct StatTile {
   Tone tone = Tone::plain;
 };
 
-// Tiles that belong side by side.
+// Tiles side by side.
 struct Tiles {
   std::vector<StatTile> tiles;
 };
 
-// What is left, large, and under it what came in and what went out, in one line: "$450 | $50". The expenses
-// stand in the warning colour.
+// The net amount, large, above income and expenses on one line: "$450 | $50". Expenses are in the warning
+// color.
 struct Balance {
-  std::string label;  // of what is left
+  std::string label;  // of the net amount
   std::string net;    // formatted, as are the others
   Tone tone = Tone::plain;
   std::string income;
   std::string expenses;
 };
 
-// How much of something is there: energy, progress, a score.
+// A level: energy, progress, a score.
 struct Meter {
   std::string label;
-  double value = 0;  // 0 to maximum; a value above it fills the meter
+  double value = 0;  // 0 to maximum; a higher value fills the meter
   double maximum = 100;
-  std::string text;      // the figure in words, such as "72 of 100"
-  bool isScore = false;  // a score from 0 to 100: tinted by its band
+  std::string text;      // such as "72 of 100"
+  bool isScore = false;  // from 0 to 100, tinted by its band
 };
 
-// Stars out of `outOf`, halves included.
+// A rating out of `outOf` stars, with halves.
 struct Stars {
   std::string label;
   double value = 0;
@@ -116,31 +115,31 @@ struct Stars {
 struct Button {
   std::string label;
   Operation press;
-  std::string price;      // formatted, empty when it costs nothing
-  std::string offReason;  // not empty: the button is off, and this is why
-  // Not empty: the rule behind it refuses now, and this is why, in a few words. It can be pressed all the
-  // same and then says the whole of it.
+  std::string price;      // formatted; empty when it is free
+  std::string offReason;  // if not empty, the button is off for this reason
+  // If not empty, the rule would refuse now, for this brief reason. The button can still be pressed and then
+  // shows the full notice.
   std::string refusal;
-  // What a screen reader calls it where the label does not say what it is about: "Train Charisma to 2" for
-  // "Train to 2" on the card of that trait.
+  // The name for screen readers when the label is unclear without its context: "Train Charisma to 2" for
+  // "Train to 2" on a trait's card.
   std::string name;
   enum class Weight : std::uint8_t {
     normal,
     primary,
     quiet,
     destructive,
-    done,  // used already, and says so
+    done,  // already used
   };
   Weight weight = Weight::normal;
   Handle handle = 0;
 };
 
-// Buttons that stand side by side.
+// Buttons side by side.
 struct Buttons {
   std::vector<Button> buttons;
 };
 
-// One line of a list: what, how much, where a press leads, and what can be done about it in place.
+// A line of a list: title, value, an operation when pressed, and an inline button.
 struct Row {
   std::string label;
   std::string value;
@@ -148,21 +147,21 @@ struct Row {
   std::vector<Picture> picture;  // none or one
   Tone tone = Tone::plain;
   enum class Step : std::uint8_t { none, open, taken };
-  Step step = Step::none;      // of a list of steps, with a mark that tells those taken from the others
+  Step step = Step::none;      // marks the row as an open or a completed step
   Operation press;             // may be empty
   std::vector<Button> action;  // none or one
   Handle handle = 0;
 };
 
-// A piece of news: a stamp, what happened, and where a press leads.
+// A news item: a stamp, a text, and an operation when pressed.
 struct Headline {
   std::string stamp;  // a word or two in capitals; may be empty
   std::string text;
   std::string detail;
-  std::string value;             // a figure that the news is about
+  std::string value;             // a figure in the news
   std::vector<Picture> picture;  // none or one
   Tone tone = Tone::plain;       // of the stamp and the value
-  bool isLead = false;           // the one that the page opens with, drawn large
+  bool isLead = false;           // the first one on the page, drawn large
   Operation press;               // may be empty
   Handle handle = 0;
 };
@@ -183,12 +182,12 @@ struct Slider {
   double minimum = 0;
   double maximum = 100;
   double step = 1;
-  std::string text;  // the value as the player reads it
+  std::string text;  // the formatted value
   NumberOperation slide;
   Handle handle = 0;
 };
 
-// One or several of a few options; pressing an option runs its operation.
+// A choice of one or several options; pressing an option runs its operation.
 struct Choice {
   struct Option {
     std::string label;
@@ -199,15 +198,15 @@ struct Choice {
   };
   std::string label;
   std::vector<Option> options;
-  bool several = false;  // any number may be chosen, else exactly one
+  bool several = false;  // true: any number can be chosen; false: exactly one
 };
 
 struct Chart {
   enum class Kind : std::uint8_t { line, bar, pie, histogram };
   struct Point {
-    std::string label;  // of the place on the axis, or of the slice
+    std::string label;  // of the point on the axis, or of the slice
     double value = 0;
-    std::string text;  // the value in the game's number style
+    std::string text;  // the formatted value
   };
   struct Tick {
     double value = 0;
@@ -216,14 +215,14 @@ struct Chart {
   Kind kind = Kind::line;
   std::string title;
   std::vector<Point> points;
-  std::vector<Tick> scale;  // of the value axis, lowest first; none for a pie
-  std::string summary;      // what the chart shows, in a sentence or two
+  std::vector<Tick> scale;  // of the value axis, lowest first; empty for a pie
+  std::string summary;      // for screen readers, one or two sentences
 };
 
 struct Bubble {
   std::string speaker;
   std::string text;
-  bool mine = false;  // said by the player
+  bool mine = false;  // by the player
 };
 
 struct TimelineEntry {
@@ -231,7 +230,7 @@ struct TimelineEntry {
   std::string text;
 };
 
-// Time that runs while the player looks; App::tick moves it.
+// A countdown in real time, advanced by App::tick.
 struct Countdown {
   std::string label;
   double secondsLeft = 0;
@@ -254,36 +253,36 @@ struct Card {
   Handle handle = 0;
 };
 
-// A row that opens to further nodes, and closes over them again.
+// A row that expands to show more nodes.
 struct Fold {
-  std::string key;  // tells the folds of one screen apart, so that each stays open when drawn again
+  std::string key;  // unique on the screen; identifies the fold when the page is rebuilt
   std::string label;
-  std::vector<Node> nodes;  // once laid out: empty while it is closed
-  bool isOpen = false;      // filled in as the page is laid out
+  std::vector<Node> nodes;  // after layout: empty while it is closed
+  bool isOpen = false;      // set by layOut()
   Handle handle = 0;
 };
 
-// A card that is answered with one of two buttons, or by pushing it aside.
+// A card with two buttons, which can also be swiped.
 struct SwipeCard {
   Card card;
   Button left;
   Button right;
 };
 
-// A list of any length. Only the nodes that are on show are made.
+// A list of any length. Only the visible nodes are created.
 struct PagedList {
-  std::string key;  // tells the lists of one screen apart, so that each keeps its place when drawn again
+  std::string key;  // unique on the screen; identifies the list when the page is rebuilt
   std::size_t size = 0;
   std::function<Node(std::size_t index)> nodeAt;
-  std::string whenEmpty;  // a sentence in place of an empty list
+  std::string whenEmpty;  // shown when the list is empty
   std::size_t pageLength = 20;
 };
 
-// What a PagedList is laid out as: the rows on show and the ways on and back.
+// The visible page of a PagedList after layout, with its paging buttons.
 struct ListPage {
   std::vector<Node> nodes;
-  std::string position;       // "21–40 of 312"; empty when all is on show
-  std::vector<Button> turns;  // none, or the ways back and on
+  std::string position;       // "21–40 of 312"; empty when everything is visible
+  std::vector<Button> turns;  // none, or previous and next
 };
 
 struct Node {
@@ -295,68 +294,68 @@ struct Node {
   Node(T kind) : node(std::move(kind)) {}
 };
 
-// A way to another screen that is always in reach: tabs at the bottom, icons at the top right.
+// A link that is always visible: a tab at the bottom or an icon at the top right.
 struct Tab {
   std::string label;
   std::string icon;  // one emoji or letter
   bool current = false;
   Operation press;
-  bool isOff = false;  // can't be used on this screen; its place is kept
+  bool isOff = false;  // visible but not usable on this screen
   Handle handle = 0;
 };
 
-// What was done just now, in a line that shows itself over the page and goes by itself. The number tells it
-// from one before it with the same words.
+// A message about the last action that appears over the page and disappears by itself. The number
+// distinguishes consecutive equal texts.
 struct PassingLine {
   std::string text;
   int number = 0;
 };
 
-// A message over the page; it has to be answered before anything else.
+// A modal message over the page.
 struct Dialog {
   std::string title;
   std::string message;
   std::vector<Button> answers;
 };
 
-// A scene of less than a second over the page, for a first or large thing. It is shown once and skipped by
-// any press; nothing waits for it, and the page says the same in its own words.
+// An animation of less than a second over the page, for a first or large event. It is played once, any press
+// skips it, and the page has the same information.
 struct Moment {
   enum class Scene : std::uint8_t {
-    deal,     // the poster is dealt and stamped
-    curtain,  // the curtain parts over the poster
+    deal,     // a poster appears and is stamped
+    curtain,  // a curtain opens over a poster
     marquee,  // the title in lights
   };
   Scene scene = Scene::marquee;
   std::string title;  // a word or two in capitals
   std::string line;
   std::vector<Picture> picture;  // none or one
-  int number = 0;                // counts the moments since launch, filled in by the Stage
+  int number = 0;                // number of the moment since launch, set by the Stage
 };
 
 struct Page {
   std::string title;
   std::string subtitle;
-  // What this part of the screen is called, where the title names the whole: a tab of the hub.
+  // The name of the tab, when the title names the whole screen.
   std::string heading;
   enum class Head : std::uint8_t {
     full,
-    line,  // title, subtitle and figures share one line, as far as there is room
+    line,  // title, subtitle and figures on one line if there is room
   };
   Head head = Head::full;
   std::vector<Tab> icons;         // at the top right
-  std::vector<StatTile> figures;  // that are always in view: cash, energy
+  std::vector<StatTile> figures;  // always visible: cash, energy
   std::vector<Node> nodes;
-  // None or one: what the player comes to the page for, at one spot within reach of the thumb on every page.
+  // None or one: the page's main action, at the same position on every page, within reach of the thumb.
   std::vector<Button> main;
   std::vector<Tab> tabs;
-  std::vector<Button> close;   // none or one: the way back, filled in by the App for screens that can be left
-  std::vector<Dialog> dialog;  // none or one
-  std::vector<Moment> moment;  // none or one, filled in by the App for the one page after it was played
-  std::vector<PassingLine> passing;  // none or one, filled in by the App
-  bool offersSaves = false;  // where the platform lets the player take saves out and in, it does so here
-  // Which screen this is, filled in by the App: the same number is the same screen, whatever it is called by
-  // now, and another number is another one, though it may bear the same title.
+  std::vector<Button> close;         // none or one: the back button, set by the App
+  std::vector<Dialog> dialog;        // none or one
+  std::vector<Moment> moment;        // none or one, set by the App, for one page only
+  std::vector<PassingLine> passing;  // none or one, set by the App
+  bool offersSaves = false;          // the shell may offer export and import of saves here
+  // Identifies the screen instance, set by the App: different screens have different numbers even if their
+  // titles are equal.
   int screen = 0;
 };
 

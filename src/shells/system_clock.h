@@ -8,10 +8,10 @@
 
 namespace tb {
 
-// The present moment.
+// Returns the current time.
 inline plist::Date systemClock() {
   using namespace std::chrono;
-  constexpr sys_seconds epoch = sys_days{2001y / January / 1};  // of the dates in property lists
+  constexpr sys_seconds epoch = sys_days{2001y / January / 1};  // epoch of property-list dates
   return {.seconds = duration<double>(system_clock::now() - epoch).count()};
 }
 

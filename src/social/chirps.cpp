@@ -7,7 +7,7 @@ namespace tb {
 
 namespace {
 
-// The least and the most of those who like a post that also comment on it, and that also pass it on.
+// The smallest and largest shares of a post's likes that become comments and rechirps.
 struct Echo {
   double least;
   double most;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Posts on Chirp that other rules send, and how far a post gets.
+// Posts on Chirp and their reach.
 
 #include <string>
 
@@ -8,23 +8,23 @@
 
 namespace tb {
 
-// Chirp::artistId of whoever is not the player; posts of the player are told by their 0.
+// Chirp::artistId of everyone but the player; 0 means the player.
 inline constexpr std::int64_t notThePlayer = -1;
 
-// Chirp::typeOfAccount.
+// Values of Chirp::typeOfAccount.
 namespace accountType {
 inline constexpr std::int64_t player = 0;
 inline constexpr std::int64_t industry = 6;
 }  // namespace accountType
 
-// A post of now by a voice of the industry, under the number that `chirpId` shows. Nobody has seen it yet.
+// A new post by an industry account, dated now, with the current `chirpId` as its id and no reach yet.
 [[nodiscard]] Chirp industryChirp(const Game& game, std::string name, std::string picture,
                                   std::string message);
 
-// A post of now by the player. Takes the next number of `chirpId` and draws how many fans it reaches.
+// A new post by the player, dated now. Increments `chirpId` and draws the post's reach from the fans.
 [[nodiscard]] Chirp playerChirp(Game& game, std::string message);
 
-// Likes, comments and rechirps of somebody with the whole of Chirp for an audience.
+// Draws likes, comments and rechirps for a post that all of Chirp sees.
 void drawCrowdReach(RandomSource& random, Chirp& chirp);
 
 }  // namespace tb

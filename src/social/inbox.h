@@ -1,6 +1,6 @@
 #pragma once
 
-// The e-mails of a career.
+// The inbox.
 
 #include <cstdint>
 
@@ -8,8 +8,7 @@
 
 namespace tb {
 
-// Takes an e-mail that was answered out of `saveAllEmailList` and writes the list; does nothing when there is
-// none with that id.
+// Removes the e-mail with this id from `saveAllEmailList`; does nothing when there is none.
 void removeEmail(Game& game, std::int64_t id);
 
 }  // namespace tb

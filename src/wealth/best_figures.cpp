@@ -4,7 +4,7 @@
 
 namespace tb {
 
-void keepBestFigures(Game& game) {
+void updateBestFigures(Game& game) {
   WorldState& world = game.world;
   world.bestNetworth = std::max(world.bestNetworth, static_cast<std::int64_t>(world.saveNetworth));
   world.bestBoxOffice = std::max(world.bestBoxOffice, world.saveBoxOffice);

@@ -4,8 +4,8 @@
 
 namespace tb {
 
-// Keeps the career's best: `bestNetworth` rises to the whole part of `saveNetworth` and `bestBoxOffice` to
-// `saveBoxOffice`, when those are higher. Writes both.
-void keepBestFigures(Game& game);
+// Raises `bestNetworth` to the whole part of `saveNetworth` and `bestBoxOffice` to `saveBoxOffice` when those
+// are higher.
+void updateBestFigures(Game& game);
 
 }  // namespace tb

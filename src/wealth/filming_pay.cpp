@@ -10,15 +10,14 @@ namespace tb {
 
 namespace {
 
-// A commercial's residual checks: every fourth week on the air, for just under a year, each two points of the
-// rate below the one before.
-constexpr std::int64_t weeksBetweenChecks = 4;
-constexpr std::int64_t weekOfLastCheck = 48;
-constexpr double lossPerCheck = 0.02;
+// Residuals of a commercial: every fourth week on the air for just under a year, each 2 % of the rate lower
+// than the previous one.
+constexpr std::int64_t weeksBetweenResiduals = 4;
+constexpr std::int64_t lastResidualWeek = 48;
+constexpr double lossPerResidual = 0.02;
 
-// The dues come off twice, while only the one half counts towards the lifetime's sum: 6 % for the payer, 3 %
-// for the books. Members grumble about it and are meant to.
-double netOfDues(WorldState& world, double gross) { return gross - 2 * takeGuildDues(world, gross); }
+// Dues are deducted twice but counted once toward the lifetime total (6 % and 3 %), on purpose.
+double netOfDues(WorldState& world, double gross) { return gross - 2 * chargeGuildDues(world, gross); }
 
 WeeklyEarnings earningsOf(const WorldState& world, const Audition& project) {
   return {.filmId = project.filmId,
@@ -28,8 +27,8 @@ WeeklyEarnings earningsOf(const WorldState& world, const Audition& project) {
           .weekNumberForTracking = world.weekNumberForTracking};
 }
 
-void tellOfPayday(Game& game, const Audition& project, double earned) {
-  logActivity(game.world, fill(tellRow(game, bank::payday),
+void logPayday(Game& game, const Audition& project, double earned) {
+  logActivity(game.world, fill(drawFreshRow(game, bank::payday),
                                {{"title", project.title}, {"amount", shortMoney(game.locale, earned)}}));
 }
 
@@ -39,23 +38,23 @@ void paySession(Game& game, const Audition& project) {
   record.sessionEarned = world.isSAG == 1 ? netOfDues(world, project.payment) : project.payment;
   record.buyoutEarned = project.buyout;
   if (project.isPrincipal == rolePart::ownProduction) {
-    tellOfPayday(game, project, record.sessionEarned + record.buyoutEarned);
+    logPayday(game, project, record.sessionEarned + record.buyoutEarned);
   }
   world.saveAllWeeklyEarnings.push_back(std::move(record));
 }
 
-// Weeks on the air when a check falls due; 0 in any other week.
-std::int64_t weekOfCheck(const WorldState& world, const Audition& project) {
+// The number of weeks on the air if a residual is due; 0 in other weeks.
+std::int64_t weeksAtResidual(const WorldState& world, const Audition& project) {
   if (project.typeOfFilm != filmType::commercial || project.residual <= 0) return 0;
   const std::int64_t weeks = world.weekNumberForTracking - project.weekReleased;
-  const bool due = weeks > 0 && weeks <= weekOfLastCheck && weeks % weeksBetweenChecks == 0;
+  const bool due = weeks > 0 && weeks <= lastResidualWeek && weeks % weeksBetweenResiduals == 0;
   return due ? weeks : 0;
 }
 
-// Residuals are guild money: unlike a session's, their dues are taken from members and others alike.
+// Unlike session fees, residuals cost dues for members and non-members alike.
 void payResidual(WorldState& world, const Audition& project, std::int64_t weeks) {
-  const auto earlier_checks = static_cast<double>(weeks / weeksBetweenChecks - 1);
-  const double rate = project.residual - project.residual * earlier_checks * lossPerCheck;
+  const auto earlier_residuals = static_cast<double>(weeks / weeksBetweenResiduals - 1);
+  const double rate = project.residual - project.residual * earlier_residuals * lossPerResidual;
   WeeklyEarnings record = earningsOf(world, project);
   record.residualsEarned = netOfDues(world, rate * project.payment);
   world.saveAllWeeklyEarnings.push_back(std::move(record));
@@ -70,7 +69,7 @@ void payFilming(Game& game) {
     if (project.funnelStage != funnel::wrapped) continue;
     if (project.weekToWork + 1 == world.weekNumberForTracking) {
       paySession(game, project);
-    } else if (const std::int64_t weeks = weekOfCheck(world, project); weeks > 0) {
+    } else if (const std::int64_t weeks = weeksAtResidual(world, project); weeks > 0) {
       payResidual(world, project, weeks);
     }
   }

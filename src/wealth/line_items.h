@@ -1,14 +1,13 @@
 #pragma once
 
-// The standing items of a week: basic needs, dues, subscriptions, taxes and insurance, and what comes in as
-// regularly. Each stays in `saveAllWeeklyLineItems` from the day it is taken on until the rule that made it
-// takes it off again.
+// Recurring weekly items in `saveAllWeeklyLineItems`: basic needs, dues, subscriptions, taxes, insurance, and
+// recurring income.
 
 #include "core/world_state.h"
 
 namespace tb {
 
-// What the items take and what they bring, in dollars a week, 0 and up.
+// The totals of expenses and of income, in dollars per week, 0 and up.
 [[nodiscard]] double standingExpenses(const WorldState& world);
 [[nodiscard]] double standingIncome(const WorldState& world);
 

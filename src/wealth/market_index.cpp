@@ -4,7 +4,7 @@ namespace tb {
 
 namespace {
 
-// How an index moves: by up to `step` either way; at or past a wall it is set just inside.
+// The limits of an index. It moves by up to `step`; at or past a limit it is set just inside.
 struct Corridor {
   double step;
   double floor;

@@ -4,8 +4,8 @@
 
 namespace tb {
 
-// A week of the two markets: each index takes a small uniform step and is kept inside its corridor; its
-// history keeps the newest 48. Write their keys.
+// Weekly change of the two market indexes: a small uniform step within limits. Their histories keep the
+// newest 48 values.
 void moveRealEstateIndex(Game& game);
 void moveCardIndex(Game& game);
 

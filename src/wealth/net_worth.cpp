@@ -6,7 +6,7 @@ namespace tb {
 
 namespace {
 
-constexpr double vehicleLossAYear = 0.025;  // of the price paid, whatever the vehicle is worth by then
+constexpr double vehicleLossAYear = 0.025;  // fraction of the price paid
 
 double cardsValue(const WorldState& world) {
   return world.trackCardPortfolio.empty() ? 0 : static_cast<double>(world.trackCardPortfolio.back());
@@ -26,7 +26,7 @@ double vehiclesValue(const WorldState& world) {
   return sum;
 }
 
-// The present fraction of every running venture, at the valuation of the last round that is settled.
+// The player's fraction of each active venture, at the valuation of its last resolved round.
 double venturesValue(const WorldState& world) {
   double sum = 0;
   for (const SharkBoxDeal& deal : world.saveSharkBoxDeals) {
@@ -37,7 +37,7 @@ double venturesValue(const WorldState& world) {
   return sum;
 }
 
-// Every fourth week the company is valued; before the first time it is worth what it holds.
+// The last valuation (every fourth week); before the first one, the company's cash.
 double companyValue(const WorldState& world) {
   if (!world.trackBusinessValuation.empty()) {
     return static_cast<double>(world.trackBusinessValuation.back());
@@ -51,7 +51,7 @@ double platformStake(const WorldState& world) {
 
 }  // namespace
 
-// A rise of the index by 0.1 adds a tenth of the price paid, wherever the index stood at the purchase.
+// An index change of 0.1 changes the value by a tenth of the price paid.
 double propertyValue(const WorldState& world, const Property& property) {
   return property.pricePaid * (world.realEstateIndex - property.realEstateIndex + 1);
 }
@@ -71,6 +71,6 @@ NetWorth netWorth(const WorldState& world) {
           .platform = platformStake(world)};
 }
 
-void keepNetWorth(Game& game) { game.world.saveNetworth = netWorth(game.world).total(); }
+void updateNetWorth(Game& game) { game.world.saveNetworth = netWorth(game.world).total(); }
 
 }  // namespace tb

@@ -11,14 +11,14 @@ namespace {
 
 constexpr std::size_t reviewsNeeded = 10;
 constexpr double weeksOfInterest = 200;
-constexpr double subscribersPerFan = 0.0005;  // at full fame
-constexpr double subscription = 5;            // dollars a week
+constexpr double subscribersPerFan = 0.0005;  // at maximum fame
+constexpr double subscription = 5;            // dollars per week
 constexpr double fullFame = 100;
-constexpr double mostAWeek = 10'000;  // dollars, while the interest is fresh
-constexpr double worthATile = 1;
+constexpr double maxPerWeek = 10'000;  // dollars per week
+constexpr double minTileAmount = 1;
 constexpr std::size_t weeksOfHistory = 104;
 
-// 1 in the week of the newest review, and less by the week until nobody remembers it.
+// 1 in the week of the newest review, falling weekly to 0.
 double interest(const WorldState& world) {
   const std::int64_t newest = world.saveAllMovieReviews.front().weekNumberForTracking;
   const auto weeks = static_cast<double>(world.weekNumberForTracking - newest);
@@ -30,7 +30,7 @@ double subscriptions(const WorldState& world) {
   const double fame = static_cast<double>(world.saveFameLevel) / fullFame;
   const double payment =
       static_cast<double>(world.totalFans) * subscribersPerFan * fame * subscription * fading;
-  return payment <= mostAWeek ? payment : mostAWeek * fading;
+  return payment <= maxPerWeek ? payment : maxPerWeek * fading;
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ double payPatron(Game& game) {
   world.totalPatronEarnings += payment;
   world.trackPatronEarnings.push_back(payment);
   if (world.trackPatronEarnings.size() > weeksOfHistory) world.trackPatronEarnings.pop_front();
-  if (payment >= worthATile) {
+  if (payment >= minTileAmount) {
     world.weekBalanceItems.push_back({.isCurrency = 1,
                                       .title = "PATRON",
                                       .moneyEarned = payment,

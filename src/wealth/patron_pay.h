@@ -1,15 +1,15 @@
 #pragma once
 
-// Patron: fans subscribe to the performer's film reviews.
+// Patron: subscriptions to the performer's film reviews.
 
 #include "core/game.h"
 
 namespace tb {
 
-// The week's payment in dollars, which the balance adds to the income: it grows with fans and fame up to
-// 10,000, and fades to nothing over the 200 weeks that follow the newest review. Below 10 reviews it is 0 and
-// nothing happens. Adds to `totalPatronEarnings` and `trackPatronEarnings`, gives the summary its tile from a
-// dollar up, and tells of the first payment. Writes what it changed.
+// Returns the week's payment in dollars, up to 10,000. It grows with fans and fame and falls to 0 over the
+// 200 weeks after the newest review. With fewer than 10 reviews it is 0 and nothing changes. Adds to
+// `totalPatronEarnings` and `trackPatronEarnings`, adds a summary tile for a dollar or more, and logs the
+// first payment. balanceWeek() adds the payment to the income.
 double payPatron(Game& game);
 
 }  // namespace tb

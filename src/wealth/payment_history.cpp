@@ -4,22 +4,22 @@
 #include <numeric>
 #include <utility>
 
+#include "core/calendar.h"
 #include "core/descending.h"
+#include "core/find.h"
 #include "film/film_record.h"
 
 namespace tb {
 
 namespace {
 
-constexpr std::int64_t weeksOfAYear = 52;
-
 struct Dated {
   std::int64_t week;  // weekNumberForTracking
   Payment payment;
 };
 
-// A summary counts what is dated in the week after the one that it speaks of.
-std::int64_t summaryWeek(std::int64_t tracked) { return (tracked + weeksOfAYear - 2) % weeksOfAYear + 1; }
+// A summary counts payments dated in the week after the summary's week.
+std::int64_t summaryWeek(std::int64_t tracked) { return (tracked + weeksPerYear - 2) % weeksPerYear + 1; }
 
 class History {
  public:
@@ -51,8 +51,8 @@ std::string_view sourceOf(std::int64_t typeOfPayment) {
 }
 
 std::string titleOf(const WorldState& world, std::int64_t filmId) {
-  const std::size_t index = filmIndex(world, filmId);
-  return index == world.saveAllFilmList.size() ? "An investment" : world.saveAllFilmList[index].title;
+  const auto index = find(world.saveAllFilmList, &Film::filmId, filmId);
+  return index ? world.saveAllFilmList[*index].title : "An investment";
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ std::vector<Payment> paymentHistory(const WorldState& world) {
     const auto add = [&](PaymentKind kind, double amount) {
       history.add(kind, line.filmTitle, line.yearNumber, week, amount);
     };
-    // A record is of one kind of pay, or of a fee and its buyout. Work for nothing is listed as such.
+    // A record is one kind of pay, or a fee with a buyout. Unpaid work is listed with 0.
     if (line.sessionEarned != 0 || (line.buyoutEarned == 0 && line.residualsEarned == 0)) {
       add(session, line.sessionEarned);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-// What titles have paid over a career, as one story out of three kinds of records.
+// All payments for titles in a career, merged from three lists of records.
 
 #include <array>
 #include <cstdint>
@@ -22,13 +22,13 @@ struct Payment {
   PaymentKind kind;
   std::string title;
   std::int64_t year;
-  std::int64_t week;             // of the year, 1 to 52: the one whose summary counted it
-  double amount;                 // dollars, as it reached the cash
+  std::int64_t week;             // week of the year, 1 to 52, whose summary counted it
+  double amount;                 // dollars added to the cash
   std::string_view source = {};  // "box office" or "syndication" of a royalty or a stake, else empty
 };
 
-// Every payment of titles, the newest first. A record of two amounts, such as a fee with its buyout, gives
-// two payments. What paid nothing is listed with 0, so that nothing that the feed told of is missing.
+// All payments, newest first. A record with a fee and a buyout gives two payments. Unpaid work is listed with
+// 0, because the feed mentions it too.
 [[nodiscard]] std::vector<Payment> paymentHistory(const WorldState& world);
 
 struct YearOfPayments {
@@ -39,7 +39,7 @@ struct YearOfPayments {
   [[nodiscard]] double total() const;
 };
 
-// Their sums, one entry for every year with a payment and for `thisYear`, the oldest first.
+// Sums per year, oldest first, for every year with a payment and for `thisYear`.
 [[nodiscard]] std::vector<YearOfPayments> paymentsByYear(const std::vector<Payment>& history,
                                                          std::int64_t thisYear);
 

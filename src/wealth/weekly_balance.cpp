@@ -16,18 +16,18 @@ namespace {
 
 constexpr std::int64_t weeksOfSalary = 52;
 
-// What the week's records hold, by kind, in dollars.
+// Sums of the week's records by kind, in dollars.
 struct Earned {
   double sessions = 0;
   double buyouts = 0;
   double residuals = 0;
-  double shares = 0;  // kept for the save file: no rule fills that column
+  double shares = 0;  // always 0: exists for the save format only
   double royalties = 0;
   double equity = 0;
   double cameos = 0;
 };
 
-// The homes that are let. Each keeps count of what it brought.
+// Collects rent from homes that are not the residence and adds it to each home's total.
 double collectRent(Game& game) {
   List<Property>& properties = game.world.saveAllPropertyList;
   double rent = 0;
@@ -40,8 +40,7 @@ double collectRent(Game& game) {
   return rent;
 }
 
-// Records are written in the order of their weeks, so those of one week stand together near the end of their
-// list, however long a career has made it.
+// Records are in the order of their weeks, so a week's records are together near the end of the list.
 template <class Record, class Add>
 void forEachOfWeek(const List<Record>& records, std::int64_t week, const Add& add) {
   for (std::size_t index = records.size(); index-- > 0;) {
@@ -51,8 +50,8 @@ void forEachOfWeek(const List<Record>& records, std::int64_t week, const Add& ad
   }
 }
 
-// The Cameo's sales outlive a restart, dates and all: in the weeks in which the career before was paid for
-// its videos, the new one is paid for them again.
+// Cameo sales and their dates survive a restart, so a new career is paid for the previous career's sales
+// again in the same weeks, on purpose.
 double cameoSales(const WorldState& world) {
   double sum = 0;
   for (const Cameos& sold : world.saveAllCameos) {
@@ -77,7 +76,7 @@ Earned earnedThisWeek(const WorldState& world) {
   return earned;
 }
 
-// The company pays whole dollars.
+// Whole dollars.
 double platformPay(const WorldState& world) {
   const std::int64_t salary = world.platformSalary / weeksOfSalary;
   return salary < 1 ? 0 : static_cast<double>(salary);
@@ -106,7 +105,7 @@ void addTiles(WorldState& world, const Earned& earned) {
   }
 }
 
-void tellOfResiduals(Game& game, double residuals) {
+void logResiduals(Game& game, double residuals) {
   if (residuals <= 0) return;
   logActivity(game.world, "You received a residual check for " + shortMoney(game.locale, residuals));
 }
@@ -129,7 +128,7 @@ WeekBalance balanceWeek(Game& game) {
   balance.income = net + earned.residuals + world.weekNetIncome + world.weeklyJobIncome;
   world.weekNetIncome += net + world.weeklyJobIncome;
   world.yearToDatePaycheck += world.weeklyJobIncome;
-  tellOfResiduals(game, earned.residuals);
+  logResiduals(game, earned.residuals);
   world.totalCashAvailable += balance.income - balance.expenses;
   return balance;
 }

@@ -1,22 +1,22 @@
 #pragma once
 
-// The balance of the week: everything that was earned becomes cash, and the standing expenses are paid.
+// The week's balance: adds all earnings to the cash and pays the recurring expenses.
 
 #include "core/game.h"
 
 namespace tb {
 
-// The summary's line, in dollars. `income` can be negative, when an event of the week took more than came in.
+// Totals for the summary, in dollars. `income` can be negative after an expensive event.
 struct WeekBalance {
   double income = 0;
   double expenses = 0;
 };
 
-// Settles the week that the clock shows, once a week, when the summary opens. Moves `totalCashAvailable`,
-// which may fall below zero, and `yearToDatePaycheck`, writes both, and adds the tiles of the summary.
+// Settles the current week; called once, when the summary opens. Changes `totalCashAvailable`, which can
+// become negative, and `yearToDatePaycheck`, and adds the tiles of the summary.
 //
-// `weekNetIncome`, which becomes an entry of `saveWeeklyEarnings`, leaves residuals and expenses out: it is
-// what the week's own work brought. The cash has both.
+// `weekNetIncome`, which is appended to `saveWeeklyEarnings`, excludes residuals and expenses; the cash
+// includes both.
 [[nodiscard]] WeekBalance balanceWeek(Game& game);
 
 }  // namespace tb

@@ -15,10 +15,10 @@ namespace {
 
 using Kind = AgendaItem::Kind;
 
-// A new reel is worth its price from this many points on.
-constexpr std::int64_t pointsWorthAReel = 3;
+// A new reel is suggested when it would gain at least this many points.
+constexpr std::int64_t minReelGain = 3;
 
-// The week in which something happens to the project next, and what.
+// The next dated event of the project, if any.
 std::optional<AgendaItem> dueOf(const WorldState& world, const Audition& project) {
   const std::int64_t now = world.weekNumberForTracking;
   switch (project.funnelStage) {
@@ -41,25 +41,25 @@ std::int64_t countWaiting(const WorldState& world) {
   });
 }
 
-// Too many roles at once take energy: then no more are sought.
+// No submissions are suggested while too many roles cost energy.
 std::optional<AgendaItem> submissions(const WorldState& world) {
   const std::int64_t count = world.totalEnergyAvailable / submissionEnergy;
-  if (count == 0 || stressOfManyRoles(world, world.weekNumberForTracking) > 0) return {};
+  if (count == 0 || manyRolesStress(world, world.weekNumberForTracking) > 0) return {};
   return AgendaItem{.kind = Kind::submissions, .count = count};
 }
 
 std::optional<AgendaItem> footageReel(const WorldState& world) {
   const std::int64_t gain = likelyFootageScore(world) - world.showreelScore;
-  if (gain < pointsWorthAReel || reelRefusal(world, footageReelCost)) return {};
+  if (gain < minReelGain || reelRefusal(world, footageReelCost)) return {};
   return AgendaItem{.kind = Kind::footageReel, .count = gain};
 }
 
-// The weakest trait weighs twice in the level of talent, so it comes first.
+// Suggests the weakest trait, because it counts twice in the talent level.
 std::optional<AgendaItem> training(const WorldState& world) {
   std::optional<std::size_t> weakest;
   for (std::size_t index = 0; index < traits.size(); ++index) {
     const Trait& trait = traits[index];
-    if (world.*trait.points >= highestTrait || traitRefusal(world, trait)) continue;
+    if (world.*trait.points >= maxTrait || traitRefusal(world, trait)) continue;
     if (!weakest || world.*trait.points < world.*traits[*weakest].points) weakest = index;
   }
   if (!weakest) return {};
@@ -69,7 +69,7 @@ std::optional<AgendaItem> training(const WorldState& world) {
 double paidLastWeek(const WorldState& world) {
   double paid = 0;
   const List<WeeklyEarnings>& earnings = world.saveAllWeeklyEarnings;
-  // Newest last, and paid by the clock of the week that follows.
+  // The list is oldest first, and payments are dated in the following week.
   for (std::size_t index = earnings.size(); index-- > 0;) {
     const WeeklyEarnings& earned = earnings[index];
     if (earned.weekNumberForTracking != world.weekNumberForTracking) break;

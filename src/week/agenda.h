@@ -1,8 +1,8 @@
 #pragma once
 
-// What is next: what is due, what the week still has room for, what runs by itself, and what the last week
-// brought. The hub shows these lists; what a player who follows them gets is tried in tests/journeys. A rule
-// that gives the player something to do adds its item here.
+// The agenda on the hub: what is due, what the player can do now, what is running, and last week's outcomes.
+// When a rule gives the player something to do, add an item here. tests/journeys/beginner_test.cpp plays by
+// this agenda.
 
 #include <cstddef>
 #include <cstdint>
@@ -16,52 +16,52 @@ namespace tb {
 
 struct AgendaItem {
   enum class Kind : std::uint8_t {
-    // Due in a week to come, or in this one.
+    // Due this week or later
     audition,
     shoot,
     release,
-    // What there is energy or cash for now.
+    // Affordable now
     submissions,
     job,
     guild,
     footageReel,
     training,
-    // What runs by itself.
+    // Running
     contract,
     actingClass,
     answers,
   };
   Kind kind;
-  std::int64_t week = 0;   // of what is due: a value of `weekNumberForTracking`
-  std::size_t index = 0;   // the project in `saveAllAuditionList`, the class in `saveAllCompletedClasses`, or
-                           // the trait in `traits`
-  std::int64_t count = 0;  // submissions that there is energy for, answers awaited, weeks left
-  std::optional<Boost> boost = {};  // what can be done for the project now
+  std::int64_t week = 0;   // for due items: a value of `weekNumberForTracking`
+  std::size_t index = 0;   // of the project in `saveAllAuditionList`, the class in `saveAllCompletedClasses`,
+                           // or the trait in `traits`
+  std::int64_t count = 0;  // affordable submissions, open submissions, or weeks left
+  std::optional<Boost> boost = {};  // available for the project now
 };
 
-// Auditions, shoots and releases to come, the soonest first.
+// Upcoming auditions, shoots and releases, soonest first.
 [[nodiscard]] std::vector<AgendaItem> dueItems(const WorldState& world);
 
-// What the player can do now to get on, the most helpful first.
+// Suggested actions, most useful first.
 [[nodiscard]] std::vector<AgendaItem> openItems(const WorldState& world);
 
-// The job, the classes and the answers that are awaited.
+// The job, the classes and the open submissions.
 [[nodiscard]] std::vector<AgendaItem> runningItems(const WorldState& world);
 
-// The three steps of the first week; nothing in any other.
+// The three steps of the first week; none in other weeks.
 struct FirstSteps {
   bool hasWork = false;
   bool hasSubmitted = false;
 };
 [[nodiscard]] std::optional<FirstSteps> firstSteps(const WorldState& world);
 
-// What the week that ended brought, the best first.
+// An outcome of the week that ended; lists of them are sorted best first.
 struct Outcome {
   enum class Kind : std::uint8_t { booked, opened, wrapped, paid, notSelected };
   Kind kind;
-  std::size_t index = 0;   // the project in `saveAllAuditionList`
-  double amount = 0;       // dollars paid, of all titles
-  std::int64_t count = 0;  // roles not got
+  std::size_t index = 0;   // of the project in `saveAllAuditionList`
+  double amount = 0;       // dollars paid for all titles
+  std::int64_t count = 0;  // lost roles
 };
 [[nodiscard]] std::vector<Outcome> lastWeeksOutcomes(const WorldState& world);
 

@@ -44,13 +44,14 @@ void rollYearOver(WorldState& world) {
   ageEnergyCeiling(world);
 }
 
-// The best figures are put forward a few times a year. The flag that keeps it to once lives in memory only.
-void putBestFiguresForward(Game& game, HubRefresh reason) {
+// Submits the best figures to the leaderboard a few times a year. The flag that prevents repeats is in memory
+// only.
+void submitBestFigures(Game& game, HubRefresh reason) {
   WorldState& world = game.world;
   if (world.weekNumber < weekAfterTheLast && world.weekNumber % 10 == 0) world.leaderboardSent = false;
   if (reason == HubRefresh::worldChanged && !world.leaderboardSent && world.weekNumber % 16 == 0) {
     world.leaderboardSent = true;
-    keepBestFigures(game);
+    updateBestFigures(game);
   }
 }
 
@@ -68,7 +69,7 @@ WeekSummary openSummary(Game& game) {
   game.world.releaseOffered = false;
   const EndedWeek ended = endedWeek(game.world);
   WeekSummary summary{.week = ended.week, .year = ended.year};
-  takeSyndicationBids(game);
+  drawSyndicationBids(game);
   advanceSyndicationDeals(game);
   driftPopularity(game);
   renewSeries(game);
@@ -83,7 +84,7 @@ WeekSummary openSummary(Game& game) {
 }
 
 void closeSummary(Game& game) {
-  keepWeeksNet(game);
+  recordWeekNet(game);
   closeActivityLog(game);
   moveRealEstateIndex(game);
   moveCardIndex(game);
@@ -91,7 +92,7 @@ void closeSummary(Game& game) {
 
 void refreshHub(Game& game, HubRefresh reason) {
   if (game.world.weekNumber >= weekAfterTheLast) rollYearOver(game.world);
-  putBestFiguresForward(game, reason);
+  submitBestFigures(game, reason);
 }
 
 }  // namespace tb

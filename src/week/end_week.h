@@ -1,17 +1,17 @@
 #pragma once
 
-// The order of a week. Whoever wants to know what happens when reads end_week.cpp.
+// The order of a week's steps; end_week.cpp lists them.
 //
-// A week has four phases: the player ends it (A), the summary opens (B) and comes on screen (C), the summary
-// closes (D). Each step saves what it changed; there is no mark of a week in progress. A game that ends
-// between the phases comes back at the hub with the week played and its summary lost.
+// A week has four phases: the player ends it (A), the summary opens (B) and is shown (C), the summary closes
+// (D). The save has no marker for a week in progress: if the game ends between the phases, the next launch is
+// at the hub, with the week played and its summary lost.
 
 #include "core/game.h"
 #include "week/summary.h"
 
 namespace tb {
 
-// Phase A: every running thing advances by a week, and the clock with it.
+// Phase A: everything that is running advances by a week, and so does the clock.
 void endWeek(Game& game);
 
 // Phase B, when the summary opens, right after phase A. The clock already shows the new week.
@@ -22,8 +22,8 @@ void closeSummary(Game& game);
 
 enum class HubRefresh : std::uint8_t { launch, worldChanged };
 
-// The hub is drawn anew: at launch, and after every action that changed the state. The one place where a year
-// ends.
+// Updates derived values for the hub: at launch, and after every action that changed the state. A year ends
+// here.
 void refreshHub(Game& game, HubRefresh reason);
 
 }  // namespace tb

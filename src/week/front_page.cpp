@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office.h"
@@ -12,17 +13,17 @@ namespace tb {
 
 namespace {
 
-constexpr std::ptrdiff_t fewestToFold = 2;
+constexpr std::ptrdiff_t minToFold = 2;
 
 Story storyOf(const WorldState& world, const News& about, std::string text) {
   Story story{.about = about, .text = std::move(text)};
   const auto& projects = world.saveAllAuditionList;
-  const auto project = std::ranges::find(projects, about.filmId, &Audition::filmId);
-  if (project != projects.end()) story.project.push_back(*project);
+  const auto project = find(projects, &Audition::filmId, about.filmId);
+  if (project) story.project.push_back(projects[*project]);
   return story;
 }
 
-// --- The titles that came out ---
+// --- Released titles ---
 
 std::string openingWords(const Game& game, const Film& film) {
   if (film.typeOfFilm != filmType::feature) return film.title + " had its first screening.";
@@ -33,9 +34,9 @@ std::string openingWords(const Game& game, const Film& film) {
 
 std::string premiereWords(const WorldState& world, const Film& film) {
   const std::string season = film.seasonNumber >= 2 ? tb::format(" Season {}", film.seasonNumber) : "";
-  const auto counted = std::ranges::find(world.saveAllRatings, film.filmId, &Ratings::filmId);
-  if (counted == world.saveAllRatings.end()) return tb::format("{}{} premiered.", film.title, season);
-  const auto viewers = static_cast<std::int64_t>(counted->premiereViews.front());
+  const auto ratings = find(world.saveAllRatings, &Ratings::filmId, film.filmId);
+  if (!ratings) return tb::format("{}{} premiered.", film.title, season);
+  const auto viewers = static_cast<std::int64_t>(world.saveAllRatings[*ratings].premiereViews.front());
   return tb::format("{}{} premiered to {} viewers.", film.title, season, shortCount(viewers));
 }
 
@@ -45,7 +46,7 @@ Story storyOfRelease(const Game& game, const Film& film) {
                  series ? premiereWords(game.world, film) : openingWords(game, film));
 }
 
-// --- The lines of the feed ---
+// --- Lines of the feed ---
 
 double sessionPay(const WorldState& world, std::int64_t filmId) {
   double paid = 0;
@@ -74,7 +75,7 @@ std::vector<Story> storiesOf(const Game& game) {
   return stories;
 }
 
-// --- The page ---
+// --- Page ---
 
 bool folds(const Story& story) { return newsRule(story.about.kind).folds; }
 
@@ -91,7 +92,7 @@ std::string countedWords(const std::vector<Story>& folded, NewsKind kind, std::s
 
 }  // namespace
 
-FrontPage layFrontPage(const Game& game) {
+FrontPage layOutFrontPage(const Game& game) {
   std::vector<Story> stories = storiesOf(game);
   std::vector<News> week;
   for (const Story& story : stories) week.push_back(story.about);
@@ -103,7 +104,7 @@ FrontPage layFrontPage(const Game& game) {
     page.headline.push_back(std::move(stories[headline]));
     stories.erase(stories.begin() + static_cast<std::ptrdiff_t>(headline));
   }
-  const bool is_folded = std::ranges::count_if(stories, folds) >= fewestToFold;
+  const bool is_folded = std::ranges::count_if(stories, folds) >= minToFold;
   for (Story& story : stories) {
     (is_folded && folds(story) ? page.folded : page.rows).push_back(std::move(story));
   }

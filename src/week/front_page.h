@@ -1,6 +1,6 @@
 #pragma once
 
-// The news of a week as the review shows it: one headline, the other lines, and what folds away.
+// A week's news as the review shows it: a headline, other lines, and folded lines.
 
 #include <string>
 #include <vector>
@@ -12,22 +12,21 @@ namespace tb {
 struct Story {
   News about;
   std::string text;
-  std::vector<Audition> project;  // none or one, as it stood when the week ended
+  std::vector<Audition> project;  // none or one, as it was when the week ended
 };
 
 struct FrontPage {
   std::vector<Story> headline;  // none or one
-  bool isMoment = false;        // of the headline
-  std::vector<Story> rows;      // in the order of the feed, what has no line in the feed first
-  std::vector<Story> folded;    // none, or the several refusals and silences of the week, in their order
+  bool isMoment = false;        // whether the headline gets a scene
+  std::vector<Story> rows;      // releases first, then in the order of the feed
+  std::vector<Story> folded;    // refusals and silences if there are several, in the order of the feed
 };
 
-// Lays out the lines of `WeekFeed`, with the titles that came out in the week that ended, which have no line
-// there. A wrap says what the session paid. For the summary, once the week is balanced and before `WeekFeed`
-// is emptied; changes nothing.
-[[nodiscard]] FrontPage layFrontPage(const Game& game);
+// Lays out the lines of `WeekFeed` and the titles that were released in the week that ended, which have no
+// line there. A wrap shows the session's pay. Call it after balanceWeek() and before `WeekFeed` is emptied.
+[[nodiscard]] FrontPage layOutFrontPage(const Game& game);
 
-// What several refusals and silences are called together: "Saltwater said no, 3 never wrote back".
+// The text for folded lines: "Saltwater said no, 3 never wrote back".
 [[nodiscard]] std::string foldedWords(const std::vector<Story>& folded);
 
 }  // namespace tb

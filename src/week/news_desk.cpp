@@ -4,6 +4,8 @@
 #include <array>
 #include <tuple>
 
+#include "core/find.h"
+
 namespace tb {
 
 namespace {
@@ -56,25 +58,25 @@ static_assert(everyKindHasARule());
 
 const Audition* projectOf(const WorldState& world, std::int64_t filmId) {
   const auto& projects = world.saveAllAuditionList;
-  const auto found = std::ranges::find(projects, filmId, &Audition::filmId);
-  return found == projects.end() ? nullptr : &*found;
+  const auto index = find(projects, &Audition::filmId, filmId);
+  return index ? &projects[*index] : nullptr;
 }
 
-// An extra's ten thousandth premiere is an ordinary week.
+// An offer is large for a lead; other news is large for a principal role.
 bool isLarge(const News& item, const Audition& project) {
   if (item.kind == NewsKind::offer) return project.role == "Lead";
   return project.isPrincipal >= rolePart::principal;
 }
 
-bool isTold(std::span<const News> week, NewsKind kind, std::int64_t filmId) {
+bool isInFeed(std::span<const News> week, NewsKind kind, std::int64_t filmId) {
   return std::ranges::any_of(week,
                              [&](const News& item) { return item.kind == kind && item.filmId == filmId; });
 }
 
-// Whether the career had one of the kind before this week.
+// Whether news of this kind happened before this week.
 bool happenedBefore(const WorldState& world, NewsKind kind, std::span<const News> week) {
   return std::ranges::any_of(world.saveAllAuditionList, [&](const Audition& project) {
-    if (project.didAct < 1 || isTold(week, kind, project.filmId)) return false;
+    if (project.didAct < 1 || isInFeed(week, kind, project.filmId)) return false;
     if (kind == NewsKind::offer) return project.funnelStage >= funnel::booked;
     return project.funnelStage == funnel::wrapped && project.typeOfFilm != filmType::commercial &&
            project.weekReleased < world.weekNumberForTracking;

@@ -1,7 +1,6 @@
 #pragma once
 
-// What the review makes of news: what outranks what, what is stamped on it, what folds away, and what is a
-// moment. It all stands in one table.
+// The table of news kinds for the weekly review: rank, stamp, whether lines fold, and whether it is a moment.
 
 #include <span>
 #include <string_view>
@@ -13,10 +12,10 @@ namespace tb {
 
 enum class NewsMood : std::uint8_t { good, promising, plain, bad, quiet };
 
-// When news is a moment, which gets a scene of its own.
+// When news is a moment, that is, gets a scene.
 enum class Occasion : std::uint8_t {
   never,
-  firstOrLarge,  // the first of its kind in the career; a lead that is won; a title with the player in front
+  firstOrLarge,  // the first of its kind in the career; winning a lead; a title with the player as lead
   always,
 };
 
@@ -25,20 +24,20 @@ struct NewsRule {
   std::string_view stamp;  // a word or two in capitals
   NewsMood mood = NewsMood::plain;
   bool leads = true;   // can be the headline
-  bool folds = false;  // several of a week share one row
+  bool folds = false;  // several in a week share a row
   Occasion moment = Occasion::never;
 };
 
-// One rule a kind; what stands higher outranks what stands lower.
+// One rule per kind, highest rank first.
 [[nodiscard]] std::span<const NewsRule> newsRules();
 [[nodiscard]] const NewsRule& newsRule(NewsKind kind);
 
-// True for news that gets a scene. `week` is all the news of the week, the item itself included: what came in
-// the same week was not there before.
+// True for news that gets a scene. `week` is all news of the week including `item`; news of the same week
+// does not count as earlier.
 [[nodiscard]] bool isMoment(const WorldState& world, const News& item, std::span<const News> week);
 
-// The place in `week` of what makes the headline: a moment before anything else, then by rank, by amount and
-// by order. The size of `week` when nothing in it leads.
+// The index in `week` of the headline: moments first, then by rank, amount and order. The size of `week` when
+// nothing can be the headline.
 [[nodiscard]] std::size_t headlineOf(const WorldState& world, std::span<const News> week);
 
 }  // namespace tb

@@ -16,14 +16,14 @@ constexpr std::size_t weeksOfEarnings = 52;
 void showFeed(Game& game, WeekSummary& summary) {
   TextList& feed = game.world.WeekFeed;
   summary.hasNews = !feed.empty();
-  summary.frontPage = layFrontPage(game);
-  if (!summary.hasNews) feed.push_back(std::string(tellRow(game, bank::weeklyTips)));
+  summary.frontPage = layOutFrontPage(game);
+  if (!summary.hasNews) feed.push_back(std::string(drawFreshRow(game, bank::weeklyTips)));
   summary.feed.assign(feed.begin(), feed.end());
   feed.clear();
   game.world.weekFeedNews.clear();
 }
 
-void keepWeeksNet(Game& game) {
+void recordWeekNet(Game& game) {
   RealList& earnings = game.world.saveWeeklyEarnings;
   earnings.push_back(game.world.weekNetIncome);
   if (earnings.size() > weeksOfEarnings) earnings.pop_front();

@@ -1,6 +1,6 @@
 #pragma once
 
-// The report that closes a week: what it shows lives only as long as it is open.
+// The weekly summary. Its data exists only while it is open.
 
 #include <cstdint>
 #include <string>
@@ -16,20 +16,20 @@ struct WeekSummary {
   std::int64_t week = 0;  // the week that ended
   std::int64_t year = 0;
   WeekBalance balance;
-  bool hasNews = false;  // false: nothing happened, and the one line is a tip
+  bool hasNews = false;  // false: the only line is a tip
   std::vector<std::string> feed;
-  FrontPage frontPage;         // the same lines as the review shows them; without a tip
-  bool offersRelease = false;  // a title came out, and its screen was not opened yet
+  FrontPage frontPage;         // the same lines laid out; without a tip
+  bool offersRelease = false;  // a title was released, and its screen was not opened yet
 };
 
-// Hands the lines of `WeekFeed` over to the summary, lays out its front page, and empties `WeekFeed`. A week
-// without a line gives a tip.
+// Moves the lines of `WeekFeed` to the summary and lays out its front page. A week without lines shows a tip.
 void showFeed(Game& game, WeekSummary& summary);
 
-// Adds the week's net to `saveWeeklyEarnings`, which keeps the newest 52, and writes it.
-void keepWeeksNet(Game& game);
+// Appends the week's net to `saveWeeklyEarnings`, which keeps the newest 52 entries.
+void recordWeekNet(Game& game);
 
-// Heads the week's entries of `activityTracker` with the date, and says so when there are none. Writes it.
+// Adds the date above the week's entries of `activityTracker`, with a line that nothing happened when there
+// are none.
 void closeActivityLog(Game& game);
 
 }  // namespace tb

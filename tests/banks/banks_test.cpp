@@ -69,7 +69,7 @@ std::vector<std::string> placeholdersOf(const std::string& row) {
   return found;
 }
 
-// True when two rows of the same length differ in a word at the most.
+// True when two rows have the same number of words and differ in at most one.
 bool differInOneWord(const std::vector<std::string>& a, const std::vector<std::string>& b) {
   constexpr std::size_t shortestSentence = 4;
   if (a.size() != b.size() || a.size() < shortestSentence) return false;
@@ -78,7 +78,7 @@ bool differInOneWord(const std::vector<std::string>& a, const std::vector<std::s
   return different <= 1;
 }
 
-TEST(Banks, HoldAsManyRowsAsTheyPromise) {
+TEST(Banks, HaveTheDeclaredNumberOfRows) {
   std::set<std::string_view> listed;
   for (const BankRow& row : allBanks) {
     EXPECT_EQ(rowsOf(row.bank).size(), row.count) << row.name;
@@ -87,7 +87,7 @@ TEST(Banks, HoldAsManyRowsAsTheyPromise) {
   for (const auto& [name, rows] : readBanks(texts())) EXPECT_TRUE(listed.contains(name)) << name;
 }
 
-TEST(Banks, HoldOnlyWhatTheRuleCanFillIn) {
+TEST(Banks, UseOnlyDeclaredPlaceholders) {
   for (const BankRow& bank : allBanks) {
     const std::vector<std::string> allowed = wordsOf(std::string(bank.placeholders));
     for (const std::string& row : rowsOf(bank.bank)) {
@@ -101,7 +101,7 @@ TEST(Banks, HoldOnlyWhatTheRuleCanFillIn) {
   }
 }
 
-TEST(Banks, NeverSayTheSameThingTwice) {
+TEST(Banks, HaveNoSimilarRows) {
   for (const BankRow& bank : allBanks) {
     std::set<std::string> seen;
     std::vector<std::vector<std::string>> sentences;
@@ -116,8 +116,8 @@ TEST(Banks, NeverSayTheSameThingTwice) {
   }
 }
 
-// A page of five never runs out of rows that are true of a beginner.
-TEST(Banks, MarkRowsAsTheDrawReadsThemAndKeepEnoughForEverybody) {
+// Each bank has enough rows for a beginner to fill a page of five.
+TEST(Banks, HaveValidMarksAndEnoughRowsForBeginners) {
   constexpr std::ptrdiff_t onAPage = 5;
   for (const BankRow& bank : allBanks) {
     std::ptrdiff_t marked = 0;
@@ -130,7 +130,7 @@ TEST(Banks, MarkRowsAsTheDrawReadsThemAndKeepEnoughForEverybody) {
   }
 }
 
-// How long a row is without its marks and its placeholders, in bytes.
+// The length of a row in bytes, without marks and placeholders.
 std::size_t ownWords(const std::string& row) {
   std::size_t length = 0;
   bool inside = false;
@@ -142,8 +142,8 @@ std::size_t ownWords(const std::string& row) {
   return length;
 }
 
-// A log line is met again and again: a quarter of each bank is plain and short.
-TEST(Banks, KeepAQuarterOfTheLogShort) {
+// Log lines repeat often, so a quarter of each bank is short.
+TEST(Banks, HaveShortRowsInLogBanks) {
   constexpr std::size_t shortRow = 50;
   for (const Bank bank :
        {bank::submission, bank::silence, bank::invitation, bank::investmentWrap, bank::payday,
@@ -156,9 +156,9 @@ TEST(Banks, KeepAQuarterOfTheLogShort) {
   }
 }
 
-// No pair of names that can be drawn is a living person of note.
-TEST(Names, NoPairIsALivingPersonOfNote) {
-  // With some first name or other of the banks each of these makes somebody well known.
+// No drawn name is a well-known living person's.
+TEST(InventedNames, AvoidWellKnownPeople) {
+  // Each of these surnames with some first name of the banks is a well-known person.
   for (const std::string_view surname :
        {"Andersson", "Becker", "Nguyen", "Tran", "Cardoso", "Marchetti", "Richter", "Espinoza", "Agarwal",
         "Rosendahl", "Jadhav", "Almeida", "Abbott"}) {

@@ -10,7 +10,7 @@ namespace {
 
 using JobBoard = test::RuleTest;
 
-TEST_F(JobBoard, HiresWithoutAskingForEnergyAndOnlyOnce) {
+TEST_F(JobBoard, DoesNotCheckEnergyAndAllowsOneJob) {
   world.totalEnergyAvailable = 0;
   const JobOffer runner{{.jobTitle = "Set Runner", .energyCost = 20, .jobPay = 410}, 5};
   EXPECT_FALSE(acceptJob(game, runner));
@@ -24,7 +24,7 @@ TEST_F(JobBoard, HiresWithoutAskingForEnergyAndOnlyOnce) {
   EXPECT_TRUE(acceptJob(game, reader)->message.ends_with("existing contract in place for 4 more week(s)."));
   EXPECT_EQ(world.weeklyJobTitle, "Set Runner");
   for (int week = 0; week < 4; ++week) advanceJobContract(game);
-  EXPECT_FALSE(acceptJob(game, reader));  // the contract is over, though the last job is not cleared yet
+  EXPECT_FALSE(acceptJob(game, reader));  // the contract has ended; the old job is not cleared yet
   EXPECT_EQ(world.weeklyJobTitle, "Script Reader");
 }
 

@@ -1,4 +1,4 @@
-// A stake instead of pay: the offer, the ask, the deal, and its screen.
+// The stake offer, its negotiation, and its screen.
 
 #include "career/royalty_stake.h"
 
@@ -20,7 +20,7 @@ const TalentAgent signedOne{.id = 5,
                             .negotiationBonus = 6,
                             .isSigned = 1};
 
-struct Stake : test::RuleTest {
+struct StakeOffers : test::RuleTest {
   Stake() : RuleTest(test::Unscripted::low) {
     world.isSAG = 1;
     world.filmId = 40;
@@ -31,16 +31,16 @@ struct Stake : test::RuleTest {
   }
 };
 
-TEST_F(Stake, IsNotOnOfferWithoutItsMailOrAnAgent) {
-  makeStakeOffer(game, 78);
+TEST_F(StakeOffers, NeedTheEmailAndAnAgent) {
+  drawStakeOffer(game, 78);
   EXPECT_EQ(stakeOffer(world, 78), nullptr);
-  makeStakeOffer(game, mail);
+  drawStakeOffer(game, mail);
   EXPECT_NE(stakeOffer(world, mail), nullptr);
   world.saveAllTalentAgents.edit(1).isSigned = 0;
   EXPECT_EQ(stakeOffer(world, mail), nullptr);
 }
 
-// A desk with the mail on it.
+// A first screen from which the e-mail is opened.
 class Desk : public Screen {
  public:
   void load(Stage& stage) override { stage.game().world.passEmailId = mail; }
@@ -50,7 +50,7 @@ class Desk : public Screen {
   }
 };
 
-TEST(RoyaltyScreen, TheAskIsRaisedLoweredAndPutToTheTeamOnce) {
+TEST(RoyaltyScreen, NegotiatesOnce) {
   test::MemoryPort port;
   SaveStore store(port);
   test::SeededRandom random(11);
@@ -65,9 +65,9 @@ TEST(RoyaltyScreen, TheAskIsRaisedLoweredAndPutToTheTeamOnce) {
   EXPECT_EQ(player.title(), offer.title);
   player.expectSees(
       {"No fee. Hear me out.", "They agree: 100% Chance + 6% Agent Bonus", "This is what they offer"});
-  for (int step = 0; step < mostStakeSteps; ++step) player.press("Ask for more");
+  for (int step = 0; step < maxStakeSteps; ++step) player.press("Ask for more");
   player.expectSees({"They agree: 0% Chance + 6% Agent Bonus", "Nobody has ever asked for more"});
-  for (int step = 0; step < mostStakeSteps; ++step) player.press("Ask for less");
+  for (int step = 0; step < maxStakeSteps; ++step) player.press("Ask for less");
 
   player.follow({"Back", "Open"});
   EXPECT_EQ(*stakeOffer(app.game().world, mail), offer);

@@ -7,12 +7,12 @@
 namespace tb {
 namespace {
 
-struct Submission : test::RuleTest {
+struct CastingSubmission : test::RuleTest {
   Movie movie = {.title = "Neon Horizon", .type = filmType::series};
   CastingListing listing = {.filmId = 7, .movie = &movie, .isUnion = 1};
 };
 
-TEST_F(Submission, RefusesInItsOrderAndTakesNothing) {
+TEST_F(CastingSubmission, ChecksReasonsInOrder) {
   world.totalEnergyAvailable = 19;
   const auto refusal = [this] { return submitToCastingListing(game, listing).value_or(Notice{}); };
   EXPECT_TRUE(refusal().message.starts_with("\nBecome a member of the Actor's Guild to gain access"));

@@ -9,9 +9,9 @@
 namespace tb {
 namespace {
 
-// That a restart sets every other variable as its table says is tested with the table, in dictionary_test.
+// dictionary_test.cpp tests the restart values of all other variables.
 struct CareerStart : test::RuleTest {
-  // What the next launch finds.
+  // The state after the next launch.
   WorldState relaunched() {
     saveChanges(game);
     Game next{.store = store, .random = random};
@@ -20,15 +20,15 @@ struct CareerStart : test::RuleTest {
   }
 };
 
-TEST_F(CareerStart, A_performer_without_a_name_is_sent_back_to_the_form) {
+TEST_F(CareerStart, RejectsAnEmptyName) {
   EXPECT_EQ(confirmNewCareer(game, {.aboutDescription = "Born in a trunk."})->title, "⚠️ Name Needed ⚠️");
   EXPECT_EQ(world.enterPlayerDetails, 0);
   EXPECT_TRUE(store.dictionary().empty());
 }
 
-TEST_F(CareerStart, The_confirmed_form_is_there_after_a_launch) {
+TEST_F(CareerStart, SavesTheConfirmedForm) {
   loadWorld(game);
-  world.yearNumber = 2031;  // of a career that ended without a restart of the clock
+  world.yearNumber = 2031;  // from the previous career
   chooseAge(game, 31);
   EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada 🎭",
                                        .aboutDescription = "Reads.",
@@ -45,14 +45,14 @@ TEST_F(CareerStart, The_confirmed_form_is_there_after_a_launch) {
   EXPECT_EQ(found.headshotImage.bytes.size(), 2U);
 }
 
-TEST_F(CareerStart, An_age_that_is_never_touched_stays_18_and_born_in_2005) {
+TEST_F(CareerStart, TheDefaultAgeIs18AndTheBirthYear2005) {
   loadWorld(game);
   EXPECT_FALSE(confirmNewCareer(game, {.myName = " "}));
   EXPECT_EQ(world.ageCount, 18);
   EXPECT_EQ(world.birthYear, 2005);
 }
 
-TEST_F(CareerStart, A_performer_without_agent_wins_fans_at_the_plain_rate) {
+TEST_F(CareerStart, FanBonusIsOneWithoutAnAgent) {
   EXPECT_EQ(world.agentFanBonus, 0.0);
   EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada"}));
   EXPECT_EQ(world.agentFanBonus, 1.0);
@@ -63,7 +63,7 @@ TEST_F(CareerStart, A_performer_without_agent_wins_fans_at_the_plain_rate) {
   EXPECT_EQ(relaunched().agentFanBonus, 1.4);
 }
 
-TEST_F(CareerStart, A_restart_turns_the_vault_into_cash_and_carries_lasting_gains_over) {
+TEST_F(CareerStart, ARestartCarriesVaultAndPermanentGainsOver) {
   world.totalCashAvailable = 77;
   world.myVault = 1000;
   world.permanentEnergyUpgrade = 20;
@@ -78,7 +78,7 @@ TEST_F(CareerStart, A_restart_turns_the_vault_into_cash_and_carries_lasting_gain
   }
 }
 
-TEST_F(CareerStart, A_restart_does_not_carry_lasting_losses_over) {
+TEST_F(CareerStart, ARestartDropsPermanentLosses) {
   world.permanentEnergyUpgrade = -3;
   world.permanentExperience = -40;
   world.experience = 900;
@@ -89,7 +89,7 @@ TEST_F(CareerStart, A_restart_does_not_carry_lasting_losses_over) {
   EXPECT_EQ(world.experience, 0.0);
 }
 
-TEST_F(CareerStart, A_restart_ends_the_old_expenses_and_the_streaming_world_and_keeps_what_outlives_it) {
+TEST_F(CareerStart, ARestartClearsExpensesAndPlatform) {
   world.saveAllWeeklyLineItems = {{.category = 878, .title = "Barber", .amount = 45, .typeOfExpense = 104}};
   world.saveAllCameos = {{.weekNumberForTracking = 9, .numberOfPurchases = 12}};
   world.isPlatformLaunched = 1;
@@ -99,7 +99,7 @@ TEST_F(CareerStart, A_restart_ends_the_old_expenses_and_the_streaming_world_and_
   world.platformLaunchYear = 2040;
   world.saveRivalPlatforms = {{.id = 3}};
   world.saveSharkBoxDeals = {{.id = 1}};
-  world.fanGainCarry = 400;  // of the running session
+  world.fanGainCarry = 400;  // from this session
   world.WeekFeed = {"a line"};
   world.selectedAuditionIndex = 3;
   restartCareer(game);
@@ -118,7 +118,7 @@ TEST_F(CareerStart, A_restart_ends_the_old_expenses_and_the_streaming_world_and_
   EXPECT_EQ(world.selectedAuditionIndex, -1);
 }
 
-TEST_F(CareerStart, A_loaded_career_pays_for_its_basic_needs_even_when_the_store_forgot_them) {
+TEST_F(CareerStart, LoadingAddsMissingBasicNeeds) {
   world.saveAllWeeklyLineItems = {{.category = 1, .title = "AG Monthly Dues", .typeOfExpense = 1}};
   world.yearNumber = 2030;
   saveChanges(game);
@@ -126,7 +126,7 @@ TEST_F(CareerStart, A_loaded_career_pays_for_its_basic_needs_even_when_the_store
   ASSERT_EQ(found.saveAllWeeklyLineItems.size(), 2u);
   EXPECT_EQ(found.saveAllWeeklyLineItems.back().title, "Basic Needs");
   EXPECT_EQ(found.saveAllWeeklyLineItems.back().year, 2030);
-  EXPECT_EQ(relaunched().saveAllWeeklyLineItems.size(), 2u);  // written, and added once
+  EXPECT_EQ(relaunched().saveAllWeeklyLineItems.size(), 2u);  // saved, and added once
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace tb {
 namespace {
 
-TEST(Descending, PutsTheGreatestFirstAndKeepsTheOrderOfEquals) {
+TEST(DescendingSort, IsStable) {
   struct Row {
     std::string name;
     std::int64_t figure;

@@ -1,5 +1,5 @@
-// Every row of the table of variables, at every point of its life: start, restart, written, loaded, and
-// loaded from a store that holds something else.
+// Every row of the table of variables: start value, restart, saving, loading, and loading a value of another
+// type.
 
 #include <gtest/gtest.h>
 #include <set>
@@ -30,7 +30,7 @@ using test::ScratchGame;
 template <auto Member>
 using TypeOf = std::remove_cvref_t<decltype(WorldState{}.*Member)>;
 
-// Fills every variable, so that no row has its start or restart value.
+// Sets every variable to a value that is neither its start nor its restart value.
 WorldState unusualWorld() {
   WorldState world;
   test::Unusual unusual;
@@ -39,7 +39,7 @@ WorldState unusualWorld() {
   return world;
 }
 
-// Plays until the world is as it is given.
+// Replaces the world and saves it.
 void store(ScratchGame& scratch, const WorldState& world) {
   scratch.game.world = world;
   saveChanges(scratch.game);
@@ -53,7 +53,7 @@ void expectSameVariables(const WorldState& world, const WorldState& expected) {
 
 Bytes encoded(const List<Child>& children) { return encodeRecords<Child>(children.begin(), children.end()); }
 
-// Variables that a restart sets by a rule of its own, and the fan bonus, which every load looks after.
+// Variables that restartCareer() sets itself, and the fan bonus, which every load may set.
 bool hasOwnRule(std::string_view key) {
   static const std::set<std::string_view> keys{"totalCashAvailable",     "totalEnergyAvailable",
                                                "totalEnergyMax",         "experience",
@@ -61,7 +61,7 @@ bool hasOwnRule(std::string_view key) {
   return keys.contains(key);
 }
 
-// --- What the save file holds ---
+// --- Save file ---
 
 template <class T>
 void expectStoredForm(const Value& value, const T& variable) {
@@ -133,7 +133,7 @@ TEST(Dictionary, NoTwoVariablesShareAKey) {
   }
 }
 
-TEST(Dictionary, EveryVariableIsStoredInItsOwnForm) {
+TEST(Dictionary, StoresEveryVariableInItsForm) {
   ScratchGame scratch;
   store(scratch, unusualWorld());
   forEachVariable([&]<auto Member>(std::string_view key, const auto&, const auto&, Load) {
@@ -144,13 +144,13 @@ TEST(Dictionary, EveryVariableIsStoredInItsOwnForm) {
   });
 }
 
-TEST(Dictionary, ALaunchBringsBackWhatTheTableSaysAndNothingElse) {
+TEST(Dictionary, LoadsOnlyAtStartVariables) {
   ScratchGame scratch;
   const WorldState played = unusualWorld();
   store(scratch, played);
 
   Game relaunched{.store = scratch.store, .random = scratch.random};
-  relaunched.world.fanGainCarry = 5;  // of a game that was in play until a slot was loaded
+  relaunched.world.fanGainCarry = 5;  // from a game that was played before a slot was loaded
   loadWorld(relaunched);
   EXPECT_EQ(relaunched.world.fanGainCarry, 0);
   forEachVariable([&]<auto Member>(std::string_view key, const auto& start, const auto&, Load when) {
@@ -162,7 +162,7 @@ TEST(Dictionary, ALaunchBringsBackWhatTheTableSaysAndNothingElse) {
   EXPECT_EQ(scratch.store.value("saveAllChildList"), Value{Data{encoded(played.saveAllChildList)}});
 }
 
-TEST(Dictionary, ARestartSetsEveryVariableButThoseThatItKeepsAndTheStoreFollows) {
+TEST(Dictionary, RestartSetsAllButKeptVariables) {
   ScratchGame scratch;
   const WorldState played = unusualWorld();
   store(scratch, played);
@@ -171,7 +171,7 @@ TEST(Dictionary, ARestartSetsEveryVariableButThoseThatItKeepsAndTheStoreFollows)
   const WorldState launched = game.world;
   restartCareer(game);
   saveChanges(game);
-  EXPECT_FALSE(scratch.store.contains("saveAllChildList"));  // no launch reads it, so nothing else would
+  EXPECT_FALSE(scratch.store.contains("saveAllChildList"));  // not loaded, so no later save removes it
 
   Game relaunched{.store = scratch.store, .random = scratch.random};
   loadWorld(relaunched);
@@ -190,7 +190,7 @@ TEST(Dictionary, ARestartSetsEveryVariableButThoseThatItKeepsAndTheStoreFollows)
   });
 }
 
-TEST(Dictionary, AValueOfAnotherTypeLeavesTheVariableAsItWas) {
+TEST(Dictionary, IgnoresValuesOfAnotherType) {
   ScratchGame scratch;
   const WorldState played = unusualWorld();
   for (const Variable& variable : variables()) {
@@ -203,7 +203,7 @@ TEST(Dictionary, AValueOfAnotherTypeLeavesTheVariableAsItWas) {
     const Value garbage{Data{Bytes(9, std::byte{1})}};
     const Value list{Array{Value{Dictionary{}}}};
     for (const Value& wrong : {is_number && !variable.isList ? text : number, garbage, list}) {
-      if (form == ValueType::Form::data && wrong == garbage) continue;  // a picture is any bytes
+      if (form == ValueType::Form::data && wrong == garbage) continue;  // any bytes are a valid picture
       scratch.store.put(variable.key, wrong);
       scratch.game.world = played;
       loadVariable(scratch.game, variable);
@@ -212,7 +212,7 @@ TEST(Dictionary, AValueOfAnotherTypeLeavesTheVariableAsItWas) {
   }
 }
 
-TEST(Dictionary, OneSpoiltListCostsThatListAlone) {
+TEST(Dictionary, OneDamagedListAffectsNoOther) {
   ScratchGame scratch;
   WorldState played = unusualWorld();
   store(scratch, played);

@@ -18,7 +18,7 @@ EPOCH = datetime.datetime(2001, 1, 1)
 EVERYTHING = {
     "booleans": [True, False],
     "integers": [0, 1, 255, 256, 65535, 65536, 2**32 - 1, 2**32, 2**63 - 1, -1, -256, -(2**63)],
-    # Not -0.0: the text that plistutil makes of it has lost the sign.
+    # Not -0.0: plistutil loses the sign in its text format.
     "reals": [0.0, 1.0, 0.1, -2.5, 1e300, 1 / 3, 123456789.125],
     "dates": [EPOCH, datetime.datetime(1999, 12, 31, 23, 59, 59), datetime.datetime(2024, 2, 29, 12, 0, 0)],
     "data": [b"", b"\x00\xff", bytes(range(256)) * 2],
@@ -135,7 +135,7 @@ class ForeignReaders(unittest.TestCase):
             "category": 0, "title": "Basic Needs", "amount": 50.0, "year": 2026, "isExpense": True,
             "typeOfExpense": -1, "energyBoost": 0}])
 
-        # Somebody leaves the performer some money, with another program: the game takes it for a class.
+        # Another program changes the cash, and the game spends it on a class.
         store["totalCashAvailable"] = 20000.0
         for writer, path in self.theirs(store).items():
             with self.subTest(writer):

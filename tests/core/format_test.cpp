@@ -8,10 +8,10 @@
 namespace tb {
 namespace {
 
-TEST(Format, WritesWhatTheLibraryWrites) {
+TEST(CoreFormat, MatchesStdFormat) {
   EXPECT_EQ(tb::format("nothing"), "nothing");
   EXPECT_EQ(tb::format(""), "");
-  const std::string name = "{} 🎬";  // what is put in is never read as a field
+  const std::string name = "{} 🎬";  // inserted text is not parsed as a field
   EXPECT_EQ(tb::format("{}{}{}", name, "—", std::string_view("x")), std::format("{}{}{}", name, "—", "x"));
   for (const std::int64_t value :
        {std::int64_t{0}, std::int64_t{-7}, std::numeric_limits<std::int64_t>::max(),

@@ -1,4 +1,4 @@
-// The keys under which saves are kept, and the values with which careers begin.
+// The keys of saves and their start values.
 
 #include <format>
 #include <gtest/gtest.h>

@@ -10,11 +10,11 @@
 namespace tb {
 namespace {
 
-// The store's side of a list: pieces by number, changed by what the list says and by nothing else.
+// A model of the store: pieces by number, changed only by the list's reported changes.
 template <class T>
 struct StoredList {
   std::map<std::int64_t, std::vector<T>> pieces;
-  std::size_t written = 0;  // pieces put by the last save
+  std::size_t written = 0;  // pieces written by the last save
 
   void save(List<T>& list) {
     written = 0;
@@ -54,7 +54,7 @@ List<int> numbers(int count) {
   return list;
 }
 
-TEST(List, AWeekThatChangesOneElementOfALongListWritesOnePiece) {
+TEST(PersistedList, WritesOnlyChangedPieces) {
   List<int> list = numbers(1000);
   StoredList<int> stored;
   stored.save(list);
@@ -76,7 +76,7 @@ TEST(List, AWeekThatChangesOneElementOfALongListWritesOnePiece) {
   EXPECT_EQ(contents(stored.load()), contents(list));
 }
 
-TEST(List, AHistoryThatDropsItsOldestWeekForgetsEmptiedPieces) {
+TEST(PersistedList, DropsEmptyPieces) {
   List<int> history;
   StoredList<int> stored;
   for (int week = 0; week < 1000; ++week) {
@@ -89,7 +89,7 @@ TEST(List, AHistoryThatDropsItsOldestWeekForgetsEmptiedPieces) {
   EXPECT_EQ(contents(stored.load()), contents(history));
 }
 
-TEST(List, WhatWasPutInAnotherListsPlaceIsSavedWhole) {
+TEST(PersistedList, AssignedListsAreSavedCompletely) {
   List<int> list = numbers(100);
   StoredList<int> stored;
   stored.save(list);
@@ -109,7 +109,7 @@ TEST(List, WhatWasPutInAnotherListsPlaceIsSavedWhole) {
   EXPECT_TRUE(stored.pieces.empty());
 }
 
-TEST(List, AListCanBeAssignedFromAViewOfItself) {
+TEST(PersistedList, AListCanBeAssignedFromAViewOfItself) {
   List<int> list = numbers(100);
   list.assign(list | std::views::filter([](int value) { return value % 2 == 1; }));
   EXPECT_EQ(list.size(), 50u);
@@ -117,7 +117,7 @@ TEST(List, AListCanBeAssignedFromAViewOfItself) {
   EXPECT_EQ(list.back(), 99);
 }
 
-TEST(List, PiecesWithGapsAndEmptyPiecesLoadInOrder) {
+TEST(PersistedList, PiecesWithGapsAndEmptyPiecesLoadInOrder) {
   StoredList<int> stored;
   stored.pieces = {{-4'000'000'000'000, {1, 2}}, {-7, {}}, {0, {}}, {3, {3}}, {9'000'000'000'000, {4, 5}}};
   List<int> list = stored.load();
@@ -132,10 +132,10 @@ TEST(List, PiecesWithGapsAndEmptyPiecesLoadInOrder) {
   EXPECT_EQ(contents(stored.load()), (std::vector{2, 30, 4, 5, 6}));
 }
 
-// Any sequence of operations, with saves and relaunches in between, against std::vector.
-class ListHistory : public testing::TestWithParam<unsigned> {};
+// Compares random operations, saves and relaunches with std::vector.
+class PersistedListFuzz : public testing::TestWithParam<unsigned> {};
 
-TEST_P(ListHistory, WhatIsLoadedIsWhatWasSaved) {
+TEST_P(PersistedListFuzz, LoadsWhatWasSaved) {
   std::mt19937 chance(GetParam());
   const auto below = [&](std::size_t n) {
     return std::uniform_int_distribution<std::size_t>(0, n - 1)(chance);
@@ -143,7 +143,7 @@ TEST_P(ListHistory, WhatIsLoadedIsWhatWasSaved) {
   List<std::string> list;
   std::vector<std::string> model;
   StoredList<std::string> stored;
-  const std::size_t growth = below(4);  // some careers grow, some shrink to nothing again and again
+  const std::size_t growth = below(4);  // some lists grow, others become empty repeatedly
 
   for (int step = 0; step < 3000; ++step) {
     const std::string text = std::to_string(step);
@@ -211,7 +211,7 @@ TEST_P(ListHistory, WhatIsLoadedIsWhatWasSaved) {
   EXPECT_EQ(std::vector(list.begin(), list.end()), model);
 }
 
-INSTANTIATE_TEST_SUITE_P(Careers, ListHistory, testing::Range(0u, 16u));
+INSTANTIATE_TEST_SUITE_P(Careers, PersistedListFuzz, testing::Range(0u, 16u));
 
 }  // namespace
 }  // namespace tb

@@ -22,15 +22,15 @@ class Words : public RandomSource {
   std::size_t place_ = 0;
 };
 
-TEST(RandomRange, RefusesTheWordsThatWouldFavourSomeResults) {
-  // 2^64 mod 101 is 79: of the words whose low half is below that, each result would get one too many.
+TEST(RandomRange, RejectsBiasedWords) {
+  // 2^64 mod 101 is 79: words whose product's low half is below that must be rejected.
   Words words({0, 1, ~std::uint64_t{0}});
   EXPECT_EQ(RandomRange(words, 101), 0);
   EXPECT_EQ(words.drawn(), 2u);
   EXPECT_EQ(RandomRange(words, 101), 100);
 }
 
-TEST(RandomRange, CoversItsRangeAndNothingElse) {
+TEST(RandomRange, CoversItsRange) {
   test::ScriptedRandom random;
   for (std::int64_t value = 0; value < 101; ++value) random.range(101, value);
   for (std::int64_t value = 0; value < 101; ++value) EXPECT_EQ(RandomRange(random, 101), value);
@@ -58,7 +58,7 @@ struct Grade {
 constexpr std::array<Grade, 2> grades = {
     {{.from = 0, .upTo = 3, .name = 'C'}, {.from = 3.001, .upTo = 5, .name = 'B'}}};
 
-TEST(Bands, AValueFindsItsRowAtBothEndsAndNoneInAGapOrOutside) {
+TEST(Bands, FindsRowsAtBothEndsAndNoneInGaps) {
   EXPECT_EQ(bandOf(grades, 0)->name, 'C');
   EXPECT_EQ(bandOf(grades, 3)->name, 'C');
   EXPECT_EQ(bandOf(grades, 3.001)->name, 'B');
@@ -68,7 +68,7 @@ TEST(Bands, AValueFindsItsRowAtBothEndsAndNoneInAGapOrOutside) {
   }
 }
 
-TEST(ShortMoney, TurnsItsFormAtEachThreshold) {
+TEST(ShortMoney, ChangesFormAtEachThreshold) {
   const Locale us;
   const std::pair<double, const char*> cases[] = {{0, "$0.00"},
                                                   {99.5, "$99.50"},
@@ -95,7 +95,7 @@ TEST(ShortMoney, TurnsItsFormAtEachThreshold) {
   EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::infinity()), "$0");
 }
 
-TEST(ShortCount, TurnsItsFormAtEachThreshold) {
+TEST(ShortCount, ChangesFormAtEachThreshold) {
   const std::pair<std::int64_t, const char*> cases[] = {
       {0, "0"},          {999, "999"},         {1000, "1.0K"},           {999949, "999.9K"},
       {1000000, "1.0M"}, {1550000000, "1.6B"}, {999940000000, "999.9B"}, {1000000000000, ""},
@@ -124,7 +124,8 @@ TEST(DateLabel, NamesTheFridayOfAWeekThatBeginsOnSunday) {
     const char *month, *day;
   } cases[] = {
       {1, 2026, "January", "2, 2026"},   {52, 2026, "December", "25, 2026"}, {1, 2027, "January", "1, 2027"},
-      {1, 2028, "December", "31, 2027"},  // the first of January is a Saturday: its Friday is in the old year
+      {1, 2028, "December", "31, 2027"},  // January 1 is a Saturday, so the week's Friday is in the previous
+                                          // year
       {10, 2028, "March", "3, 2028"},    {53, 2027, "December", "31, 2027"},
   };
   for (const auto& [week, year, month, day] : cases) {
@@ -136,28 +137,28 @@ TEST(DateLabel, NamesTheFridayOfAWeekThatBeginsOnSunday) {
   EXPECT_FALSE(dateLabel({}, 0, 2026));
   EXPECT_FALSE(dateLabel({}, 54, 2026));
   Locale greek;
-  greek.monthCapitals[2] = "ΜΑΡΤΙΟΣ";  // the device knows how its language writes them
+  greek.monthCapitals[2] = "ΜΑΡΤΙΟΣ";  // capitals come from the device's language
   EXPECT_EQ(dateHeading(greek, 10, 2028, " "), "ΜΑΡΤΙΟΣ 3, 2028");
   EXPECT_EQ(dateHeading({}, 54, 2028, " "), "");
 }
 
-TEST(Text, FillsARowInOnePass) {
+TEST(CoreText, FillsInOnePass) {
   EXPECT_EQ(fill("{name} is {title}.", {{"name", "{title}"}, {"title", "here"}}), "{title} is here.");
   EXPECT_EQ(fill("{unknown} {name", {{"name", "x"}}), "{unknown} {name");
   EXPECT_EQ(fill("", {}), "");
 }
 
-TEST(Text, LowersLettersForLookingWordsUpAndLeavesTheRest) {
+TEST(CoreText, LowersAsciiLetters) {
   EXPECT_EQ(lowerCase("It's THE Élan, 9 Zebras @ 🎬"), "it's the Élan, 9 zebras @ 🎬");
 }
 
-TEST(Text, CountsOneThingAsOne) {
+TEST(CoreText, Pluralizes) {
   EXPECT_EQ(counted(1, "week"), "1 week");
   EXPECT_EQ(counted(0, "week"), "0 weeks");
   EXPECT_EQ(plural(21, "critic"), "critics");
 }
 
-TEST(Text, RaisesLatinLetters) {
+TEST(CoreText, CapitalizesLatinLetters) {
   EXPECT_EQ(upperCase("março août märz żółw ÿ 日本 🎬 ß"), "MARÇO AOÛT MÄRZ ŻÓŁW Ÿ 日本 🎬 ß");
   EXPECT_EQ(trimmed(" \t a b \n"), "a b");
   const std::vector<std::string> parts = {"a", "b", "c"};

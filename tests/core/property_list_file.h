@@ -1,6 +1,6 @@
 #pragma once
 
-// Property-list files put together by hand, for what no writer would make.
+// Builds property-list files that no writer would produce.
 
 #include <cstddef>
 #include <cstdint>
@@ -45,7 +45,7 @@ struct HandMadeFile {
   }
 };
 
-// The bytes of an object, one number a byte.
+// The bytes of an object, from numbers.
 inline std::string object(std::initializer_list<int> bytes) {
   std::string object;
   for (const int byte : bytes) object.push_back(static_cast<char>(byte));

@@ -31,7 +31,7 @@ auto refused(ReadError error) { return std::unexpected(error); }
 Value text(std::string held) { return Value{std::move(held)}; }
 Value integer(std::int64_t held) { return Value{held}; }
 
-// One value of each kind, and numbers and counts on both sides of every change of width.
+// Values of every kind, with numbers and counts on both sides of every width limit.
 Value everything() {
   Array integers;
   for (const std::int64_t edge : {std::int64_t{0}, std::int64_t{0xFF}, std::int64_t{0xFFFF},
@@ -66,7 +66,7 @@ Value everything() {
   }};
 }
 
-TEST(PropertyList, EveryKindAndWidthComesBackAsItWas) {
+TEST(PropertyList, RoundTripsEveryKindAndWidth) {
   const Value value = everything();
   const auto read = plist::read(plist::write(value));
   ASSERT_TRUE(read);
@@ -75,7 +75,7 @@ TEST(PropertyList, EveryKindAndWidthComesBackAsItWas) {
   EXPECT_TRUE(std::signbit(*(*reals)[1].as<double>()));
 }
 
-TEST(PropertyList, ARootOfEachKindIsAFile) {
+TEST(PropertyList, WritesRootsOfEveryKind) {
   const double notANumber = std::bit_cast<double>(0x7FF8'0000'0000'1234);
   for (const Value& root : {Value{true}, integer(7), Value{2.5}, text(""), Value{Data{}}, Value{Date{1}},
                             Value{Array{}}, Value{Dictionary{}}}) {
@@ -86,20 +86,20 @@ TEST(PropertyList, ARootOfEachKindIsAFile) {
   EXPECT_EQ(std::bit_cast<std::uint64_t>(*read->as<double>()), std::bit_cast<std::uint64_t>(notANumber));
 }
 
-TEST(PropertyList, WhatIsRepeatedIsStoredOnce) {
+TEST(PropertyList, StoresRepeatedValuesOnce) {
   const Value once{
       Array{text(std::string(500, 'a')), text("é"), integer(70'000), Value{0.1}, Value{Data{Bytes(300)}}}};
   const Value often{Array(100, once)};
-  // A container of five references is 6 bytes, its offset 2 and the reference to it 1.
+  // A container of five references takes 6 bytes, its offset 2, and the reference to it 1.
   EXPECT_LE(plist::write(often).size(), plist::write(once).size() + 100 * 9 + 20);
 }
 
-TEST(PropertyList, IllFormedTextIsWrittenAsReplacementCharacters) {
+TEST(PropertyList, ReplacesIllFormedText) {
   const auto written = [](std::string held) {
     return *plist::read(plist::write(text(std::move(held))))->as<std::string>();
   };
   EXPECT_EQ(written("a\x80z"), "a\uFFFDz");
-  EXPECT_EQ(written("\xE2\x82"), "\uFFFD");  // cut off: one for the piece
+  EXPECT_EQ(written("\xE2\x82"), "\uFFFD");  // truncated: one for the sequence
   EXPECT_EQ(written("\xF0\x9F\x8Ez"), "\uFFFDz");
   EXPECT_EQ(written("\xC0\xAF"), "\uFFFD\uFFFD");            // an overlong slash
   EXPECT_EQ(written("\xED\xA0\x80"), "\uFFFD\uFFFD\uFFFD");  // a surrogate
@@ -108,13 +108,13 @@ TEST(PropertyList, IllFormedTextIsWrittenAsReplacementCharacters) {
             "\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF");
 }
 
-TEST(PropertyList, FormsThatOtherWritersUseAreRead) {
+TEST(PropertyList, ReadsFormsOfOtherWriters) {
   EXPECT_EQ(readObjects({object({0x22, 0x3F, 0xC0, 0, 0})}), Value{1.5});
   const std::string zeros(8, '\0'), ones(8, '\xFF');
   EXPECT_EQ(readObjects({"\x14" + zeros + object({0x7F}) + ones.substr(1)}),
             integer(std::numeric_limits<std::int64_t>::max()));
   EXPECT_EQ(readObjects({"\x14" + ones + ones.substr(1) + "\xFE"}), integer(-2));
-  // A count that would fit the marker, in each of its widths.
+  // A small count as an integer object of each width.
   EXPECT_EQ(readObjects({object({0x5F, 0x10, 1, 'a'})}), text("a"));
   EXPECT_EQ(readObjects({object({0x5F, 0x11, 0, 1, 'a'})}), text("a"));
   EXPECT_EQ(readObjects({object({0x5F, 0x12, 0, 0, 0, 1, 'a'})}), text("a"));
@@ -122,7 +122,7 @@ TEST(PropertyList, FormsThatOtherWritersUseAreRead) {
   EXPECT_EQ(readObjects({object({0x62, 0xD8, 0x3C, 0xDF, 0xAC})}), text("🎬"));
 }
 
-TEST(PropertyList, OffsetsAndReferencesOfEverySizeAreRead) {
+TEST(PropertyList, ReadsAllSizesOfOffsetsAndReferences) {
   for (std::size_t size = 1; size <= 8; ++size) {
     HandMadeFile file{.offsetSize = size, .referenceSize = size};
     const auto to = [&](std::uint64_t reference) { return HandMadeFile::number(reference, size); };
@@ -132,7 +132,7 @@ TEST(PropertyList, OffsetsAndReferencesOfEverySizeAreRead) {
   }
 }
 
-TEST(PropertyList, TextThatIsNoTextIsRefused) {
+TEST(PropertyList, RejectsInvalidText) {
   for (const std::string& bad :
        {object({0x51, 0x80}), object({0x61, 0xD8, 0x3C}), object({0x61, 0xDF, 0xAC}),
         object({0x62, 0xD8, 0x3C, 0xD8, 0x3C}), object({0x62, 0xD8, 0x3C, 0, 'a'})}) {
@@ -141,7 +141,7 @@ TEST(PropertyList, TextThatIsNoTextIsRefused) {
   EXPECT_EQ(readObjects({object({0xD1, 1, 1}), object({0x10, 1})}), refused(ReadError::badText));
 }
 
-TEST(PropertyList, UnknownMarkersWrongWidthsAndNumbersOutsideTheGamesAreRefused) {
+TEST(PropertyList, RejectsUnknownMarkersAndWidths) {
   for (const int marker : {0x00, 0x01, 0x07, 0x0A, 0x0F, 0x20, 0x21, 0x24, 0x2F, 0x30,
                            0x32, 0x34, 0x70, 0x71, 0x80, 0x90, 0xB0, 0xC1, 0xE0, 0xF0}) {
     EXPECT_EQ(readObjects({object({marker}) + std::string(40, '\0')}), refused(ReadError::badObject))
@@ -154,7 +154,7 @@ TEST(PropertyList, UnknownMarkersWrongWidthsAndNumbersOutsideTheGamesAreRefused)
   }
 }
 
-TEST(PropertyList, ACountIsNeverTrusted) {
+TEST(PropertyList, ChecksCounts) {
   for (const int kind : {0x40, 0x50, 0x60, 0xA0, 0xD0}) {
     const int counted = kind | 0x0F;
     std::vector<std::string> all = {object({kind | 2}), object({counted}), object({counted, 0x11, 0}),
@@ -168,7 +168,7 @@ TEST(PropertyList, ACountIsNeverTrusted) {
   }
 }
 
-TEST(PropertyList, ATrailerThatDoesNotFitTheFileIsRefused) {
+TEST(PropertyList, RejectsBadTrailers) {
   const HandMadeFile good{{"Qa"}};
   const Bytes file = good.bytes();
   ASSERT_TRUE(plist::read(file));
@@ -197,7 +197,7 @@ TEST(PropertyList, ATrailerThatDoesNotFitTheFileIsRefused) {
             refused(ReadError::notAPropertyList));
 }
 
-TEST(PropertyList, CirclesAndReferencesToNothingAreRefused) {
+TEST(PropertyList, RejectsCyclesAndMissingObjects) {
   EXPECT_EQ(readObjects({object({0xA1, 0})}), refused(ReadError::badReference));
   EXPECT_EQ(readObjects({object({0xA1, 1}), object({0xD1, 2, 0}), "Qa"}), refused(ReadError::badReference));
   EXPECT_EQ(readObjects({object({0xA1, 1})}), refused(ReadError::badReference));
@@ -206,13 +206,13 @@ TEST(PropertyList, CirclesAndReferencesToNothingAreRefused) {
   EXPECT_EQ(plist::read(wide.bytes()), refused(ReadError::badReference));
 }
 
-TEST(PropertyList, ADictionaryThatNamesAKeyTwiceIsRefused) {
+TEST(PropertyList, RejectsDuplicateKeys) {
   EXPECT_EQ(readObjects({object({0xD2, 1, 1, 2, 2}), "Qa", "Qb"}), refused(ReadError::badObject));
   EXPECT_EQ(readObjects({object({0xD2, 1, 2, 1, 1}), "Qa", object({0x61, 0, 'a'})}),
             refused(ReadError::badObject));
 }
 
-TEST(PropertyList, NestingIsReadToItsBoundAndNoFurther) {
+TEST(PropertyList, LimitsNesting) {
   const auto nested = [](std::size_t depth) {
     Value value{Array{}};
     for (std::size_t level = 1; level < depth; ++level) value = Value{Array{std::move(value)}};
@@ -222,8 +222,8 @@ TEST(PropertyList, NestingIsReadToItsBoundAndNoFurther) {
   EXPECT_EQ(plist::read(plist::write(nested(plist::maximumDepth + 1))), refused(ReadError::tooDeep));
 }
 
-TEST(PropertyList, ASmallFileCanNotBecomeAHugeValue) {
-  std::vector<std::string> laughs;  // thirty levels of ten times the next
+TEST(PropertyList, LimitsMemory) {
+  std::vector<std::string> laughs;  // thirty levels with ten references each
   for (int level = 1; level <= 30; ++level)
     laughs.push_back("\xAA" + std::string(10, static_cast<char>(level)));
   laughs.push_back("Qa");
@@ -236,7 +236,7 @@ TEST(PropertyList, ASmallFileCanNotBecomeAHugeValue) {
   EXPECT_EQ(plist::read(copies.bytes()), refused(ReadError::tooMuchWork));
 }
 
-TEST(PropertyList, ALongListThatRepeatsItselfIsStillRead) {
+TEST(PropertyList, ReadsLongRepetitiveLists) {
   const Value line = text(std::string(280, 'x'));
   const Value list{Array(52'000, line)};
   const auto read = plist::read(plist::write(list));
@@ -244,7 +244,7 @@ TEST(PropertyList, ALongListThatRepeatsItselfIsStillRead) {
   EXPECT_EQ(*read, list);
 }
 
-TEST(PropertyList, AFileThatIsCutOffAnywhereIsRefused) {
+TEST(PropertyList, RejectsTruncatedFiles) {
   const Bytes file =
       plist::write(Value{Dictionary{{"a", Value{Array{integer(1), Value{2.5}}}}, {"b", text("né")}}});
   for (std::size_t size = 0; size < file.size(); ++size) {
@@ -252,7 +252,7 @@ TEST(PropertyList, AFileThatIsCutOffAnywhereIsRefused) {
   }
 }
 
-TEST(PropertyList, AFileWithAnyBitTurnedIsReadOrRefusedButNeverHarms) {
+TEST(PropertyList, SurvivesAnyFlippedBit) {
   const Bytes file = plist::write(Value{Dictionary{{"a", Value{Array{integer(1), Value{2.5}, Value{true}}}},
                                                    {"b", text("né")},
                                                    {"c", Value{Data{Bytes(20)}}}}});

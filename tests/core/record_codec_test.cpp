@@ -9,7 +9,7 @@
 
 namespace tb {
 
-// A record that holds others of its kind, so that a file can go in a circle through it.
+// A recursive record type, for files with cycles.
 struct Troupe {
   std::int64_t players = 0;
   std::vector<Troupe> guests;
@@ -57,12 +57,12 @@ Bytes partsFile(std::vector<Dictionary> parts) {
 using Parts = std::vector<SamplePart>;
 using enum DecodeError::Kind;
 
-TEST(RecordCodec, EveryKindOfFieldComesBackAsItWas) {
+TEST(RecordCodec, RoundTripsEveryKindOfField) {
   EXPECT_EQ(decodeRecords<SampleRecord>(encode(samples())), samples());
   EXPECT_EQ(decodeRecords<SampleRecord>(encode<SampleRecord>({})), std::vector<SampleRecord>{});
 }
 
-TEST(RecordCodec, ALongListThatRepeatsItselfIsStillRead) {
+TEST(RecordCodec, ReadsLongRepetitiveLists) {
   SampleRecord record;
   record.title = std::string(500, 't');
   const std::vector<SampleRecord> list(52'000, record);
@@ -82,7 +82,7 @@ TEST(RecordCodec, PlainListsAreArrays) {
   EXPECT_EQ(decodeValues<std::int64_t>(file), std::unexpected(DecodeError{.kind = wrongKind}));
 }
 
-TEST(RecordCodec, AListOfAnotherVersionIsReadWhenOnlyKeysWereAddedOrMoved) {
+TEST(RecordCodec, ReadsListsWithExtraOrMovedKeys) {
   const Value one{std::int64_t{1}};
   EXPECT_EQ(decodeRecords<SamplePart>(partsFile({{{"role", Value{"a"}}, {"weeks", one}},
                                                  {{"weeks", one}, {"pay", Value{2.5}}, {"role", Value{"b"}}},
@@ -90,7 +90,7 @@ TEST(RecordCodec, AListOfAnotherVersionIsReadWhenOnlyKeysWereAddedOrMoved) {
             (Parts{{"a", 1}, {"b", 1}, {"c", 1}}));
 }
 
-TEST(RecordCodec, AMissingFieldOrAWrongKindRefusesTheWholeList) {
+TEST(RecordCodec, RejectsMissingFieldsAndWrongKinds) {
   const Value one{std::int64_t{1}};
   const Dictionary good{{"role", Value{"a"}}, {"weeks", one}};
   EXPECT_EQ(decodeRecords<SamplePart>(partsFile({good, {{"role", Value{"a"}}}})),
@@ -104,7 +104,7 @@ TEST(RecordCodec, AMissingFieldOrAWrongKindRefusesTheWholeList) {
   EXPECT_EQ(decodeRecords<SamplePart>({}), std::unexpected(DecodeError{}));
 }
 
-TEST(RecordCodec, HostileFilesAreRefused) {
+TEST(RecordCodec, RejectsHostileFiles) {
   using test::object;
   const auto decode = [](std::vector<std::string> objects) {
     return decodeRecords<SamplePart>(test::HandMadeFile{std::move(objects)}.bytes());
@@ -124,7 +124,7 @@ TEST(RecordCodec, HostileFilesAreRefused) {
   ASSERT_FALSE(circle);
   EXPECT_EQ(circle.error(), DecodeError{.readError = ReadError::tooDeep});
 
-  // One huge record that the list refers to again and again, by turns with another of it.
+  // A huge record with many references to it, alternating with another record.
   std::string pairs = object({0xAF, 0x11, 0xFF, 0xFF});
   for (int index = 0; index < 0xFFFF; ++index) pairs.push_back(static_cast<char>(1 + index % 2));
   std::string huge =
@@ -139,7 +139,7 @@ TEST(RecordCodec, HostileFilesAreRefused) {
             refused(ReadError::tooMuchWork));
 }
 
-TEST(RecordCodec, AnyCutOrTurnedBitIsReadOrRefusedButNeverHarms) {
+TEST(RecordCodec, SurvivesTruncationAndFlippedBits) {
   const Bytes file = encode(samples());
   for (std::size_t size = 0; size < file.size(); ++size) {
     EXPECT_FALSE(decodeRecords<SampleRecord>(std::span(file).first(size))) << size;
@@ -153,7 +153,7 @@ TEST(RecordCodec, AnyCutOrTurnedBitIsReadOrRefusedButNeverHarms) {
   EXPECT_GT(refused, file.size());
 }
 
-TEST(ValueConversion, NumbersStandForOneAnotherOnlyWhenNothingIsLost) {
+TEST(ValueConversion, ConvertsNumbersWithoutLoss) {
   const Value three{std::int64_t{3}}, threePointZero{3.0}, half{0.5}, yes{true};
   EXPECT_EQ(valueAs<double>(three), 3.0);
   EXPECT_EQ(valueAs<std::int64_t>(threePointZero), 3);
@@ -171,7 +171,7 @@ TEST(ValueConversion, NumbersStandForOneAnotherOnlyWhenNothingIsLost) {
   EXPECT_EQ(valueAs<double>(yes), std::nullopt);
 }
 
-TEST(ValueConversion, OtherKindsNeverStandForOneAnother) {
+TEST(ValueConversion, RejectsOtherKinds) {
   EXPECT_EQ(valueAs<std::string>(toValue(std::string("3"))), "3");
   EXPECT_EQ(valueAs<Data>(toValue(Data{Bytes(2)})), Data{Bytes(2)});
   EXPECT_EQ(valueAs<Date>(toValue(Date{2})), Date{2});

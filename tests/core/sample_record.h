@@ -1,6 +1,6 @@
 #pragma once
 
-// Two records with a field of every kind that a record may have, for the tests of the record codec.
+// Two records with fields of every supported type.
 
 #include <cstdint>
 #include <optional>

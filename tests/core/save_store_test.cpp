@@ -34,7 +34,7 @@ const Bytes& storedBytes(MemoryPort& port, const std::string& key, std::int64_t 
   return port.pieces.at({key, number}).bytes;
 }
 
-TEST(SaveStore, NothingIsDurableBeforeTheActionEndsAndThenAllOfItIs) {
+TEST(SaveStore, CommitsWholeActions) {
   MemoryPort port;
   SaveStore store(port);
   EXPECT_FALSE(store.hasUncommitted());
@@ -48,16 +48,16 @@ TEST(SaveStore, NothingIsDurableBeforeTheActionEndsAndThenAllOfItIs) {
   ASSERT_TRUE(store.commit());
   EXPECT_FALSE(store.hasUncommitted());
   EXPECT_EQ(port.commits, 1);
-  EXPECT_EQ(port.lastCommit.size(), 2u);  // the last write of a piece is the one that is stored
+  EXPECT_EQ(port.lastCommit.size(), 2u);  // only the last write of a piece is stored
   EXPECT_EQ(SaveStore(port).dictionary(), store.dictionary());
 
   ASSERT_TRUE(store.commit());
-  store.put("weekNumber", integer(2));  // what is there already costs nothing
+  store.put("weekNumber", integer(2));  // equal values are not written again
   EXPECT_FALSE(store.hasUncommitted());
   EXPECT_EQ(port.commits, 1);
 }
 
-TEST(SaveStore, AListInPiecesReadsAsOneListInTheOrderOfItsPieces) {
+TEST(SaveStore, JoinsPiecesInOrder) {
   MemoryPort port;
   SaveStore store(port);
   store.putPieces("trackFans", Shape::plainList, true, pieces({{1, {3, 4}}, {-1, {1, 2}}, {7, {5}}}));
@@ -69,7 +69,7 @@ TEST(SaveStore, AListInPiecesReadsAsOneListInTheOrderOfItsPieces) {
   EXPECT_EQ(again.value("saveAllFilmList"), Value{Data{piece({1, 2, 3})}});
 }
 
-TEST(SaveStore, OnlyThePiecesThatDifferAreWrittenEvenWhenTheWholeListIs) {
+TEST(SaveStore, WritesOnlyDifferingPieces) {
   MemoryPort port;
   SaveStore store(port);
   store.putPieces("trackFans", Shape::plainList, true, pieces({{0, {1}}, {1, {2}}, {2, {3}}}));
@@ -81,7 +81,7 @@ TEST(SaveStore, OnlyThePiecesThatDifferAreWrittenEvenWhenTheWholeListIs) {
   EXPECT_EQ(storedBytes(port, "trackFans", 1), piece({20}));
 }
 
-TEST(SaveStore, AKeyThatChangesItsShapeLeavesNothingOfTheOldOne) {
+TEST(SaveStore, ReplacesKeysOfAnotherShape) {
   MemoryPort port;
   SaveStore store(port);
   store.putPieces("trackFans", Shape::plainList, true, pieces({{0, {1}}, {5, {2}}}));
@@ -96,7 +96,7 @@ TEST(SaveStore, AKeyThatChangesItsShapeLeavesNothingOfTheOldOne) {
   EXPECT_EQ(SaveStore(port).value("trackFans"), integer(4));
 }
 
-TEST(SaveStore, AKeyWhoseLastPieceGoesIsGone) {
+TEST(SaveStore, RemovesKeysWithoutPieces) {
   MemoryPort port;
   SaveStore store(port);
   store.putPieces("trackFans", Shape::plainList, true, pieces({{3, {1}}}));
@@ -110,7 +110,7 @@ TEST(SaveStore, AKeyWhoseLastPieceGoesIsGone) {
   EXPECT_TRUE(port.pieces.empty());
 }
 
-TEST(SaveStore, KeysOfOtherVersionsStayUntouched) {
+TEST(SaveStore, KeepsUnknownKeys) {
   MemoryPort port;
   port.pieces[{"fromTheFuture", 0}] = {"fromTheFuture", Shape::plain, 0, rubbish()};
   SaveStore store(port);
@@ -122,7 +122,7 @@ TEST(SaveStore, KeysOfOtherVersionsStayUntouched) {
   EXPECT_EQ(store.dictionary(), (Dictionary{{"weekNumber", integer(3)}}));
 }
 
-TEST(SaveStore, WhatCannotBeUnderstoodIsKeptAsideOnceAndStaysUntilWrittenOver) {
+TEST(SaveStore, SetsUnreadableValuesAsideOnce) {
   MemoryPort port;
   port.pieces[{"myName", 0}] = {"myName", Shape::plain, 0, rubbish()};
   SaveStore store(port);
@@ -139,7 +139,7 @@ TEST(SaveStore, WhatCannotBeUnderstoodIsKeptAsideOnceAndStaysUntilWrittenOver) {
   EXPECT_EQ(port.keptAside[0].bytes, rubbish());
 }
 
-TEST(SaveStore, AKeyWithPiecesOfDifferentShapesIsKeptAsideWholeAndCountsAsMissing) {
+TEST(SaveStore, SetsKeysWithMixedShapesAside) {
   MemoryPort port;
   port.pieces[{"trackFans", 0}] = {"trackFans", Shape::plainList, 0, piece({1})};
   port.pieces[{"trackFans", 1}] = {"trackFans", Shape::recordList, 1, piece({2})};
@@ -152,7 +152,7 @@ TEST(SaveStore, AKeyWithPiecesOfDifferentShapesIsKeptAsideWholeAndCountsAsMissin
   EXPECT_EQ(port.pieces.size(), 1u);
 }
 
-TEST(SaveStore, AnotherCareerTakesThePlaceOfThisOneWhole) {
+TEST(SaveStore, ReplacesTheWholeCareer) {
   MemoryPort port;
   SaveStore store(port);
   store.put("old", integer(1));
@@ -168,7 +168,7 @@ TEST(SaveStore, AnotherCareerTakesThePlaceOfThisOneWhole) {
   ASSERT_TRUE(again.commit());
   EXPECT_EQ(SaveStore(port).dictionary(), other);
   EXPECT_EQ(port.pieces.size(), 2u);
-  ASSERT_EQ(port.keptAside.size(), 1u);  // what the career's file could not take along
+  ASSERT_EQ(port.keptAside.size(), 1u);  // what dictionary() left out
   EXPECT_EQ(port.keptAside[0].key, "unreadable");
 
   again.replace({});
@@ -176,7 +176,7 @@ TEST(SaveStore, AnotherCareerTakesThePlaceOfThisOneWhole) {
   EXPECT_TRUE(port.pieces.empty());
 }
 
-// One action of many kinds of writes, by number.
+// An action with several kinds of writes, selected by number.
 void act(SaveStore& store, std::int64_t n) {
   store.put("weekNumber", integer(n));
   if (n % 7 == 3) store.remove("once");
@@ -186,7 +186,7 @@ void act(SaveStore& store, std::int64_t n) {
   if (n % 13 == 6) store.replace({{"weekNumber", integer(n)}, {"trackFans", Value{Array{integer(n)}}}});
 }
 
-TEST(SaveStore, WhicheverCommitFailsTheNextOneMakesUpForIt) {
+TEST(SaveStore, RetriesFailedCommits) {
   constexpr int actions = 40;
   for (int failing = 1; failing <= actions; ++failing) {
     MemoryPort port;
@@ -204,7 +204,7 @@ TEST(SaveStore, WhicheverCommitFailsTheNextOneMakesUpForIt) {
   }
 }
 
-TEST(SaveStore, YearsOfFailingCommitsDoNotPileUp) {
+TEST(SaveStore, FailedCommitsDoNotAccumulate) {
   MemoryPort port;
   port.failAll(true);
   port.pieces[{"myName", 0}] = {"myName", Shape::plain, 0, rubbish()};

@@ -17,7 +17,7 @@ using plist::Dictionary;
 using plist::Value;
 using test::MemoryPort;
 
-// A launch of the game on what is stored.
+// A launch of the game on the stored data.
 struct Launch {
   explicit Launch(MemoryPort& port) : store(port) {}
 
@@ -38,7 +38,7 @@ void storeLists(MemoryPort& port) {
   EXPECT_TRUE(play.store.commit());
 }
 
-// Every variable, those that a launch does not read included.
+// Loads every variable, including those that a launch does not read.
 void loadThem(Game& game) {
   for (const Variable& variable : variables()) loadVariable(game, variable);
 }
@@ -48,7 +48,7 @@ std::ptrdiff_t listPieces(const MemoryPort& port) {
                                [](const auto& entry) { return entry.second.shape != Shape::plain; });
 }
 
-TEST(Save, AWeekWritesThePiecesItChangedAndNothingElse) {
+TEST(SaveAndLoad, WritesOnlyChangedPieces) {
   MemoryPort port;
   storeLists(port);
   EXPECT_EQ(listPieces(port), 4);
@@ -72,7 +72,7 @@ TEST(Save, AWeekWritesThePiecesItChangedAndNothingElse) {
   EXPECT_EQ(next.game.world.weekNumber, 9);
 }
 
-TEST(Save, AListThatEmptiedIsThereAsAnEmptyListAndGrowsAgain) {
+TEST(SaveAndLoad, SavesEmptiedLists) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
@@ -97,7 +97,7 @@ TEST(Save, AListThatEmptiedIsThereAsAnEmptyListAndGrowsAgain) {
   EXPECT_EQ(last.game.world.trackFans, IntList{3});
 }
 
-TEST(Save, AListLeftByAnImportLoadsAndIsCutIntoPiecesWhenNextWritten) {
+TEST(SaveAndLoad, LoadsImportedListsAndSavesPieces) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
@@ -120,8 +120,8 @@ TEST(Save, AListLeftByAnImportLoadsAndIsCutIntoPiecesWhenNextWritten) {
   EXPECT_EQ(next.game.world.trackFans, play.game.world.trackFans);
 }
 
-// A slot that lacks a key must not make the next week add its changes to nothing.
-TEST(Save, AListWhoseKeyVanishedIsWrittenWhole) {
+// If a slot lacks a key, the next save must write the whole list.
+TEST(SaveAndLoad, RewritesListsWithoutTheirKey) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
@@ -136,7 +136,7 @@ TEST(Save, AListWhoseKeyVanishedIsWrittenWhole) {
   EXPECT_EQ(next.game.world.trackFans.size(), 37u);
 }
 
-TEST(Save, OneDamagedPieceCostsItsListOnlyAndIsKeptAsideWithItsNeighbours) {
+TEST(SaveAndLoad, SetsDamagedListsAside) {
   MemoryPort port;
   storeLists(port);
   port.pieces.at({"saveAllChildList", 1}).bytes.resize(20);
@@ -158,7 +158,7 @@ TEST(Save, OneDamagedPieceCostsItsListOnlyAndIsKeptAsideWithItsNeighbours) {
   EXPECT_EQ(next.game.world.saveAllChildList, List<Child>{child(1)});
 }
 
-TEST(Save, AValueOfAnotherKindLeavesTheVariableAndIsNotLost) {
+TEST(SaveAndLoad, SetsValuesOfAnotherKindAside) {
   MemoryPort port;
   const std::pair<const char*, Value> odd[] = {
       {"weekNumber", Value{std::string("soon")}},
@@ -170,7 +170,7 @@ TEST(Save, AValueOfAnotherKindLeavesTheVariableAndIsNotLost) {
   };
   Launch before(port);
   for (const auto& [key, value] : odd) before.store.put(key, value);
-  // Pieces under a key that holds no list in this version.
+  // Pieces of a key that is not a list in this version.
   before.store.putPieces("yearNumber", Shape::plainList, true, {{0, plist::write(Value{Array{}})}});
   ASSERT_TRUE(before.store.commit());
 

@@ -1,7 +1,6 @@
 #pragma once
 
-// The table of variables once more, with each variable's own type: what the program itself walks as data
-// (core/variables.h), its tests compare value by value.
+// The table of variables with static types, for tests that compare values (core/variables.h has it as data).
 
 #include <string_view>
 
@@ -9,7 +8,7 @@
 
 namespace tb::test {
 
-// In the restart column: a restart leaves the variable as it is.
+// Restart value: the restart does not change the variable.
 struct Kept {
   explicit constexpr Kept(bool) {}
 };

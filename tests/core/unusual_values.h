@@ -1,7 +1,7 @@
 #pragma once
 
-// A value of any type of the state that no table row starts with: every field filled, none like its
-// neighbour, so that a value that lands in the wrong place is seen.
+// A value that differs from every start value. All fields are set and differ from each other, so that swapped
+// fields are found.
 
 #include <cstddef>
 #include <cstdint>
@@ -28,7 +28,7 @@ class Unusual {
     for (int count = 0; count < 2; ++count) fill(values.emplace_back());
   }
 
-  // Two elements: one with its optional fields filled, one without.
+  // Two elements: one with its optional fields, one without.
   template <class T>
   void fill(List<T>& list) {
     for (const bool complete : {true, false}) {

@@ -53,7 +53,7 @@ class BookSession : public Session {
   }
 
   void commit() {
-    // A commit that fails shows as a key that is behind.
+    // A failed commit shows up as an outdated key.
     (void)store_.commit();
   }
 
@@ -69,6 +69,6 @@ class BookSession : public Session {
 
 }  // namespace
 
-std::unique_ptr<Session> keepBooks(StorePort& port) { return std::make_unique<BookSession>(port); }
+std::unique_ptr<Session> playBookkeeping(StorePort& port) { return std::make_unique<BookSession>(port); }
 
 }  // namespace tb::crash

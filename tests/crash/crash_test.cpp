@@ -1,11 +1,11 @@
-// The process killed at random moments, again and again: the store opens each time, and all that it holds is
-// from before or after one and the same action.
+// Kills the process at random moments: the store must open every time and hold the state before or after an
+// action.
 //
-//   crash_test KILLS      of each of the two sessions
+//   crash_test KILLS      per session type
 //
-// A child plays on the SQLite store and says after each action that it is done; the parent kills it, plays
-// the same actions in memory, and compares the whole dictionaries. The store must hold every action that was
-// said to be done and may hold the one after it, whole.
+// A child process plays on the SQLite store and reports each finished action. The parent kills it, plays the
+// same actions in memory, and compares the dictionaries. The store must hold all reported actions and may
+// hold the next one completely.
 
 #include <algorithm>
 #include <array>
@@ -33,11 +33,11 @@ namespace {
 
 using std::chrono::microseconds;
 
-constexpr int killsPerCareer = 25;                  // then the store begins anew: beginnings are killed, too
-constexpr std::uint64_t actionsPerLaunch = 10'000;  // action numbers that a launch has to itself
-constexpr std::uint64_t mostActions = 12;           // that are done before the kill
-constexpr microseconds longestLaunch{40'000};       // a kill without an action done comes this late at most
-constexpr microseconds longestAction{4'000};        // and a kill after an action this late
+constexpr int killsPerCareer = 25;  // then starts a new store, so that creation is interrupted too
+constexpr std::uint64_t actionsPerLaunch = 10'000;  // action numbers reserved for a launch
+constexpr std::uint64_t mostActions = 12;           // before the kill
+constexpr microseconds longestLaunch{40'000};       // latest kill during a launch
+constexpr microseconds longestAction{4'000};        // latest kill after an action
 
 std::uint64_t actionNumber(std::uint64_t launch, std::uint64_t step) {
   return launch * actionsPerLaunch + step;
@@ -59,7 +59,7 @@ std::uint64_t actionNumber(std::uint64_t launch, std::uint64_t step) {
   _exit(0);
 }
 
-// Waits for `count` steps to be done; says how many were, which is fewer when the child ended.
+// Waits for `count` steps and returns the number finished, which is smaller if the child ended.
 std::uint64_t awaitSteps(int progress, std::uint64_t count) {
   std::uint64_t done = 0;
   char mark = 0;
@@ -67,8 +67,8 @@ std::uint64_t awaitSteps(int progress, std::uint64_t count) {
   return done;
 }
 
-// Plays in a child that is killed somewhere in the step after `calm` steps, or soon after that. Answers with
-// the number of steps that were done; the launch is the first.
+// Plays in a child that is killed during or soon after the step after `calm` steps. Returns the number of
+// finished steps, including the launch.
 std::uint64_t playAndKill(const std::filesystem::path& folder, Launch launch, std::uint64_t number,
                           std::uint64_t calm, microseconds wait) {
   std::array<int, 2> progress{};
@@ -92,8 +92,8 @@ std::uint64_t playAndKill(const std::filesystem::path& folder, Launch launch, st
 
 struct Tally {
   int kills = 0;
-  int unfinished = 0;  // kills that struck before the commit of the action they interrupted, or between two
-  int finished = 0;    // kills that struck after that commit
+  int unfinished = 0;  // kills before a commit or between actions
+  int finished = 0;    // kills after the commit
   std::uint64_t steps = 0;
 };
 
@@ -103,7 +103,7 @@ class Career {
     std::filesystem::create_directories(folder_);
   }
 
-  // One launch, its kill, and the comparison. False when the store is not as it should be.
+  // A launch, its kill, and the comparison. False when the store is wrong.
   bool survive(std::uint64_t number, std::uint64_t calm, microseconds wait, Tally& tally) {
     const std::uint64_t steps = playAndKill(folder_, launch_, number, calm, wait);
     const auto port = SqlitePort::open(folder_);
@@ -155,7 +155,7 @@ class Career {
 
   std::filesystem::path folder_;
   Launch launch_;
-  test::MemoryPort memory_;  // the same career, never killed
+  test::MemoryPort memory_;  // the same career without kills
 };
 
 bool surviveKills(const std::filesystem::path& folder, const char* name, Launch launch, int kills) {
@@ -181,7 +181,7 @@ int main(int kills) {
   std::string name = (std::filesystem::temp_directory_path() / "billing-crash-XXXXXX").string();
   const std::filesystem::path folder = mkdtemp(name.data());
   const bool whole =
-      surviveKills(folder, "books", keepBooks, kills) && surviveKills(folder, "game", playGame, kills);
+      surviveKills(folder, "books", playBookkeeping, kills) && surviveKills(folder, "game", playGame, kills);
   if (!whole) {
     std::println(stderr, "The store is left in {}", folder.string());
     return 1;

@@ -15,7 +15,7 @@ namespace {
 
 using test::Player;
 
-// Labels that lead on. What else the page offers is used too, but a career should get somewhere.
+// Labels that advance the career; they are chosen more often than others.
 constexpr const char* favourites[] = {"Start my career", "End Week", "OK"};
 constexpr std::int64_t favoured = 3;  // in 10 actions
 

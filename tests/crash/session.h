@@ -1,8 +1,7 @@
 #pragma once
 
-// One launch of something that plays, on any store. What it does depends on nothing but what the store held
-// at the launch and the numbers of the actions since: so the same session can be played twice, once in a
-// process that is killed and once in memory, and what the two stores hold can be compared.
+// A deterministic session on a store. It depends only on the store's content at launch and on the action
+// numbers, so it can be repeated in memory and compared.
 
 #include <cstdint>
 #include <memory>
@@ -18,18 +17,18 @@ class Session {
   Session& operator=(const Session&) = delete;
   virtual ~Session() = default;
 
-  // One player action, made durable before this returns.
+  // One action, durable when it returns.
   virtual void act(std::uint64_t number) = 0;
 };
 
-// What a launch itself writes is durable when it returns.
+// Opens a session. Its writes are durable when it returns.
 using Launch = std::unique_ptr<Session> (*)(StorePort& port);
 
-// The real game: a career played by pressing, typing and sliding whatever the page offers.
+// The game itself, played by random presses, texts and slides.
 std::unique_ptr<Session> playGame(StorePort& port);
 
-// The hardest case for a store: every action writes scalars, changes lists at both ends and in the middle,
-// empties and replaces some, and now and then puts another career in the place of this one.
-std::unique_ptr<Session> keepBooks(StorePort& port);
+// A stress test for the store: every action writes scalars, changes lists at both ends and in the middle,
+// clears and replaces some, and sometimes replaces the whole career.
+std::unique_ptr<Session> playBookkeeping(StorePort& port);
 
 }  // namespace tb::crash

@@ -1,4 +1,4 @@
-// The tables that films are made from.
+// The catalogue's tables.
 
 #include "film/catalogue.h"
 
@@ -13,7 +13,7 @@
 namespace tb {
 namespace {
 
-TEST(Catalogue, EveryRowCanBeCast) {
+TEST(Catalogue, HasCompleteRows) {
   for (const auto& [rows, count] :
        {std::pair{movies(), 145}, {royaltyMovies(), 23}, {investmentMovies(), 36}}) {
     EXPECT_EQ(std::ssize(rows), count);
@@ -26,13 +26,13 @@ TEST(Catalogue, EveryRowCanBeCast) {
       EXPECT_FALSE(row.sights.prop.empty() || row.sights.place.empty()) << row.title;
     }
   }
-  EXPECT_EQ(sightsOf("Neon Horizon").prop, "parcel");
-  EXPECT_EQ(sightsOf("Nightglass: Dead Frequency").place, "highway");
-  EXPECT_FALSE(sightsOf("A title of another game").prop.empty());
+  EXPECT_EQ(nounsOf("Neon Horizon").prop, "parcel");
+  EXPECT_EQ(nounsOf("Nightglass: Dead Frequency").place, "highway");
+  EXPECT_FALSE(nounsOf("A title of another game").prop.empty());
   EXPECT_EQ(movies().front().genre, (std::vector<std::string>{"Sci-Fi", "Thriller"}));
 }
 
-TEST(Catalogue, ASagaGoesOnByNumbersWithoutAGap) {
+TEST(Catalogue, NumbersSagasWithoutGaps) {
   const MovieFranchise* before = nullptr;
   ASSERT_EQ(movieFranchises().size(), 22U);
   for (const MovieFranchise& entry : movieFranchises()) {
@@ -43,7 +43,7 @@ TEST(Catalogue, ASagaGoesOnByNumbersWithoutAGap) {
   }
 }
 
-TEST(Catalogue, TheTablesOfAllTimeAreRankedAndAddUp) {
+TEST(Catalogue, HasConsistentAllTimeTables) {
   EXPECT_TRUE(std::ranges::is_sorted(movieRecords(), std::greater{}, &MovieRecord::worldwide));
   for (const MovieRecord& row : movieRecords()) EXPECT_LT(row.domestic, row.worldwide) << row.title;
   EXPECT_TRUE(std::ranges::is_sorted(tvRecords(), std::greater{}, &TVRecord::imdbRating));
@@ -51,7 +51,7 @@ TEST(Catalogue, TheTablesOfAllTimeAreRankedAndAddUp) {
   EXPECT_EQ(tvRecords().back().rank, 250);
 }
 
-TEST(Catalogue, NoTwoTitlesThatAPlayerMeetsAreTheSame) {
+TEST(Catalogue, HasUniqueTitles) {
   std::set<std::string> titles;
   const auto add = [&](const auto& rows) {
     for (const auto& row : rows) EXPECT_TRUE(titles.insert(row.title).second) << row.title;
@@ -65,7 +65,7 @@ TEST(Catalogue, NoTwoTitlesThatAPlayerMeetsAreTheSame) {
   add(rateMovieCatalogue());
 }
 
-TEST(Catalogue, TheStarsRatingsAreDrawnAnewEachTime) {
+TEST(Catalogue, RedrawsStarRatings) {
   test::ScriptedRandom random;
   for (int star = 0; star < 100; ++star) random.range(91, 90).range(51, 0);
   const std::vector<Bankable> stars = bankables(random);

@@ -1,4 +1,4 @@
-// What the rules of finished titles come to, on both sides of each of their limits.
+// Golden sheets of the film rules, on both sides of each limit.
 
 #include <format>
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ const auto ofNothing = [](WorldState&) {};
 
 std::string joinedCast(const Film& film) { return test::textOf(castList(film)); }
 
-// The start of a long text, which tells which bank it is from.
+// The start of a long text, which identifies its bank.
 std::string startOf(const std::string& text) { return text.substr(0, 40); }
 
 TEST(GoldenFilm, ScoresByTypeAndDirector) {
@@ -58,7 +58,7 @@ TEST(GoldenFilm, ScoresByTypeAndDirector) {
   }
 }
 
-TEST(GoldenFilm, FansByBudgetAndFame) {
+TEST(GoldenFilm, FansByBudgetAndFans) {
   Sheet sheet("film_fans");
   const auto gain = [&](double budget, std::int64_t fans, double quality, double weight) {
     sheet.text(
@@ -87,7 +87,7 @@ TEST(GoldenFilm, FansByBudgetAndFame) {
   }
 }
 
-// A project out of the list of what it can promise.
+// A project with royalties and equity.
 Audition promising(std::int64_t type, std::int64_t part, std::int64_t didAct) {
   Audition project = projectOf(type);
   project.isPrincipal = part;
@@ -130,7 +130,7 @@ TEST(GoldenFilm, FromTheWrapToTheEndOfTheRun) {
             if (project.typeOfFilm != filmType::series) world.saveAllRatings.clear();
           },
           [](Game& game) {
-            advanceReleasedProject(game, 0);
+            advanceReleasedProject(game, game.world.saveAllAuditionList[0]);
             closeBoxOffice(game);
           },
           static_cast<std::uint64_t>(week + 5));
@@ -149,7 +149,7 @@ TEST(GoldenFilm, FromTheWrapToTheEndOfTheRun) {
       [](WorldState& world) { world.saveAllFilmList.edit(0).budget = 1e6; });
 }
 
-TEST(GoldenFilm, OpeningsByBudgetAndWhatJojoPosts) {
+TEST(GoldenFilm, OpeningsAndJojosPosts) {
   Sheet sheet("film_openings");
   for (const double budget : {0.0, 1e5, 1e6, 1e9}) {
     Audition project = projectOf(filmType::feature);
@@ -178,7 +178,7 @@ TEST(GoldenFilm, PremieresAndEpisodesByCrewAndScores) {
     project.writerRating = crew - 50;
     sheet.changes(
         std::format("crew {}", crew), [&](WorldState& world) { test::addReleased(world, project); },
-        [](Game& game) { advanceReleasedProject(game, 0); });
+        [](Game& game) { advanceReleasedProject(game, game.world.saveAllAuditionList[0]); });
   }
   for (const auto& [rating, metascore] : {std::pair{2.0, 40},
                                           {2.001, 40},
@@ -205,7 +205,7 @@ TEST(GoldenFilm, PremieresAndEpisodesByCrewAndScores) {
                  .premiereViews = std::vector<double>(static_cast<std::size_t>(week), 1e6),
                  .hoursWatched = std::vector<std::int64_t>(static_cast<std::size_t>(week), 9)}};
           },
-          [](Game& game) { advanceReleasedProject(game, 0); });
+          [](Game& game) { advanceReleasedProject(game, game.world.saveAllAuditionList[0]); });
     }
   }
 }
@@ -227,7 +227,7 @@ Film talkedAbout(std::int64_t type, double popularity) {
           .sourceId = 4};
 }
 
-TEST(GoldenFilm, TalkFadesOrGrows) {
+TEST(GoldenFilm, PopularityDrift) {
   Sheet sheet("film_talk");
   for (std::uint64_t seed = 1; seed <= 12; ++seed) {
     for (const double popularity : {0.0, 0.05, 50.0, 99.9}) {
@@ -249,7 +249,7 @@ TEST(GoldenFilm, TalkFadesOrGrows) {
   }
 }
 
-TEST(GoldenFilm, BidsByTalkAgeAndWorth) {
+TEST(GoldenFilm, BidsByPopularityAgeAndValue) {
   Sheet sheet("film_bids");
   const auto bid = [&](const std::string& what, const Film& film, const Sheet::Prepare& prepare) {
     for (const std::uint64_t seed : {3, 8, 11}) {
@@ -262,7 +262,7 @@ TEST(GoldenFilm, BidsByTalkAgeAndWorth) {
             world.saveAllRatings = {{.filmId = 7, .premiereViews = {400, 600, 200}}};
             prepare(world);
           },
-          [](Game& game) { takeSyndicationBids(game); }, seed);
+          [](Game& game) { drawSyndicationBids(game); }, seed);
     }
   };
   for (const double talk :
@@ -292,7 +292,7 @@ TEST(GoldenFilm, BidsByTalkAgeAndWorth) {
   }
 }
 
-// A title with three bids, the first of four weeks ago.
+// A title with three bids, the first four weeks ago.
 Syndication withBids() {
   return {.filmId = 7,
           .filmName = "Salt Road",
@@ -316,7 +316,7 @@ void prepareDeal(WorldState& world, const Syndication& title) {
   world.saveAllSyndication = {title};
 }
 
-TEST(GoldenFilm, DealsAreStruckPaidAndEnded) {
+TEST(GoldenFilm, DealsFromStartToEnd) {
   Sheet sheet("film_deals");
   const auto live = [&](const std::string& what, const Syndication& title, const Sheet::Prepare& prepare,
                         std::uint64_t seed = 1) {
@@ -380,7 +380,7 @@ TEST(GoldenFilm, DealsAreStruckPaidAndEnded) {
   }
 }
 
-TEST(GoldenFilm, WhatAProjectsFilmTakesOver) {
+TEST(GoldenFilm, FilmRecordOfAProject) {
   Sheet sheet("film_records");
   for (std::int64_t type = filmType::feature; type <= filmType::shortFilm; ++type) {
     for (const auto& [season, parent] : {std::pair{2, 1}, {1, 1}, {2, 0}}) {
@@ -396,7 +396,7 @@ TEST(GoldenFilm, WhatAProjectsFilmTakesOver) {
             world.saveAllFilmList = {{.filmId = 1}};
           },
           [&](Game& game) {
-            makeFilm(game, project);
+            addFilm(game, project);
             Film film = game.world.saveAllFilmList.front();
             std::string text = test::shown(film) + "\n  cast";
             for (const std::int64_t part : {rolePart::background, rolePart::principal}) {
@@ -426,9 +426,9 @@ TEST(GoldenFilm, InterviewsByTheNumberOfFans) {
         [&](Game& game) {
           const Interview interview = openInterview(game, projectOf(filmType::feature));
           sheet.line(interview.talkShow + " | " + interview.question);
-          EXPECT_TRUE(promoteFilm(game, 0, interview, " \n "));
-          EXPECT_FALSE(promoteFilm(game, 0, interview, "  Because.  "));
-          EXPECT_TRUE(promoteFilm(game, 0, interview, "Again."));
+          EXPECT_TRUE(promoteFilm(game, 7, interview, " \n "));
+          EXPECT_FALSE(promoteFilm(game, 7, interview, "  Because.  "));
+          EXPECT_TRUE(promoteFilm(game, 7, interview, "Again."));
         });
   }
 }

@@ -1,4 +1,4 @@
-// What the player thinks of titles.
+// The player's ratings and reviews.
 
 #include "film/movie_reviews.h"
 
@@ -13,16 +13,16 @@
 namespace tb {
 namespace {
 
-using Reviewing = test::RuleTest;
+using MovieReviews = test::RuleTest;
 
-TEST_F(Reviewing, StarsAreGivenOnce) {
+TEST_F(MovieReviews, RatesAFilmOnce) {
   world.saveAllFilmList = {{.filmId = 1}, {.filmId = 2}};
-  rateFilm(game, 1, 9);
-  rateFilm(game, 1, 2);
+  rateFilm(game, 2, 9);
+  rateFilm(game, 2, 2);
   EXPECT_EQ(world.saveAllFilmList, (List<Film>{{.filmId = 1}, {.filmId = 2, .myRating = 9}}));
 }
 
-TEST_F(Reviewing, CostsTheEnergyOfAnEvening) {
+TEST_F(MovieReviews, CostsEnergy) {
   world.totalEnergyAvailable = 25;
   EXPECT_FALSE(startReview(game));
   EXPECT_EQ(world.totalEnergyAvailable, 0);
@@ -31,7 +31,7 @@ TEST_F(Reviewing, CostsTheEnergyOfAnEvening) {
   EXPECT_EQ(world.totalEnergyAvailable, 24);
 }
 
-TEST_F(Reviewing, AnyTitleOfTheCatalogueCanCome) {
+TEST_F(MovieReviews, DrawsAnyTitle) {
   random.range(210, 209);
   EXPECT_EQ(drawTitleToReview(random).title, rateMovieCatalogue().back().title);
   for (const CatalogueTitle& row : rateMovieCatalogue()) {
@@ -41,7 +41,7 @@ TEST_F(Reviewing, AnyTitleOfTheCatalogueCanCome) {
   }
 }
 
-TEST_F(Reviewing, AMadeUpReviewFitsItsStars) {
+TEST_F(MovieReviews, GeneratesReviewsByStars) {
   struct Case {
     std::int64_t rating;
     Bank middle, last;
@@ -52,7 +52,7 @@ TEST_F(Reviewing, AMadeUpReviewFitsItsStars) {
       {7, bank::reviewMiddle4, bank::reviewLast4}, {10, bank::reviewMiddle5, bank::reviewLast5}};
   for (const auto& [rating, middle, last] : cases) {
     random.range(30, 29).range(6, 0).range(6, 5);
-    game.told = {};
+    game.recentRows = {};
     const auto text = [](Bank bank, std::size_t row) {
       return std::string(markedRow(rowsOf(bank)[row]).text);
     };
@@ -61,7 +61,7 @@ TEST_F(Reviewing, AMadeUpReviewFitsItsStars) {
   }
 }
 
-TEST_F(Reviewing, AReviewNeedsStarsAndWordsAndComesFirst) {
+TEST_F(MovieReviews, AddsReviewsWithStarsAndText) {
   world.weekNumber = 7;
   world.yearNumber = 2031;
   world.weekNumberForTracking = 267;

@@ -1,4 +1,4 @@
-// The paragraph above the reviews, by the words in them.
+// The review summary, by keywords.
 
 #include "film/review_summary.h"
 
@@ -10,7 +10,7 @@
 namespace tb {
 namespace {
 
-// Slang and plain, good and bad, with and without topics; and the words on both sides of each label.
+// Casual and plain, good and bad, with and without topics, on both sides of each limit.
 const std::vector<std::vector<std::string>> reviews = {
     {"  Ngl I loved it. ", "", "Lowkey iconic, amazing."},
     {"No cap, fun story."},
@@ -37,7 +37,7 @@ const std::vector<std::vector<std::string>> reviews = {
     {},
     {"", " \n\t "}};
 
-TEST(GoldenReviewSummary, SpeaksTheLanguageOfTheReviewsAndNamesWhatTheyLikeAndWhatNot) {
+TEST(GoldenReviewSummary, SummariesByRegisterMoodAndTopics) {
   test::Sheet sheet("review_summaries");
   for (const auto& each : reviews) {
     for (const std::uint64_t seed : {1, 2}) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// A project that is wrapped and comes out in week 20, with its film.
+// A wrapped project that is released in week 20, with its film.
 
 #include <utility>
 
@@ -21,7 +21,7 @@ inline Audition projectOf(std::int64_t typeOfFilm) {
           .directorName = "Mina Falk"};
 }
 
-// The week of the release, with the project and its film.
+// Sets the week of the release and adds the project and its film.
 inline void addReleased(WorldState& world, Audition work) {
   world.myName = "Ada Quinn";
   world.agentFanBonus = 1;

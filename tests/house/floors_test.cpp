@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The floors of the house, lowest first. An include goes down or stays on its floor, never up.
+// The layers of src/, lowest first. A file includes files of its own or a lower layer only.
 const std::vector<std::string> floors = {"core",     "banks",  "social", "film",    "career", "life",
                                          "platform", "wealth", "week",   "screens", "shells"};
 
@@ -35,7 +35,7 @@ Includes readIncludes() {
 
 auto floorOf(const std::string& file) { return std::ranges::find(floors, file.substr(0, file.find('/'))); }
 
-TEST(House, IncludesGoDownTheFloors) {
+TEST(Architecture, IncludesFollowTheLayers) {
   const Includes includes = readIncludes();
   EXPECT_GT(includes.size(), 50u);
   for (const auto& [file, named] : includes) {
@@ -46,7 +46,7 @@ TEST(House, IncludesGoDownTheFloors) {
   }
 }
 
-// Finds the files on a circle of includes, if there is one, by following the headers.
+// Finds a cycle of includes, if there is one.
 bool reaches(const Includes& includes, const std::string& from, const std::string& wanted,
              std::set<std::string>& seen) {
   const auto found = includes.find(from);
@@ -56,7 +56,7 @@ bool reaches(const Includes& includes, const std::string& from, const std::strin
   });
 }
 
-TEST(House, FilesNeverIncludeEachOtherInACircle) {
+TEST(Architecture, HasNoIncludeCycles) {
   const Includes includes = readIncludes();
   for (const auto& [file, named] : includes) {
     std::set<std::string> seen;
@@ -64,8 +64,8 @@ TEST(House, FilesNeverIncludeEachOtherInACircle) {
   }
 }
 
-// A line that is added past core/log.h has no news beside it, and the review would show the news of another.
-TEST(House, LinesOfTheWeekAreAddedInOnePlace) {
+// Lines must be added with core/log.h, or WeekFeed and weekFeedNews get out of step.
+TEST(Architecture, OnlyLogAddsLines) {
   const std::set<std::string> known = {
       "core/log.cpp",        "core/log.h",        "core/news.h",      "core/world_variables.def",
       "week/front_page.cpp", "week/front_page.h", "week/summary.cpp", "week/summary.h"};

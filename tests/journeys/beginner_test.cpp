@@ -13,14 +13,14 @@
 namespace tb {
 namespace {
 
-// A beginner who does what the agenda says, from its top to its end, and nothing else.
+// A beginner who follows the agenda from top to bottom.
 class Beginner {
  public:
   explicit Beginner(std::uint64_t seed) : random_(seed) { refreshHub(game_, HubRefresh::launch); }
 
-  // The week of the first booking, or `last` when there is none until then.
+  // The week of the first booking, or `last` when there is none by then.
   std::int64_t weekOfFirstBooking(std::int64_t last) {
-    while (world().weekNumberForTracking < last && !isBooked()) liveAWeek();
+    while (world().weekNumberForTracking < last && !isBooked()) playAWeek();
     return world().weekNumberForTracking;
   }
   // True when an audition was rehearsed in the week of the first invitation.
@@ -33,7 +33,7 @@ class Beginner {
                                [](const Audition& project) { return project.funnelStage == funnel::booked; });
   }
 
-  void liveAWeek() {
+  void playAWeek() {
     rehearse();
     for (const AgendaItem& item : openItems(world())) doIt(item);
     endWeek(game_);
@@ -47,7 +47,8 @@ class Beginner {
     bool invited = false;
     for (const AgendaItem& item : dueItems(world())) {
       if (item.kind != AgendaItem::Kind::audition) continue;
-      while (boostOf(world(), world().saveAllAuditionList[item.index]) && !buyBoost(game_, item.index)) {
+      const Audition& project = world().saveAllAuditionList[item.index];
+      while (boostOf(world(), project) && !buyBoost(game_, project.filmId)) {
       }
       invited = true;
       rehearsed |= world().saveAllAuditionList[item.index].rehearsalBoostCount > 0;
@@ -82,7 +83,7 @@ class Beginner {
   bool rehearsed_at_once_ = false;
 };
 
-TEST(BeginnersByTheHub, ThirtyOfThemHaveTheirFirstBookingByWeekTwentyAtTheMedian) {
+TEST(BeginnerJourney, FirstBookingByWeek20AtTheMedian) {
   std::vector<std::int64_t> weeks;
   for (std::uint64_t seed = 1; seed <= 30; ++seed) {
     Beginner beginner(seed);
@@ -93,15 +94,15 @@ TEST(BeginnersByTheHub, ThirtyOfThemHaveTheirFirstBookingByWeekTwentyAtTheMedian
   EXPECT_LE(weeks[15], 20) << testing::PrintToString(weeks);
 }
 
-// The same with the screens: what is pressed, and how often.
-struct FirstWeeks : testing::Test {
+// The first weeks on the screens, with counts of presses.
+struct FirstWeeksJourney : testing::Test {
   test::SeededRandom random{5};
   test::Device device{random};
   test::Player& player() { return device.player(); }
   FirstWeeks() {
     device.begin([](WorldState&) {});
   }
-  // The buttons of the board that do not say that they would refuse, by their names.
+  // Names of the board's buttons that do not show a refusal.
   std::vector<std::string> openRoles() {
     std::vector<std::string> names;
     for (const view::Node& node : player().page().nodes) {
@@ -112,7 +113,7 @@ struct FirstWeeks : testing::Test {
   }
 };
 
-TEST_F(FirstWeeks, TheStepsLeadToWorkAndToTheBoardAndAWeekWithThreeSubmissionsTakesEightPressesAtMost) {
+TEST_F(FirstWeeksJourney, AWeekWithThreeSubmissionsTakesEightPresses) {
   player().expectSees({"Find work", "Send showreels", "End the week"});
   player().press("Send showreels");
   int presses = 1;
@@ -129,7 +130,7 @@ TEST_F(FirstWeeks, TheStepsLeadToWorkAndToTheBoardAndAWeekWithThreeSubmissionsTa
   player().expectSees({"Waiting to hear"});
 }
 
-TEST_F(FirstWeeks, AButtonThatWouldRefuseSaysWhyAndOneThatWasUsedSaysSo) {
+TEST_F(FirstWeeksJourney, ButtonsShowRefusalsAndCompletion) {
   device.begin([](WorldState& world) { world.totalEnergyAvailable = 25; });
   player().press("Send showreels");
   player().press(openRoles().front());
@@ -139,7 +140,7 @@ TEST_F(FirstWeeks, AButtonThatWouldRefuseSaysWhyAndOneThatWasUsedSaysSo) {
   EXPECT_EQ(device.world().totalEnergyAvailable, 5);
 }
 
-TEST_F(FirstWeeks, TheTabsAndEndWeekAreInReachOnEveryScreenAndBackLeadsHomeFirst) {
+TEST_F(FirstWeeksJourney, TabsAndEndWeekAreOnEveryScreen) {
   player().follow({"Work", "Talent", "Life"});
   player().expectSees({"EVERY WEEK TAKES"});
   player().follow({"Work", "Acting Classes", "End Week"});

@@ -1,20 +1,20 @@
 #pragma once
 
-// What the books say came in and went out, week by week, for journeys that follow the cash.
+// Expected cash from the records, week by week.
 
 #include "core/world_state.h"
 
 namespace tb::test {
 
 struct Books {
-  double records = 0;  // of what titles paid, residuals excepted
+  double records = 0;  // payments for titles, without residuals
   double residuals = 0;
   double jobs = 0;
   double bills = 0;
 
   [[nodiscard]] double balance() const { return records + residuals + jobs - bills; }
 
-  // Enters the week that the clock shows, once its summary is open.
+  // Adds the current week. Call it while the summary is open.
   void addTheWeek(const WorldState& world) {
     const std::int64_t week = world.weekNumberForTracking;
     for (const WeeklyEarnings& line : world.saveAllWeeklyEarnings) {

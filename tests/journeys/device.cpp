@@ -67,7 +67,7 @@ void Device::endWeek() {
   EXPECT_EQ(player().title(), "REVIEW");
 }
 
-std::vector<std::string> Device::liveWeeks(int weeks) {
+std::vector<std::string> Device::playWeeks(int weeks) {
   std::vector<std::string> told;
   for (int week = 0; week < weeks; ++week) {
     endWeek();

@@ -1,7 +1,7 @@
 #pragma once
 
-// One device: its storage outlives the game that runs on it, so that a story can go on after a restart of the
-// program. And what stories of films begin with: leads that wrap in the first week.
+// A device whose storage outlives the game, so that a test can relaunch it. Also makes leads that wrap in the
+// first week.
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -16,19 +16,19 @@
 namespace tb::test {
 
 Audition bookedLead(std::int64_t filmId, std::int64_t typeOfFilm, const std::string& title);
-// A film of the performer's own, who does not act in it and holds a tenth.
+// The performer's own production, without a role and with an equity of a tenth.
 Audition ownProduction(std::int64_t filmId, const std::string& title);
 
-// Writes a whole career, as `prepare` makes it, to the store.
+// Writes the career that `prepare` sets up to the store.
 void storeCareer(SaveStore& store, RandomSource& random, const std::function<void(WorldState&)>& prepare);
 
 class Device {
  public:
   explicit Device(RandomSource& random) : random_(random) {}
 
-  // Stores a career as `prepare` makes it, and opens the game on it.
+  // Stores the career that `prepare` sets up, and launches the game.
   void begin(const std::function<void(WorldState&)>& prepare);
-  // Ends the game, if it runs, and opens it on what is stored.
+  // Ends the game, if it is running, and launches it on the stored data.
   void launch();
 
   [[nodiscard]] App& app() { return running_->app; }
@@ -41,8 +41,8 @@ class Device {
 
   // Ends a week and leaves its summary open.
   void endWeek();
-  // Ends weeks and closes their summaries; says what the last one told.
-  std::vector<std::string> liveWeeks(int weeks = 1);
+  // Ends weeks and closes their summaries; returns the words of the last one.
+  std::vector<std::string> playWeeks(int weeks = 1);
 
   MemoryPort port;
 

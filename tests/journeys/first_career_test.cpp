@@ -7,7 +7,7 @@ namespace {
 
 using test::Player;
 
-struct FirstCareer : testing::Test {
+struct FirstCareerJourney : testing::Test {
   test::SeededRandom random{2026};
   test::Device device{random};
 
@@ -27,7 +27,7 @@ struct FirstCareer : testing::Test {
     startCareer();
   }
 
-  // The hub as a player sees it, tab by tab.
+  // The words of all tabs of the hub.
   std::vector<std::string> hubInFull() {
     std::vector<std::string> all;
     for (const char* tab : {"Work", "Social", "Life", "Wealth", "Home"}) {
@@ -39,7 +39,7 @@ struct FirstCareer : testing::Test {
   }
 };
 
-TEST_F(FirstCareer, AStrangerStartsTrainsAndFindsEverythingAsItWas) {
+TEST_F(FirstCareerJourney, ARelaunchRestoresANewCareer) {
   Player& player = device.player();
   EXPECT_EQ(player.title(), "Ada {title} Vale");
   player.expectSees({"JANUARY\n2, 2026"});
@@ -61,7 +61,7 @@ TEST_F(FirstCareer, AStrangerStartsTrainsAndFindsEverythingAsItWas) {
   EXPECT_EQ(hubInFull(), before);
 }
 
-TEST_F(FirstCareer, LivesForYearsAndComesBackTheSameInAnyWeek) {
+TEST_F(FirstCareerJourney, ARelaunchRestoresAnyWeek) {
   for (int week = 1; week <= 120; ++week) {
     device.endWeek();
     device.player().expectSees(
@@ -70,7 +70,7 @@ TEST_F(FirstCareer, LivesForYearsAndComesBackTheSameInAnyWeek) {
     if (week % 12 != 0) continue;
     auto before = hubInFull();
     device.launch();
-    // The card index starts its history anew at every launch; all else is as it was.
+    // The card index history restarts at every launch; everything else must be unchanged.
     const auto strip = [](std::vector<std::string>& words) {
       const auto chart = std::ranges::find(words, "Card index");
       words.erase(chart, std::find(chart, words.end(), "Home"));
@@ -86,11 +86,11 @@ TEST_F(FirstCareer, LivesForYearsAndComesBackTheSameInAnyWeek) {
   EXPECT_EQ(world.weekNumberForTracking, 121);
   EXPECT_EQ(world.ageCount, 39);
   EXPECT_EQ(world.totalEnergyMax, 98);
-  EXPECT_EQ(world.activityTracker.size(), 240u);  // each week its date and that nothing happened
+  EXPECT_EQ(world.activityTracker.size(), 240u);  // two lines per week: date and "nothing happened"
   EXPECT_EQ(world.activityTracker.front(), "APRIL 21, 2028");
 }
 
-TEST_F(FirstCareer, AGameCutShortInItsSummaryComesBackWithTheWeekPlayed) {
+TEST_F(FirstCareerJourney, AGameThatEndsInTheSummaryKeepsTheWeek) {
   device.endWeek();
   device.launch();
   EXPECT_EQ(device.world().weekNumber, 2);
@@ -99,8 +99,8 @@ TEST_F(FirstCareer, AGameCutShortInItsSummaryComesBackWithTheWeekPlayed) {
   device.player().expectSees({"JANUARY\n9, 2026"});
 }
 
-TEST_F(FirstCareer, ARestartLeadsBackToTheForm) {
-  device.liveWeeks();
+TEST_F(FirstCareerJourney, ARestartOpensTheForm) {
+  device.playWeeks();
   device.player().follow({"Settings", "Restart?"});
   EXPECT_EQ(device.player().notice(), "Restart?");
   device.player().press("Keep playing");
@@ -111,7 +111,7 @@ TEST_F(FirstCareer, ARestartLeadsBackToTheForm) {
   device.player().expectSees({"JANUARY\n2, 2026"});
 }
 
-TEST_F(FirstCareer, AFullDiskIsToldOnceAndNothingIsLost) {
+TEST_F(FirstCareerJourney, ReportsAFullDiskOnceAndLosesNothing) {
   Player& player = device.player();
   device.port.failAll(true);
   player.press("End Week");

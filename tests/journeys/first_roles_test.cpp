@@ -9,8 +9,8 @@
 namespace tb {
 namespace {
 
-// A performer on the road from the casting board to the screen.
-struct FirstRoles : testing::Test {
+// From the casting board to the release.
+struct FirstRolesJourney : testing::Test {
   test::ScriptedRandom chance{test::Unscripted::low};
   test::Device device{chance};
 
@@ -21,8 +21,7 @@ struct FirstRoles : testing::Test {
     });
   }
 
-  // Finds the first project of that type on the casting network, where all else is low, and submits for it.
-  // Says what it is called.
+  // Submits for the first project of that type on the casting network and returns its title.
   std::string submitFor(std::int64_t part, std::int64_t typeOfFilm) {
     const auto row = std::ranges::find(movies(), typeOfFilm, &Movie::type);
     device.player().press("The Backstage");
@@ -33,10 +32,10 @@ struct FirstRoles : testing::Test {
     return row->title;
   }
 
-  // Lives a week that tells the line, in which the die of the one open project wins.
-  void liveWeekThatTells(const std::string& line, bool isLucky = false) {
+  // Plays a week and expects the line. If `isLucky`, the open project's roll wins.
+  void playWeekExpecting(const std::string& line, bool isLucky = false) {
     if (isLucky) chance.any(2).range(3, 1);
-    const auto told = device.liveWeeks();
+    const auto told = device.playWeeks();
     EXPECT_TRUE(std::ranges::any_of(told, [&](const std::string& words) { return words.contains(line); }))
         << line << " in " << testing::PrintToString(told);
   }
@@ -46,22 +45,22 @@ struct FirstRoles : testing::Test {
     while (device.player().title() != "Ada Quinn") device.player().press("Back");
   }
 
-  // From the submission to the wrap: audition two weeks on, four more to the wrap.
+  // From submission to wrap: the audition after two weeks, the wrap four weeks later.
   void bookAndWrap(const std::string& spokenOf, const std::string& title) {
-    liveWeekThatTells("You were invited to audition for " + spokenOf + " in 1 week(s).", true);
+    playWeekExpecting("You were invited to audition for " + spokenOf + " in 1 week(s).", true);
     openProject(title);
     device.player().press("REHEARSE");
     backToHub();
-    device.liveWeeks();
-    liveWeekThatTells("You auditioned for " + spokenOf +
+    device.playWeeks();
+    playWeekExpecting("You auditioned for " + spokenOf +
                           " and the cast director offered you the role. Shooting begins in 3 week(s).",
                       true);
-    device.liveWeeks(3);
-    liveWeekThatTells("You wrapped filming for " + spokenOf + ".");
+    device.playWeeks(3);
+    playWeekExpecting("You wrapped filming for " + spokenOf + ".");
   }
 };
 
-TEST_F(FirstRoles, ANewcomerTakesAJobAndSeesTheFirstFilmOpenRunAndClose) {
+TEST_F(FirstRolesJourney, ANewcomersFirstFilmOpensRunsAndCloses) {
   start(0, 1);
   test::Player& player = device.player();
   player.press("Work");
@@ -76,26 +75,26 @@ TEST_F(FirstRoles, ANewcomerTakesAJobAndSeesTheFirstFilmOpenRunAndClose) {
   bookAndWrap(title, title);
   EXPECT_EQ(device.project().rehearsalBoostCount, 1);
 
-  device.liveWeeks(8);  // the release, eight weeks after the wrap
+  device.playWeeks(8);  // the release, eight weeks after the wrap
   const double opening = std::pow(3, 0.01) * 100'000 * 0.03 * 0.98;
   ASSERT_EQ(device.world().saveAllBoxOfficeList.size(), 1u);
   EXPECT_NEAR(device.world().saveAllBoxOfficeList[0].openingWeekend, opening, 1e-6);
-  // A film of rating 1 and metascore 5 keeps a tenth of its hype of 1, which is forgotten at once.
+  // With rating 1 and metascore 5 the popularity is a tenth of the hype of 1 and falls to 0 at once.
   const std::int64_t id = device.project().filmId;
   EXPECT_NEAR(device.film(id).lastWeekPopularity, 0.1, 1e-9);
   EXPECT_NEAR(device.film(id).currentPopularity, 0, 1e-9);
-  device.liveWeeks(7);
-  EXPECT_NEAR(device.film(id).boxOfficeGross, opening * (1 + 0.5 * 2.1), 1e-6);  // closed in the same review
+  device.playWeeks(7);
+  EXPECT_NEAR(device.film(id).boxOfficeGross, opening * (1 + 0.5 * 2.1), 1e-6);  // closed in the same week
   openProject(title);
   player.expectSees({"BOX OFFICE GROSS: $6.1K", "OPENING WEEKEND: $3.0K", "BUDGET: $100K", "RETURN: 6%"});
 }
 
-TEST_F(FirstRoles, AStudentFilmAndACommercialComeAndGoWithoutABoxOffice) {
+TEST_F(FirstRolesJourney, StudentFilmsAndCommercialsHaveNoBoxOffice) {
   start(0, 1);
   const std::string title = submitFor(rolePart::principal, filmType::studentFilm);
   bookAndWrap(title, title);
   bookAndWrap("a commercial", submitFor(rolePart::principal, filmType::commercial));
-  device.liveWeeks(9);
+  device.playWeeks(9);
   for (const std::size_t index : {0u, 1u}) {
     EXPECT_GT(device.film(device.project(index).filmId).imbdRating, 0);
   }
@@ -105,7 +104,7 @@ TEST_F(FirstRoles, AStudentFilmAndACommercialComeAndGoWithoutABoxOffice) {
   EXPECT_FALSE(device.player().sees("RETURN"));
 }
 
-TEST_F(FirstRoles, AMemberLeadsASeriesIntoItsSecondSeason) {
+TEST_F(FirstRolesJourney, AMembersSeriesIsRenewed) {
   start(1, 80);
   test::Player& player = device.player();
   const std::string title = submitFor(rolePart::principal, filmType::series);
@@ -122,20 +121,19 @@ TEST_F(FirstRoles, AMemberLeadsASeriesIntoItsSecondSeason) {
   EXPECT_FALSE(player.sees("PROMOTE"));
   backToHub();
 
-  // The premiere: director 67 and level 80 make a hype of 49; the viewers give it the best that such a
-  // director gets.
-  device.liveWeeks(7);
+  // The premiere: director 67 and level 80 give a hype of 49; the rating is the highest for that director.
+  device.playWeeks(7);
   chance.any(5).unit(1);
-  device.liveWeeks();
+  device.playWeeks();
   EXPECT_EQ(device.film(device.project().filmId).imbdRating, 6);
   const double premiere = std::pow(3, 0.49) * 100'000 * 0.05;
   ASSERT_EQ(device.world().saveAllRatings.size(), 1u);
   EXPECT_NEAR(device.world().saveAllRatings[0].premiereViews[0], premiere, 1e-6);
-  device.liveWeeks(9);
+  device.playWeeks(9);
   EXPECT_EQ(device.world().saveAllRatings[0].premiereViews.size(), 8u);
 
-  // In the eleventh week the verdict, with 6 above the low draw.
-  liveWeekThatTells(title + " has been renewed for season 2!");
+  // The verdict in week 11: rating 6 is above the low draw.
+  playWeekExpecting(title + " has been renewed for season 2!");
   ASSERT_EQ(device.world().saveAllAuditionList.size(), 2u);
   EXPECT_EQ(device.project(1).funnelStage, funnel::booked);
   EXPECT_NEAR(device.project(1).budget, 110'000, 1e-6);
@@ -144,14 +142,14 @@ TEST_F(FirstRoles, AMemberLeadsASeriesIntoItsSecondSeason) {
   player.press("WORK ON YOUR PERFORMANCE");
   EXPECT_EQ(device.project(1).performanceBoostCount, 1);
   backToHub();
-  device.liveWeeks(6);
-  liveWeekThatTells("You wrapped filming for " + title + " Season 2.");
-  device.liveWeeks(8);
+  device.playWeeks(6);
+  playWeekExpecting("You wrapped filming for " + title + " Season 2.");
+  device.playWeeks(8);
   EXPECT_EQ(device.world().saveAllRatings.size(), 2u);
 
   openProject(title + " Season 2");
   player.expectSees({"TOTAL GROSS"});
-  player.press(title);  // what came before
+  player.press(title);  // the earlier season
   player.expectSees({"PREMIERE: " + shortCount(static_cast<std::int64_t>(premiere))});
 }
 

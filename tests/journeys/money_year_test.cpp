@@ -1,5 +1,5 @@
-// A working performer's first year of money, as the screens tell it: a temp job, sessions, the checks of a
-// commercial, an own production, the guild, and bills every week.
+// The money of a year on the screens: a temp job, sessions, a commercial's residuals, an own production, the
+// guild, and weekly bills.
 
 #include <format>
 #include <gtest/gtest.h>
@@ -33,8 +33,8 @@ void prepare(WorldState& world) {
   }
 }
 
-// Looks in at the board until there is an offer on it.
-void takeAJob(test::Device& device) {
+// Opens the board until it has an offer, and accepts it.
+void acceptAJob(test::Device& device) {
   for (int look = 0; look < 50 && device.world().weeklyJobTitle.empty(); ++look) {
     device.player().follow({"Work", "Job Board"});
     if (!device.player().sees("NO JOBS AVAILABLE")) device.player().press("Accept");
@@ -43,8 +43,7 @@ void takeAJob(test::Device& device) {
   ASSERT_FALSE(device.world().weeklyJobTitle.empty());
 }
 
-// Opens a page of the wealth tab, reads it, and leaves it. The tab alone finds out what the performer is
-// worth.
+// Opens a page of the wealth tab, which updates the net worth, checks its texts, and leaves it.
 void readWealth(test::Device& device, const std::string& page, std::initializer_list<std::string> texts) {
   device.player().press("Wealth");
   EXPECT_EQ(device.world().saveNetworth, netWorth(device.world()).total());
@@ -53,7 +52,7 @@ void readWealth(test::Device& device, const std::string& page, std::initializer_
   device.player().press("Back");
 }
 
-// Ends a week: what came and went is on its summary, and in the books to the cent.
+// Ends a week and compares the summary with the books to the cent.
 void endWeek(test::Device& device, test::Books& books, const std::string& bills) {
   const double before = device.world().totalCashAvailable;
   const double tracked = books.balance();
@@ -63,12 +62,12 @@ void endWeek(test::Device& device, test::Books& books, const std::string& bills)
   device.player().expectSees({"INCOME • EXPENSES", bills});
 }
 
-TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
+TEST(MoneyYearJourney, SummariesRecordsAndCashAgree) {
   test::SeededRandom random{31};
   test::Device device(random);
   device.begin(prepare);
   readWealth(device, "Finances", {"You do not have a job right now.", "You have not earned any income"});
-  takeAJob(device);
+  acceptAJob(device);
 
   test::Books books;
   for (int week = 1; week <= 52; ++week) {
@@ -90,7 +89,7 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
   EXPECT_EQ(world.yearNumber, 2027);
   EXPECT_NEAR(world.totalCashAvailable, startingCash - 3000 + books.balance(), 0.005);
   const double net = std::accumulate(world.saveWeeklyEarnings.begin(), world.saveWeeklyEarnings.end(), 0.0);
-  EXPECT_NEAR(net, books.records + books.jobs, 0.005);  // residuals and bills are no part of it
+  EXPECT_NEAR(net, books.records + books.jobs, 0.005);  // excludes residuals and bills
   const auto checks = std::ranges::count_if(
       world.activityTracker, [](const std::string& line) { return line.contains("residual check"); });
   EXPECT_EQ(checks, 12);
@@ -110,8 +109,8 @@ TEST(MoneyYear, EveryDollarOfAYearIsOnTheSummaryInTheBooksAndInTheCash) {
   EXPECT_FALSE(device.player().sees("Salt Road"));
   device.player().press("Back");
 
-  takeAJob(device);
-  device.liveWeeks();
+  acceptAJob(device);
+  device.playWeeks();
   const double change = (world.yearToDatePaycheck - world.saveLastYTDPaycheck) / world.saveLastYTDPaycheck;
   readWealth(device, "Finances", {"Pay last year", std::format("{:.1f}% against last year", change * 100)});
 }

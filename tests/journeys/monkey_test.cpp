@@ -13,7 +13,7 @@ namespace {
 
 using test::Player;
 
-// A player who presses anything, again and again, and whose chance is another one than the game's.
+// A player who uses random items, with a generator separate from the game's.
 class Monkey {
  public:
   explicit Monkey(std::uint64_t seed) : whim_(seed) {}
@@ -33,8 +33,7 @@ class Monkey {
   }
 
  private:
-  // Weeks are ended and messages answered more often than chance would, so that a career gets somewhere; and
-  // one is rarely thrown away.
+  // Prefers ending weeks and answering messages, so that the career advances, and rarely restarts it.
   const Player::Usable& choose(const std::vector<Player::Usable>& all) {
     constexpr std::int64_t favoured = 3;  // in 10
     if (RandomRange(whim_, 10) < favoured) {
@@ -50,7 +49,7 @@ class Monkey {
   test::SeededRandom whim_;
 };
 
-// The word alone, as in "$nan" and not as in "tenant".
+// Whether the line has it as a whole word, as in "$nan" but not in "tenant".
 bool hasWord(const std::string& line, const std::string& word) {
   const auto is_letter = [&](std::size_t at) {
     return at < line.size() && std::isalpha(static_cast<unsigned char>(line[at]));
@@ -77,7 +76,7 @@ void expectSoundWorld(const WorldState& world) {
   EXPECT_LE(world.trackRealEstateIndex.size(), 48u);
 }
 
-// What a film took in a market is its opening and its weeks, week by week in step.
+// A market's gross is its opening plus its weeks, and its lists are parallel.
 void expectSoundBoxOffice(const WorldState& world) {
   for (const BoxOffice& market : world.saveAllBoxOfficeList) {
     double sum = market.openingWeekend;
@@ -91,7 +90,7 @@ void expectSoundBoxOffice(const WorldState& world) {
   }
 }
 
-// Every project that wrapped has its film, and no other project has one.
+// Exactly the wrapped projects have a film.
 void expectFilmsInStep(const WorldState& world) {
   for (const Film& film : world.saveAllFilmList) {
     const auto project = std::ranges::find(world.saveAllAuditionList, film.filmId, &Audition::filmId);
@@ -100,7 +99,7 @@ void expectFilmsInStep(const WorldState& world) {
   }
 }
 
-TEST(Monkey, PressesAnythingForTwoThousandWeeks) {
+TEST(Monkey, PlaysTwoThousandWeeksAtRandom) {
   test::MemoryPort port;
   SaveStore store(port);
   test::SeededRandom chance(7);

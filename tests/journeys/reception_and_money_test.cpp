@@ -1,5 +1,5 @@
-// The whole life of two titles as their maker sees it: wrapped, paid for, promoted, released, reviewed, in
-// and out of fashion, settled at the box office, sold to a network, and still paying years later.
+// Two titles from the wrap to syndication: pay, promotion, release, reviews, popularity, box office, and
+// residuals for years.
 
 #include <algorithm>
 #include <cmath>
@@ -22,8 +22,8 @@ constexpr std::int64_t wrap = 1;
 constexpr std::int64_t release = 3;
 constexpr std::int64_t settlement = release + 8;
 
-// A guild member, signed by an agent who brought a lead with a share of the gross, makes a film of her own at
-// the same time. Both are by a director of the first rank and much talked about.
+// A guild member with an agent has a lead with a royalty and an own production, both with a top director and
+// high hype.
 void prepare(WorldState& world) {
   world.isSAG = 1;
   world.agentCommission = commission;
@@ -39,7 +39,7 @@ void prepare(WorldState& world) {
   }
 }
 
-// A deal as it was struck.
+// A closed deal.
 struct Struck {
   std::int64_t week = 0;
   double price = 0;
@@ -47,7 +47,7 @@ struct Struck {
   std::string network;
 };
 
-struct Titles : testing::Test {
+struct TitleIncomeJourney : testing::Test {
   test::SeededRandom random{3};
   test::Device device{random};
   test::Books books;
@@ -56,7 +56,7 @@ struct Titles : testing::Test {
   const WorldState& world() const { return device.world(); }
   std::int64_t now() const { return world().weekNumberForTracking; }
 
-  // Ends a week and leaves its summary open. The cash moves by what the books say, to the cent.
+  // Ends a week, leaves its summary open, and compares the cash with the books to the cent.
   void endWeek() {
     const double cash = world().totalCashAvailable;
     const double balance = books.balance();
@@ -64,8 +64,9 @@ struct Titles : testing::Test {
     books.addTheWeek(world());
     EXPECT_NEAR(world().totalCashAvailable - cash, books.balance() - balance, 0.005) << "week " << now();
   }
-  // Stops at the summary of that week. What is on disk is all that a week needs.
-  void liveUntil(std::int64_t week) {
+  // Plays until the summary of that week is open. Relaunches each week, so a week must not need state that is
+  // not saved.
+  void playUntil(std::int64_t week) {
     while (now() < week) {
       endWeek();
       if (now() == week) return;
@@ -79,8 +80,8 @@ struct Titles : testing::Test {
     const auto found = std::ranges::find(titles, filmId, &Syndication::filmId);
     return found == titles.end() ? nullptr : &*found;
   }
-  // Lives on until a network has bought the title, and stops at the summary of that week.
-  Struck liveUntilSold(std::int64_t filmId, std::int64_t lastWeek) {
+  // Plays until a network has bought the title; the summary of that week is open.
+  Struck playUntilSold(std::int64_t filmId, std::int64_t lastWeek) {
     while (now() < lastWeek) {
       endWeek();
       const Syndication* const sold = title(filmId);
@@ -103,7 +104,7 @@ struct Titles : testing::Test {
                          [&](const WeeklyEarnings& line) { return line.filmId == filmId; });
     return found;
   }
-  // The opening and the seven weeks after it, in all markets.
+  // The gross of the whole run in all markets.
   double grossOfRun(std::int64_t filmId) const {
     double gross = 0;
     for (const BoxOffice& market : world().saveAllBoxOfficeList) {
@@ -123,15 +124,15 @@ struct Titles : testing::Test {
   void paysResidualsToTheEndOfTheTerm(const Struck& deal);
 };
 
-void Titles::getsPaidForTheWorkAndPromotesIt() {
-  liveUntil(wrap + 1);
+void TitleIncomeJourney::getsPaidForTheWorkAndPromotesIt() {
+  playUntil(wrap + 1);
   player().expectSees({"SESSIONS"});
   const auto sessions = earningsOf(lead);
   ASSERT_EQ(sessions.size(), 1U);
   EXPECT_EQ(sessions.front().weekNumberForTracking, wrap + 1);
-  EXPECT_NEAR(sessions.front().sessionEarned, fee * 0.94, 1e-9);  // dues are taken twice
+  EXPECT_NEAR(sessions.front().sessionEarned, fee * 0.94, 1e-9);  // dues are deducted twice
   player().follow({"Close", "Work", "Auditions", "Releases", "Salt Road", "PROMOTE"});
-  // Without an answer the energy is lost: whichever way the player leaves, that is asked about first.
+  // Leaving without an answer loses the energy, so every way to leave asks first.
   for (const char* way : {"Back", "Home"}) {
     player().press(way);
     EXPECT_EQ(player().notice(), "🎤 Leave the Show? 🎤") << way;
@@ -146,8 +147,8 @@ void Titles::getsPaidForTheWorkAndPromotesIt() {
   player().follow({"Back", "Back"});
 }
 
-void Titles::isReviewed() {
-  liveUntil(release + 1);
+void TitleIncomeJourney::isReviewed() {
+  playUntil(release + 1);
   player().press("New Release");
   player().expectSees({"Salt Road", "Own Goal"});
   player().press("Imbd page of Salt Road");
@@ -164,8 +165,8 @@ void Titles::isReviewed() {
   player().follow({"Back", "Back"});
 }
 
-void Titles::isSettledAtTheBoxOffice() {
-  liveUntil(settlement);
+void TitleIncomeJourney::isSettledAtTheBoxOffice() {
+  playUntil(settlement);
   player().expectSees({"Royalties from media where you took a stake rather than payment",
                        "Payouts from investments in film productions"});
   const double gross = grossOfRun(lead);
@@ -185,14 +186,14 @@ void Titles::isSettledAtTheBoxOffice() {
   player().press("Back");
 }
 
-// The title's own page tells of its dealings with networks.
-void Titles::isToldOnItsPage(const std::string& network, const std::string& words) {
+// The title's page shows its syndication.
+void TitleIncomeJourney::isToldOnItsPage(const std::string& network, const std::string& words) {
   player().follow({"Close", "Work", "Auditions", "Releases", "Salt Road"});
   player().expectSees({network, words});
   player().follow({"Back", "Back"});
 }
 
-void Titles::isSoldToANetwork(const Struck& deal) {
+void TitleIncomeJourney::isSoldToANetwork(const Struck& deal) {
   EXPECT_EQ(deal.week, now());
   EXPECT_GE(deal.week, release + 29 + 4);
   player().expectSees({deal.network, "ROYALTY"});
@@ -204,14 +205,14 @@ void Titles::isSoldToANetwork(const Struck& deal) {
   isToldOnItsPage(deal.network, std::format("On the air, {} weeks left", deal.years * 52 - 1));
 }
 
-// A check every twelfth week of the term, each by a rate that lost a tenth a year.
-void Titles::paysResidualsToTheEndOfTheTerm(const Struck& deal) {
+// A residual every twelfth week of the term, with a rate that falls by a tenth per year.
+void TitleIncomeJourney::paysResidualsToTheEndOfTheTerm(const Struck& deal) {
   const std::int64_t end = deal.week + deal.years * 52;
-  liveUntil(end);
+  playUntil(end);
   EXPECT_FALSE(title(lead)->didAcceptOffer);
   EXPECT_EQ(title(lead)->networkNameSigned, std::vector<std::string>{deal.network});
   std::vector<WeeklyEarnings> checks = earningsOf(lead);
-  checks.erase(checks.begin());  // the session
+  checks.erase(checks.begin());  // the session fee
   std::size_t next = 0;
   for (std::int64_t week = deal.week; week < end; ++week) {
     if ((end - week) % 12 != 0) continue;
@@ -227,18 +228,18 @@ void Titles::paysResidualsToTheEndOfTheTerm(const Struck& deal) {
   isToldOnItsPage(deal.network, std::format("Ran for {} year", deal.years));
 }
 
-TEST_F(Titles, PayForTheWorkForTheStakeAndForYearsOnTheNetworks) {
+TEST_F(TitleIncomeJourney, PaysSessionsStakesAndSyndication) {
   device.begin(prepare);
   getsPaidForTheWorkAndPromotesIt();
   isReviewed();
   isSettledAtTheBoxOffice();
   device.launch();
-  const Struck deal = liveUntilSold(lead, 3 * 52);
+  const Struck deal = playUntilSold(lead, 3 * 52);
   isSoldToANetwork(deal);
   device.launch();
   paysResidualsToTheEndOfTheTerm(deal);
 
-  // Nothing came to the cash but through a record, and nothing to the agent but by commission.
+  // All cash came through records, and the agent got commissions only.
   EXPECT_NEAR(world().totalCashAvailable, books.balance(), 0.005);
   double agents = 0;
   for (const RoyaltyPayout& royalty : world().saveAllRoyaltyPayouts) agents += royalty.agentEarnings;

@@ -1,5 +1,5 @@
-// What the world thinks of a title, as its lead reads it: the critics, the audience, the percentages, a year
-// of fading, and the lead's own opinions.
+// The reception of the player's titles: critics, audience, percentages, a year of popularity, and the
+// player's own ratings.
 
 #include <format>
 #include <gtest/gtest.h>
@@ -12,8 +12,8 @@
 namespace tb {
 namespace {
 
-// The lead of a film and of a series that came out this week; the summary of the week is open.
-struct Reception : testing::Test {
+// The lead of a film and of a series released this week; the summary is open.
+struct ReceptionJourney : testing::Test {
   test::SeededRandom random{7};
   test::Device device{random};
 
@@ -22,13 +22,13 @@ struct Reception : testing::Test {
       world.saveAllAuditionList = {test::bookedLead(1, filmType::feature, "Salt Road"),
                                    test::bookedLead(2, filmType::series, "Harbor Lights")};
     });
-    device.liveWeeks(2);
+    device.playWeeks(2);
     device.endWeek();
   }
   std::vector<std::string> page() { return device.player().words(); }
 };
 
-TEST_F(Reception, TheLeadReadsTheReviewsAndTheyStayAsTheyAreWhileThePageIsOpen) {
+TEST_F(ReceptionJourney, ReviewsStayWhileThePageIsOpen) {
   comeOut();
   test::Player& player = device.player();
   player.follow({"New Release", "Imbd page of Salt Road"});
@@ -52,11 +52,11 @@ TEST_F(Reception, TheLeadReadsTheReviewsAndTheyStayAsTheyAreWhileThePageIsOpen) 
   player.follow({"Rate this title", "9 ★★★★★★★★★"});
   EXPECT_EQ(device.film(1).myRating, 9);
   player.follow({"Back", "Imbd page of Salt Road"});
-  EXPECT_NE(page(), open);  // another day, other voices
+  EXPECT_NE(page(), open);  // new reviews each time
   player.expectSees({"Your rating"});
 }
 
-TEST(ReceptionPages, BeforeTheReleaseTheyWaitForIt) {
+TEST(ReceptionScreens, ShowNoScoresBeforeTheRelease) {
   test::ScratchGame scratch;
   scratch.world.weekNumberForTracking = 20;
   scratch.world.saveAllFilmList = {{.filmId = 13, .title = "Not Yet", .weekReleased = 25}};
@@ -64,13 +64,13 @@ TEST(ReceptionPages, BeforeTheReleaseTheyWaitForIt) {
   openTitlePage(stage, 13);
   const view::Page page = stage.top().view(stage.game());
   EXPECT_EQ(page.title, "Not Yet");
-  EXPECT_EQ(page.nodes.size(), 3U);  // poster, a word that nobody has seen it, storyline
+  EXPECT_EQ(page.nodes.size(), 3U);  // poster, notice that nobody has seen it, storyline
   RottenBananaDetailViewController bananas(13);
   bananas.load(stage);
   EXPECT_EQ(bananas.view(stage.game()).nodes.size(), 2U);
 }
 
-TEST(ReceptionPages, ASeasonHasBananasOfItsOwn) {
+TEST(ReceptionScreens, SeasonsHaveTheirOwnScores) {
   test::ScratchGame scratch(test::Unscripted::low);
   scratch.world.weekNumberForTracking = 20;
   const auto season = [](std::int64_t filmId, std::int64_t weekReleased, std::int64_t reviews) {
@@ -82,7 +82,8 @@ TEST(ReceptionPages, ASeasonHasBananasOfItsOwn) {
                 .imbdMetascore = 90,
                 .numMetascoreRatings = reviews};
   };
-  scratch.world.saveAllFilmList = {season(12, 19, 4), season(11, 9, 2)};  // the next season is found first
+  scratch.world.saveAllFilmList = {season(12, 19, 4),
+                                   season(11, 9, 2)};  // the later season is first in the list
   Stage stage(scratch.game);
   const auto reviews = [&](std::int64_t filmId) {
     RottenBananaDetailViewController bananas(filmId);
@@ -94,13 +95,13 @@ TEST(ReceptionPages, ASeasonHasBananasOfItsOwn) {
   EXPECT_EQ(reviews(12), 4U);
 }
 
-TEST_F(Reception, AYearLaterTheScoresStandAndThePopularityHasMoved) {
+TEST_F(ReceptionJourney, ScoresStayAndPopularityDrifts) {
   comeOut();
   device.player().press("Close");
   const Film released = device.film(1);
   for (int week = 0; week < 52; ++week) {
     const double before = device.film(1).currentPopularity;
-    device.liveWeeks();
+    device.playWeeks();
     EXPECT_EQ(device.film(1).lastWeekPopularity, before);
     EXPECT_LE(std::abs(device.film(1).currentPopularity - before), 6);  // half of 13 less 1
   }
@@ -108,11 +109,11 @@ TEST_F(Reception, AYearLaterTheScoresStandAndThePopularityHasMoved) {
   EXPECT_EQ(after.imbdRating, released.imbdRating);
   EXPECT_EQ(after.numMetascoreRatings, released.numMetascoreRatings);
   EXPECT_NE(after.currentPopularity, released.currentPopularity);
-  device.launch();  // and all of it is on disk
+  device.launch();  // everything is saved
   EXPECT_EQ(device.film(1), after);
 }
 
-TEST_F(Reception, AnEveningsReviewCostsEnergyAndIsKept) {
+TEST_F(ReceptionJourney, AReviewCostsEnergyAndIsSaved) {
   device.begin([](WorldState&) {});
   test::Player& player = device.player();
   player.follow({"Social", "Rate a movie"});

@@ -1,4 +1,4 @@
-// What a player sees when a week ends: the front page, the scene over it, and where its lines lead.
+// The weekly review: front page, scene, and the screens its lines open.
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ namespace {
 
 using test::Player;
 
-struct Review : testing::Test {
+struct WeekReviewJourney : testing::Test {
   test::ScriptedRandom chance{test::Unscripted::low};
   test::Device device{chance};
 
@@ -29,7 +29,7 @@ struct Review : testing::Test {
     });
   }
 
-  // The nodes of one kind in the parts of the page on show.
+  // All visible nodes of a kind.
   template <class Kind>
   std::vector<Kind> all() {
     std::vector<Kind> found;
@@ -44,14 +44,14 @@ struct Review : testing::Test {
   }
 };
 
-TEST_F(Review, TheFirstBookingIsTheHeadlineWithItsPosterAndAMoment) {
+TEST_F(WeekReviewJourney, TheFirstBookingIsAMoment) {
   Audition project = submitted(1, "Two Hats");
   project.funnelStage = funnel::invited;
   project.weekAudition = 1;
   begin({project, submitted(2, "Salt Road")});
   Player& player = device.player();
   chance.any(2).range(3, 1);  // wins the role
-  chance.any(3).range(3, 1);  // never hears of the other one
+  chance.any(3).range(3, 1);  // no answer for the other one
   device.endWeek();
 
   ASSERT_EQ(player.page().moment.size(), 1u);
@@ -68,7 +68,7 @@ TEST_F(Review, TheFirstBookingIsTheHeadlineWithItsPosterAndAMoment) {
   EXPECT_EQ(news[1].tone, view::Tone::quiet);
   player.expectSees({"FEED", "Net of the week", "Lead • Feature Film"});
 
-  // The headline leads to the project, and the way back shows the same page without the scene.
+  // The headline opens the project, and Back shows the same page without the scene.
   player.press(news[0].text);
   EXPECT_EQ(player.title(), "Two Hats");
   EXPECT_TRUE(player.page().moment.empty());
@@ -78,7 +78,7 @@ TEST_F(Review, TheFirstBookingIsTheHeadlineWithItsPosterAndAMoment) {
   player.expectSees({"BOOKED"});
 }
 
-TEST_F(Review, AWeekOfSilenceIsOneRowThatOpensAndCloses) {
+TEST_F(WeekReviewJourney, FoldedRowsOpenAndClose) {
   begin({submitted(1, "Two Hats"), submitted(2, "Salt Road")});
   Player& player = device.player();
   for (int project = 0; project < 2; ++project) chance.any(3).range(3, 1).any(1);
@@ -93,12 +93,12 @@ TEST_F(Review, AWeekOfSilenceIsOneRowThatOpensAndCloses) {
   player.press(line);
   EXPECT_EQ(player.title(), "Salt Road");
   player.press("Back");
-  player.expectSees({line});  // as it was left
+  player.expectSees({line});  // unchanged
   player.press("2 never wrote back");
   EXPECT_FALSE(player.sees(line));
 }
 
-TEST_F(Review, AQuietWeekIsATipAndNothingElse) {
+TEST_F(WeekReviewJourney, AQuietWeekShowsATip) {
   begin({});
   device.endWeek();
   EXPECT_FALSE(device.player().sees("FEED"));
@@ -107,18 +107,18 @@ TEST_F(Review, AQuietWeekIsATipAndNothingElse) {
   EXPECT_TRUE(device.player().page().moment.empty());
 }
 
-TEST_F(Review, TheFirstTitleThatOpensIsAMoment) {
+TEST_F(WeekReviewJourney, TheFirstOpeningIsAMoment) {
   Audition film = test::bookedLead(1, filmType::studentFilm, "Two Hats");
   film.weekReleased = 2;
   begin({film});
-  device.liveWeeks();
+  device.playWeeks();
   device.endWeek();
   ASSERT_EQ(device.player().page().moment.size(), 1u);
   EXPECT_EQ(device.player().page().moment[0].title, "OPENS");
   device.player().expectSees({"Two Hats had its first screening.", "New Release"});
 }
 
-TEST_F(Review, JoiningTheGuildIsAMomentAndARefusalIsNot) {
+TEST_F(WeekReviewJourney, JoiningTheGuildIsAMomentAndARefusalIsNot) {
   device.begin([](WorldState& world) { world.totalCashAvailable = 0; });
   device.player().follow({"The Backstage", "Actor's Guild", "Join"});
   EXPECT_TRUE(device.player().page().moment.empty());

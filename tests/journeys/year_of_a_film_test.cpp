@@ -1,5 +1,5 @@
-// A film, a commercial and a production of one's own, from the wrap through a year on the books, with every
-// draw at its low end: every figure below was worked out by hand.
+// A film, a commercial and an own production, from the wrap through a year, with every draw at its low end.
+// The expected figures were computed by hand.
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -16,13 +16,13 @@ constexpr std::int64_t release = 3;
 constexpr double fees = 9'000 + 1'000 + 2'000;
 constexpr double buyout = 250;
 constexpr double commission = 0.1;
-constexpr double bills = 50;            // a week, Basic Needs
-constexpr double afterBothDues = 0.94;  // 3 % off, twice
+constexpr double bills = 50;            // Basic Needs per week
+constexpr double afterBothDues = 0.94;  // minus 3 % twice
 
-struct YearOfAFilm : testing::Test {
+struct YearOfAFilmJourney : testing::Test {
   test::ScriptedRandom chance{test::Unscripted::low};
   test::Device device{chance};
-  double cash = 0;  // as the books of the test have it
+  double cash = 0;  // expected
 
   void SetUp() override {
     device.begin([](WorldState& world) {
@@ -41,20 +41,19 @@ struct YearOfAFilm : testing::Test {
     });
   }
 
-  // Ends a week whose records come to `earned`, in dollars.
+  // Ends a week with records of `earned` dollars in total.
   void endWeek(double earned = 0) {
-    device.liveWeeks();
+    device.playWeeks();
     cash += earned - bills;
     EXPECT_NEAR(device.world().totalCashAvailable, cash, 0.005)
         << "week " << device.world().weekNumberForTracking;
   }
 };
 
-// The check of a commercial after so many weeks on the air.
+// A commercial's residual after that many weeks on the air.
 double check(int weeks) { return (0.05 - 0.05 * (weeks / 4 - 1) * 0.02) * 1'000 * afterBothDues; }
 
-// The opening and the seven weeks of the run, in openings, of a film that is forgotten by a tenth of a point
-// a week.
+// The gross of a run in multiples of the opening, when the popularity falls by 0.1 per week.
 double takingsOfRun(double popularity) {
   double takings = 1;
   for (int week = 1; week <= 7; ++week) {
@@ -63,14 +62,13 @@ double takingsOfRun(double popularity) {
   return takings;
 }
 
-TEST_F(YearOfAFilm, IsPaidForInItsWeeksAndFadesAtItsPace) {
+TEST_F(YearOfAFilmJourney, PaysAndDriftsAsComputedByHand) {
   endWeek(fees * afterBothDues + buyout);
   const WorldState& world = device.world();
   EXPECT_NEAR(world.workDuesPaidSAG, fees * 0.03, 1e-9);
   EXPECT_NEAR(world.saveWeeklyEarnings[0], cash + bills, 1e-9);
 
-  // Director 80: at worst 3 stars and a metascore of 40, 35 of 100 together. Hype 50 shrinks to that many
-  // 75ths.
+  // Director 80: at least rating 3 and metascore 40, a quality of 35. A hype of 50 becomes 50 · 35 / 75.
   endWeek();
   endWeek();
   const double released = 50 * 35.0 / 75;
@@ -79,10 +77,10 @@ TEST_F(YearOfAFilm, IsPaidForInItsWeeksAndFadesAtItsPace) {
   EXPECT_EQ(device.film(film).numImbdRatings, 1000);
   EXPECT_NEAR(device.film(film).lastWeekPopularity, released, 1e-9);
   EXPECT_NEAR(device.film(film).currentPopularity, released - 0.1, 1e-9);
-  EXPECT_EQ(device.film(commercial).currentPopularity, released);  // which nobody talks about, or forgets
+  EXPECT_EQ(device.film(commercial).currentPopularity, released);  // commercials do not drift
 
   for (int week = 2; week <= 7; ++week) endWeek(week == 4 ? check(4) : 0);
-  EXPECT_EQ(world.saveWeeklyEarnings[5], 0);  // a check is cash, and no part of the week's net
+  EXPECT_EQ(world.saveWeeklyEarnings[5], 0);  // residuals are not part of the week's net
   EXPECT_TRUE(world.saveAllRoyaltyPayouts.empty());
 
   const double gross = std::pow(3, 0.5) * 100'000 * 0.03 * 0.98 * takingsOfRun(released);

@@ -4,6 +4,7 @@
 #include <format>
 
 #include "career/class_table.h"
+#include "core/calendar.h"
 #include "film/markets.h"
 #include "film/networks.h"
 #include "tests/journeys/device.h"
@@ -12,11 +13,9 @@ namespace tb::test {
 
 namespace {
 
-constexpr std::int64_t weeksOfAYear = 52;
 constexpr std::int64_t commission = 10;  // percent
 
-// A career that is being put together. Every figure of a title follows from its id, so that no two titles
-// show the same.
+// Builds a career. A title's figures are derived from its id, so that titles differ.
 class Career {
  public:
   Career(WorldState& world, std::int64_t week) : world_(world) {
@@ -25,7 +24,7 @@ class Career {
     world.isMale = false;
     world.birthYear = 2005;
     world.weekNumberForTracking = week;
-    world.weekNumber = (week - 1) % weeksOfAYear + 1;
+    world.weekNumber = (week - 1) % weeksPerYear + 1;
     world.yearNumber = yearOf(week);
     world.ageCount = world.yearNumber - world.birthYear - 3;
     world.filmId = 500;
@@ -41,7 +40,7 @@ class Career {
     world.totalFans = week * 1'234;
   }
 
-  // A project of that type, `ahead` weeks before its release (after it, when negative).
+  // A project that is released in `ahead` weeks (negative: was released).
   Audition project(std::int64_t type, std::int64_t stage, std::int64_t ahead) {
     next_ += 1;
     constexpr std::array names = {"Feature", "Series", "Commercial", "Student Film", "Short Film"};
@@ -75,7 +74,7 @@ class Career {
   }
   void add(const Audition& project) { world_.saveAllAuditionList.push_back(project); }
 
-  // Wraps the project: its film, its pay and, once it is out, what the world made of it.
+  // Adds a wrapped project with its film and pay and, if released, its scores and box office.
   void addWrapped(const Audition& project) {
     add(project);
     Film film{.filmId = project.filmId,
@@ -119,8 +118,8 @@ class Career {
     world_.saveAllFilmList.push_front(std::move(film));
   }
 
-  // Bids of two networks, the dearer of which has the title until `left` more weeks are over, if any; and a
-  // deal that ran out before.
+  // Adds bids of two networks. If `left` is above 0, the higher one has a deal with that many weeks left.
+  // `hadOneBefore` adds an ended deal.
   void syndicate(const Audition& project, std::int64_t left, bool hadOneBefore) {
     Syndication title{.filmId = project.filmId,
                       .filmName = project.title,
@@ -134,7 +133,7 @@ class Career {
       title.didAcceptOffer = true;
       title.networkIndexWon = 0;
       title.weeksRemaining = left;
-      title.weekStarted = world_.weekNumberForTracking + left - 2 * weeksOfAYear;
+      title.weekStarted = world_.weekNumberForTracking + left - 2 * weeksPerYear;
       payShare(project, title.weekStarted, static_cast<double>(title.networkOffers[0]), "Metflix");
       pay(project, title.weekStarted + 12, 0, 0, project.payment * project.residual);
     }
@@ -146,11 +145,11 @@ class Career {
     world_.saveAllSyndication.push_back(std::move(title));
   }
 
-  static std::int64_t yearOf(std::int64_t week) { return 2026 + (week - 1) / weeksOfAYear; }
+  static std::int64_t yearOf(std::int64_t week) { return 2026 + (week - 1) / weeksPerYear; }
 
  private:
   static std::size_t index(std::int64_t number) { return static_cast<std::size_t>(number); }
-  // 10 to 99, by the latest title and by what is asked for.
+  // A figure from 10 to 99, derived from the latest title and `salt`.
   [[nodiscard]] std::int64_t figure(std::int64_t salt) const { return 10 + next_ * salt % 90; }
   [[nodiscard]] double amount(std::int64_t salt) const { return static_cast<double>(figure(salt)); }
 
@@ -168,7 +167,7 @@ class Career {
   }
 
   void openInMarkets(const Audition& project, Film& film, std::int64_t age) {
-    constexpr double smallestShare = 0.03;  // no cinema elsewhere takes it
+    constexpr double smallestShare = 0.03;  // does not open abroad
     double gross = 0;
     for (const Market& market : markets) {
       if (market.share < smallestShare) continue;
@@ -220,7 +219,7 @@ class Career {
                                             .weekNumberForTracking = week});
   }
 
-  // What falls due to a holder of a stake; by syndication where there is a network.
+  // Adds payouts of a stake, for syndication if there is a network.
   void payShare(const Audition& project, std::int64_t week, double gross, const std::string& network) {
     const std::int64_t source = network.empty() ? payoutSource::boxOffice : payoutSource::syndication;
     if (project.royalty > 0) {
@@ -313,16 +312,16 @@ void speak(WorldState& world) {
   }
 }
 
-// One project in every state, of the type that is next.
+// Adds a project in every state, with types in rotation.
 void addOneInEveryState(Career& career) {
   career.add(career.project(filmType::feature, funnel::submitted, 20));
   career.add(career.project(filmType::shortFilm, funnel::closed, 18));
   career.add(career.project(filmType::series, funnel::invited, 16));
-  career.add(career.project(filmType::feature, funnel::invited, 9));  // turned down
+  career.add(career.project(filmType::feature, funnel::invited, 9));  // lost
   career.add(career.project(filmType::series, funnel::booked, 14));
   career.add(career.project(filmType::commercial, funnel::booked, 11));
   career.addWrapped(career.project(filmType::feature, funnel::wrapped, 5));
-  career.addWrapped(career.project(filmType::feature, funnel::wrapped, 0));  // comes out this week
+  career.addWrapped(career.project(filmType::feature, funnel::wrapped, 0));  // released this week
   career.addWrapped(career.project(filmType::feature, funnel::wrapped, -3));
   career.addWrapped(career.project(filmType::series, funnel::wrapped, -4));
   career.addWrapped(career.project(filmType::commercial, funnel::wrapped, -6));
@@ -340,12 +339,12 @@ Audition ownFilm(Career& career, std::int64_t stage, std::int64_t ahead) {
   return film;
 }
 
-// A first season and the next one of the same series.
+// Adds two seasons of a series.
 void addSeasons(Career& career, std::int64_t ahead) {
   Audition first = career.project(filmType::series, funnel::wrapped, ahead);
   first.seasonNumber = 1;
   first.parentSeriesFilmId = first.filmId;
-  Audition second = career.project(filmType::series, funnel::wrapped, ahead + weeksOfAYear);
+  Audition second = career.project(filmType::series, funnel::wrapped, ahead + weeksPerYear);
   second.title = first.title;
   second.seasonNumber = 2;
   second.parentSeriesFilmId = first.filmId;
@@ -373,7 +372,7 @@ void beginner(WorldState& world) {
 }
 
 void working(WorldState& world) {
-  Career career(world, 4 * weeksOfAYear + 20);
+  Career career(world, 4 * weeksPerYear + 20);
   setTalent(world, 34);
   joinTheGuild(world, 2028, 4'321);
   signAgent(world);
@@ -390,7 +389,7 @@ void working(WorldState& world) {
 }
 
 void star(WorldState& world) {
-  Career career(world, 29 * weeksOfAYear + 30);
+  Career career(world, 29 * weeksPerYear + 30);
   setTalent(world, 88);
   joinTheGuild(world, 2029, 750'300);
   signAgent(world);
@@ -405,13 +404,13 @@ void star(WorldState& world) {
   world.saveLastYTDPaycheck = 6'400;
   addOneInEveryState(career);
   for (std::int64_t year = 1; year <= 8; ++year) {
-    const std::int64_t ahead = -year * weeksOfAYear;
+    const std::int64_t ahead = -year * weeksPerYear;
     Audition film = career.project(filmType::feature, funnel::wrapped, ahead - 7);
     career.addWrapped(film);
     if (year % 3 == 0) career.syndicate(film, year % 2 == 0 ? 31 : 0, year % 4 == 0);
     career.addWrapped(career.project(filmType::commercial, funnel::wrapped, ahead - 16));
     if (year % 4 == 0) career.addWrapped(ownFilm(career, funnel::wrapped, ahead - 25));
-    if (year % 5 == 0) addSeasons(career, ahead - weeksOfAYear);
+    if (year % 5 == 0) addSeasons(career, ahead - weeksPerYear);
   }
   for (std::int64_t id = 1; id <= 46; ++id) takeClass(world, id, 0);
   speak(world);

@@ -1,13 +1,13 @@
 #pragma once
 
-// Three careers as they would be found in a store, the same in every run.
+// Three deterministic careers.
 
 #include "core/world_state.h"
 
 namespace tb::test {
 
-void beginner(WorldState& world);  // two months in: a job, a class, the first answers
-void working(WorldState& world);   // the fifth year: one project in every state that a project has
-void star(WorldState& world);      // the thirtieth year: many records of every kind
+void beginner(WorldState& world);  // after two months: a job, a class, first answers
+void working(WorldState& world);   // fifth year: a project in every state
+void star(WorldState& world);      // thirtieth year: many records of every kind
 
 }  // namespace tb::test

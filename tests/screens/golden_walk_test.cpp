@@ -1,4 +1,4 @@
-// What a player reads on every screen of three careers, held against files.
+// Compares the texts of every screen of three careers with golden files.
 
 #include <gtest/gtest.h>
 

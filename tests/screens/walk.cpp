@@ -17,14 +17,14 @@ using Usable = Player::Usable;
 constexpr std::size_t mostPages = 500;  // more than any career has
 constexpr std::uint64_t seed = 7;
 
-// How a page is reached: presses by their place among all that can be used.
+// The path to a page: presses by index among the usable items.
 struct Path {
   struct Press {
     std::size_t place;
     std::string label;
   };
   std::vector<Press> presses;
-  bool isTurned = false;  // the last press showed another side of the same screen
+  bool isTurned = false;  // the last press changed the view of the same screen, such as a tab
 
   [[nodiscard]] Path with(std::size_t place, const std::string& label, bool turned) const {
     Path longer = *this;
@@ -33,7 +33,7 @@ struct Path {
     return longer;
   }
   [[nodiscard]] std::string text() const { return textOf(presses.size()); }
-  // Of the screen, whatever side of it is shown.
+  // The text of the path to the screen, without a change of view.
   [[nodiscard]] std::string screenText() const { return textOf(presses.size() - (isTurned ? 1 : 0)); }
 
  private:
@@ -63,7 +63,7 @@ std::string joined(const Lines& lines) {
   return text;
 }
 
-// Of everything that can be pressed what is worth a press, by its place.
+// Indexes of the usable items to press.
 std::vector<std::size_t> worthAPress(const std::vector<Usable>& usable, const Path& path) {
   std::vector<std::size_t> places;
   std::map<std::string, int> firstLike;
@@ -106,7 +106,7 @@ class Explorer {
     launched_ = device_.port.commits;
     if (home_.empty()) home_ = words();
   }
-  // Back on the hub as it was at the launch, if nothing was written since.
+  // Goes back to the hub; false if something was written since the launch.
   bool goHome() {
     if (device_.port.commits != launched_ || !device_.app().view().dialog.empty()) return false;
     while (!device_.app().view().close.empty()) device_.app().back();
@@ -118,8 +118,8 @@ class Explorer {
     for (const Path::Press& step : path.presses) press(step.place);
     commits_ = device_.port.commits;
   }
-  // Where the path leads, after a press there. What wrote nothing is undone by the one answer of its notice
-  // or by its screen's way back.
+  // Returns to the path's page after a press. A press without writes is undone by answering its notice or
+  // with Back; otherwise the game is launched again.
   void returnTo(const Path& path, int page, const Lines& words) {
     if (device_.port.commits == commits_) {
       const auto& dialog = device_.app().view().dialog;
@@ -141,9 +141,9 @@ class Explorer {
     std::set<std::string>& tried = tried_[path.screenText()];
     const std::set<std::string> before = path.isTurned ? tried : std::set<std::string>();
     for (const std::size_t place : worthAPress(usable, path)) {
-      if (before.contains(usable[place].label)) continue;  // it stands on the other side, too
+      if (before.contains(usable[place].label)) continue;  // also exists in the other view
       tried.insert(usable[place].label);
-      const int number = screen();  // another one each time that the screen is opened
+      const int number = screen();  // changes each time the screen is opened
       press(place);
       text_ += std::format("-- {}: {}\n", usable[place].label,
                            outcome(path, page, number, place, usable[place].label));
@@ -160,8 +160,8 @@ class Explorer {
       return "opens " + now.title;
     }
     if (now.screen < page) return "goes back to " + now.title;
-    // Tabs are sides of the hub, whatever they write. Elsewhere a press that writes is an action of the
-    // player's, and its page is no other side of the screen.
+    // Tabs are views of the hub, even if they write. Elsewhere a press that writes is an action, not a change
+    // of view.
     const bool is_side = path.presses.empty() || device_.port.commits == commits_;
     const Lines lines = added(before, words());
     if (lines.empty()) return "changes nothing here";
@@ -175,12 +175,12 @@ class Explorer {
   Device& device_;
   SeededRandom& random_;
   const decltype(MemoryPort::pieces) stored_;
-  Lines home_;        // the hub at the launch
-  int launched_ = 0;  // commits until then
-  int commits_ = 0;   // commits until the page was reached that is being tried
+  Lines home_;        // words of the hub at launch
+  int launched_ = 0;  // number of commits at launch
+  int commits_ = 0;   // number of commits on the current page
   std::deque<Path> waiting_;
   std::set<std::string> seen_;                          // pages
-  std::map<std::string, std::set<std::string>> tried_;  // what was pressed, by screen
+  std::map<std::string, std::set<std::string>> tried_;  // pressed items by screen
   std::string text_;
 };
 

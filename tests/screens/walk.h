@@ -1,6 +1,6 @@
 #pragma once
 
-// Every screen of a career that presses lead to, as text.
+// The texts of all screens of a career that presses can reach.
 
 #include <string>
 
@@ -8,12 +8,11 @@
 
 namespace tb::test {
 
-// Opens the stored career again and again, presses its way to every screen breadth first, and writes down
-// each page with what its presses do. `random` is the device's source of chance; it is seeded anew before
-// each press, so that a screen draws the same whatever was on show before it.
+// Visits every screen breadth first and records each page and the effects of its presses. `random` is the
+// device's generator; it is reseeded before each press, so that a screen does not depend on earlier ones.
 //
-// Of cards and list items that differ in names and figures only, the first one stands for all. Notices are
-// written down and not answered, texts are not typed, sliders are not moved.
+// Of cards and list items that differ only in names and figures, the first one is pressed. Notices are
+// recorded but not answered, texts are not typed, sliders are not moved.
 [[nodiscard]] std::string walkAllScreens(Device& device, SeededRandom& random);
 
 }  // namespace tb::test

@@ -11,7 +11,7 @@ namespace tb::console {
 
 namespace {
 
-// What a player types, and all that was shown.
+// A port with scripted input lines that records the shown pages.
 class ScriptedPort : public ConsolePort {
  public:
   [[nodiscard]] Shape shape() const override { return shape_; }
@@ -46,7 +46,7 @@ class ScriptedPort : public ConsolePort {
   std::deque<Input> inputs_;
 };
 
-// What happened on the screen that the tests use.
+// Records the test screen's operations.
 struct Seen {
   int presses = 0;
   std::string name = "Ada";
@@ -102,7 +102,7 @@ class ConsoleLoop : public testing::Test {
     App app(scratch.store, scratch.random, {}, std::make_unique<DeskScreen>(seen));
     Console(app, port).play();
   }
-  // The page that came after the n-th line that the player typed; 0 is the first page.
+  // The page after the n-th input line; 0 is the first page.
   [[nodiscard]] const std::string& pageAfter(std::size_t n) const { return port.pages.at(n); }
 
   Seen seen;
@@ -113,7 +113,7 @@ bool shows(const std::string& page, std::string_view text) { return page.contain
 
 }  // namespace
 
-TEST_F(ConsoleLoop, ANumberUsesWhatStandsUnderIt) {
+TEST_F(ConsoleLoop, ANumberUsesItsItem) {
   port.types("1").types("  1  ").types("2 Zoë Lark").types("3 25").types("3 -7.5").types("q").types("1");
   play();
   EXPECT_EQ(seen.presses, 2);
@@ -122,7 +122,7 @@ TEST_F(ConsoleLoop, ANumberUsesWhatStandsUnderIt) {
   EXPECT_EQ(port.unread(), 1) << "q leaves at once";
 }
 
-TEST_F(ConsoleLoop, AFieldAndASliderAskForWhatWasNotSaid) {
+TEST_F(ConsoleLoop, FieldsAndSlidersAskForMissingValues) {
   port.types("2").types("Bo").types("3").types("40").types("2").types("").types("3").types("");
   play();
   EXPECT_EQ(seen.name, "Bo") << "Enter keeps it";
@@ -140,7 +140,7 @@ TEST_F(ConsoleLoop, AFieldIsClearedAndALongOneTakesSeveralLines) {
   EXPECT_EQ(seen.name, "Born.\nActed.");
 }
 
-TEST_F(ConsoleLoop, TheInputMayEndAnywhere) {
+TEST_F(ConsoleLoop, InputCanEndAnywhere) {
   port.types("2");
   play();
   EXPECT_EQ(seen.name, "Ada");
@@ -149,7 +149,7 @@ TEST_F(ConsoleLoop, TheInputMayEndAnywhere) {
   EXPECT_EQ(seen.name, "Ada") << "what was not finished is not taken";
 }
 
-TEST_F(ConsoleLoop, WhatCannotBeDoneIsToldInOneLine) {
+TEST_F(ConsoleLoop, ExplainsInvalidInput) {
   port.types("77").types("1 now").types("3 old").types("3 1e9").types("3 nan").types("b").types("sell").types(
       "999999999999");
   play();
@@ -164,7 +164,7 @@ TEST_F(ConsoleLoop, WhatCannotBeDoneIsToldInOneLine) {
   EXPECT_TRUE(seen.slid.empty());
 }
 
-TEST_F(ConsoleLoop, ADialogIsAnsweredBeforeAnythingElse) {
+TEST_F(ConsoleLoop, ADialogIsModal) {
   port.types("5").types("b").types("2 Eve").types("1").types("6").types("b").types("");
   play();
   EXPECT_TRUE(shows(pageAfter(1), "Really?"));
@@ -176,7 +176,7 @@ TEST_F(ConsoleLoop, ADialogIsAnsweredBeforeAnythingElse) {
   EXPECT_EQ(seen.name, "Ada");
 }
 
-TEST_F(ConsoleLoop, AbsurdInputReachesTheGameAsCleanTextOfTheRightLength) {
+TEST_F(ConsoleLoop, CleansAndTruncatesInput) {
   port.types("2 \x1b[31mEvil\x1b[0m\x07\t" + std::string(1, '\0') + "\xff\xc3name" +
              std::string(100'000, 'x'));
   play();
@@ -184,7 +184,7 @@ TEST_F(ConsoleLoop, AbsurdInputReachesTheGameAsCleanTextOfTheRightLength) {
   EXPECT_TRUE(shows(port.last(), "Cut to 10 characters."));
 }
 
-TEST_F(ConsoleLoop, TimeRunsOnlyWhileThePageCountsDown) {
+TEST_F(ConsoleLoop, TicksOnlyDuringCountdowns) {
   port.types("", 30);
   play();
   EXPECT_EQ(seen.secondsLeft, 0);
@@ -198,7 +198,7 @@ TEST_F(ConsoleLoop, TimeRunsOnlyWhileThePageCountsDown) {
   EXPECT_EQ(port.waits.back(), 1.0) << "a window is painted again every second";
 }
 
-TEST_F(ConsoleLoop, ANumberNeverUsesWhatCameInItsPlaceMeanwhile) {
+TEST_F(ConsoleLoop, ANumberDoesNotUseAnItemThatReplacedIt) {
   seen.secondsLeft = 60;
   port.types("1", 45);
   play();
@@ -207,7 +207,7 @@ TEST_F(ConsoleLoop, ANumberNeverUsesWhatCameInItsPlaceMeanwhile) {
   EXPECT_TRUE(shows(port.last(), "moved on"));
 }
 
-TEST_F(ConsoleLoop, AWindowShowsALongPageInPartsWithTheTabsAlwaysInView) {
+TEST_F(ConsoleLoop, ScrollsLongPagesWithVisibleTabs) {
   seen.lines = 60;
   port.window(24);
   port.types("").types("").types("").types("").types("").types("");
@@ -226,7 +226,7 @@ TEST_F(ConsoleLoop, AWindowShowsALongPageInPartsWithTheTabsAlwaysInView) {
                                   [](const std::string& page) { return shows(page, "Enter for the top"); }));
 }
 
-TEST_F(ConsoleLoop, AnActionKeepsThePlaceInALongPageAndADialogIsSeenWhole) {
+TEST_F(ConsoleLoop, KeepsTheScrollPositionAndShowsWholeDialogs) {
   seen.lines = 60;
   port.window(24);
   port.types("").types("1").types("5").types("1").types("6");
@@ -239,7 +239,7 @@ TEST_F(ConsoleLoop, AnActionKeepsThePlaceInALongPageAndADialogIsSeenWhole) {
   EXPECT_FALSE(shows(pageAfter(5), "Line"));
 }
 
-TEST_F(ConsoleLoop, HelpIsOneQuestionMarkAway) {
+TEST_F(ConsoleLoop, AQuestionMarkShowsHelp) {
   port.types("?").types("");
   play();
   EXPECT_TRUE(shows(pageAfter(0), "? tells more, q leaves."));

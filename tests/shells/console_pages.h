@@ -1,6 +1,6 @@
 #pragma once
 
-// Pages for the console's tests, and what they look like as plain text.
+// Pages for console tests and their plain text.
 
 #include <memory>
 #include <string>
@@ -18,7 +18,7 @@ class BlankScreen : public Screen {
   [[nodiscard]] view::Page view(const Game&) override { return {}; }
 };
 
-// A page as a shell gets it: lists cut, numbers given.
+// Lays out a page.
 inline view::Page laidOut(view::Page page) {
   ScratchGame scratch;
   Stage stage(scratch.game);
@@ -32,7 +32,7 @@ inline std::string textOf(const std::vector<console::Line>& lines) {
   return text;
 }
 
-// Head, body, dialog and foot, one after the other.
+// The text of head, body, dialog and foot.
 inline std::string textOf(const console::PaintedPage& page) {
   return textOf(page.head) + textOf(page.body) + textOf(page.dialog) + textOf(page.foot);
 }

@@ -65,7 +65,7 @@ TEST(ConsolePainter, NoLineIsWiderThanThePage) {
   }
 }
 
-TEST(ConsolePainter, WhatCanBeUsedHasItsNumberOnceAndNothingElseHasOne) {
+TEST(ConsolePainter, NumbersEveryUsableItemOnce) {
   test::ScratchGame scratch;
   Stage stage(scratch.game);
   stage.open(std::make_unique<test::BlankScreen>());
@@ -85,7 +85,7 @@ TEST(ConsolePainter, WhatCanBeUsedHasItsNumberOnceAndNothingElseHasOne) {
   }
 }
 
-TEST(ConsolePainter, UnderADialogNothingCanBeUsed) {
+TEST(ConsolePainter, NumbersOnlyDialogAnswers) {
   Page page = test::gallery();
   page.dialog.push_back(
       {.title = "🏆 You won 🏆", .message = "\n\nSmile.", .answers = {{.label = "OK", .press = nothing}}});
@@ -99,7 +99,7 @@ TEST(ConsolePainter, UnderADialogNothingCanBeUsed) {
   EXPECT_EQ(textOf(painted.body).find("[1]"), std::string::npos);
 }
 
-TEST(ConsolePainter, WhatIsOffTellsWhyWhereverItStands) {
+TEST(ConsolePainter, ShowsReasonsOfDisabledButtons) {
   const Button off{.label = "Fly", .press = nothing, .price = "$9", .offReason = "The airport is closed."};
   for (const Node& node : {Node(off), Node(Buttons{{off}}), Node(Card{.title = "Trip", .nodes = {off}}),
                            Node(SwipeCard{.left = off, .right = off})}) {
@@ -110,7 +110,7 @@ TEST(ConsolePainter, WhatIsOffTellsWhyWhereverItStands) {
   }
 }
 
-TEST(ConsolePainter, ANameCannotTakeOverTheTerminal) {
+TEST(ConsolePainter, RemovesControlSequencesFromNames) {
   const std::string name = "\x1b[2JEve\x1b]0;x\x07\r\n\u202E[9] Free money";
   const Page page =
       laidOut({.title = name,
@@ -126,7 +126,7 @@ TEST(ConsolePainter, ANameCannotTakeOverTheTerminal) {
   }
 }
 
-TEST(ConsolePainter, ColoursChangeNothingThatIsSaid) {
+TEST(ConsolePainter, HasTheSameTextWithColors) {
   static const std::regex colour("\x1b\\[[0-9;]*m");
   const PaintedPage painted = paint(laidOut(test::gallery()), {});
   for (const Line& line : painted.body) {
@@ -135,7 +135,7 @@ TEST(ConsolePainter, ColoursChangeNothingThatIsSaid) {
   }
 }
 
-TEST(ConsolePainter, ChartsOfAnyNumbersAreDrawnWithinThePage) {
+TEST(ConsolePainter, DrawsAnyChartWithinThePage) {
   constexpr double none = std::numeric_limits<double>::quiet_NaN();
   constexpr double endless = std::numeric_limits<double>::infinity();
   constexpr double huge = std::numeric_limits<double>::max();

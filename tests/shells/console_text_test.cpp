@@ -4,7 +4,7 @@
 
 namespace tb::console {
 
-TEST(ConsoleText, ColumnsAreThoseOfATerminal) {
+TEST(ConsoleText, MeasuresColumns) {
   EXPECT_EQ(columnsOf("Zoë"), 3);
   EXPECT_EQ(columnsOf("Zoe\u0308"), 3) << "a combining mark takes no room";
   EXPECT_EQ(columnsOf("ラーメン"), 8);
@@ -20,7 +20,7 @@ TEST(ConsoleText, ColumnsAreThoseOfATerminal) {
   EXPECT_EQ(columnsOf("\xFF\xFE"), 2) << "each is shown as a replacement character";
 }
 
-TEST(ConsoleText, LinesBreakBetweenWordsAndNeverOutgrowTheirWidth) {
+TEST(ConsoleText, WrapsLinesAtWords) {
   using Lines = std::vector<std::string>;
   EXPECT_EQ(wrapped("to be or not", 5), (Lines{"to be", "or", "not"}));
   EXPECT_EQ(wrapped("one\n\ntwo", 9), (Lines{"one", "", "two"}));
@@ -33,7 +33,7 @@ TEST(ConsoleText, LinesBreakBetweenWordsAndNeverOutgrowTheirWidth) {
   EXPECT_EQ(wrapped("屋屋", 1), (Lines{"屋", "屋"})) << "what cannot fit still gets on";
 }
 
-TEST(ConsoleText, NothingThatATerminalWouldObeyIsLeft) {
+TEST(ConsoleText, RemovesControlSequences) {
   EXPECT_EQ(cleaned("a\x1b[31mred\x1b[0m"), "ared");
   EXPECT_EQ(cleaned("a\x1b]0;title\x07"
                     "b"),
@@ -46,7 +46,7 @@ TEST(ConsoleText, NothingThatATerminalWouldObeyIsLeft) {
   EXPECT_EQ(cleaned("Zoë 🎬 ラ"), "Zoë 🎬 ラ");
 }
 
-TEST(ConsoleText, CharactersAreCountedAsThePlayerCountsThem) {
+TEST(ConsoleText, CountsPerceivedCharacters) {
   EXPECT_EQ(firstCharacters("Zoë Lark", 3), "Zoë");
   EXPECT_EQ(firstCharacters("e\u0301e\u0301e", 2), "e\u0301e\u0301");
   EXPECT_EQ(firstCharacters("👩\u200D🎤!", 1), "👩\u200D🎤");

@@ -1,4 +1,4 @@
-// The page writes doubles by functions of its own; what they write is held against the standard library's.
+// Compares the web build's formatting of doubles with the standard library's.
 
 #include "shells/web/double_text.h"
 
@@ -23,7 +23,7 @@ std::string written(Write write) {
   return error == std::errc{} ? std::string(text.data(), end) : "no room";
 }
 
-// Money, percentages and scores; the edges of the format; and bit patterns of every kind.
+// Money, percentages, scores, limits of the format, and random bit patterns.
 std::vector<double> doubles() {
   std::vector<double> values{0.0,
                              -0.0,
@@ -56,12 +56,12 @@ std::vector<double> doubles() {
   for (int count = 0; count < 3'000; ++count) {
     values.push_back(std::round(static_cast<double>(bits() % 10'000'000'000)) / 100);
     const auto any = std::bit_cast<double>(bits());
-    if (!std::isnan(any)) values.push_back(any);  // of these only the quiet one is ever met
+    if (!std::isnan(any)) values.push_back(any);  // only the quiet NaN occurs
   }
   return values;
 }
 
-TEST(DoubleText, EveryFigureOnThePageReadsAsInTheTerminal) {
+TEST(DoubleText, MatchesToChars) {
   for (const double value : doubles()) {
     ASSERT_EQ(written([=](char* first, char* last) { return writeShortest(first, last, value); }),
               written([=](char* first, char* last) { return std::to_chars(first, last, value); }));
@@ -81,7 +81,7 @@ TEST(DoubleText, EveryFigureOnThePageReadsAsInTheTerminal) {
   }
 }
 
-TEST(DoubleText, WhatDoesNotFitIsNotCutShort) {
+TEST(DoubleText, ReportsTooSmallBuffers) {
   std::array<char, 4> room;
   const auto cut = writePrecise(room.data(), room.data() + room.size(), 12345.0, Notation::fixed, 0);
   EXPECT_EQ(cut.ec, std::errc::value_too_large);

@@ -30,7 +30,7 @@ void overwrite(const fs::path& file, const std::string& content) {
   std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
 }
 
-// While it lives, SQLite's writes find room on the disk for a number of times and then never again.
+// Makes SQLite's writes fail with a full disk after a number of writes.
 class FullDisk {
  public:
   explicit FullDisk(int room) {
@@ -38,11 +38,11 @@ class FullDisk {
     for (const char* const call : calls) set(call, &write);
   }
   ~FullDisk() {
-    for (const char* const call : calls) set(call, nullptr);  // back to the system's own
+    for (const char* const call : calls) set(call, nullptr);  // restores the system call
   }
 
  private:
-  // SQLite uses one of them, which one depends on how it was built.
+  // SQLite uses one of them, depending on its build.
   static constexpr const char* calls[] = {"pwrite", "pwrite64"};
 
   static void set(const char* call, ssize_t (*function)(int, const void*, size_t, off_t)) {
@@ -61,7 +61,7 @@ class FullDisk {
   static inline int room_ = 0;
 };
 
-class SqlitePortTest : public testing::Test {
+class SqlitePort : public testing::Test {
  protected:
   SqlitePortTest() {
     std::string name = (fs::temp_directory_path() / "billing-store-XXXXXX").string();
@@ -85,7 +85,7 @@ class SqlitePortTest : public testing::Test {
     return port ? OpenFailure{} : port.error();
   }
 
-  // A career with a scalar and a list, as a first session leaves it.
+  // Creates a career with a scalar and a list.
   Dictionary beginCareer() {
     const auto port = open();
     SaveStore store(*port);
@@ -106,7 +106,7 @@ class SqlitePortTest : public testing::Test {
     return port ? SaveStore(*port).dictionary() : Dictionary{};
   }
 
-  // Runs SQL on the closed career, as another program would.
+  // Runs SQL on the closed career.
   void alter(const std::string& sql) {
     const auto database = sqlite::Database::open(file_);
     ASSERT_TRUE(database);
@@ -122,7 +122,7 @@ class SqlitePortTest : public testing::Test {
   fs::path file_;
 };
 
-TEST_F(SqlitePortTest, ACareerIsThereAgainAfterEverySession) {
+TEST_F(SqlitePort, KeepsTheCareerBetweenSessions) {
   const Dictionary first = beginCareer();
   EXPECT_EQ(stored(), first);
   {
@@ -132,8 +132,7 @@ TEST_F(SqlitePortTest, ACareerIsThereAgainAfterEverySession) {
     store.put("weekNumber", integer(13));
     store.remove("");
     store.putPieces("trackFans", Shape::plainList, false, {{0, std::nullopt}});
-    store.putPieces("trackCards", Shape::plainList, true,
-                    {{0, Bytes{}}});  // bytes of no length are kept, too
+    store.putPieces("trackCards", Shape::plainList, true, {{0, Bytes{}}});  // empty bytes are stored too
     ASSERT_TRUE(store.commit());
     store.keepAside("trackCards");
     store.remove("trackCards");
@@ -155,7 +154,7 @@ TEST_F(SqlitePortTest, ACareerIsThereAgainAfterEverySession) {
   EXPECT_EQ(stored(), (Dictionary{{"myName", Value{std::string("Ada")}}}));
 }
 
-TEST_F(SqlitePortTest, ASecondWindowIsToldThatTheGameIsOpen) {
+TEST_F(SqlitePort, RejectsASecondProcess) {
   const auto port = open();
   const pid_t other = fork();
   if (other == 0) {
@@ -173,7 +172,7 @@ TEST_F(SqlitePortTest, ASecondWindowIsToldThatTheGameIsOpen) {
   EXPECT_TRUE(store.commit());
 }
 
-TEST_F(SqlitePortTest, AFileThatIsInUseByAnotherProgramIsLeftAlone) {
+TEST_F(SqlitePort, DoesNotTouchLockedFiles) {
   beginCareer();
   {
     const auto other = sqlite::Database::open(file_);
@@ -184,7 +183,7 @@ TEST_F(SqlitePortTest, AFileThatIsInUseByAnotherProgramIsLeftAlone) {
   EXPECT_EQ(stored().size(), 3u);
 }
 
-TEST_F(SqlitePortTest, ADamagedCareerMovesAsideAndANewOneBegins) {
+TEST_F(SqlitePort, RenamesDamagedCareers) {
   beginCareer();
   const std::string sound = contentOf(file_);
   std::string scratched = sound;
@@ -192,7 +191,7 @@ TEST_F(SqlitePortTest, ADamagedCareerMovesAsideAndANewOneBegins) {
   std::vector<std::string> damages = {
       "This is no database, but a shopping list. Eggs, flour, butter, two lemons.", sound.substr(0, 5000),
       scratched};
-  // Any page of the file.
+  // Damages any page of the file.
   for (std::size_t page = 1; page * 4096 < sound.size(); ++page) {
     damages.push_back(sound);
     damages.back().replace(page * 4096, 512, 512, '\xff');
@@ -217,7 +216,7 @@ TEST_F(SqlitePortTest, ADamagedCareerMovesAsideAndANewOneBegins) {
   EXPECT_EQ(stored().size(), 1u);
 }
 
-TEST_F(SqlitePortTest, ADatabaseOfAnotherProgramMovesAside) {
+TEST_F(SqlitePort, RenamesOtherDatabases) {
   alter("CREATE TABLE recipes (name TEXT)");
   EXPECT_TRUE(open()->notice());
   EXPECT_TRUE(fs::exists(folder_ / "career.damaged-1.sqlite"));
@@ -226,13 +225,13 @@ TEST_F(SqlitePortTest, ADatabaseOfAnotherProgramMovesAside) {
   EXPECT_TRUE(fs::exists(folder_ / "career.damaged-2.sqlite"));
 }
 
-TEST_F(SqlitePortTest, AnEmptyFileIsACareerThatHasNotBegun) {
+TEST_F(SqlitePort, TreatsAnEmptyFileAsNew) {
   overwrite(file_, "");
   EXPECT_FALSE(open()->notice());
   EXPECT_EQ(beginCareer(), stored());
 }
 
-TEST_F(SqlitePortTest, ACareerOfANewerVersionIsRefusedAndNotTouched) {
+TEST_F(SqlitePort, RejectsNewerVersions) {
   beginCareer();
   alter("PRAGMA user_version = 2");
   alter("INSERT INTO pieces VALUES ('future', 0, 9, x'00')");
@@ -242,7 +241,7 @@ TEST_F(SqlitePortTest, ACareerOfANewerVersionIsRefusedAndNotTouched) {
   EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1.sqlite"));
 }
 
-TEST_F(SqlitePortTest, DamagedRowsCostTheirKeysOnlyAndAreKeptAside) {
+TEST_F(SqlitePort, SetsDamagedKeysAside) {
   beginCareer();
   alter(
       "INSERT INTO pieces VALUES ('shape', 0, 7, x'00'), ('text', 0, 0, 'text'), ('piece', 'one', 0, x'00')");
@@ -255,7 +254,7 @@ TEST_F(SqlitePortTest, DamagedRowsCostTheirKeysOnlyAndAreKeptAside) {
   EXPECT_EQ(count("pieces"), 2);
 }
 
-TEST_F(SqlitePortTest, AFolderThatCannotBeWrittenIsNamed) {
+TEST_F(SqlitePort, ReportsUnwritableFolders) {
   overwrite(folder_ / "file", "");
   const auto port = SqlitePort::open(folder_ / "file");
   ASSERT_FALSE(port);
@@ -263,7 +262,7 @@ TEST_F(SqlitePortTest, AFolderThatCannotBeWrittenIsNamed) {
   EXPECT_TRUE(port.error().message.contains((folder_ / "file").string()));
 }
 
-TEST_F(SqlitePortTest, ADiskThatFillsUpAtAnyWriteOfACommitCostsNothing) {
+TEST_F(SqlitePort, SurvivesAFullDiskAtAnyWrite) {
   const Dictionary begun = beginCareer();
   bool fitted = false;
   for (int room = 0; !fitted; ++room) {
@@ -282,14 +281,14 @@ TEST_F(SqlitePortTest, ADiskThatFillsUpAtAnyWriteOfACommitCostsNothing) {
       EXPECT_EQ(store.hasUncommitted(), !done);
       after = store.dictionary();
     }
-    // The window closes with the disk still full: the last complete state is there. Then the week is played
-    // again, with room, and fails at no point of the way.
+    // After closing with a full disk the last complete state remains. Then the week is played again with
+    // enough room.
     ASSERT_EQ(stored(), fitted ? after : begun) << "room for " << room << " writes";
     if (fitted) EXPECT_GT(room, 5);
   }
 }
 
-TEST_F(SqlitePortTest, WhenThereIsRoomAgainTheSessionGoesOn) {
+TEST_F(SqlitePort, ContinuesWhenTheDiskHasRoom) {
   beginCareer();
   Dictionary last;
   {
@@ -310,7 +309,7 @@ TEST_F(SqlitePortTest, WhenThereIsRoomAgainTheSessionGoesOn) {
   EXPECT_EQ(stored(), last);
 }
 
-TEST_F(SqlitePortTest, ADiskThatIsFullWhenACareerBeginsIsSaidAndNothingIsMoved) {
+TEST_F(SqlitePort, ReportsAFullDiskAtCreation) {
   bool fitted = false;
   for (int room = 0; !fitted; ++room) {
     ASSERT_LT(room, 100);
@@ -328,7 +327,7 @@ TEST_F(SqlitePortTest, ADiskThatIsFullWhenACareerBeginsIsSaidAndNothingIsMoved) 
   }
 }
 
-TEST_F(SqlitePortTest, SavesLiveInTheUsersDataFolder) {
+TEST_F(SqlitePort, UsesTheDataFolder) {
   setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
   EXPECT_EQ(saveFolder(), folder_ / "data" / "top-billing");
   EXPECT_EQ(fs::status(folder_ / "data" / "top-billing").permissions(), fs::perms::owner_all);

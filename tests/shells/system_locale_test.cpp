@@ -13,7 +13,7 @@ const MonthNames russian = {.months = {"январь", "февраль", "мар
 
 }  // namespace
 
-TEST(SystemLocale, MoneyAndMonthsAreThoseOfThePlayersCountry) {
+TEST(SystemLocale, ReadsMoneyAndMonths) {
   char symbol[] = "€", point[] = ",", group[] = "\u202f", minus[] = "-";
   lconv conventions = *localeconv();
   conventions.currency_symbol = symbol;
@@ -32,9 +32,9 @@ TEST(SystemLocale, MoneyAndMonthsAreThoseOfThePlayersCountry) {
   EXPECT_EQ(locale.monthCapitals[7], "АВГУСТ");
 }
 
-TEST(SystemLocale, WhatTheSystemLeavesOpenIsAsAlways) {
+TEST(SystemLocale, UsesDefaultsForEmptyFields) {
   const Locale usual;
-  const Locale locale = localeFrom(*localeconv(), {});  // the C locale has neither a currency nor groups
+  const Locale locale = localeFrom(*localeconv(), {});  // the C locale has no currency and no groups
   EXPECT_EQ(locale.currencySymbol, usual.currencySymbol);
   EXPECT_TRUE(locale.currencyBeforeAmount);
   EXPECT_EQ(locale.currencyGap, usual.currencyGap);

@@ -1,9 +1,9 @@
-// What other readers of property lists are compared with (tests/core/foreign_readers.py):
+// Used to compare with other property-list readers (tests/core/foreign_readers.py):
 //
-//   property_list_tool show FILE         every value of the file, one a line: its path, its kind, its bits
-//   property_list_tool copy FILE NEW     reads the file and writes what it holds
+//   property_list_tool show FILE         prints every value with its path, kind and bits
+//   property_list_tool copy FILE NEW     reads the file and writes it again
 //   property_list_tool records FILE NEW  the same with a list of sample records, through the record codec
-//   property_list_tool career NEW        the whole store of a career that was begun and lived for some weeks
+//   property_list_tool career NEW        writes the store of a career after some weeks
 //   property_list_tool class FILE NEW    the store of FILE, brought into the game, after signing up for a
 //   class
 
@@ -94,7 +94,7 @@ int copyRecords(const Bytes& file, const char* to) {
   return writeFile(to, encoded) ? 0 : fail("The records could not be written.");
 }
 
-// Plays on the store with the steps given, and writes the whole store to the file.
+// Plays the given steps on the store and writes it to the file.
 template <class Play>
 int playAndWrite(const plist::Dictionary& before, const char* to, Play play) {
   test::MemoryPort port;

@@ -8,9 +8,9 @@
 namespace tb {
 namespace {
 
-using Worth = test::RuleTest;
+using NetWorthSum = test::RuleTest;
 
-TEST_F(Worth, IsTheSumOfItsPartsAndIsKept) {
+TEST_F(NetWorthSum, AddsAllParts) {
   world.totalCashAvailable = -500;
   world.trackCardPortfolio = {10, 40};
   world.realEstateIndex = 1.2;
@@ -21,11 +21,11 @@ TEST_F(Worth, IsTheSumOfItsPartsAndIsKept) {
        .rounds = {{.valuation = 1000}, {.valuation = 3000}, {.valuation = 9000}},
        .roundsResolved = 2},
       {.equity = 0.5, .rounds = {{.valuation = 1000}}, .roundsResolved = 1, .status = ventureStatus::exited}};
-  keepNetWorth(game);
+  updateNetWorth(game);
   EXPECT_DOUBLE_EQ(world.saveNetworth, -500 + 40 + 1300 + 1600 + 300);
 }
 
-TEST_F(Worth, AVehicleIsWorthNothingAfterFortyYearsAndLessAfterMore) {
+TEST_F(NetWorthSum, VehiclesLoseValueBelowZero) {
   const Transportation car{.pricePaid = 30'000, .economyIndex = 1, .yearPurchased = 2026};
   world.yearNumber = 2026;
   EXPECT_DOUBLE_EQ(vehicleValue(world, car), 30'000);
@@ -38,7 +38,7 @@ TEST_F(Worth, AVehicleIsWorthNothingAfterFortyYearsAndLessAfterMore) {
   EXPECT_DOUBLE_EQ(vehicleValue(world, {.pricePaid = 100, .economyIndex = 0.8, .yearPurchased = 2026}), 140);
 }
 
-TEST_F(Worth, ThePlatformCountsOnceLaunchedAtItsOwnShareOfTheLastValuation) {
+TEST_F(NetWorthSum, IncludesTheShareOfALaunchedPlatform) {
   world.platformShares = 600;
   world.platformCashAvailable = 1000;
   world.platformInfrastureValue = 500;
@@ -47,7 +47,7 @@ TEST_F(Worth, ThePlatformCountsOnceLaunchedAtItsOwnShareOfTheLastValuation) {
   EXPECT_EQ(totalPlatformShares(world), 1000);
   EXPECT_EQ(netWorth(world).platform, 0);
   world.isPlatformLaunched = 1;
-  EXPECT_DOUBLE_EQ(netWorth(world).platform, 900);  // not valued yet: what it holds
+  EXPECT_DOUBLE_EQ(netWorth(world).platform, 900);  // not valued yet: its cash
   world.trackBusinessValuation = {70, 2000};
   EXPECT_DOUBLE_EQ(netWorth(world).platform, 1200);
   world.platformShares = 0;

@@ -26,7 +26,7 @@ WorldState paidWorld() {
   return world;
 }
 
-TEST(PaymentHistory, TellsEveryPaymentOnceTheNewestFirst) {
+TEST(PaymentHistory, ListsPaymentsNewestFirst) {
   std::vector<std::string> told;
   for (const Payment& payment : paymentHistory(paidWorld())) {
     told.push_back(payment.title + " " + std::to_string(static_cast<int>(payment.kind)) + " " +
@@ -35,15 +35,15 @@ TEST(PaymentHistory, TellsEveryPaymentOnceTheNewestFirst) {
   }
   EXPECT_EQ(told, (std::vector<std::string>{
                       "Salt Road 3 2028/3 200 syndication", "Fizz 2 2028/2 47 ",
-                      "An investment 4 2028/2 1 box office",  // its film is gone
+                      "An investment 4 2028/2 1 box office",  // no film with that id
                       "Salt Road 4 2026/1 -30 box office",
-                      "Salt Road 0 2026/52 940 ",  // counted by the summary of the last week
+                      "Salt Road 0 2026/52 940 ",  // counted in the previous week's summary
                       "Salt Road 1 2026/52 60 ",
                       "Fizz 0 2026/9 0 ",  // worked for nothing
                   }));
 }
 
-TEST(PaymentHistory, SumsUpTheYearsThatPaidAndTheRunningOne) {
+TEST(PaymentHistory, SumsByYear) {
   const std::vector<YearOfPayments> years = paymentsByYear(paymentHistory(paidWorld()), 2030);
   ASSERT_EQ(years.size(), 3U);
   EXPECT_EQ(years[0].total(), 970);

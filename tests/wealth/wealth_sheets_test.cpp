@@ -1,4 +1,4 @@
-// What a week pays, and when: sessions, checks, Patron and energy.
+// Golden sheets of filming pay, residuals, Patron and energy.
 
 #include <format>
 #include <gtest/gtest.h>
@@ -126,7 +126,7 @@ TEST(GoldenWealth, EnergyOfAgesAndWeeks) {
                 world.saveAllAuditionList.push_back(
                     {.isPrincipal = 1, .weekAudition = 6, .funnelStage = 1 + role % 2});
               }
-              // What was not got is not running: an audition of old, and one of the week that ends.
+              // Lost roles do not count: an old audition, and one of the week that is ending.
               for (const std::int64_t week : {4, 5}) {
                 world.saveAllAuditionList.push_back(
                     {.isPrincipal = 1, .weekAudition = week, .funnelStage = funnel::invited});

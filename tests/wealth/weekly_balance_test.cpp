@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::int64_t now = 60;
 
-struct Balance : test::RuleTest {
+struct WeeklyBalance : test::RuleTest {
   Balance() {
     world.yearNumber = 2027;
     world.weekNumberForTracking = now;
@@ -29,7 +29,7 @@ struct Balance : test::RuleTest {
   }
 };
 
-TEST_F(Balance, EveryKindOfIncomeReachesTheCashOnce) {
+TEST_F(WeeklyBalance, AddsEveryKindOfIncomeOnce) {
   world.saveAllWeeklyLineItems = {{.amount = 50}, {.amount = 20}, {.amount = 7, .isExpense = false}};
   earn(now - 1, 5000, 5000, 5000);
   earn(now, 1000, 200, 0);
@@ -39,7 +39,7 @@ TEST_F(Balance, EveryKindOfIncomeReachesTheCashOnce) {
                                 {.weekNumberForTracking = now, .payOut = 400}};
   world.saveAllRoyaltyPayouts = {{.weekNumberForTracking = now, .payout = 80},
                                  {.weekNumberForTracking = now + 1, .payout = 5000}};
-  world.saveAllCameos = {{.weekNumberForTracking = now, .totalPriceEarned = 5},  // of the career before
+  world.saveAllCameos = {{.weekNumberForTracking = now, .totalPriceEarned = 5},  // of the previous career
                          {.weekNumberForTracking = 900, .totalPriceEarned = 5000},
                          {.weekNumberForTracking = now, .totalPriceEarned = 20}};
   world.saveAllPropertyList = {{.weeklyRent = 300, .isPrimary = 1}, {.weeklyRent = 90, .rentEarned = 10}};
@@ -63,19 +63,19 @@ TEST_F(Balance, EveryKindOfIncomeReachesTheCashOnce) {
   EXPECT_EQ(world.activityTracker, (TextList{"You received a residual check for $30.00"}));
 }
 
-TEST_F(Balance, BillsAreStillDueWithoutCash) {
+TEST_F(WeeklyBalance, DeductsExpensesWithoutCash) {
   world.saveAllWeeklyLineItems = {{.amount = 50}};
   world.platformSalary = 51;
   world.totalCashAvailable = 20;
   const WeekBalance balance = balanceWeek(game);
   EXPECT_EQ(balance.income, 0);
   EXPECT_EQ(world.totalCashAvailable, -30);
-  EXPECT_EQ(world.weekNetIncome, 0);  // expenses are no part of it
+  EXPECT_EQ(world.weekNetIncome, 0);  // excludes expenses
   EXPECT_TRUE(world.weekBalanceItems.empty());
   EXPECT_TRUE(world.activityTracker.empty());
 }
 
-TEST_F(Balance, APaidSessionAndAReleaseOfTheWeekAreFoundInOnePass) {
+TEST_F(WeeklyBalance, FindsSessionsAndReleasesOfTheWeek) {
   world.saveAllAuditionList = {
       {.weekToWork = now - 1, .weekReleased = now - 1, .payment = 800, .funnelStage = funnel::wrapped}};
   EXPECT_EQ(balanceWeek(game).income, 800);

@@ -29,12 +29,12 @@ struct Agenda : test::RuleTest {
   }
 };
 
-TEST_F(Agenda, TheSoonestComesFirstAndWhatIsOverOrNotYetAnsweredIsNotDue) {
+TEST_F(Agenda, SortsDueItemsAndOmitsPastAndUnansweredOnes) {
   add(funnel::wrapped);
   add(funnel::booked);
   add(funnel::invited);
-  add(funnel::invited).weekAudition = 9;  // over, and somebody else's
-  add(funnel::wrapped).weekReleased = 9;  // out
+  add(funnel::invited).weekAudition = 9;  // lost
+  add(funnel::wrapped).weekReleased = 9;  // released
   add(funnel::submitted);
   add(funnel::closed);
   add(funnel::booked).weekToWork = 10;
@@ -45,7 +45,7 @@ TEST_F(Agenda, TheSoonestComesFirstAndWhatIsOverOrNotYetAnsweredIsNotDue) {
   EXPECT_EQ(due.back().boost->kind, BoostKind::promote);
 }
 
-TEST_F(Agenda, WhatThereIsRoomForFollowsEnergyCashAndContract) {
+TEST_F(Agenda, SuggestsWhatEnergyCashAndContractAllow) {
   world.totalEnergyAvailable = 45;
   EXPECT_EQ(kindsOf(openItems(world)), (std::vector{Kind::submissions, Kind::job, Kind::training}));
   EXPECT_EQ(openItems(world).front().count, 2);
@@ -55,7 +55,7 @@ TEST_F(Agenda, WhatThereIsRoomForFollowsEnergyCashAndContract) {
   world.totalEnergyAvailable = 1;
   EXPECT_TRUE(openItems(world).empty());
 
-  // Two leads and the fee open the guild; their footage, a better reel.
+  // Two leads and the fee allow joining the guild; their footage allows a better reel.
   world.totalCashAvailable = 3000;
   for (int lead = 0; lead < 2; ++lead) add(funnel::wrapped).performanceRating = 60;
   EXPECT_EQ(kindsOf(openItems(world)), (std::vector{Kind::guild, Kind::footageReel}));
@@ -64,12 +64,12 @@ TEST_F(Agenda, WhatThereIsRoomForFollowsEnergyCashAndContract) {
   EXPECT_TRUE(openItems(world).empty());
 }
 
-TEST_F(Agenda, NobodyWithTooManyRolesIsSentForMore) {
+TEST_F(Agenda, SuggestsNoSubmissionsWithTooManyRoles) {
   for (int role = 0; role < 6; ++role) add(funnel::booked);
   EXPECT_FALSE(std::ranges::contains(kindsOf(openItems(world)), Kind::submissions));
 }
 
-TEST_F(Agenda, WhatRunsByItselfIsCounted) {
+TEST_F(Agenda, CountsRunningItems) {
   add(funnel::submitted);
   add(funnel::submitted).didAct = 0;
   world.weeklyJobContractRemaining = 5;
@@ -81,7 +81,7 @@ TEST_F(Agenda, WhatRunsByItselfIsCounted) {
   EXPECT_EQ(running[2].index, 1U);
 }
 
-TEST_F(Agenda, TheStepsOfTheFirstWeekTickThemselves) {
+TEST_F(Agenda, ChecksOffTheStepsOfTheFirstWeek) {
   EXPECT_FALSE(firstSteps(world));
   world.weekNumberForTracking = 1;
   EXPECT_FALSE(firstSteps(world)->hasWork || firstSteps(world)->hasSubmitted);
@@ -90,11 +90,11 @@ TEST_F(Agenda, TheStepsOfTheFirstWeekTickThemselves) {
   EXPECT_TRUE(firstSteps(world)->hasWork && firstSteps(world)->hasSubmitted);
 }
 
-TEST_F(Agenda, LastWeeksOutcomesStartWithTheBest) {
+TEST_F(Agenda, SortsOutcomesBestFirst) {
   for (int role = 0; role < 2; ++role) add(funnel::invited).weekAudition = 9;
   add(funnel::wrapped).weekToWork = 9;
   add(funnel::booked).weekAudition = 9;
-  add(funnel::booked);  // some other week
+  add(funnel::booked);  // in another week
   for (const std::int64_t week : {9, 10, 10}) {
     world.saveAllWeeklyEarnings.push_back(
         {.sessionEarned = 100, .residualsEarned = 5, .weekNumberForTracking = week});

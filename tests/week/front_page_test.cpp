@@ -1,4 +1,4 @@
-// What the review makes of a week: what leads, what is a moment, what folds away.
+// The front page: the headline, moments, and folded lines.
 
 #include "week/front_page.h"
 
@@ -12,10 +12,10 @@
 namespace tb {
 namespace {
 
-struct FrontPages : test::RuleTest {
+struct FrontPageLayout : test::RuleTest {
   FrontPages() { world.weekNumberForTracking = 20; }
 
-  // A project of the player's that counts from 1 and is called "One", "Two", ...
+  // Adds a project with the next id from 1, titled "One", "Two", ...
   Audition& add(std::int64_t funnelStage, std::int64_t weekReleased = 40) {
     const char* const titles[] = {"One", "Two", "Three", "Four", "Five", "Six"};
     const std::size_t count = world.saveAllAuditionList.size();
@@ -29,7 +29,7 @@ struct FrontPages : test::RuleTest {
   void tell(NewsKind kind, std::int64_t filmId = 0, double amount = 0) {
     feedLine(world, {kind, filmId, amount}, "line " + std::to_string(world.WeekFeed.size() + 1));
   }
-  [[nodiscard]] FrontPage lay() const { return layFrontPage(game); }
+  [[nodiscard]] FrontPage lay() const { return layOutFrontPage(game); }
 
   static std::vector<std::string> textsOf(const std::vector<Story>& stories) {
     std::vector<std::string> texts;
@@ -43,8 +43,8 @@ struct FrontPages : test::RuleTest {
 
 using Texts = std::vector<std::string>;
 
-TEST_F(FrontPages, WhatRanksHigherLeadsWhateverItsPlaceInTheFeed) {
-  // Each of these outranks the one before.
+TEST_F(FrontPageLayout, TheHighestRankIsTheHeadline) {
+  // In ascending rank.
   const NewsKind rising[] = {NewsKind::jobEnded, NewsKind::classDone, NewsKind::invitation, NewsKind::payday,
                              NewsKind::wrap,     NewsKind::renewal,   NewsKind::offer,      NewsKind::award};
   for (const NewsKind kind : rising) {
@@ -58,14 +58,14 @@ TEST_F(FrontPages, WhatRanksHigherLeadsWhateverItsPlaceInTheFeed) {
   }
 }
 
-TEST_F(FrontPages, AmongEqualsTheLargerSumLeadsAndThenTheFirst) {
+TEST_F(FrontPageLayout, EqualRanksCompareAmountThenOrder) {
   tell(NewsKind::payday, 0, 50);
   tell(NewsKind::payday, 0, 900);
   tell(NewsKind::payday, 0, 900);
   expectHeadline("line 2");
 }
 
-TEST_F(FrontPages, TheRestKeepsTheOrderOfTheFeed) {
+TEST_F(FrontPageLayout, OtherLinesKeepTheFeedOrder) {
   tell(NewsKind::silence);
   tell(NewsKind::wrap);
   tell(NewsKind::offer);
@@ -73,11 +73,11 @@ TEST_F(FrontPages, TheRestKeepsTheOrderOfTheFeed) {
   EXPECT_EQ(textsOf(lay().rows), (Texts{"line 1", "line 2", "line 4"}));
 }
 
-TEST_F(FrontPages, SeveralRefusalsAndSilencesFoldIntoOneRow) {
+TEST_F(FrontPageLayout, FoldsRefusalsAndSilences) {
   for (int count = 0; count < 5; ++count) add(funnel::closed);
   world.saveAllAuditionList.edit(4).typeOfFilm = filmType::commercial;
   tell(NewsKind::silence, 1);
-  EXPECT_EQ(textsOf(lay().rows), Texts{"line 1"});  // one alone says so itself
+  EXPECT_EQ(textsOf(lay().rows), Texts{"line 1"});  // a single one is not folded
   EXPECT_TRUE(lay().folded.empty());
   tell(NewsKind::jobEnded);
   tell(NewsKind::refusal, 2);
@@ -97,13 +97,13 @@ TEST_F(FrontPages, SeveralRefusalsAndSilencesFoldIntoOneRow) {
   EXPECT_EQ(foldedWords(lay().folded), "2 said no, a commercial never wrote back");
 }
 
-TEST_F(FrontPages, AFirstRoleAndALeadAreMomentsAndOtherRolesAreNot) {
+TEST_F(FrontPageLayout, FirstRolesAndLeadsAreMoments) {
   add(funnel::booked);
   add(funnel::booked);
   tell(NewsKind::award);
   tell(NewsKind::offer, 1);
   tell(NewsKind::offer, 2);
-  EXPECT_TRUE(isMoment(world, world.weekFeedNews[1], world.weekFeedNews));  // both came in the first week
+  EXPECT_TRUE(isMoment(world, world.weekFeedNews[1], world.weekFeedNews));  // both in the first week
   EXPECT_TRUE(isMoment(world, world.weekFeedNews[2], world.weekFeedNews));
   add(funnel::wrapped);
   EXPECT_FALSE(isMoment(world, world.weekFeedNews[1], world.weekFeedNews));
@@ -113,8 +113,8 @@ TEST_F(FrontPages, AFirstRoleAndALeadAreMomentsAndOtherRolesAreNot) {
   EXPECT_TRUE(isMoment(world, world.weekFeedNews[0], world.weekFeedNews));
 }
 
-TEST_F(FrontPages, AMomentLeadsBeforeWhatOutranksIt) {
-  add(funnel::wrapped, 10);  // an earlier release, so that an extra's next one is nothing special
+TEST_F(FrontPageLayout, MomentsComeBeforeHigherRanks) {
+  add(funnel::wrapped, 10);  // an earlier release, so that the next one is not the first
   add(funnel::booked).role = "Lead";
   add(funnel::wrapped, 19);
   world.saveAllFilmList.push_back({.filmId = 3, .title = "Three", .weekReleased = 19});
@@ -127,7 +127,7 @@ TEST_F(FrontPages, AMomentLeadsBeforeWhatOutranksIt) {
   expectHeadline("Three is in theaters.");
 }
 
-TEST_F(FrontPages, TitlesThatCameOutAreTold) {
+TEST_F(FrontPageLayout, ShowsReleases) {
   struct Case {
     std::int64_t typeOfFilm, season;
     const char* text;
@@ -157,7 +157,7 @@ TEST_F(FrontPages, TitlesThatCameOutAreTold) {
   EXPECT_TRUE(lay().headline.empty());
 }
 
-TEST_F(FrontPages, AWrapSaysWhatItPaidThisWeek) {
+TEST_F(FrontPageLayout, WrapsShowTheirPay) {
   add(funnel::wrapped);
   tell(NewsKind::wrap, 1);
   world.saveAllWeeklyEarnings = {
@@ -167,7 +167,7 @@ TEST_F(FrontPages, AWrapSaysWhatItPaidThisWeek) {
   EXPECT_EQ(lay().headline[0].about.amount, 950);
 }
 
-TEST_F(FrontPages, NewsGoesWithTheLinesThatItStandsBeside) {
+TEST_F(FrontPageLayout, NewsMatchesItsLine) {
   endWeek(game);
   tell(NewsKind::wrap);
   const WeekSummary summary = openSummary(game);

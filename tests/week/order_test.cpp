@@ -1,4 +1,4 @@
-// The steps of a week in their order, in a world in which each of them leaves a trace.
+// The order of a week's steps, in a world where each step has a visible effect.
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -11,14 +11,14 @@
 namespace tb {
 namespace {
 
-// What a step leaves behind.
+// The visible effect of a step.
 struct Trace {
   std::string step;
   std::function<bool(const WorldState&)> isLeft;
 };
 
-// Chance that always gives the low end. At each draw it looks at the world, and notes which steps have left
-// their trace since the last look.
+// A random source that always gives the lowest value. At each draw it records which steps have had their
+// effect.
 class Witness : public RandomSource {
  public:
   std::uint64_t next() override {
@@ -30,7 +30,7 @@ class Witness : public RandomSource {
     awaited_ = std::move(traces);
     seen_.clear();
   }
-  // The steps in the order in which they were noticed, those of one look together.
+  // The steps in the order they were recorded; steps found at the same draw are on one line.
   std::vector<std::string> seen() {
     look();
     return seen_;
@@ -52,7 +52,7 @@ class Witness : public RandomSource {
   std::vector<std::string> seen_;
 };
 
-// The first of `markers` that each line has in it, in the order of the lines; lines without one are left out.
+// For each line the first of `markers` that it contains; lines without one are omitted.
 template <class TextLines>
 std::vector<std::string> marked(const TextLines& lines, const std::vector<std::string>& markers) {
   std::vector<std::string> found;
@@ -69,7 +69,7 @@ std::vector<std::string> marked(const TextLines& lines, const std::vector<std::s
 
 constexpr std::int64_t now = 77;  // weekNumberForTracking, the 25th week of its year
 
-struct StepOrder : testing::Test {
+struct WeekStepOrder : testing::Test {
   test::MemoryPort port;
   SaveStore store{port};
   Witness witness;
@@ -104,8 +104,8 @@ struct StepOrder : testing::Test {
   }
 };
 
-TEST_F(StepOrder, OfTheWeekThatEnds) {
-  constexpr std::int64_t roles = 6;  // one more than are played without stress, and one of them wraps
+TEST_F(WeekStepOrder, OfTheWeekThatEnds) {
+  constexpr std::int64_t roles = 6;  // one more than the limit without stress; one of them wraps
   for (std::int64_t id = 1; id <= roles; ++id) {
     world.saveAllAuditionList.push_back({.filmId = id,
                                          .isPrincipal = 1,
@@ -127,18 +127,18 @@ TEST_F(StepOrder, OfTheWeekThatEnds) {
        {"clock", [](const WorldState& state) { return state.weekNumberForTracking == now + 1; }}});
   endWeek(game);
   expectSeen({"the week starts", "auditions, energy, job, clock"});
-  EXPECT_EQ(world.totalEnergyAvailable, 100 - 7);  // of the job that ends, and of five roles
+  EXPECT_EQ(world.totalEnergyAvailable, 100 - 7);  // the ending job and five roles
 }
 
-// The bid that a title waited for, its sale, its new audience; one series and one saga that are judged; a run
-// that closes, a class that ends, a first payment from Patron, and an audition that is forgotten.
-TEST_F(StepOrder, OfTheSummaryThatOpens) {
+// A bid, a sale and reruns; verdicts on a series and a saga; the close of a run, the end of a class, the
+// first Patron payment, and a removed audition.
+TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
   addTitle(1, filmType::feature, "Sold", 60);
   addTitle(2, filmType::series, "Renewed", 11);
   addTitle(3, filmType::feature, "Ended", 11);
   addTitle(4, filmType::feature, "Closed", 8);
   world.saveAllAuditionList.edit(0).isContinued = -1;
-  world.saveAllAuditionList.edit(2).franchiseId = 999;  // of which there is no next film
+  world.saveAllAuditionList.edit(2).franchiseId = 999;  // a saga without a next film
   world.saveAllFilmList.edit(3).boxOfficeGross = 0;
   world.saveAllBoxOfficeList = {{.filmId = 4, .totalGross = 5e5}};
   world.saveAllSyndication = {{.filmId = 1,
@@ -166,15 +166,16 @@ TEST_F(StepOrder, OfTheSummaryThatOpens) {
        {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
   const WeekSummary summary = openSummary(game);
   expectSeen({"bids", "deals", "talk", "series", "saga", "box office", "classes, balance, clean-up"});
-  EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52, 1e-9);  // the sale's two years, then the talk
+  EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52,
+              1e-9);  // the sale's boost of two, then the drift
   EXPECT_EQ(marked(summary.feed, {"Sold", "Renewed", "Ended", "Drama", "Patron"}),
             (std::vector<std::string>{"Sold", "Renewed", "Ended", "Drama", "Patron"}));
   EXPECT_EQ(marked(world.activityTracker, {"Sold", "Renewed", "Ended", "Closed", "Drama", "Patron"}),
             (std::vector<std::string>{"Patron", "Drama", "Closed", "Ended", "Renewed", "Sold"}));
 }
 
-// In a week without news the tip is drawn: after the balance, and before what is left.
-TEST_F(StepOrder, OfAQuietSummary) {
+// In a week without news the tip is drawn after the balance and before the remaining steps.
+TEST_F(WeekStepOrder, OfAQuietSummary) {
   addTitle(1, filmType::studentFilm, "Out", 1);
   world.saveAllAuditionList.push_back({.filmId = 5, .funnelStage = funnel::closed});
   witness.watch(world, {{"release is offered", [](const WorldState& state) { return state.releaseOffered; }},
@@ -183,7 +184,7 @@ TEST_F(StepOrder, OfAQuietSummary) {
   expectSeen({"release is offered", "clean-up"});
 }
 
-TEST_F(StepOrder, OfTheSummaryThatCloses) {
+TEST_F(WeekStepOrder, OfTheSummaryThatCloses) {
   witness.watch(world,
                 {{"net", [](const WorldState& state) { return !state.saveWeeklyEarnings.empty(); }},
                  {"log", [](const WorldState& state) { return !state.activityTracker.empty(); }},

@@ -8,14 +8,14 @@
 namespace tb {
 namespace {
 
-struct Week : test::RuleTest {
+struct EndWeek : test::RuleTest {
   Week() : RuleTest(test::Unscripted::low) {}
 
   void close() {
     refreshHub(game, HubRefresh::worldChanged);
     closeSummary(game);
   }
-  WeekSummary liveWeek() {
+  WeekSummary playWeek() {
     endWeek(game);
     WeekSummary summary = openSummary(game);
     close();
@@ -27,7 +27,7 @@ struct Week : test::RuleTest {
   }
 };
 
-TEST_F(Week, TheYearEndsInTheRefreshAfterWeek52) {
+TEST_F(EndWeek, TheYearEndsAfterWeek52) {
   world.weekNumber = 52;
   world.weekNumberForTracking = 52;
   world.yearToDatePaycheck = 1234;
@@ -37,7 +37,7 @@ TEST_F(Week, TheYearEndsInTheRefreshAfterWeek52) {
   EXPECT_EQ(summary.week, 52);
   EXPECT_EQ(summary.year, 2026);
   EXPECT_EQ(world.ageCount, 18);
-  for (int refresh = 0; refresh < 2; ++refresh) {  // a refresh more changes nothing more
+  for (int refresh = 0; refresh < 2; ++refresh) {  // another refresh changes nothing
     refreshHub(game, HubRefresh::worldChanged);
     EXPECT_EQ(world.yearNumber, 2027);
     EXPECT_EQ(world.weekNumber, 1);
@@ -50,13 +50,13 @@ TEST_F(Week, TheYearEndsInTheRefreshAfterWeek52) {
   }
 }
 
-TEST_F(Week, AYearThatWasCutShortEndsAtTheNextLaunch) {
+TEST_F(EndWeek, AnInterruptedYearEndEndsAtTheNextLaunch) {
   refreshInWeek(53, HubRefresh::launch);
   EXPECT_EQ(world.weekNumber, 1);
   EXPECT_EQ(world.yearNumber, 2027);
 }
 
-TEST_F(Week, AJobOfOneWeekPaysOnceMoreBeforeItIsCleared) {
+TEST_F(EndWeek, AJobIsClearedAWeekAfterItEnds) {
   world.weeklyJobTitle = "Set Runner";
   world.weeklyJobIncome = 400;
   world.weeklyEnergyCost = 12;
@@ -73,13 +73,13 @@ TEST_F(Week, AJobOfOneWeekPaysOnceMoreBeforeItIsCleared) {
   EXPECT_EQ(world.totalCashAvailable, 400);
   EXPECT_EQ(world.weeklyJobTitle, "");
   EXPECT_EQ(world.weeklyJobIncome, 0);
-  EXPECT_EQ(world.totalEnergyAvailable, 88);  // the last refill still pays for it
+  EXPECT_EQ(world.totalEnergyAvailable, 88);  // the last refill still includes the cost
   endWeek(game);
   EXPECT_EQ(world.totalEnergyAvailable, 100);
 }
 
-TEST_F(Week, AQuietWeekGivesATipAndSaysSoInTheLog) {
-  const WeekSummary summary = liveWeek();
+TEST_F(EndWeek, AQuietWeekShowsATip) {
+  const WeekSummary summary = playWeek();
   EXPECT_FALSE(summary.hasNews);
   ASSERT_EQ(summary.feed.size(), 1u);
   EXPECT_TRUE(summary.feed[0].starts_with("💡 "));
@@ -87,7 +87,7 @@ TEST_F(Week, AQuietWeekGivesATipAndSaysSoInTheLog) {
   EXPECT_EQ(world.activityTracker, (TextList{"JANUARY 9, 2026", "Nothing significant happened this week"}));
 }
 
-TEST_F(Week, ABusyWeekIsHeadedByItsDateAlone) {
+TEST_F(EndWeek, LogsTheDateOfABusyWeek) {
   endWeek(game);
   world.saveAllCompletedClasses = {{.classId = 1, .weeksRemaining = 1, .experience = 25}};
   const WeekSummary summary = openSummary(game);
@@ -99,15 +99,15 @@ TEST_F(Week, ABusyWeekIsHeadedByItsDateAlone) {
   EXPECT_EQ(world.saveWeeklyEarnings, (RealList{-50}));
 }
 
-TEST_F(Week, EarningsKeepTheNewestYear) {
-  for (int week = 0; week < 54; ++week) liveWeek();
+TEST_F(EndWeek, EarningsKeepTheLastYear) {
+  for (int week = 0; week < 54; ++week) playWeek();
   EXPECT_EQ(world.saveWeeklyEarnings.size(), 52u);
   EXPECT_EQ(world.trackRealEstateIndex.size(), 48u);
   EXPECT_EQ(world.weekNumberForTracking, 55);
   EXPECT_EQ(world.yearNumber, 2027);
 }
 
-TEST_F(Week, TheHalfYearlyCleanUpForgetsStaleAndClosedAuditionsUnderBothKeys) {
+TEST_F(EndWeek, CleansUpAuditionsTwiceAYear) {
   world.weekNumberForTracking = 77;
   world.saveAllAuditionList = {{.filmId = 1, .weekAudition = 57, .funnelStage = 1},  // 20 weeks old
                                {.filmId = 2, .weekAudition = 58, .funnelStage = 1},
@@ -135,10 +135,10 @@ TEST_F(Week, TheHalfYearlyCleanUpForgetsStaleAndClosedAuditionsUnderBothKeys) {
   store.remove("save");
   static_cast<void>(openSummary(game));
   saveChanges(game);
-  EXPECT_TRUE(store.contains("save"));  // with nothing to forget, too
+  EXPECT_TRUE(store.contains("save"));  // also when nothing is removed
 }
 
-TEST_F(Week, BestFiguresArePutForwardOnceUntilTheFlagClears) {
+TEST_F(EndWeek, SubmitsBestFiguresOnce) {
   world.saveNetworth = 1000.9;
   world.saveBoxOffice = 77;
   refreshInWeek(16, HubRefresh::launch);  // not at launch

@@ -1,4 +1,4 @@
-// The page's entry: one element to draw into, and the shell that loads the game and keeps it running.
+// The entry point: starts the shell in an element of the page.
 
 import { render } from "preact";
 

@@ -1,19 +1,19 @@
-// Keeps the game for play without a network. VERSION is a hash over all FILES, which the build fills in; each
-// version has a cache of its own, filled as a whole or not at all, and gone once the next one is in use.
+// Caches the game for offline play. The build fills in FILES and VERSION, a hash of them. Each version has
+// its own cache, which is filled completely or not at all and deleted when the next version is active.
 
-export {}; // a module: its names are its own
+export {}; // makes this file a module
 
 declare const self: ServiceWorkerGlobalScope;
 declare const VERSION: string;
 declare const FILES: readonly string[];
 
-// An origin may hold the game under several paths.
+// An origin can host the game at several paths.
 const cachePrefix = `top-billing ${self.registration.scope} `;
 const cacheName = cachePrefix + VERSION;
 const entry = "./";
 
-// A name with a hash in it never changes its content, so a copy that the browser has, as on the first visit, is
-// as good as the network's. The few other files have to come from there, to be of this version.
+// Files with a hash in their name never change, so the HTTP cache can be used. Other files must be fetched
+// from the network.
 async function keepEverything(): Promise<void> {
   const cache = await caches.open(cacheName);
   const hashed = /-[0-9a-f]{10}\.\w+$/;

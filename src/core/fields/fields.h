@@ -1,6 +1,6 @@
 #pragma once
 
-// The fields of every record, for the save file. Rules include the records alone.
+// The fields of every record, for the save file. Rules include only the record headers.
 
 #include "core/fields/career.h"
 #include "core/fields/charts.h"

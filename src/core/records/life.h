@@ -8,7 +8,7 @@
 
 namespace tb {
 
-// Matches::relationshipState. The partner is the first record from `dating` up.
+// Values of Matches::relationshipState. The partner is the first record with `dating` or above.
 namespace bond {
 inline constexpr std::int64_t ended = -1;
 inline constexpr std::int64_t matched = 0;
@@ -17,37 +17,38 @@ inline constexpr std::int64_t engaged = 2;
 inline constexpr std::int64_t married = 3;
 }  // namespace bond
 
-// Somebody met on Latch. Ended relationships stay in the list as history.
+// A match on Latch. Ended relationships stay in the list.
 //
-// matchId is no key: its counter starts again at every launch. A match is told by its place in the list.
+// matchId is not unique, because its counter restarts at every launch. Matches are identified by their index
+// in the list.
 struct Matches {
   std::int64_t matchId = 0;
   std::string name;
   std::string matchImage;
   std::string matchPrompt;
   std::string matchPromptResponse;
-  std::string matchComment;  // the line that the player sent
+  std::string matchComment;  // the message that the player sent
   std::string occupation;
   std::int64_t weekMatched = 0;
-  std::int64_t weekStartedDating = 0;  // 0 before it is official
+  std::int64_t weekStartedDating = 0;  // 0 until they are dating
   std::int64_t weekEndedDating = -1;   // -1 while open
-  std::int64_t energyBonus = 0;        // added to totalEnergyMax while together
-  double relationshipStatus = 0;       // the meter: 100 is full, 105 the ceiling; below 0 it is over
+  std::int64_t energyBonus = 0;        // added to totalEnergyMax during the relationship
+  double relationshipStatus = 0;       // 100 is a full meter, 105 the maximum; below 0 the relationship ends
   std::int64_t age = 18;
   double chemistry = 5;     // 5 and up
   std::int64_t beauty = 5;  // this and the next three: 5 to 100
   std::int64_t intelligence = 5;
   std::int64_t personality = 5;
-  std::int64_t maintenance = 5;  // a pregnancy can take it above 100
+  std::int64_t maintenance = 5;  // can exceed 100 during a pregnancy
   double weeklyEarnings = 0;
   std::int64_t igFollowers = 0;
   std::vector<std::string> interests;
-  std::int64_t interested = 0;  // 0: is into the player; 1: rejection waits
+  std::int64_t interested = 0;  // 0: likes the player; 1: will reject the player
   std::string pickupLineResponse;
   std::string breakupLine;             // empty until a break-up
   std::int64_t relationshipState = 0;  // bond
-  std::int64_t timeToPropose = 52;     // weeks of dating wanted before a proposal, 52 to 152
-  std::int64_t timeToBirth = -1;       // weeks left of a pregnancy; -1 when none runs
+  std::int64_t timeToPropose = 52;     // weeks of dating before a proposal is accepted, 52 to 152
+  std::int64_t timeToBirth = -1;       // weeks left of a pregnancy; -1 for none
   bool operator==(const Matches&) const = default;
 };
 

@@ -1,20 +1,20 @@
 #pragma once
 
-// Money that titles earn, each amount dated in the week in which the summary counts it. A payout that falls
-// due while a week is ending is dated in the week that begins.
+// Payments for titles. Each is dated in the week whose summary counts it: a payout made while a week is
+// ending is dated in the next week.
 
 #include <cstdint>
 #include <string>
 
 namespace tb {
 
-// RoyaltyPayout::typeOfPayment and EquityPayout::typeOfPayment.
+// Values of RoyaltyPayout::typeOfPayment and EquityPayout::typeOfPayment.
 namespace payoutSource {
 inline constexpr std::int64_t boxOffice = 0;
 inline constexpr std::int64_t syndication = 1;
 }  // namespace payoutSource
 
-// Session pay, buyout or residuals of one title in one week.
+// Session pay, buyout or residuals of a title in a week.
 struct WeeklyEarnings {
   std::int64_t filmId = 0;
   std::string filmTitle;
@@ -39,7 +39,7 @@ struct RoyaltyPayout {
   std::int64_t typeOfPayment = 0;  // payoutSource
   std::int64_t sourceId = 0;       // the signed agent's id; 0 when none
   double agentEarnings = 0;
-  double totalDealGross = 0;          // what the share was taken from
+  double totalDealGross = 0;          // dollars that the share is a part of
   std::int64_t syndicationYears = 0;  // 0 for box office
   std::string syndicationName;        // empty for box office
   bool operator==(const RoyaltyPayout&) const = default;
@@ -52,8 +52,8 @@ struct EquityPayout {
   std::int64_t weekNumberForTracking = 0;
   double payOut = 0;
   std::int64_t typeOfPayment = 0;  // payoutSource
-  std::int64_t sourceId = 0;       // 3 for box office of the player's own production, else 0
-  double managerEarnings = 0;      // -1 for box office of the player's own production, else 0
+  std::int64_t sourceId = 0;       // 3 for the box office of the player's own production, else 0
+  double managerEarnings = 0;      // -1 for the box office of the player's own production, else 0
   bool operator==(const EquityPayout&) const = default;
 };
 

@@ -8,13 +8,13 @@
 
 namespace tb {
 
-// One of the executive team. Who leaves stays in the list, and stays a shareholder.
+// A member of the executive team. Former members stay in the list and keep their shares.
 struct Employee {
   static constexpr std::int64_t stillActive = -1;
 
   std::int64_t id = 0;
   std::string name;
-  std::int64_t salary = 0;      // dollars a week
+  std::int64_t salary = 0;      // dollars per week
   std::int64_t department = 0;  // 0 technology, 1 finance, 2 operations
   std::string imageString;
   std::int64_t originalRating = 0;
@@ -23,12 +23,12 @@ struct Employee {
   std::int64_t yearSigned = 0;
   std::int64_t weekSigned = 0;
   std::int64_t sharesOwned = 0;
-  std::int64_t energyBoost = 0;  // taken off the company's weekly energy cost
+  std::int64_t energyBoost = 0;  // subtracted from the company's weekly energy cost
   std::int64_t yearEnded = stillActive;
   bool operator==(const Employee&) const = default;
 };
 
-// A tier of technology that the company owns, one a category.
+// A technology tier that the company owns; one per category.
 struct StreamingTechUpgrade {
   std::int64_t uniqueId = 0;  // 1 to 30
   std::string title;
@@ -39,11 +39,12 @@ struct StreamingTechUpgrade {
   std::int64_t weeklyCost = 0;  // dollars
   std::int64_t requiredSubscribers = 0;
   std::string description;
-  double bonus = 0;  // rolled at purchase, on top of that of the tier replaced
+  double bonus = 0;  // drawn at purchase and added to the bonus of the tier it replaces
   bool operator==(const StreamingTechUpgrade&) const = default;
 };
 
-// A capital raise. Open while the deadline lies ahead and nobody has invested; its shares count from then on.
+// A capital raise. It is open until the deadline or until somebody invests; its shares count from the
+// investment on.
 struct FundraisingRound {
   std::int64_t id = 0;
   double equityOffered = 0;           // a fraction
@@ -54,7 +55,7 @@ struct FundraisingRound {
   std::vector<std::string> investorName;
   std::vector<double> investorAmount;
   std::vector<double> investorValuation;
-  std::int64_t weeksToClose = 0;  // the week of the deadline, in spite of its name
+  std::int64_t weeksToClose = 0;  // the week of the deadline, despite the name
   bool operator==(const FundraisingRound&) const = default;
 };
 
@@ -72,10 +73,10 @@ struct RivalPlatform {
   double weeklyCosts = 0;
   double cashOnHand = 0;
   double infrastructureValue = 0;
-  double growthRate = 0;  // a week, a fraction
+  double growthRate = 0;  // per week, a fraction
   std::int64_t sharesOutstanding = 0;
-  std::int64_t specialty = 0;        // kind of content lot it bids for, 0 to 4
-  std::vector<double> priceHistory;  // share price, newest last, 40 weeks
+  std::int64_t specialty = 0;        // the kind of content lot that it bids for, 0 to 4
+  std::vector<double> priceHistory;  // share price of the last 40 weeks, newest last
   std::int64_t status = 0;           // rivalStatus
   bool operator==(const RivalPlatform&) const = default;
 };

@@ -1,10 +1,10 @@
 #pragma once
 
-// Every record of the game, one header an area. Field names are the save file's and the rules' at once; a
-// comment stands where meaning, unit or a special value does not follow from the name.
+// All records, one header per area. Field names are the names in the save file. A field has a comment when
+// its name does not say its meaning, unit or special values.
 //
-// Three habits hold everywhere unless a comment says otherwise:
-//   - a field whose name speaks of a week holds weekNumberForTracking, which never wraps;
+// Unless a comment says otherwise:
+//   - a field named after a week holds weekNumberForTracking, which never wraps;
 //   - flags are the integers 0 and 1;
 //   - money is in dollars, a rate or share is a fraction (0.01 is 1 %).
 

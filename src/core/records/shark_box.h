@@ -1,6 +1,7 @@
 #pragma once
 
-// Stakes in the ventures of Shark Box. A deal's whole future is rolled when it is closed and then revealed.
+// Stakes in Shark Box ventures. A deal's whole future is drawn when the deal is closed and revealed over
+// time.
 
 #include <cstdint>
 #include <string>
@@ -8,14 +9,14 @@
 
 namespace tb {
 
-// SharkBoxDeal::exitType.
+// Values of SharkBoxDeal::exitType.
 namespace ventureExit {
 inline constexpr std::int64_t acquired = 1;
 inline constexpr std::int64_t wentPublic = 2;
 inline constexpr std::int64_t shutDown = 3;
 }  // namespace ventureExit
 
-// SharkBoxDeal::status.
+// Values of SharkBoxDeal::status.
 namespace ventureStatus {
 inline constexpr std::int64_t active = 0;
 inline constexpr std::int64_t exited = 1;
@@ -25,8 +26,8 @@ struct SharkBoxRound {
   std::string name;  // "Seed", "Series A", ...
   std::int64_t week = 0;
   double valuation = 0;
-  double dilution = 0;  // fraction of the company sold in the round
-  bool isDown = false;  // valued below the round before
+  double dilution = 0;  // fraction of the company that the round sells
+  bool isDown = false;  // valued below the previous round
   bool operator==(const SharkBoxRound&) const = default;
 };
 
@@ -43,19 +44,19 @@ struct SharkBoxDeal {
   double askAmount = 0;
   double askEquity = 0;  // a fraction
   double investedAmount = 0;
-  double equity = 0;  // the player's present fraction
+  double equity = 0;  // the player's current fraction
   std::int64_t weekAccepted = 0;
   std::vector<SharkBoxRound> rounds;  // the first is "Seed"
-  std::int64_t roundsResolved = 1;    // "Seed" is settled from the start
-  std::vector<double> stakeHistory;   // the stake's worth after each round that was settled later
-  std::int64_t lastOfferedRound = 0;  // place in rounds of the last one that an e-mail was sent for
+  std::int64_t roundsResolved = 1;    // "Seed" counts as resolved
+  std::vector<double> stakeHistory;   // the stake's value after each later round
+  std::int64_t lastOfferedRound = 0;  // index in `rounds` of the last one that was offered by e-mail
   std::int64_t exitWeek = 0;
   std::int64_t exitType = 0;  // ventureExit
-  double exitMultiple = 0;    // of the stake's last worth
+  double exitMultiple = 0;    // of the stake's last value
   std::int64_t status = 0;    // ventureStatus
   double realizedCash = 0;
   std::int64_t weekLastViewed = 0;
-  std::int64_t modelVersion = 0;  // of the rules that rolled the future
+  std::int64_t modelVersion = 0;  // version of the rules that drew the future
   double quality = 0;             // 0 to 1, never shown
   double ttmRevenue = 0;          // of the last twelve months
   std::int64_t growthPct = 0;

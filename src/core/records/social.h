@@ -1,6 +1,6 @@
 #pragma once
 
-// What reaches the player from the public: posts, e-mails, cameo sales.
+// Posts, e-mails and cameo sales.
 
 #include <cstdint>
 #include <string>
@@ -9,11 +9,11 @@
 
 namespace tb {
 
-// A post that is kept: the player's own, and those that official accounts and partners send. The passing
-// crowd of the feed has the same shape and is never stored.
+// A saved post: by the player, an official account or a partner. Posts of the crowd have the same struct and
+// are never saved.
 struct Chirp {
   std::int64_t id = 0;
-  std::int64_t artistId = 0;  // 0 the player, -1 the crowd; posts of the player are counted by it
+  std::int64_t artistId = 0;  // 0 the player, -1 anyone else
   std::string chirpName;
   std::string message;
   std::int64_t isPinned = 0;
@@ -24,16 +24,16 @@ struct Chirp {
   std::int64_t likeCount = 0;
   std::int64_t news = 0;  // 0 the player, -1 the crowd
   std::string imageString;
-  std::int64_t typeOfAccount = 0;  // 0 the player, 3 the partner, 5 a fan, 6 a voice of the industry
-  plist::Date timestamp;           // for the label that tells hours since
-  std::int64_t filmResponse = -1;  // kind of response to a promotion; -1 when none
-  std::int64_t filmId = -1;        // the title that it speaks of; -1 when none
+  std::int64_t typeOfAccount = 0;  // 0 the player, 3 the partner, 5 a fan, 6 an industry account
+  plist::Date timestamp;           // for the "hours ago" label
+  std::int64_t filmResponse = -1;  // the kind of promotion it belongs to; -1 for none
+  std::int64_t filmId = -1;        // the title that it is about; -1 for none
   bool operator==(const Chirp&) const = default;
 };
 
-// Email::typeOfDeal.
+// Values of Email::typeOfDeal.
 namespace deal {
-inline constexpr std::int64_t help = 0;  // the career's first mails; the gift among them by its id
+inline constexpr std::int64_t help = 0;  // the first e-mails of a career; the gift is recognized by its id
 inline constexpr std::int64_t agent = 1;
 inline constexpr std::int64_t investment = 2;
 inline constexpr std::int64_t royalty = 3;
@@ -41,7 +41,7 @@ inline constexpr std::int64_t franchise = 4;
 inline constexpr std::int64_t fundraise = 6;
 inline constexpr std::int64_t buyout = 7;
 inline constexpr std::int64_t sharkBox = 8;
-inline constexpr std::int64_t message = 99;  // no deal: opening it does nothing
+inline constexpr std::int64_t message = 99;  // no deal: opening it does nothing more
 }  // namespace deal
 
 // In order of arrival; the inbox keeps the 20 most recent.
@@ -52,7 +52,7 @@ struct Email {
   std::int64_t typeOfDeal = 0;  // deal
   std::string title;
   std::string message;
-  std::int64_t connectingId = -1;  // id of the agent, venture or rival that it is about; -1 when none
+  std::int64_t connectingId = -1;  // id of the agent, venture or rival that it is about; -1 for none
   std::int64_t isAccepted = 0;
   std::int64_t weekNumber = 0;  // week of the year
   std::int64_t yearNumber = 0;

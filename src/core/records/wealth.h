@@ -1,6 +1,6 @@
 #pragma once
 
-// The ledger, and what money buys: homes, vehicles, cards.
+// Weekly items, and purchases: homes, vehicles, cards.
 
 #include <cstdint>
 #include <string>
@@ -13,13 +13,14 @@ struct WeeklyLineItem {
   static constexpr std::int64_t lifestyleCategory = 878;
   static constexpr std::int64_t basicNeedsType = -1;
 
-  std::int64_t category = 0;  // 0 basic needs, 1 guild dues, 3 property, lifestyleCategory a weekly option
+  std::int64_t category =
+      0;  // 0 basic needs, 1 guild dues, 3 property, lifestyleCategory for a weekly option
   std::string title;
-  double amount = 0;               // a week, positive
-  std::int64_t year = 0;           // in which the item began
+  double amount = 0;               // dollars per week, positive
+  std::int64_t year = 0;           // yearNumber of its start
   bool isExpense = true;           // false: income
-  std::int64_t typeOfExpense = 0;  // basicNeedsType, 1 guild dues, a weekly option's id
-  std::int64_t energyBoost = 0;    // what it adds to totalEnergyMax while held
+  std::int64_t typeOfExpense = 0;  // basicNeedsType, 1 for guild dues, the id of a weekly option
+  std::int64_t energyBoost = 0;    // added to totalEnergyMax while the item exists
   bool operator==(const WeeklyLineItem&) const = default;
 };
 
@@ -33,12 +34,12 @@ struct Analytics {
   bool operator==(const Analytics&) const = default;
 };
 
-// A home or land that the player owns. Its value now is pricePaid · (the market index - its own + 1).
+// A home or land that the player owns. Its value is pricePaid · (current market index - realEstateIndex + 1).
 struct Property {
   std::string propertyTitle;
   std::int64_t propertyId = 0;
   std::string propertyLocation;
-  double pricePaid = 0;        // upgrades add to it
+  double pricePaid = 0;        // dollars, including upgrades
   double realEstateIndex = 1;  // the market index at purchase
   std::int64_t bedrooms = 0;
   std::int64_t bathrooms = 0;
@@ -50,10 +51,10 @@ struct Property {
   std::int64_t rentalWeeksRemaining = 0;
   std::int64_t propertyType = 0;
   std::string imageName;
-  double transactionFee = 0;           // fraction taken on sale
-  std::int64_t isPrimary = 0;          // the residence: it gives energy and earns no rent
+  double transactionFee = 0;           // fraction of the sale price
+  std::int64_t isPrimary = 0;          // the residence: gives energy and earns no rent
   std::int64_t upgradesCost = 0;       // dollars
-  std::vector<std::int64_t> upgrades;  // ids of those done
+  std::vector<std::int64_t> upgrades;  // ids
   double desirability = 0;             // 0 to 1
   std::int64_t energyBonus = 0;        // added to totalEnergyMax while it is the residence
   bool operator==(const Property&) const = default;
@@ -70,27 +71,27 @@ struct Transportation {
   std::string imageName;
   std::int64_t yearPurchased = 0;
   std::int64_t isPrimary = 0;
-  std::int64_t energyBonus = 0;  // added to totalEnergyMax while it is the primary one
+  std::int64_t energyBonus = 0;  // added to totalEnergyMax while it is the primary vehicle
   bool operator==(const Transportation&) const = default;
 };
 
-// A collectible card in the vault. Its value now is valueAtPull · (the market index / its own).
+// A collectible card in the vault. Its value is valueAtPull · (current card index / cardIndex).
 struct MyCard {
   std::int64_t cert = 0;  // random certificate number
   std::string title;
   std::int64_t type = 0;
   std::int64_t number = 0;
-  std::int64_t year = 0;  // of the print
+  std::int64_t year = 0;  // of printing
   std::string imageString;
   std::int64_t isHolo = 0;
   std::int64_t isRare = 0;
   std::int64_t isEnglish = 0;
   std::int64_t isFirst = 0;
   std::int64_t grade = 0;
-  double cost = 0;  // of the pack
+  double cost = 0;  // of the pack, dollars
   double valueAtPull = 0;
-  double cardIndex = 1;  // the market index at the pull
-  double odds = 0;       // the percent chance shown
+  double cardIndex = 1;  // the market index when it was pulled
+  double odds = 0;       // the chance shown, percent
   bool operator==(const MyCard&) const = default;
 };
 

@@ -1,6 +1,5 @@
 #include "screens/backstage/backstage_detail_view_controller.h"
 
-
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/backstage/listing_parts.h"
@@ -25,7 +24,7 @@ Section theRole(const CastingListing& listing) {
   return section;
 }
 
-Section theProject(const Game& game, const CastingListing& listing) {
+Section projectSection(const Game& game, const CastingListing& listing) {
   return {.heading = "THE PROJECT",
           .nodes = {Row{.label = "Director", .value = listing.directorName},
                     Row{.label = "Genre", .value = joinedWithAnd(listing.movie->genre)},
@@ -40,7 +39,7 @@ Section theProject(const Game& game, const CastingListing& listing) {
 Page BackstageDetailViewController::view(const Game& game) {
   Page page{.title = listing_.movie->title, .subtitle = listingSummary(listing_)};
   page.nodes = {posterOf(*listing_.movie), Text{.text = listing_.movie->shortSummary}, theRole(listing_),
-                theProject(game, listing_)};
+                projectSection(game, listing_)};
   page.main = {submitButton(game.world, listing_)};
   return page;
 }

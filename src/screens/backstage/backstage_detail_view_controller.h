@@ -7,7 +7,7 @@
 
 namespace tb {
 
-// One listing of the casting network in full.
+// The details of a casting listing.
 class BackstageDetailViewController : public Screen {
  public:
   explicit BackstageDetailViewController(CastingListing listing) : listing_(std::move(listing)) {}

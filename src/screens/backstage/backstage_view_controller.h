@@ -4,7 +4,7 @@
 
 namespace tb {
 
-// The Backstage, behind the "B" at the hub's top right: what the industry knows of the performer.
+// The Backstage, opened by the "B" at the hub's top right: the performer's profile in the industry.
 class BackstageViewController : public Screen {
  public:
   [[nodiscard]] view::Page view(const Game& game) override;

@@ -14,14 +14,12 @@ using namespace view;
 void CastingNetworkViewController::load(Stage& stage) { board_ = openCastingNetwork(stage.game()); }
 
 Row CastingNetworkViewController::listingRow(const Game& game, const CastingListing& listing) const {
-  return {
-      .label = listing.movie->title,
-      .detail = tb::format("{} • {}\n{} • {}", typeName(listing.movie->type), listing.role,
-                           listingPay(game, listing), whenIs(game.world, listing.weekAudition)),
-      .picture = {posterOf(*listing.movie)},
-      .press =
-          [listing](Stage& stage) { stage.open(std::make_unique<BackstageDetailViewController>(listing)); },
-      .action = {submitButton(game.world, listing)}};
+  return {.label = listing.movie->title,
+          .detail = tb::format("{} • {}\n{} • {}", typeName(listing.movie->type), listing.role,
+                               listingPay(game, listing), whenIs(game.world, listing.weekAudition)),
+          .picture = {posterOf(*listing.movie)},
+          .press = [listing](Stage& stage) { stage.open<BackstageDetailViewController>(listing); },
+          .action = {submitButton(game.world, listing)}};
 }
 
 Page CastingNetworkViewController::view(const Game& game) {

@@ -5,7 +5,7 @@
 
 namespace tb {
 
-// The casting network: a board of roles, which stays as it is for as long as the screen is open.
+// The casting network: a board of roles, drawn once when the screen opens.
 class CastingNetworkViewController : public Screen {
  public:
   void load(Stage& stage) override;

@@ -1,7 +1,7 @@
 #include "screens/backstage/listing_parts.h"
 
 #include "career/submission.h"
-#include "core/audition_list.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "screens/parts.h"
 #include "screens/work/project_words.h"
@@ -30,7 +30,7 @@ view::Button submitButton(const WorldState& world, const CastingListing& listing
   view::Button button{.label = "Submit",
                       .press = [listing](Stage& stage) { submit(stage, listing); },
                       .name = "Submit for " + listing.movie->title};
-  if (auditionIndex(world, listing.filmId)) {
+  if (find(world.saveAllAuditionList, &Audition::filmId, listing.filmId)) {
     button.label = "Submitted";
     button.name = "Submitted for " + listing.movie->title;
     button.weight = view::Button::Weight::done;

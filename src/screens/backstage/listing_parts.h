@@ -1,6 +1,6 @@
 #pragma once
 
-// What the board and the page of one listing share.
+// Shared parts of the board and the details of a listing.
 
 #include <string>
 
@@ -13,11 +13,10 @@ namespace tb {
 // "Feature Film • Lead • Non-union".
 [[nodiscard]] std::string listingSummary(const CastingListing& listing);
 
-// What the role pays: "$1,200 • 1.4% residual".
+// The pay: "$1,200 • 1.4% residual".
 [[nodiscard]] std::string listingPay(const Game& game, const CastingListing& listing);
 
-// Submits for the listing. One that would be refused says why before it is pressed, and one that was used
-// that it was.
+// The button to submit. It shows why a submission would be refused, or that it was already made.
 [[nodiscard]] view::Button submitButton(const WorldState& world, const CastingListing& listing);
 
 }  // namespace tb

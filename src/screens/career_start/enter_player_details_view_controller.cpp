@@ -40,8 +40,7 @@ void EnterPlayerDetailsViewController::load(Stage& stage) {
            .headshotImage = world.headshotImage};
 }
 
-// The other gender has headshots of its own: the one chosen gives way to the one in its place, or the career
-// would begin with a picture that the form no longer shows.
+// Each gender has its own headshots, so the chosen one is replaced by the one at the same position.
 void EnterPlayerDetailsViewController::chooseGender(bool isMale) {
   const std::string chosen = headshotIn(form_.headshotImage);
   for (int number = 1; number <= headshotsOnOffer; ++number) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The form that names the performer. Every career begins here, and it can't be left undone.
+// The new-career form. It cannot be closed without completing it.
 
 #include <cstdint>
 #include <string>

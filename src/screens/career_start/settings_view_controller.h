@@ -4,7 +4,7 @@
 
 namespace tb {
 
-// Settings: the way to begin again.
+// Settings, with the restart of the career.
 class SettingsViewController : public Screen {
  public:
   [[nodiscard]] view::Page view(const Game& game) override;

@@ -1,6 +1,6 @@
 #pragma once
 
-// How the screens of the box office write its figures.
+// Shared parts of the box office screens.
 
 #include <string>
 #include <vector>
@@ -13,7 +13,7 @@ namespace tb {
 // "(240% RETURN)"; empty without a budget.
 [[nodiscard]] std::string returnText(double gross, double budget);
 
-// A film's takings: the opening, then week by week. The last weeks of a loser can be below 0.
+// A chart of a film's gross per week, starting with the opening. Values can be negative.
 [[nodiscard]] view::Chart takingsChart(const Game& game, std::string title,
                                        const std::vector<double>& takings);
 

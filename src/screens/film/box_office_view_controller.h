@@ -7,7 +7,7 @@
 
 namespace tb {
 
-// What is in theaters, and what took most: of all films ever made, or of the player's own.
+// Films in theaters, and rankings by gross: all time, and the player's.
 class BoxOfficeViewController : public Screen {
  public:
   void appear(Stage& stage) override;

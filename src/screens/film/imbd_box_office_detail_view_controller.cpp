@@ -1,6 +1,7 @@
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 
 #include "core/descending.h"
+#include "core/find.h"
 #include "film/box_office_tables.h"
 #include "film/film_record.h"
 #include "screens/film/box_office_parts.h"
@@ -12,12 +13,11 @@ using namespace view;
 
 namespace {
 
-// Where in the list the records of the film stand, the market that brought most first.
+// Indexes of the film's records, by descending gross.
 std::vector<std::size_t> marketsOf(const WorldState& world, std::int64_t filmId) {
   std::vector<std::size_t> found;
-  for (std::size_t index = 0; index < world.saveAllBoxOfficeList.size(); ++index) {
-    if (world.saveAllBoxOfficeList[index].filmId == filmId) found.push_back(index);
-  }
+  forEachWith(world.saveAllBoxOfficeList, &BoxOffice::filmId, filmId,
+              [&](std::size_t index) { found.push_back(index); });
   sortDescending(found, [&world](std::size_t index) { return world.saveAllBoxOfficeList[index].totalGross; });
   return found;
 }
@@ -32,7 +32,7 @@ Row marketRow(const Locale& locale, const BoxOffice& market) {
 
 Page ImbdBoxOfficeDetailViewController::view(const Game& game) {
   const WorldState& world = game.world;
-  const Film& film = world.saveAllFilmList[filmIndex(world, film_id_)];
+  const Film& film = world.saveAllFilmList[*find(world.saveAllFilmList, &Film::filmId, film_id_)];
   const std::vector<double> takings = weeklyTakings(world, film_id_);
   Page page{.title = film.title, .subtitle = "Box office"};
   if (takings.empty()) {
@@ -59,15 +59,15 @@ Page ImbdBoxOfficeDetailViewController::view(const Game& game) {
 
 void openBoxOfficeDetail(Stage& stage, std::int64_t filmId) {
   const WorldState& world = stage.game().world;
-  const std::size_t index = filmIndex(world, filmId);
-  if (index == world.saveAllFilmList.size()) return;
-  if (world.saveAllFilmList[index].typeOfFilm != filmType::feature) {
+  const auto index = find(world.saveAllFilmList, &Film::filmId, filmId);
+  if (!index) return;
+  if (world.saveAllFilmList[*index].typeOfFilm != filmType::feature) {
     return stage.show(Notice{.title = "🎞 No Theatrical Release 🎞",
                              .message =
                                  "\nThis film was not released in theatres and does not have any box office "
                                  "data."});
   }
-  stage.open(std::make_unique<ImbdBoxOfficeDetailViewController>(filmId));
+  stage.open<ImbdBoxOfficeDetailViewController>(filmId);
 }
 
 }  // namespace tb

@@ -6,7 +6,7 @@
 
 namespace tb {
 
-// One film in the cinemas: its eight weeks, and its markets.
+// A film's box office by week and by market.
 class ImbdBoxOfficeDetailViewController : public Screen {
  public:
   explicit ImbdBoxOfficeDetailViewController(std::int64_t filmId) : film_id_(filmId) {}
@@ -16,7 +16,7 @@ class ImbdBoxOfficeDetailViewController : public Screen {
   std::int64_t film_id_;
 };
 
-// Opens it, or says that the title was never in a theatre.
+// Opens the screen, or shows a notice that the title was never in theaters.
 void openBoxOfficeDetail(Stage& stage, std::int64_t filmId);
 
 }  // namespace tb

@@ -16,7 +16,7 @@ using namespace view;
 
 namespace {
 
-// Where in the list of projects they stand, the latest first.
+// Indexes of the projects, latest first.
 std::vector<std::size_t> productions(const WorldState& world) {
   std::vector<std::size_t> found;
   for (std::size_t index = world.saveAllAuditionList.size(); index-- > 0;) {

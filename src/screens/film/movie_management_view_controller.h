@@ -4,8 +4,7 @@
 
 namespace tb {
 
-// The films behind which the player stands with more than a part: own productions and investments. Nothing is
-// done here; it tells how each of them is coming along.
+// The player's own productions and investments, with the progress of each. Read-only.
 class MovieManagementViewController : public Screen {
  public:
   [[nodiscard]] view::Page view(const Game& game) override;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office.h"
@@ -34,9 +35,8 @@ Tiles figuresOf(const Game& game, const Film& film) {
     tiles.tiles.push_back({.label = "Opening weekend", .value = shortMoney(game.locale, *gross)});
   }
   const auto& seasons = game.world.saveAllRatings;
-  const auto season = std::ranges::find(seasons, film.filmId, &Ratings::filmId);
-  if (season != seasons.end()) {
-    const auto views = static_cast<std::int64_t>(season->premiereViews.front());
+  if (const auto season = find(seasons, &Ratings::filmId, film.filmId)) {
+    const auto views = static_cast<std::int64_t>(seasons[*season].premiereViews.front());
     tiles.tiles.push_back({.label = "Premiere views", .value = shortCount(views)});
   }
   return tiles;

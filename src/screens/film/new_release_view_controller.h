@@ -4,7 +4,7 @@
 
 namespace tb {
 
-// The morning after: what came out last week, and what a critic thinks of it.
+// Last week's releases with a critic's card each.
 class NewReleaseViewController : public Screen {
  public:
   void load(Stage& stage) override;

@@ -15,11 +15,13 @@ void PromoteFilmViewController::load(Stage& stage) {
 }
 
 void PromoteFilmViewController::post(Stage& stage) {
-  if (Refusal refusal = promoteFilm(stage.game(), audition_, interview_, answer_)) {
+  const WorldState& world = stage.game().world;
+  if (Refusal refusal =
+          promoteFilm(stage.game(), world.saveAllAuditionList[audition_].filmId, interview_, answer_)) {
     return stage.show(std::move(refusal));
   }
   stage.say(tb::format("Your interview on {} added {} to the hype for {}.", interview_.talkShow,
-                       interview_.totalHype, stage.game().world.saveAllAuditionList[audition_].title));
+                       interview_.totalHype, world.saveAllAuditionList[audition_].title));
   stage.close();
 }
 

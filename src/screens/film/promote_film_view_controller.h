@@ -7,8 +7,8 @@
 
 namespace tb {
 
-// The talk show: one question about the title of `selectedAuditionIndex`, one answer. The energy is already
-// paid when it opens.
+// The promotion interview for the project at `selectedAuditionIndex`. The energy is already spent when the
+// screen opens.
 class PromoteFilmViewController : public Screen {
  public:
   void load(Stage& stage) override;

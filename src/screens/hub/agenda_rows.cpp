@@ -1,6 +1,5 @@
 #include "screens/hub/agenda_rows.h"
 
-#include <memory>
 #include <string>
 
 #include "career/classes.h"
@@ -29,21 +28,12 @@ using namespace view;
 
 namespace {
 
-// Projects on show at once: what there is room for stands below them, and is to be seen without scrolling.
-constexpr std::size_t mostDue = 3;
+// Number of projects shown; the suggestions below them should be visible without scrolling.
+constexpr std::size_t maxDue = 3;
 
-std::string counted(std::int64_t count, const char* one, const char* several) {
-  return tb::format("{} {}", count, count == 1 ? one : several);
-}
+// --- Due ---
 
-template <class Opened>
-Operation opens() {
-  return [](Stage& stage) { stage.open(std::make_unique<Opened>()); };
-}
-
-// --- What is due ---
-
-// A rating on a line of its own, and that nothing more can be done for it.
+// A rating on its own line, with a note if no more boosts are available.
 std::string ratingWords(const char* name, double rating, const AgendaItem& item) {
   return tb::format("\n{} {:.0f} of 100{}", name, rating, item.boost ? "" : " • fully prepared");
 }
@@ -73,7 +63,7 @@ Row dueRow(const WorldState& world, const AgendaItem& item) {
   return row;
 }
 
-// --- What there is room for ---
+// --- Affordable now ---
 
 Row trainingRow(const WorldState& world, const AgendaItem& item) {
   const Trait& trait = traits[item.index];
@@ -87,7 +77,7 @@ Row openRow(const Game& game, const AgendaItem& item) {
   switch (item.kind) {
     case AgendaItem::Kind::submissions:
       return {.label = "Send showreels",
-              .detail = tb::format("There is energy for {}", counted(item.count, "more role", "more roles")),
+              .detail = tb::format("There is energy for {}", counted(item.count, "more role")),
               .press = opens<CastingNetworkViewController>()};
     case AgendaItem::Kind::job:
       return {.label = "Find work",
@@ -99,22 +89,21 @@ Row openRow(const Game& game, const AgendaItem& item) {
               .press = opens<ActorsGuildViewController>()};
     case AgendaItem::Kind::footageReel:
       return {.label = "Cut a new showreel",
-              .detail = tb::format("Your footage is good for about {} more",
-                                   counted(item.count, "point", "points")),
+              .detail = tb::format("Your footage is good for about {} more", counted(item.count, "point")),
               .press = opens<ShowreelViewController>()};
     default:
       return trainingRow(game.world, item);
   }
 }
 
-// --- What runs by itself ---
+// --- Running ---
 
 Row runningRow(const Game& game, const AgendaItem& item) {
   const WorldState& world = game.world;
-  const std::string weeks_left = counted(item.count, "week left", "weeks left");
+  const std::string weeks_left = counted(item.count, "week") + " left";
   switch (item.kind) {
     case AgendaItem::Kind::answers:
-      return {.label = counted(item.count, "showreel is out", "showreels are out"),
+      return {.label = counted(item.count, "showreel") + (item.count == 1 ? " is out" : " are out"),
               .detail = "Waiting to hear",
               .press = opens<ActiveAuditionViewController>()};
     case AgendaItem::Kind::contract:
@@ -129,7 +118,7 @@ Row runningRow(const Game& game, const AgendaItem& item) {
   }
 }
 
-// --- The first week ---
+// --- First week ---
 
 Row step(std::string label, std::string detail, bool taken, Operation press) {
   return {.label = std::move(label),
@@ -148,7 +137,7 @@ Section firstWeek(const FirstSteps& steps) {
                     step("End the week", "Your energy comes back, and the answers come in", false, {})}};
 }
 
-// --- What the last week brought ---
+// --- Last week's outcomes ---
 
 Row outcomeRow(const Game& game, const Outcome& outcome) {
   const WorldState& world = game.world;
@@ -159,7 +148,7 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
             .press = opens<PaymentTransactionsViewController>()};
   }
   if (outcome.kind == Outcome::Kind::notSelected) {
-    return {.label = tb::format("Not selected for {}", counted(outcome.count, "role", "roles")),
+    return {.label = tb::format("Not selected for {}", counted(outcome.count, "role")),
             .tone = Tone::quiet,
             .press = openNotSelected};
   }
@@ -175,17 +164,17 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
           .press = leadingToProject(world, project.filmId)};
 }
 
-// --- All of them ---
+// --- Sections ---
 
-// The first few; the rest in a row that leads to them.
+// The first few items, and a row that opens the list of the rest.
 std::vector<Node> dueRows(const Game& game) {
   const std::vector<AgendaItem> items = dueItems(game.world);
   std::vector<Node> rows;
-  for (std::size_t at = 0; at < items.size() && at < mostDue; ++at) {
+  for (std::size_t at = 0; at < items.size() && at < maxDue; ++at) {
     rows.emplace_back(dueRow(game.world, items[at]));
   }
-  if (items.size() > mostDue) {
-    rows.emplace_back(Row{.label = tb::format("{} more to come", items.size() - mostDue),
+  if (items.size() > maxDue) {
+    rows.emplace_back(Row{.label = tb::format("{} more to come", items.size() - maxDue),
                           .press = opens<ActiveAuditionViewController>()});
   }
   return rows;
@@ -252,7 +241,7 @@ std::vector<Node> nextInPublic(const Game& game) {
   std::vector<Node> rows;
   for (const AgendaItem& item : dueItems(game.world)) {
     const bool is_release = item.kind == AgendaItem::Kind::release;
-    if (is_release && rows.size() < mostDue) rows.emplace_back(dueRow(game.world, item));
+    if (is_release && rows.size() < maxDue) rows.emplace_back(dueRow(game.world, item));
   }
   return underNext(std::move(rows));
 }

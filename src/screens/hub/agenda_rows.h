@@ -1,6 +1,6 @@
 #pragma once
 
-// What is next, as rows that lead to it and hold what can be done about it.
+// The agenda as rows, which open the item's screen and have its button.
 
 #include <vector>
 
@@ -9,13 +9,13 @@
 
 namespace tb {
 
-// The steps of the first week, or what is due, what there is room for and what runs by itself.
+// The steps of the first week; later the items that are due, affordable or running.
 [[nodiscard]] view::Section thisWeek(const Game& game);
 
-// What the last week brought; nothing in a week that brought nothing.
+// Last week's outcomes; empty when there are none.
 [[nodiscard]] std::vector<view::Node> lastWeek(const Game& game);
 
-// What matters on each of the other tabs now; nothing where nothing does.
+// Agenda rows for the other tabs; empty when there are none.
 [[nodiscard]] std::vector<view::Node> nextAtWork(const Game& game);
 [[nodiscard]] std::vector<view::Node> nextInPublic(const Game& game);
 [[nodiscard]] std::vector<view::Node> nextInLife(const Game& game);

@@ -24,7 +24,7 @@ Card profile(const WorldState& world) {
           .picture = {performerPicture(world)}};
 }
 
-// The log mixes lines and, over the lines of each week, its date: "JANUARY 2, 2026".
+// The log has a date line such as "JANUARY 2, 2026" above each week's lines.
 bool isDateHeading(const Locale& locale, const std::string& line) {
   for (const std::string& month : locale.monthCapitals) {
     const std::string start = month + " ";

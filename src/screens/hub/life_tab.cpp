@@ -16,8 +16,7 @@ view::Row drain(const char* label, std::int64_t energy) {
           .tone = energy > 0 ? view::Tone::warning : view::Tone::quiet};
 }
 
-// Job and classes always stand here, being what everybody can take on; the rest from the week it is felt. The
-// rows add up to the last one.
+// Job and classes are always listed, other costs only when they are not 0. The last row is the total.
 view::Section everyWeek(const WorldState& world) {
   view::Section section{
       .heading = "EVERY WEEK TAKES",
@@ -25,7 +24,7 @@ view::Section everyWeek(const WorldState& world) {
   const auto felt = [&](const char* label, std::int64_t energy) {
     if (energy != 0) section.nodes.push_back(drain(label, energy));
   };
-  felt("Too many roles at once", stressOfManyRoles(world, world.weekNumberForTracking));
+  felt("Too many roles at once", manyRolesStress(world, world.weekNumberForTracking));
   felt("Your children", world.childEnergyCost);
   felt("Your streaming company", world.platformEnergyCost);
   section.nodes.push_back(drain("In all", weeklyEnergyDrain(world, world.weekNumberForTracking)));

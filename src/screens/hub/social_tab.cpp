@@ -32,7 +32,7 @@ std::vector<view::Node> socialTab(const Game& game) {
   nodes.append_range(std::vector<view::Node>{
       reviewing(world),
       view::Tiles{{{.label = "Fans", .value = plainCount(game.locale, world.totalFans)}}},
-      // A week that changes nothing leaves no entry, and one with a swing leaves two.
+      // Entries are changes, not weeks: a week can have none or several.
       historyChart("Fans", "change", fans,
                    [](double count) { return shortCount(static_cast<std::int64_t>(count)); }),
   });

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the five tabs of the hub show.
+// The contents of the hub's five tabs.
 
 #include <vector>
 

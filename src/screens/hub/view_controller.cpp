@@ -1,7 +1,6 @@
 #include "screens/hub/view_controller.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "core/calendar.h"
 #include "screens/backstage/backstage_view_controller.h"
@@ -20,24 +19,24 @@ void ViewController::load(Stage& stage) { refreshHub(stage.game(), HubRefresh::l
 void ViewController::appear(Stage& stage) {
   if (stage.game().world.enterPlayerDetails == 0) {
     current_ = Tab::home;
-    stage.open(std::make_unique<EnterPlayerDetailsViewController>());
+    stage.open<EnterPlayerDetailsViewController>();
   } else {
     show(stage, current_);
   }
 }
 
-// The wealth tab is where the best net worth of a career is found out.
+// Opening the wealth tab updates the net worth and its best value.
 void ViewController::show(Stage& stage, Tab tab) {
   current_ = tab;
-  if (tab == Tab::wealth) keepNetWorth(stage.game());
+  if (tab == Tab::wealth) updateNetWorth(stage.game());
 }
 
-// After the review the hub stands at its top.
+// After the review the hub is scrolled to its top.
 void ViewController::endWeekButton(Stage& stage) {
   stage.leaveToFirst([](Stage& hub) {
     hub.renewFirst();
     endWeek(hub.game());
-    hub.open(std::make_unique<WeeklySummaryViewController>());
+    hub.open<WeeklySummaryViewController>();
   });
 }
 
@@ -74,10 +73,8 @@ view::Page ViewController::view(const Game& game) {
   page.icons = {
       {.label = "The Backstage",
        .icon = "B",
-       .press = [](Stage& stage) { stage.open(std::make_unique<BackstageViewController>()); }},
-      {.label = "Settings",
-       .icon = "⚙️",
-       .press = [](Stage& stage) { stage.open(std::make_unique<SettingsViewController>()); }},
+       .press = [](Stage& stage) { stage.open<BackstageViewController>(); }},
+      {.label = "Settings", .icon = "⚙️", .press = [](Stage& stage) { stage.open<SettingsViewController>(); }},
   };
   addFrame(game, TabsHere::inReach, page);
   page.heading = std::ranges::find(page.tabs, true, &view::Tab::current)->label;

@@ -1,6 +1,6 @@
 #pragma once
 
-// The hub: five tabs, and the week's end. The first screen, and the gate to the new-career form.
+// The hub: five tabs and the End Week button. The first screen; opens the new-career form when it is due.
 
 #include "screens/stage.h"
 
@@ -15,10 +15,10 @@ class ViewController : public Screen {
   [[nodiscard]] view::Page view(const Game& game) override;
   [[nodiscard]] std::string closeLabel() const override { return ""; }
   void goBack(Stage& stage) override;
-  // Tabs, End Week, cash and energy stay where they are on the screens over the hub.
+  // Adds tabs, End Week, cash and energy to the screens over the hub.
   void addFrame(const Game& game, TabsHere tabs, view::Page& page) override;
 
-  // The End Week button: lives the week and opens its summary.
+  // The End Week button: runs the week and opens its summary.
   static void endWeekButton(Stage& stage);
 
  private:

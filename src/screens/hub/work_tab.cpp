@@ -32,7 +32,7 @@ std::string projectsSummary(const WorldState& world) {
       return project.funnelStage == funnelStage && project.didAct == 1;
     });
   };
-  // Who was turned down stays among the invited, with an audition that is past.
+  // Lost auditions also have the stage `invited`, with a past audition week.
   const auto invited = std::ranges::count_if(world.saveAllAuditionList, [&](const Audition& project) {
     return project.funnelStage == funnel::invited && project.didAct == 1 &&
            project.weekAudition >= world.weekNumberForTracking;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
@@ -59,7 +60,7 @@ Meter popularity(const Film& film) {
           .text = tb::format("{:.1f}, {}", film.currentPopularity, trend)};
 }
 
-// --- The player's own rating ---
+// --- The player's rating ---
 
 std::string starsOf(std::int64_t stars) {
   std::string text;
@@ -69,19 +70,17 @@ std::string starsOf(std::int64_t stars) {
 
 void askForRating(Stage& stage, const std::string& title, std::int64_t filmId) {
   std::vector<Button> answers;
-  for (std::int64_t stars = mostStars; stars >= 1; --stars) {
-    answers.push_back(
-        {.label = tb::format("{} {}", stars, starsOf(stars)), .press = [filmId, stars](Stage& asked) {
-           rateFilm(asked.game(), filmIndex(asked.game().world, filmId), stars);
-         }});
+  for (std::int64_t stars = maxStars; stars >= 1; --stars) {
+    answers.push_back({.label = tb::format("{} {}", stars, starsOf(stars)),
+                       .press = [filmId, stars](Stage& asked) { rateFilm(asked.game(), filmId, stars); }});
   }
   answers.push_back({.label = "Cancel", .weight = Button::Weight::quiet});
   stage.ask(Notice{.title = title, .message = "\nHow would you rate it out of 10?"}, std::move(answers));
 }
 
-Node ownRating(const Film& film) {
+Node playersRating(const Film& film) {
   if (film.myRating > 0) {
-    return Stars{.label = "Your rating", .value = film.myRating, .outOf = static_cast<int>(mostStars)};
+    return Stars{.label = "Your rating", .value = film.myRating, .outOf = static_cast<int>(maxStars)};
   }
   return Button{.label = "Rate this title",
                 .press = [title = titleWithSeason(film), id = film.filmId](Stage& stage) {
@@ -112,11 +111,11 @@ Card userReview(const Reviews& review) {
   return {.title = review.snippet,
           .nodes = {Stars{.label = review.username,
                           .value = static_cast<double>(review.rating),
-                          .outOf = static_cast<int>(mostStars)},
+                          .outOf = static_cast<int>(maxStars)},
                     Text{.text = review.review}}};
 }
 
-// --- The people and the rest ---
+// --- Cast, crew and links ---
 
 Section storyline(const Film& film) {
   Section section{
@@ -142,11 +141,10 @@ Section critics(const Film& film) {
   for (const std::string& review : film.featuredReviews) {
     if (!review.empty()) section.nodes.push_back(Text{.text = review, .style = Text::Style::quotation});
   }
-  section.nodes.push_back(Row{.label = "RottenBanana",
-                              .detail = "What critics and audiences make of it",
-                              .press = [id = film.filmId](Stage& stage) {
-                                stage.open(std::make_unique<RottenBananaDetailViewController>(id));
-                              }});
+  section.nodes.push_back(
+      Row{.label = "RottenBanana",
+          .detail = "What critics and audiences make of it",
+          .press = [id = film.filmId](Stage& stage) { stage.open<RottenBananaDetailViewController>(id); }});
   return section;
 }
 
@@ -155,25 +153,24 @@ Section more(const WorldState& world, const Film& film) {
   const auto quotes = std::ranges::count(world.saveAllQuotes, film.filmId, &Quote::filmId);
   return {
       .heading = "MORE",
-      .nodes = {
-          Row{.label = "Box office",
-              .press = [id = film.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }},
-          Row{.label = "Top 250",
-              .press =
-                  [is_series](Stage& stage) {
-                    const auto list = is_series ? TopList::shows : TopList::movies;
-                    stage.open(std::make_unique<Top250MoviesViewController>(list));
-                  }},
-          Row{.label = "Quotes", .value = std::to_string(quotes), .press = [id = film.filmId](Stage& stage) {
-                stage.open(std::make_unique<QuotesViewController>(id));
-              }}}};
+      .nodes = {Row{.label = "Box office",
+                    .press = [id = film.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }},
+                Row{.label = "Top 250",
+                    .press =
+                        [is_series](Stage& stage) {
+                          const auto list = is_series ? TopList::shows : TopList::movies;
+                          stage.open<Top250MoviesViewController>(list);
+                        }},
+                Row{.label = "Quotes",
+                    .value = std::to_string(quotes),
+                    .press = [id = film.filmId](Stage& stage) { stage.open<QuotesViewController>(id); }}}};
 }
 
 }  // namespace
 
 void ImbdFilmDetailViewController::load(Stage& stage) {
   Game& game = stage.game();
-  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
+  const Film& film = game.world.saveAllFilmList[*find(game.world.saveAllFilmList, &Film::filmId, film_id_)];
   place_ = placeOf(topTitles(game.world), film_id_);
   histogram_ = starHistogram(film);
   reviews_ = drawUserReviews(game, film, histogram_);
@@ -191,14 +188,14 @@ Section ImbdFilmDetailViewController::audience() const {
 }
 
 Page ImbdFilmDetailViewController::view(const Game& game) {
-  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
+  const Film& film = game.world.saveAllFilmList[*find(game.world.saveAllFilmList, &Film::filmId, film_id_)];
   Page page{.title = titleWithSeason(film), .subtitle = kindOf(film), .nodes = {posterOf(game.world, film)}};
   if (film.numImbdRatings == 0) {
     page.nodes.push_back(caption("Nobody has seen it yet. The ratings come with the release."));
     page.nodes.push_back(storyline(film));
     return page;
   }
-  page.nodes.append_range(std::vector<Node>{scores(game, film, place_), popularity(film), ownRating(film),
+  page.nodes.append_range(std::vector<Node>{scores(game, film, place_), popularity(film), playersRating(film),
                                             storyline(film), audience(), critics(film),
                                             more(game.world, film)});
   return page;
@@ -206,8 +203,8 @@ Page ImbdFilmDetailViewController::view(const Game& game) {
 
 void openTitlePage(Stage& stage, std::int64_t filmId) {
   const WorldState& world = stage.game().world;
-  if (filmIndex(world, filmId) == world.saveAllFilmList.size()) return;
-  stage.open(std::make_unique<ImbdFilmDetailViewController>(filmId));
+  if (!find(world.saveAllFilmList, &Film::filmId, filmId)) return;
+  stage.open<ImbdFilmDetailViewController>(filmId);
 }
 
 }  // namespace tb

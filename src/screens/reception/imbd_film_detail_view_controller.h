@@ -10,8 +10,8 @@
 
 namespace tb {
 
-// The page of a title: its scores, its audience and its people, and the ways to all else that is known of it.
-// What the audience writes is drawn as the page opens.
+// The page of a title: scores, audience, cast and crew, and links to its other screens. The audience's
+// reviews are drawn when the page opens.
 class ImbdFilmDetailViewController : public Screen {
  public:
   explicit ImbdFilmDetailViewController(std::int64_t filmId) : film_id_(filmId) {}
@@ -22,13 +22,13 @@ class ImbdFilmDetailViewController : public Screen {
   [[nodiscard]] view::Section audience() const;
 
   std::int64_t film_id_;
-  std::optional<std::size_t> place_;  // among the best of all time
+  std::optional<std::size_t> place_;  // rank on the all-time lists
   StarHistogram histogram_{};
   std::vector<Reviews> reviews_;
   std::string summary_;
 };
 
-// Opens the page of a film of the player's; does nothing when there is none with this id.
+// Opens the page of a film of the player's; does nothing when there is no film with this id.
 void openTitlePage(Stage& stage, std::int64_t filmId);
 
 }  // namespace tb

@@ -11,7 +11,7 @@ using namespace view;
 
 namespace {
 
-// Where in the list they stand.
+// Indexes in saveAllQuotes.
 std::vector<std::size_t> quotesOf(const WorldState& world, std::optional<std::int64_t> filmId) {
   std::vector<std::size_t> found;
   for (std::size_t index = world.saveAllQuotes.size(); index-- > 0;) {

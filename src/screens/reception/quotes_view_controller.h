@@ -7,7 +7,7 @@
 
 namespace tb {
 
-// What the player said to the press, of one title or of all, the latest first.
+// The player's interview answers about one title or all titles, latest first.
 class QuotesViewController : public Screen {
  public:
   QuotesViewController() = default;

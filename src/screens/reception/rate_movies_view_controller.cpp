@@ -13,7 +13,7 @@ void RateMoviesViewController::load(Stage& stage) { title_ = &drawTitleToReview(
 
 Choice RateMoviesViewController::stars() {
   Choice choice{.label = "Your rating"};
-  for (std::int64_t stars = 1; stars <= mostStars; ++stars) {
+  for (std::int64_t stars = 1; stars <= maxStars; ++stars) {
     choice.options.push_back({.label = tb::format("{} ★", stars),
                               .chosen = rating_ == stars,
                               .press = [this, stars](Stage&) { rating_ = stars; }});
@@ -58,7 +58,7 @@ Page RateMoviesViewController::view(const Game&) {
 
 void openReview(Stage& stage) {
   if (Refusal refusal = startReview(stage.game())) return stage.show(std::move(refusal));
-  stage.open(std::make_unique<RateMoviesViewController>());
+  stage.open<RateMoviesViewController>();
 }
 
 }  // namespace tb

@@ -8,8 +8,7 @@
 
 namespace tb {
 
-// An evening with somebody else's title, and what the player has to say about it. The energy is already paid
-// when it opens.
+// The player's review of a title by others. The energy is already spent when the screen opens.
 class RateMoviesViewController : public Screen {
  public:
   void load(Stage& stage) override;
@@ -25,7 +24,7 @@ class RateMoviesViewController : public Screen {
   std::string review_;
 };
 
-// Takes the energy and opens it, or says that there is not enough.
+// Spends the energy and opens the screen, or shows that there is not enough.
 void openReview(Stage& stage);
 
 }  // namespace tb

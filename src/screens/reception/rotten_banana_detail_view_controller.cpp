@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "core/find.h"
 #include "core/format.h"
 #include "film/film_record.h"
 #include "screens/parts.h"
@@ -69,7 +70,7 @@ Section cards(std::string heading, const std::vector<Written>& reviews, Draw dra
 
 void RottenBananaDetailViewController::load(Stage& stage) {
   Game& game = stage.game();
-  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
+  const Film& film = game.world.saveAllFilmList[*find(game.world.saveAllFilmList, &Film::filmId, film_id_)];
   if (!isOut(game.world, film)) return;
   scores_ = bananaScores(film);
   consensus_ = drawConsensus(game, film, scores_.critic);
@@ -78,7 +79,7 @@ void RottenBananaDetailViewController::load(Stage& stage) {
 }
 
 Page RottenBananaDetailViewController::view(const Game& game) {
-  const Film& film = game.world.saveAllFilmList[filmIndex(game.world, film_id_)];
+  const Film& film = game.world.saveAllFilmList[*find(game.world.saveAllFilmList, &Film::filmId, film_id_)];
   Page page{
       .title = titleWithSeason(film), .subtitle = "RottenBanana", .nodes = {posterOf(game.world, film)}};
   if (consensus_.empty()) {

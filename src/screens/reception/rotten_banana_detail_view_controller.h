@@ -10,8 +10,7 @@
 
 namespace tb {
 
-// What critics and audiences make of a film, in percent and in their own words. The texts are drawn as the
-// page opens.
+// The critics' and the audience's percentages and reviews of a film. The texts are drawn when the page opens.
 class RottenBananaDetailViewController : public Screen {
  public:
   explicit RottenBananaDetailViewController(std::int64_t filmId) : film_id_(filmId) {}

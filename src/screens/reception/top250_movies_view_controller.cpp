@@ -12,7 +12,7 @@ using namespace view;
 
 namespace {
 
-// A title of the player's stands out and leads to its page.
+// The player's titles are highlighted and open their pages.
 template <class Title>
 Row rowOf(const WorldState& world, std::size_t place, const Title& title) {
   Row row{.label = tb::format("{}. {}", place, title.title)};

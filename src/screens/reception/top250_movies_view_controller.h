@@ -9,7 +9,7 @@ namespace tb {
 
 enum class TopList : std::uint8_t { movies, shows };
 
-// The best of all time, films and series; the player's own titles lead to their pages.
+// The all-time lists of films and series; the player's titles open their pages.
 class Top250MoviesViewController : public Screen {
  public:
   explicit Top250MoviesViewController(TopList shown = TopList::movies) : shown_(shown) {}

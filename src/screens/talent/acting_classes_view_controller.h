@@ -8,7 +8,7 @@
 
 namespace tb {
 
-// Julien: what is on offer today, what is running and what was finished.
+// Julien: classes on offer, running and finished.
 class ActingClassesViewController : public Screen {
  public:
   void load(Stage& stage) override;

@@ -6,14 +6,14 @@
 
 namespace tb {
 
-// The guild: what it asks of those who want in, or the card of a member.
+// The guild: requirements for joining, or the member card.
 class ActorsGuildViewController : public Screen {
  public:
   void load(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
 
  private:
-  std::int64_t eligibility_ = 0;  // principal roles booked when the screen opened
+  std::int64_t eligibility_ = 0;  // principal roles booked, as of opening the screen
 };
 
 }  // namespace tb

@@ -8,7 +8,7 @@
 
 namespace tb {
 
-// Finished work, from which a reel is cut.
+// Selection of footage for a reel.
 class ShowreelFootageViewController : public Screen {
  public:
   explicit ShowreelFootageViewController(std::shared_ptr<ChosenFootage> chosen)

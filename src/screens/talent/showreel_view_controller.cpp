@@ -13,7 +13,7 @@ using namespace view;
 
 namespace {
 
-Section scenesOfTheReel(const WorldState& world) {
+Section reelScenes(const WorldState& world) {
   Section section{.heading = "SCENES OF YOUR REEL"};
   for (std::size_t index = 0; index < world.newSceneDescriptions.size(); ++index) {
     section.nodes.push_back(Row{.label = world.newSceneDescriptions[index],
@@ -44,10 +44,10 @@ void ShowreelViewController::produce(Stage& stage) {
 Section ShowreelViewController::footage() const {
   return {.heading = "EXISTING FOOTAGE",
           .nodes = {Row{.label = "Choose footage",
-                        .value = tb::format("{} of {}", chosen_->filmIds.size(), mostFootage),
+                        .value = tb::format("{} of {}", chosen_->filmIds.size(), maxFootage),
                         .detail = "Cut a reel from your finished work",
                         .press = [chosen = chosen_](Stage& stage) {
-                          stage.open(std::make_unique<ShowreelFootageViewController>(chosen));
+                          stage.open<ShowreelFootageViewController>(chosen);
                         }}}};
 }
 
@@ -93,7 +93,7 @@ Page ShowreelViewController::view(const Game& game) {
   const WorldState& world = game.world;
   Page page{.title = "Showreel", .subtitle = "A new reel replaces the old one"};
   page.nodes = {scoreMeter("Showreel", world.showreelScore)};
-  if (!world.newSceneDescriptions.empty()) page.nodes.push_back(scenesOfTheReel(world));
+  if (!world.newSceneDescriptions.empty()) page.nodes.push_back(reelScenes(world));
   page.nodes.push_back(footage());
   page.nodes.push_back(newScenes(game));
   return page;

@@ -12,10 +12,10 @@ namespace tb {
 // The footage chosen for the next reel, shared by the showreel and its footage screen.
 struct ChosenFootage {
   std::vector<std::int64_t> filmIds;
-  std::int64_t preview = 0;  // the score of the reel as it was last cut
+  std::int64_t preview = 0;  // the score of the last preview
 };
 
-// The showreel: its score, and new scenes shot for it.
+// The showreel: its score, and production of new scenes.
 class ShowreelViewController : public Screen {
  public:
   void load(Stage& stage) override;
@@ -30,7 +30,7 @@ class ShowreelViewController : public Screen {
 
   std::shared_ptr<ChosenFootage> chosen_ = std::make_shared<ChosenFootage>();
   std::size_t package_ = 0;
-  std::vector<std::string> scenes_;  // written, not yet shot
+  std::vector<std::string> scenes_;  // descriptions of scenes that are not shot yet
 };
 
 }  // namespace tb

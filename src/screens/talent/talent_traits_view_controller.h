@@ -4,7 +4,7 @@
 
 namespace tb {
 
-// The five traits and what the next point of each costs.
+// The five traits with the price of each next point.
 class TalentTraitsViewController : public Screen {
  public:
   [[nodiscard]] view::Page view(const Game& game) override;

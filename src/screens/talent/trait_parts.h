@@ -1,6 +1,6 @@
 #pragma once
 
-// What the talent screen and the hub share of the five traits.
+// Trait parts shared by the talent screen and the hub.
 
 #include <cstddef>
 #include <string>
@@ -10,10 +10,10 @@
 
 namespace tb {
 
-// "Charisma": a name in capitals is spelled out by some screen readers.
+// The trait's name as "Charisma": some screen readers spell out names in capitals.
 [[nodiscard]] std::string spokenName(const Trait& trait);
 
-// Buys the next point of the trait at that place in `traits`.
+// The button that buys the next point of the trait with this index in `traits`.
 [[nodiscard]] view::Button trainButton(const WorldState& world, std::size_t index);
 
 }  // namespace tb

@@ -56,7 +56,7 @@ PagedList vehicles(const Game& game) {
 
 }  // namespace
 
-void BalanceSheetViewController::appear(Stage& stage) { keepNetWorth(stage.game()); }
+void BalanceSheetViewController::appear(Stage& stage) { updateNetWorth(stage.game()); }
 
 Page BalanceSheetViewController::view(const Game& game) {
   const NetWorth worth = netWorth(game.world);

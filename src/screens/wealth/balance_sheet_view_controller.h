@@ -4,7 +4,7 @@
 
 namespace tb {
 
-// What the player owns and what it is worth today, part by part.
+// The player's net worth by parts.
 class BalanceSheetViewController : public Screen {
  public:
   void appear(Stage& stage) override;

@@ -60,12 +60,12 @@ Chart netIncome(const Game& game) {
 }  // namespace
 
 void FinancialManagementViewController::appear(Stage& stage) {
-  keepNetWorth(stage.game());
+  updateNetWorth(stage.game());
   const WorldState& world = stage.game().world;
   years_ = paymentsByYear(paymentHistory(world), world.yearNumber);
 }
 
-// By kind in the running year, and by year of late.
+// Income by kind in the current year, and by year.
 Section FinancialManagementViewController::income(const Game& game) const {
   std::vector<MoneyPart> kinds = {{"Jobs", game.world.yearToDatePaycheck}};
   for (const PaymentKind kind : paymentKinds)

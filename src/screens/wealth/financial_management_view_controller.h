@@ -7,7 +7,7 @@
 
 namespace tb {
 
-// The player's money at a glance: what there is, what comes in and where it comes from.
+// Overview of the player's cash, income and expenses.
 class FinancialManagementViewController : public Screen {
  public:
   void appear(Stage& stage) override;
@@ -16,7 +16,7 @@ class FinancialManagementViewController : public Screen {
  private:
   [[nodiscard]] view::Section income(const Game& game) const;
 
-  std::vector<YearOfPayments> years_;  // what titles paid, this year being the last
+  std::vector<YearOfPayments> years_;  // payments for titles; the last entry is the current year
 };
 
 }  // namespace tb

@@ -1,6 +1,6 @@
 #pragma once
 
-// How the financial screens show what they share.
+// Shared parts of the financial screens.
 
 #include <functional>
 #include <string>
@@ -13,14 +13,14 @@
 
 namespace tb {
 
-// What a kind of payment is called.
+// The names of a kind of payment.
 struct PaymentWords {
   const char* one;
   const char* several;
 };
 [[nodiscard]] const PaymentWords& wordsFor(PaymentKind kind);
 
-// A figure of money as a tile; below zero it warns.
+// A tile with an amount of money, in the warning tone if negative.
 [[nodiscard]] view::StatTile moneyTile(const Game& game, std::string label, double amount,
                                        std::string detail = "");
 
@@ -30,14 +30,14 @@ struct MoneyPart {
   double amount;
 };
 
-// The parts of a net worth, by the names that the screens give them.
+// The parts of a net worth with their display names.
 [[nodiscard]] std::vector<MoneyPart> partsOf(const NetWorth& worth);
 
-// A pie of the parts above zero; of nothing it says `whenEmpty`.
+// A pie chart of the positive parts; shows `whenEmpty` when there is none.
 [[nodiscard]] view::Chart moneyPie(const Game& game, std::string title, const std::vector<MoneyPart>& parts,
                                    std::string whenEmpty);
 
-// A bar for each of the last ten years, oldest first, of what `amountOf` finds in it. There is at least one.
+// A bar chart of `amountOf` each of the last ten years, oldest first. `years` must not be empty.
 [[nodiscard]] view::Chart yearBars(const Game& game, std::string title,
                                    const std::vector<YearOfPayments>& years,
                                    const std::function<double(const YearOfPayments&)>& amountOf);

@@ -8,7 +8,7 @@
 
 namespace tb {
 
-// What titles have paid, by kind and year, the newest first. Nothing is changed here.
+// Payments for titles by kind and year, newest first. Read-only.
 class PaymentTransactionsViewController : public Screen {
  public:
   void load(Stage& stage) override;
@@ -21,8 +21,8 @@ class PaymentTransactionsViewController : public Screen {
 
   std::vector<Payment> history_;
   std::vector<YearOfPayments> years_;
-  std::size_t year_ = 0;             // on show: a place in years_
-  std::optional<PaymentKind> kind_;  // nothing shows all kinds
+  std::size_t year_ = 0;             // index of the selected year in years_
+  std::optional<PaymentKind> kind_;  // empty for all kinds
 };
 
 }  // namespace tb

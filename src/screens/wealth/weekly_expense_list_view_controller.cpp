@@ -1,5 +1,6 @@
 #include "screens/wealth/weekly_expense_list_view_controller.h"
 
+#include "core/calendar.h"
 #include "core/descending.h"
 #include "core/format.h"
 #include "core/number_style.h"
@@ -13,8 +14,6 @@ using namespace view;
 
 namespace {
 
-constexpr double weeksOfAYear = 52;
-
 Row itemRow(const Game& game, const WeeklyLineItem& item) {
   std::string detail = tb::format("since {}", item.year);
   if (item.energyBoost != 0) detail += tb::format(" • {:+} energy", item.energyBoost);
@@ -24,7 +23,7 @@ Row itemRow(const Game& game, const WeeklyLineItem& item) {
           .tone = item.isExpense ? Tone::warning : Tone::good};
 }
 
-// Where in the list the items of one side stand.
+// Indexes of the expense items, or of the income items.
 std::vector<std::size_t> itemsOf(const WorldState& world, bool expenses) {
   std::vector<std::size_t> found;
   for (std::size_t index = 0; index < world.saveAllWeeklyLineItems.size(); ++index) {
@@ -41,16 +40,16 @@ Section side(const Game& game, const char* heading, std::vector<std::size_t> row
   return {.heading = heading, .nodes = {std::move(list)}};
 }
 
-// The larger items by name and the small change together.
+// A pie chart of the larger items, with small ones grouped together.
 Chart shares(const Game& game, const std::vector<std::size_t>& expenses) {
-  constexpr std::size_t mostSlices = 8;
+  constexpr std::size_t maxSlices = 8;
   std::vector<MoneyPart> parts;
   for (const std::size_t index : expenses) {
     const WeeklyLineItem& item = game.world.saveAllWeeklyLineItems[index];
     parts.push_back({item.title, item.amount});
   }
   sortDescending(parts, &MoneyPart::amount);
-  while (parts.size() > mostSlices) {
+  while (parts.size() > maxSlices) {
     const double small_change = parts.back().amount;
     parts.pop_back();
     MoneyPart& last = parts.back();
@@ -68,7 +67,7 @@ Page WeeklyExpenseListViewController::view(const Game& game) {
   const std::vector<std::size_t> received = itemsOf(world, false);
   Page page{.title = "Weekly Expenses", .subtitle = "Taken every week, whatever it brings"};
   page.nodes = {Tiles{
-      {moneyTile(game, "Every week", expenses), moneyTile(game, "Every year", expenses * weeksOfAYear)}}};
+      {moneyTile(game, "Every week", expenses), moneyTile(game, "Every year", expenses * weeksPerYear)}}};
   if (paid.size() > 1) page.nodes.push_back(shares(game, paid));
   page.nodes.push_back(side(game, "EXPENSES", paid));
   if (!received.empty()) page.nodes.push_back(side(game, "INCOME", received));

@@ -4,7 +4,7 @@
 
 namespace tb {
 
-// The standing items of a week, with what they come to.
+// The recurring weekly items and their totals.
 class WeeklyExpenseListViewController : public Screen {
  public:
   [[nodiscard]] view::Page view(const Game& game) override;

@@ -34,7 +34,7 @@ Section balance(const Game& game, const WeekBalance& balance) {
                             .expenses = currency(game.locale, balance.expenses, 0)}}};
 }
 
-// Where the week's income came from, and what is left of the energy.
+// The week's income by source, and the remaining energy.
 Section figures(const Game& game) {
   Section section;
   Tiles tiles;
@@ -58,12 +58,12 @@ Button WeeklySummaryViewController::releaseButton() {
           .press =
               [this](Stage& stage) {
                 summary_.offersRelease = false;
-                stage.open(std::make_unique<NewReleaseViewController>());
+                stage.open<NewReleaseViewController>();
               },
           .weight = Button::Weight::primary};
 }
 
-// The headline leads, and what it offers stands under it. A tip stands without the heading.
+// The headline with its button, then the other news. A tip has no heading.
 Section WeeklySummaryViewController::feed(const Game& game) {
   Section section{.heading = summary_.hasNews ? "FEED" : ""};
   for (const Story& story : summary_.frontPage.headline) {
@@ -82,7 +82,7 @@ Page WeeklySummaryViewController::view(const Game& game) {
   page.nodes.push_back(balance(game, summary_.balance));
   page.nodes.push_back(feed(game));
   page.nodes.push_back(figures(game));
-  // Every week ends here: the way on is where the thumb is that ended it.
+  // The close button is where End Week was, under the player's thumb.
   page.main = {
       {.label = "Carry on", .press = [](Stage& stage) { stage.close(); }, .weight = Button::Weight::primary}};
   return page;

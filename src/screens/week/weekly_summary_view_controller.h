@@ -1,6 +1,6 @@
 #pragma once
 
-// The report of the week. It opens when a week ends and is gone once it closes.
+// The weekly summary. It opens when a week ends and is not available after it closes.
 
 #include "screens/stage.h"
 #include "week/summary.h"
@@ -13,7 +13,7 @@ class WeeklySummaryViewController : public Screen {
   void leave(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
   [[nodiscard]] std::string closeLabel() const override { return "Close"; }
-  // The week's story is read first.
+  // The summary has to be closed first.
   [[nodiscard]] TabsHere tabsHere() const override { return TabsHere::later; }
 
  private:

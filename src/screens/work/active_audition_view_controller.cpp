@@ -54,12 +54,12 @@ bool isListed(const WorldState& world, const Audition& project, Listed list) {
   }
 }
 
-// The week by which a list is sorted, the soonest first; 0 in a list that is not.
+// The week to sort a list by, soonest first; 0 for an unsorted list.
 std::int64_t weekAhead(const Audition& project, Listed list) {
   return list == Listed::upcoming ? project.weekAudition : list == Listed::bookings ? project.weekToWork : 0;
 }
 
-// Where the projects of a list stand: what comes next first, otherwise the newest.
+// Indexes of a list's projects, soonest first, or newest first in unsorted lists.
 std::vector<std::size_t> projectsOf(const WorldState& world, Listed list) {
   const auto& projects = world.saveAllAuditionList;
   std::vector<std::size_t> places;
@@ -81,9 +81,7 @@ Row projectRow(const WorldState& world, const Audition& project) {
 
 }  // namespace
 
-void openNotSelected(Stage& stage) {
-  stage.open(std::make_unique<ActiveAuditionViewController>(Listed::notSelected));
-}
+void openNotSelected(Stage& stage) { stage.open<ActiveAuditionViewController>(Listed::notSelected); }
 
 Choice ActiveAuditionViewController::lists() {
   Choice choice{.label = "Show"};

@@ -7,7 +7,7 @@
 
 namespace tb {
 
-// Everything that the performer acts in or has applied for, list by list.
+// The performer's roles and submissions by stage.
 class ActiveAuditionViewController : public Screen {
  public:
   enum class List : std::uint8_t { all, upcoming, bookings, releases, notSelected };
@@ -20,7 +20,7 @@ class ActiveAuditionViewController : public Screen {
   List list_;
 };
 
-// The list of the roles that went to somebody else.
+// Opens the list of lost roles.
 void openNotSelected(Stage& stage);
 
 }  // namespace tb

@@ -3,7 +3,7 @@
 #include "career/boosts.h"
 #include "career/bribe.h"
 #include "career/withdrawal.h"
-#include "core/audition_list.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
@@ -18,9 +18,9 @@ using namespace view;
 
 namespace {
 
-// --- What it is ---
+// --- Description ---
 
-Section theProject(const Game& game, const Audition& project) {
+Section projectSection(const Game& game, const Audition& project) {
   return {.heading = "THE PROJECT",
           .nodes = {Row{.label = "Director", .value = project.directorName},
                     Row{.label = "Writer", .value = project.writerName},
@@ -34,8 +34,8 @@ Section theProject(const Game& game, const Audition& project) {
                     Row{.label = "Through", .value = project.source}}};
 }
 
-// Of a road that ended early, only as far as it went.
-Section theRoad(const WorldState& world, const Audition& project) {
+// The steps so far and, unless the project ended early, the next ones.
+Section progressSection(const WorldState& world, const Audition& project) {
   Section section{.heading = "THE ROAD"};
   const auto stop = [&](const char* label, std::int64_t week) {
     if (isOver(world, project) && week >= world.weekNumberForTracking) return;
@@ -60,14 +60,10 @@ Section thePreparation(const Audition& project) {
                     scoreMeter("Performance", static_cast<std::int64_t>(project.performanceRating))}};
 }
 
-// --- What can be done ---
+// --- Actions ---
 
-// A project as its buttons know it: the list may have moved before one of them is pressed.
-void bribe(Stage& stage, std::int64_t filmId) {
-  const auto index = auditionIndex(stage.game().world, filmId);
-  if (!index) return;
-  stage.show(bribeCastingDirector(stage.game(), *index));
-}
+// Buttons identify the project by its id, because indexes can change before a press.
+void bribe(Stage& stage, std::int64_t filmId) { stage.show(bribeCastingDirector(stage.game(), filmId)); }
 
 void withdraw(Stage& stage, std::int64_t filmId) {
   withdrawFromRole(stage.game(), filmId);
@@ -104,7 +100,7 @@ Button bribeButton(const Game& game, const Audition& project) {
           .refusal = briefOf(bribeRefusal(game.world))};
 }
 
-// A role that went to somebody else is only taken off the list.
+// For a lost role the button only removes it from the list.
 Button withdrawal(const WorldState& world, const Audition& project) {
   if (isOver(world, project)) {
     return {.label = "Put away",
@@ -121,7 +117,7 @@ Button withdrawal(const WorldState& world, const Audition& project) {
 }  // namespace
 
 Page AuditionDetailViewController::view(const Game& game) {
-  const auto index = auditionIndex(game.world, filmId_);
+  const auto index = find(game.world.saveAllAuditionList, &Audition::filmId, filmId_);
   if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list anymore.")}};
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
@@ -132,8 +128,8 @@ Page AuditionDetailViewController::view(const Game& game) {
     page.main = {boostButton(game.world, *offered, project, BoostWords::full)};
   }
   if (isBribeOffered(project)) page.nodes.push_back(bribeButton(game, project));
-  page.nodes.append_range(
-      std::vector<Node>{roleSection(project), theProject(game, project), theRoad(game.world, project)});
+  page.nodes.append_range(std::vector<Node>{roleSection(project), projectSection(game, project),
+                                            progressSection(game.world, project)});
   if (isWithdrawalOffered(project)) page.nodes.push_back(withdrawal(game.world, project));
   return page;
 }

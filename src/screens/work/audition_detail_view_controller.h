@@ -6,8 +6,7 @@
 
 namespace tb {
 
-// One project before its release: what it is, how far it has come, and what the performer can still do for
-// it.
+// A project before its release: description, progress and available actions.
 class AuditionDetailViewController : public Screen {
  public:
   explicit AuditionDetailViewController(std::int64_t filmId) : filmId_(filmId) {}

@@ -1,9 +1,8 @@
 #include "screens/work/boost_parts.h"
 
 #include <array>
-#include <memory>
 
-#include "core/audition_list.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "screens/film/promote_film_view_controller.h"
 #include "screens/parts.h"
@@ -16,7 +15,7 @@ namespace {
 struct Words {
   const char* full;
   const char* brief;
-  const char* spoken;  // before the title
+  const char* spoken;  // for screen readers, followed by the title
 };
 constexpr std::array<Words, 3> boostWords = {{
     {.full = "REHEARSE", .brief = "Rehearse", .spoken = "Rehearse for"},
@@ -24,12 +23,11 @@ constexpr std::array<Words, 3> boostWords = {{
     {.full = "PROMOTE", .brief = "Promote", .spoken = "Promote"},
 }};
 
-// A project as its buttons know it: the list may have moved before one of them is pressed.
+// Buttons identify the project by its id, because indexes can change before a press.
 void boost(Stage& stage, std::int64_t filmId, BoostKind kind) {
-  const auto index = auditionIndex(stage.game().world, filmId);
-  if (!index) return;
-  if (Refusal refusal = buyBoost(stage.game(), *index)) return stage.show(std::move(refusal));
-  if (kind == BoostKind::promote) stage.open(std::make_unique<PromoteFilmViewController>());
+  if (!find(stage.game().world.saveAllAuditionList, &Audition::filmId, filmId)) return;
+  if (Refusal refusal = buyBoost(stage.game(), filmId)) return stage.show(std::move(refusal));
+  if (kind == BoostKind::promote) stage.open<PromoteFilmViewController>();
 }
 
 }  // namespace

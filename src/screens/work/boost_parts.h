@@ -1,6 +1,6 @@
 #pragma once
 
-// The one button by which the performer works on a project, on its page and in the lists that it stands in.
+// The boost button of a project, for its page and for rows in lists.
 
 #include <cstdint>
 
@@ -10,7 +10,7 @@
 
 namespace tb {
 
-enum class BoostWords : std::uint8_t { full, brief };  // for a button of its own, and for one in a row
+enum class BoostWords : std::uint8_t { full, brief };  // for a separate button, and for a button in a row
 
 [[nodiscard]] view::Button boostButton(const WorldState& world, const Boost& offered, const Audition& project,
                                        BoostWords words);

@@ -7,7 +7,7 @@
 
 namespace tb {
 
-// Temp jobs, as they hang on the board while it is open.
+// The job board, drawn once when the screen opens.
 class JobBoardViewController : public Screen {
  public:
   void load(Stage& stage) override;

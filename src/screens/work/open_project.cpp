@@ -1,8 +1,6 @@
 #include "screens/work/open_project.h"
 
-#include <algorithm>
-#include <memory>
-
+#include "core/find.h"
 #include "screens/work/audition_detail_view_controller.h"
 #include "screens/work/post_release_audition_view_controller.h"
 #include "screens/work/project_words.h"
@@ -11,17 +9,17 @@ namespace tb {
 
 void openProject(Stage& stage, std::int64_t filmId) {
   const WorldState& world = stage.game().world;
-  const auto project = std::ranges::find(world.saveAllAuditionList, filmId, &Audition::filmId);
-  if (project == world.saveAllAuditionList.end()) return;
-  if (isReleased(world, *project)) {
-    stage.open(std::make_unique<PostReleaseAuditionViewController>(filmId));
+  const auto index = find(world.saveAllAuditionList, &Audition::filmId, filmId);
+  if (!index) return;
+  if (isReleased(world, world.saveAllAuditionList[*index])) {
+    stage.open<PostReleaseAuditionViewController>(filmId);
   } else {
-    stage.open(std::make_unique<AuditionDetailViewController>(filmId));
+    stage.open<AuditionDetailViewController>(filmId);
   }
 }
 
 Operation leadingToProject(const WorldState& world, std::int64_t filmId) {
-  if (!std::ranges::contains(world.saveAllAuditionList, filmId, &Audition::filmId)) return {};
+  if (!find(world.saveAllAuditionList, &Audition::filmId, filmId)) return {};
   return [filmId](Stage& stage) { openProject(stage, filmId); };
 }
 

@@ -6,11 +6,11 @@
 
 namespace tb {
 
-// Opens the page of a project: before its release what is to be done for it, after it what came of it. Does
-// nothing when there is no such project.
+// Opens a project's page, which differs before and after its release. Does nothing when there is no project
+// with this id.
 void openProject(Stage& stage, std::int64_t filmId);
 
-// The same as an operation; an empty one when there is no such project now.
+// The same as an operation; an empty operation when there is no such project.
 [[nodiscard]] Operation leadingToProject(const WorldState& world, std::int64_t filmId);
 
 }  // namespace tb

@@ -1,6 +1,6 @@
 #include "screens/work/post_release_audition_view_controller.h"
 
-#include "core/audition_list.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "film/film_record.h"
 #include "screens/parts.h"
@@ -18,9 +18,9 @@ namespace {
 
 Section reception(const WorldState& world, const Audition& project) {
   Section section{.heading = "RECEPTION"};
-  const std::size_t index = filmIndex(world, project.filmId);
-  if (index == world.saveAllFilmList.size()) return section;
-  const Film& film = world.saveAllFilmList[index];
+  const auto index = find(world.saveAllFilmList, &Film::filmId, project.filmId);
+  if (!index) return section;
+  const Film& film = world.saveAllFilmList[*index];
   constexpr int starsOfRating = 10;
   section.nodes = {Stars{.label = "Viewers", .value = film.imbdRating, .outOf = starsOfRating},
                    scoreMeter("Critics", film.imbdMetascore)};
@@ -33,23 +33,22 @@ Section reception(const WorldState& world, const Audition& project) {
   return section;
 }
 
-// Seasons of one series share the film id of the first, and so do the films of a saga.
-bool cameBefore(const Audition& earlier, const Audition& project) {
+// Later seasons and films of a saga refer to the film id of the first one.
+bool isEarlierInstalment(const Audition& earlier, const Audition& project) {
   const bool same = earlier.filmId == project.parentSeriesFilmId ||
                     earlier.parentSeriesFilmId == project.parentSeriesFilmId;
   return project.parentSeriesFilmId != -1 && same && earlier.seasonNumber < project.seasonNumber;
 }
 
-Section whatCameBefore(const WorldState& world, const Audition& project) {
+Section earlierInstalments(const WorldState& world, const Audition& project) {
   Section section{.heading = "WHAT CAME BEFORE"};
   for (const Audition& earlier : world.saveAllAuditionList) {
-    if (!cameBefore(earlier, project)) continue;
-    section.nodes.push_back(Row{.label = titleWithSeason(earlier),
-                                .value = progressWords(world, earlier),
-                                .picture = {posterOf(world, earlier)},
-                                .press = [id = earlier.filmId](Stage& stage) {
-                                  stage.open(std::make_unique<PostReleaseAuditionViewController>(id));
-                                }});
+    if (!isEarlierInstalment(earlier, project)) continue;
+    section.nodes.push_back(Row{
+        .label = titleWithSeason(earlier),
+        .value = progressWords(world, earlier),
+        .picture = {posterOf(world, earlier)},
+        .press = [id = earlier.filmId](Stage& stage) { stage.open<PostReleaseAuditionViewController>(id); }});
   }
   return section;
 }
@@ -61,7 +60,7 @@ bool hasFigures(const Audition& project) {
 }  // namespace
 
 Page PostReleaseAuditionViewController::view(const Game& game) {
-  const auto index = auditionIndex(game.world, filmId_);
+  const auto index = find(game.world.saveAllAuditionList, &Audition::filmId, filmId_);
   if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list anymore.")}};
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),
@@ -77,7 +76,7 @@ Page PostReleaseAuditionViewController::view(const Game& game) {
   if (auto syndication = syndicationSection(game, project.filmId)) {
     page.nodes.push_back(*std::move(syndication));
   }
-  Section before = whatCameBefore(game.world, project);
+  Section before = earlierInstalments(game.world, project);
   if (!before.nodes.empty()) page.nodes.push_back(std::move(before));
   return page;
 }

@@ -6,7 +6,7 @@
 
 namespace tb {
 
-// A project after its release: what it took, week by week, and the seasons or films that came before it.
+// A project after its release: box office or viewers per week, and earlier seasons or films.
 class PostReleaseAuditionViewController : public Screen {
  public:
   explicit PostReleaseAuditionViewController(std::int64_t filmId) : filmId_(filmId) {}

@@ -74,7 +74,7 @@ view::Section roleSection(const Audition& project) {
                         .nodes = {view::Row{.label = project.characterName, .value = project.role},
                                   view::Text{.text = project.roleDescription}}};
   if (project.numberOfEpisodesActed > 0) {
-    // The length of the season is known once the role is taken.
+    // The season's length is drawn when the performer submits.
     const std::string season =
         project.numberOfEpisodesTotal > 0 ? tb::format(" of {}", project.numberOfEpisodesTotal) : "";
     section.nodes.push_back(

@@ -1,6 +1,6 @@
 #pragma once
 
-// How a project is spoken of on the screens of the trade.
+// Texts about a project, shared by several screens.
 
 #include <cstdint>
 #include <string>
@@ -13,7 +13,7 @@ namespace tb {
 // "Feature Film", "TV-Series", ...
 [[nodiscard]] std::string typeName(std::int64_t typeOfFilm);
 
-// The title, from the second season of a series on with its number.
+// The title, with the season number from the second season on.
 [[nodiscard]] std::string titleWithSeason(const Audition& project);
 [[nodiscard]] std::string titleWithSeason(const Film& film);
 
@@ -23,27 +23,26 @@ namespace tb {
 // "this week", "in 3 weeks", "2 weeks ago", for a week of `weekNumberForTracking`.
 [[nodiscard]] std::string whenIs(const WorldState& world, std::int64_t week);
 
-// How far the project has come, in a few words: "Audition in 3 weeks", "Never heard back".
+// The project's progress: "Audition in 3 weeks", "Never heard back".
 [[nodiscard]] std::string progressWords(const WorldState& world, const Audition& project);
 
-// True from the week after the release on, when scores and money are there to be seen.
+// True from the week after the release on, when scores and money are visible.
 [[nodiscard]] bool isReleased(const WorldState& world, const Audition& project);
 
-// True for a project that came to nothing: no answer to the submission, or not selected at the audition.
+// True for a project without an answer to the submission or with a lost audition.
 [[nodiscard]] bool isOver(const WorldState& world, const Audition& project);
 
-// The character, the role and its description, and the episodes that the performer is in.
+// Character, role, description and the performer's episodes.
 [[nodiscard]] view::Section roleSection(const Audition& project);
 
 struct Terms {
   double fee = 0;  // dollars
   double buyout = 0;
   double residual = 0;  // a fraction
-  double royalty = 0;   // in percent
+  double royalty = 0;   // percent
 };
 
-// "$1,200", and what is offered beside or in place of the fee: "$1,200 • $720 buyout • 1.4% residual",
-// "0.88% royalty", "Unpaid".
+// The terms: "$1,200 • $720 buyout • 1.4% residual", "0.88% royalty", "Unpaid".
 [[nodiscard]] std::string payWords(const Locale& locale, const Terms& terms);
 
 }  // namespace tb

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office_tables.h"
@@ -17,7 +18,7 @@ namespace {
 
 bool isSeries(const Audition& project) { return project.typeOfFilm == filmType::series; }
 
-// A series earns by its advertisements: so much for every viewer.
+// A series earns ad revenue per viewer.
 void addSeason(ReleaseFigures& figures, const Ratings& season) {
   figures.weeks = season.premiereViews;
   figures.gross = std::reduce(figures.weeks.begin(), figures.weeks.end()) * season.adRates;
@@ -32,8 +33,8 @@ std::string amountText(const Game& game, const Audition& project, double amount)
 ReleaseFigures figuresOf(const WorldState& world, const Audition& project) {
   ReleaseFigures figures{.budget = project.budget};
   if (isSeries(project)) {
-    const auto season = std::ranges::find(world.saveAllRatings, project.filmId, &Ratings::filmId);
-    if (season != world.saveAllRatings.end()) addSeason(figures, *season);
+    const auto season = find(world.saveAllRatings, &Ratings::filmId, project.filmId);
+    if (season) addSeason(figures, world.saveAllRatings[*season]);
   } else {
     figures.weeks = weeklyTakings(world, project.filmId);
     figures.gross = std::reduce(figures.weeks.begin(), figures.weeks.end());

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a released title took, gathered for a screen.
+// Box office or viewing figures of a released title.
 
 #include <string>
 #include <vector>
@@ -10,8 +10,8 @@
 
 namespace tb {
 
-// A feature film's weeks are dollars in all markets, the opening first; a series' are the viewers of its
-// episodes.
+// A feature film's weeks are dollars in all markets, starting with the opening; a series' weeks are viewers
+// per episode.
 struct ReleaseFigures {
   double gross = 0;  // dollars
   double budget = 0;
@@ -19,11 +19,11 @@ struct ReleaseFigures {
 };
 [[nodiscard]] ReleaseFigures figuresOf(const WorldState& world, const Audition& project);
 
-// The four figures of a feature film or a series.
+// Tiles with the four main figures.
 [[nodiscard]] view::Tiles figureTiles(const Game& game, const Audition& project,
                                       const ReleaseFigures& figures);
 
-// The run as a chart of bars.
+// A bar chart of the weeks.
 [[nodiscard]] view::Chart figureChart(const Game& game, const Audition& project,
                                       const ReleaseFigures& figures);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "career/royalty_stake.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/signed_agent.h"
@@ -17,13 +18,14 @@ using namespace view;
 
 namespace {
 
-// What the agent sent along.
-Bubble theMessage(const WorldState& world, std::int64_t emailId) {
-  const auto email = std::ranges::find(world.saveAllEmailList, emailId, &Email::id);
-  return {.speaker = world.saveAllTalentAgents[*signedAgent(world)].name, .text = email->message};
+// The agent's message.
+Bubble agentMessage(const WorldState& world, std::int64_t emailId) {
+  const auto email = find(world.saveAllEmailList, &Email::id, emailId);
+  return {.speaker = world.saveAllTalentAgents[*signedAgent(world)].name,
+          .text = world.saveAllEmailList[*email].message};
 }
 
-Section theProject(const Game& game, const Audition& offer) {
+Section projectSection(const Game& game, const Audition& offer) {
   return {.heading = "THE PROJECT",
           .nodes = {Text{.text = offer.description}, Row{.label = "Director", .value = offer.directorName},
                     Row{.label = "Genre", .value = joinedWithAnd(offer.genres)},
@@ -31,7 +33,7 @@ Section theProject(const Game& game, const Audition& offer) {
                     Row{.label = "Pay", .value = "A share of what it earns, no fee"}}};
 }
 
-// A series has no box office: it pays when a network buys its reruns.
+// A series has no box office; its royalty is paid from syndication.
 std::string shareOf(const Audition& offer) {
   return offer.typeOfFilm == filmType::series ? "of the price when it is syndicated"
                                               : "of the box office, and of the price when it is syndicated";
@@ -45,7 +47,7 @@ std::string chanceWords(std::int64_t chance, std::int64_t bonus) {
 
 void RoyaltyViewController::load(Stage& stage) {
   email_ = stage.game().world.passEmailId;
-  makeStakeOffer(stage.game(), email_);
+  drawStakeOffer(stage.game(), email_);
 }
 
 void RoyaltyViewController::negotiate(Stage& stage) {
@@ -55,7 +57,7 @@ void RoyaltyViewController::negotiate(Stage& stage) {
   stage.close();
 }
 
-Section RoyaltyViewController::theAsk(const Game& game, const Audition& offer) {
+Section RoyaltyViewController::askSection(const Game& game, const Audition& offer) {
   const std::int64_t bonus = negotiationBonus(game.world);
   return {.heading = "YOUR ASK",
           .nodes = {Tiles{{{.label = "Royalty",
@@ -70,7 +72,7 @@ Section RoyaltyViewController::theAsk(const Game& game, const Audition& offer) {
                               .offReason = steps_ > 0 ? "" : "This is what they offer"},
                              {.label = "Ask for more",
                               .press = [this](Stage&) { steps_ += 1; },
-                              .offReason = steps_ < mostStakeSteps ? "" : "Nobody has ever asked for more"}}},
+                              .offReason = steps_ < maxStakeSteps ? "" : "Nobody has ever asked for more"}}},
                     Button{.label = "Negotiate",
                            .press = [this](Stage& stage) { negotiate(stage); },
                            .price = energyPrice(stakeNegotiationEnergy),
@@ -84,8 +86,8 @@ Page RoyaltyViewController::view(const Game& game) {
     return {.title = "Royalty", .nodes = {caption("This offer is not on the table anymore.")}};
   return {.title = offer->title,
           .subtitle = tb::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
-          .nodes = {posterOf(game.world, *offer), theMessage(game.world, email_), theAsk(game, *offer),
-                    roleSection(*offer), theProject(game, *offer)}};
+          .nodes = {posterOf(game.world, *offer), agentMessage(game.world, email_), askSection(game, *offer),
+                    roleSection(*offer), projectSection(game, *offer)}};
 }
 
 }  // namespace tb

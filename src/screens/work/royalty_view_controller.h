@@ -6,18 +6,18 @@
 
 namespace tb {
 
-// A stake instead of pay: the project of the e-mail `passEmailId`, and what is asked for the role in it.
+// The stake offer of the e-mail `passEmailId`, with its negotiation.
 class RoyaltyViewController : public Screen {
  public:
   void load(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
 
  private:
-  [[nodiscard]] view::Section theAsk(const Game& game, const Audition& offer);
+  [[nodiscard]] view::Section askSection(const Game& game, const Audition& offer);
   void negotiate(Stage& stage);
 
   std::int64_t email_ = 0;
-  std::int64_t steps_ = 0;  // above the percent on offer
+  std::int64_t steps_ = 0;  // above the offered percentage
 };
 
 }  // namespace tb

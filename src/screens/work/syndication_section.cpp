@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
@@ -47,9 +48,9 @@ std::vector<Node> bids(const Game& game, const Syndication& title) {
 
 std::optional<Section> syndicationSection(const Game& game, std::int64_t filmId) {
   const auto& titles = game.world.saveAllSyndication;
-  const auto found = std::ranges::find(titles, filmId, &Syndication::filmId);
-  if (found == titles.end()) return std::nullopt;
-  const Syndication& title = *found;
+  const auto index = find(titles, &Syndication::filmId, filmId);
+  if (!index) return std::nullopt;
+  const Syndication& title = titles[*index];
   Section section{.heading = "SYNDICATION"};
   if (title.didAcceptOffer) {
     section.nodes.emplace_back(inForce(game, title));

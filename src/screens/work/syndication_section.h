@@ -1,6 +1,6 @@
 #pragma once
 
-// A title's dealings with networks, for the page of the title.
+// The syndication section of a title's page.
 
 #include <cstdint>
 #include <optional>
@@ -10,8 +10,7 @@
 
 namespace tb {
 
-// The deal in force or the bids so far, and the deals that are over; nothing for a title that no network has
-// bid for.
+// The active deal or the current bids, and past deals; nothing for a title without bids.
 [[nodiscard]] std::optional<view::Section> syndicationSection(const Game& game, std::int64_t filmId);
 
 }  // namespace tb

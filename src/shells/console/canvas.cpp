@@ -8,8 +8,8 @@ namespace tb::console {
 
 namespace {
 
-constexpr int narrowestContent = 16;  // content nested deeper than the page is wide runs over the edge
-constexpr int shortestLeader = 3;     // dots, with a blank at either side
+constexpr int minContentWidth = 16;  // deeply nested content can exceed the page's width
+constexpr int minLeaderDots = 3;     // dots, with a space on both sides
 constexpr int tileGap = 2;
 
 void padTo(Runs& runs, int columns) {
@@ -25,7 +25,7 @@ Runs Canvas::prefix() const {
   return runs;
 }
 
-int Canvas::width() const { return std::max(narrowestContent, columns_ - marginWidth - columnsOf(prefix())); }
+int Canvas::width() const { return std::max(minContentWidth, columns_ - marginWidth - columnsOf(prefix())); }
 
 void Canvas::add(Line line) {
   if (gap_) lines_.push_back({.runs = prefix()});
@@ -57,7 +57,7 @@ void Canvas::leader(std::string_view label, std::string_view value, Ink label_in
   if (value.empty()) return text(label, label_ink, margin, 2);
   const bool single = value.find('\n') == std::string_view::npos;
   const int dots = width() - columnsOf(label) - columnsOf(value) - 2;
-  if (single && dots >= shortestLeader && label.find('\n') == std::string_view::npos) {
+  if (single && dots >= minLeaderDots && label.find('\n') == std::string_view::npos) {
     return line({{std::string(label), label_ink},
                  {" " + repeated(".", dots) + " ", Ink::quiet},
                  {std::string(value), value_ink}},

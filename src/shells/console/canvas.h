@@ -1,7 +1,6 @@
 #pragma once
 
-// What the painter draws on: lines from top to bottom, content indented as deep as it is nested, numbers in
-// the margin.
+// Collects the lines of a page: content indented by its nesting depth, numbers in the margin.
 
 #include <string>
 #include <string_view>
@@ -12,13 +11,13 @@
 
 namespace tb::console {
 
-// Where a page is painted.
+// Properties of the output.
 struct Surface {
-  int columns = 80;     // of a line, 40 and up
-  bool blocks = false;  // draws with block and line characters too, else with ASCII alone
+  int columns = 80;     // width of a line, 40 and up
+  bool blocks = false;  // true: block and line characters; false: ASCII only
 };
 
-// Columns between things that stand side by side.
+// Columns between items on the same line.
 inline constexpr int flowGap = 3;
 
 class Canvas {
@@ -28,35 +27,35 @@ class Canvas {
 
   [[nodiscard]] const Glyphs& glyphs() const { return glyphs_; }
   [[nodiscard]] int columns() const { return columns_; }
-  [[nodiscard]] int width() const;  // what is left for content at this depth
+  [[nodiscard]] int width() const;  // columns for content at the current depth
 
-  // One line, that has to fit.
+  // Adds one line, which must fit.
   void line(Runs runs, std::string margin = "");
 
-  // Text on as many lines as it needs, the lines after the first `hang` columns further in.
+  // Adds wrapped text; lines after the first are indented by `hang` columns.
   void text(std::string_view text, Ink ink, const std::string& margin = "", int hang = 0);
 
-  // "label ........ value", on two lines or more when they do not fit one.
+  // "label ........ value", on several lines if it does not fit one.
   void leader(std::string_view label, std::string_view value, Ink label_ink, Ink value_ink,
               std::string margin = "");
 
-  // Things that stand side by side, on as many lines as they need.
+  // Items side by side, wrapped to several lines if needed.
   void flow(const std::vector<Runs>& items);
 
-  // Columns of equal width, each a small stack of lines.
+  // Columns of equal width, each with several lines.
   void grid(const std::vector<std::vector<Run>>& stacks, int narrowest);
 
-  // A line from edge to edge, the words at its start.
+  // A horizontal line across the page that starts with `words`.
   void rule(std::string_view words = "");
   void flush(Runs runs);
 
-  // A heading over the lines that follow; an empty one only sets them apart.
+  // A heading; an empty one is just a blank line.
   void headline(std::string_view heading);
 
-  // Keeps the next line apart from the last one; right under a heading or a frame's title it does nothing.
+  // Adds a blank line before the next line, except directly below a heading or a frame's title.
   void gap() { gap_ = !lines_.empty() && !opened_; }
 
-  // What `draw` draws has `prefix` before each line.
+  // Prefixes each line that `draw` draws.
   template <class Draw>
   void nested(const std::string& prefix, Draw&& draw) {
     prefixes_.push_back(prefix);
@@ -64,7 +63,7 @@ class Canvas {
     prefixes_.pop_back();
   }
 
-  // A title, and what `draw` draws in a frame under it.
+  // A title with a frame around what `draw` draws below it.
   template <class Draw>
   void framed(std::string_view title, std::string margin, Draw&& draw) {
     openFrame(title, std::move(margin));

@@ -15,9 +15,9 @@ namespace {
 using view::Chart;
 
 constexpr int plotRows = 8;
-constexpr int widestPlotPoint = 6;    // columns of one point when there are few
-constexpr std::size_t mostBars = 16;  // more are drawn as a plot
-constexpr int widestBar = 40;
+constexpr int maxPointWidth = 6;     // maximum columns per point
+constexpr std::size_t maxBars = 16;  // larger charts are drawn as a plot
+constexpr int maxBarWidth = 40;
 
 double orZero(double value) { return std::isfinite(value) ? value : 0; }
 
@@ -25,7 +25,7 @@ double orZero(double value) { return std::isfinite(value) ? value : 0; }
 
 struct Bar {
   std::string label;
-  double share;  // of the longest bar, 0 to 1
+  double share;  // relative to the longest bar, 0 to 1
   std::string text;
 };
 
@@ -37,7 +37,7 @@ void drawBars(Canvas& canvas, const std::vector<Bar>& bars) {
     text_width = std::max(text_width, columnsOf(drawn.text));
   }
   label_width = std::min(label_width, canvas.width() / 3);
-  const int width = std::clamp(canvas.width() - label_width - text_width - 3, 4, widestBar);
+  const int width = std::clamp(canvas.width() - label_width - text_width - 3, 4, maxBarWidth);
   for (const Bar& drawn : bars) {
     const std::string label = fitted(drawn.label, std::max(4, label_width));
     const std::string full =
@@ -48,7 +48,7 @@ void drawBars(Canvas& canvas, const std::vector<Bar>& bars) {
   }
 }
 
-// A fall is a bar too; its figure says that it is one.
+// A negative value also gets a bar; its figure shows the sign.
 void drawFigures(Canvas& canvas, const Chart& chart) {
   double longest = 0;
   for (const Chart::Point& point : chart.points) longest = std::max(longest, std::abs(orZero(point.value)));
@@ -78,7 +78,7 @@ class Plot {
     for (const Chart::Tick& tick : chart.scale) label_width_ = std::max(label_width_, columnsOf(tick.text));
     const int room = std::max(1, canvas.width() - label_width_ - 2);
     const auto points = static_cast<int>(std::min(chart.points.size(), static_cast<std::size_t>(room)));
-    point_width_ = std::clamp(room / points, 1, widestPlotPoint);
+    point_width_ = std::clamp(room / points, 1, maxPointWidth);
     gather(static_cast<std::size_t>(points));
     span();
   }
@@ -93,7 +93,7 @@ class Plot {
   }
 
  private:
-  // One value a place: of many points that share a place, their mean.
+  // One value per column: the mean of the points in it.
   void gather(std::size_t places) {
     for (std::size_t place = 0; place < places; ++place) {
       const std::size_t first = place * chart_.points.size() / places;
@@ -116,12 +116,12 @@ class Plot {
     base_row_ = static_cast<int>(std::lround(heightOf(std::clamp(0.0, lowest_, highest_))));
   }
 
-  // In rows from the bottom of the plot.
+  // In rows, from the bottom of the plot.
   [[nodiscard]] double heightOf(double value) const {
     return shareOf(value - lowest_, highest_ - lowest_) * plotRows;
   }
 
-  // Eighths of the cell that are filled. A value on the ground is still seen.
+  // How much of the cell is filled, in eighths. A value of zero still gets one.
   [[nodiscard]] int filled(double value, int row) const {
     const double height = heightOf(value);
     if (row < base_row_) return height < row + 0.5 ? 8 : 0;
@@ -148,7 +148,7 @@ class Plot {
                   {cells, Ink::accent}});
   }
 
-  // The names under the plot: all of them where they fit, else the first and the last.
+  // The labels below the plot: all if they fit, else the first and the last.
   void drawPlaces(int width) {
     std::string names = repeated(" ", label_width_ + 2);
     const bool all = chart_.points.size() == values_.size() &&
@@ -178,7 +178,7 @@ class Plot {
   std::vector<double> values_;
   double lowest_ = 0;
   double highest_ = 0;
-  int base_row_ = 0;  // where zero is, or the edge nearest to it
+  int base_row_ = 0;  // the row of zero, or the nearest edge
 };
 
 }  // namespace
@@ -205,7 +205,7 @@ void drawChart(Canvas& canvas, const Chart& chart) {
         break;
       case Chart::Kind::bar:
       case Chart::Kind::histogram:
-        if (chart.points.size() > mostBars) {
+        if (chart.points.size() > maxBars) {
           Plot(canvas, chart).draw();
         } else {
           drawFigures(canvas, chart);

@@ -5,14 +5,14 @@
 
 namespace tb::console {
 
-// A chart as text: bars across the page with their figures, a pie as shares of the whole, a history as a
-// small plot with its scale.
+// Draws a chart as text: horizontal bars with figures, a pie as percentages, a history as a small plot with a
+// scale.
 void drawChart(Canvas& canvas, const view::Chart& chart);
 
-// A bar of `width` cells, the share (0 to 1, clamped) of them full.
+// A bar of `width` cells, of which the share (clamped to 0 to 1) is filled.
 [[nodiscard]] std::string bar(const Glyphs& glyphs, double share, int width);
 
-// value / whole, held between 0 and 1; 0 where that is no number.
+// value / whole, clamped to 0 to 1; 0 when that is not a number.
 [[nodiscard]] double shareOf(double value, double whole);
 
 }  // namespace tb::console

@@ -23,27 +23,27 @@ constexpr std::string_view help =
     "b goes back, q leaves; all that you did is saved.\n"
     "What has [-] before it is off, and the line below it tells why.";
 constexpr std::string_view clearWord = "-";
-constexpr double repaintEvery = 1;  // seconds, while a countdown runs in a window
-constexpr int fewestScrolled = 3;   // lines that a window shows of a long page, however low it is
-constexpr std::size_t overlap = 1;  // lines of the last screenful that stay in view when scrolling on
-constexpr std::size_t longestNumber = 9;
+constexpr double repaintEvery = 1;   // seconds, while a countdown is running
+constexpr int minScrolledLines = 3;  // lines of a long page shown in a small window
+constexpr std::size_t overlap = 1;   // lines that stay visible when scrolling
+constexpr std::size_t maxNumberLength = 9;
 
 struct Command {
   std::optional<view::Handle> number;
-  std::string words;  // after the number, or the whole line
+  std::string words;  // the text after the number, or the whole line
 };
 
 Command commandIn(const std::string& line) {
   const std::size_t digits = std::min(line.find_first_not_of("0123456789"), line.size());
   const bool is_number =
-      digits > 0 && digits <= longestNumber && (digits == line.size() || line[digits] == ' ');
+      digits > 0 && digits <= maxNumberLength && (digits == line.size() || line[digits] == ' ');
   if (!is_number) return {.words = line};
   view::Handle number = 0;
   std::from_chars(line.data(), line.data() + digits, number);
   return {.number = number, .words = trimmed(std::string_view(line).substr(digits))};
 }
 
-// A plain decimal number such as -12.5; nothing else that strtod would take.
+// Parses a decimal number such as -12.5, without the other forms that strtod accepts.
 std::optional<double> numberIn(const std::string& words) {
   if (words.empty() || words.find_first_not_of("+-.0123456789") != std::string::npos) return {};
   char* end = nullptr;
@@ -58,7 +58,7 @@ std::string joined(std::span<const Line> lines, bool colours) {
   return text;
 }
 
-// Tells whether what is scrolled is still the same: a new page, tab or dialog starts at its top.
+// Identifies the scrolled content: a new page, tab or dialog starts at its top.
 std::string scrolledPlace(const view::Page& page, bool dialog_alone) {
   if (dialog_alone) return page.dialog.front().title;
   const auto tab = std::ranges::find(page.tabs, true, &view::Tab::current);
@@ -89,7 +89,7 @@ void Console::play() {
   }
 }
 
-// --- What the player says ---
+// --- Commands ---
 
 bool Console::obey(const Input& input) {
   const auto seen = page_.targets;
@@ -180,9 +180,9 @@ void Console::goBack() {
   }
 }
 
-// --- Asking ---
+// --- Questions ---
 
-// Nothing when the input ended.
+// Nothing at the end of the input.
 std::optional<std::string> Console::ask(const std::string& question) {
   const std::string clean_question = cleaned(question);
   for (;;) {
@@ -218,8 +218,8 @@ void Console::letTimePass(double seconds) {
   paintAgain();
 }
 
-// While time runs the page may change under the player's hand; a number then means what it meant when the
-// player read it, or nothing.
+// During a countdown the page can change while the player types. A number then refers to the item that had it
+// when the player read it; false when that is gone.
 bool Console::stillThere(view::Handle handle, const Target& target) {
   const auto now = page_.targets.find(handle);
   const bool same = now != page_.targets.end() && now->second == target;
@@ -227,7 +227,7 @@ bool Console::stillThere(view::Handle handle, const Target& target) {
   return same;
 }
 
-// --- Showing ---
+// --- Output ---
 
 void Console::paintAgain() {
   const ConsolePort::Shape shape = port_.shape();
@@ -250,16 +250,16 @@ void Console::show() {
   port_.show(text + joined(flushLines(hint_, shape.columns), shape.colours));
 }
 
-// As much of the page as the window holds, the title above and the tabs below always in view. A dialog stands
-// over the end of the body; one that is too long for that takes the body's place.
+// The visible part of the page, with the title and the tabs always visible. A dialog covers the end of the
+// body, or all of it if it is long.
 std::string Console::window(const ConsolePort::Shape& shape) {
   const std::vector<Line> hint = flushLines(hint_, shape.columns);
   const std::vector<Line> foot = page_.dialog.empty() ? page_.foot : std::vector<Line>{};
   constexpr int ruleAndPrompt = 2;
   const int fixed = static_cast<int>(page_.head.size() + foot.size() + hint.size()) + ruleAndPrompt;
-  const int room = std::max(fewestScrolled, shape.rows - fixed);
+  const int room = std::max(minScrolledLines, shape.rows - fixed);
   const int dialog = static_cast<int>(page_.dialog.size());
-  const bool dialog_alone = dialog > room - fewestScrolled - 1;
+  const bool dialog_alone = dialog > room - minScrolledLines - 1;
   const bool over = dialog > 0 && !dialog_alone;
   const std::vector<Line>& scrolled = dialog > 0 && dialog_alone ? page_.dialog : page_.body;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The console shell's loop: shows the page, reads a line, does what it says.
+// The console shell's loop: shows the page, reads a line, executes it.
 
 #include <optional>
 #include <string>
@@ -12,26 +12,26 @@
 
 namespace tb::console {
 
-// What a read brought.
+// The result of a read.
 struct Input {
   enum class What : std::uint8_t {
     line,
-    nothing,  // the wait is over, or the window has another size: show the page again
-    end,      // there will be no more
+    nothing,  // timeout or resized window: show the page again
+    end,      // end of the input
   };
   What what = What::end;
-  std::string line;    // as it came, without its line break
-  double seconds = 0;  // that went by while waiting
+  std::string line;    // without its line break
+  double seconds = 0;  // time spent waiting
 };
 
-// Where the console is shown and from where it reads: a terminal, a pipe, a test's strings.
+// The console's output and input: a terminal, a pipe, or strings in a test.
 class ConsolePort {
  public:
   struct Shape {
     int columns = 80;  // of a line
-    int rows = 0;      // of a window that is painted over and over; 0: lines just follow each other
+    int rows = 0;      // of a window that is repainted; 0: output is a stream of lines
     bool colours = false;
-    bool blocks = false;  // has the block and line characters
+    bool blocks = false;  // can show block and line characters
   };
 
   ConsolePort() = default;
@@ -41,10 +41,10 @@ class ConsolePort {
 
   [[nodiscard]] virtual Shape shape() const = 0;
 
-  // The bytes of one page; a window's page starts at its first line.
+  // Shows a page; in a window from the first line.
   virtual void show(std::string_view page) = 0;
 
-  // Asks for a line. With `wait`, comes back with nothing after that many seconds.
+  // Reads a line. With `wait`, returns `nothing` after that many seconds.
   virtual Input read(std::string_view prompt, std::optional<double> wait) = 0;
 };
 
@@ -52,11 +52,11 @@ class Console {
  public:
   Console(App& app, ConsolePort& port) : app_(app), port_(port) {}
 
-  // Until the player leaves or the input ends. All that was done is saved by then, as far as saving works.
+  // Runs until the player leaves or the input ends.
   void play();
 
  private:
-  bool obey(const Input& input);  // false: the player leaves
+  bool obey(const Input& input);  // false when the player leaves
   bool use(view::Handle handle, const std::string& words);
   bool type(view::Handle handle, const Target& field, std::string words);
   bool slide(view::Handle handle, const Target& slider, std::string words);
@@ -74,11 +74,11 @@ class Console {
   App& app_;
   ConsolePort& port_;
   PaintedPage page_;
-  std::string hint_;       // about the last thing typed, until the next
-  int passed_ = 0;         // the number of the last passing line that was shown
-  std::string place_;      // what is scrolled: the page and its tab, or the dialog
-  std::size_t first_ = 0;  // the first line in view of a page longer than the window
-  std::size_t shown_ = 0;  // lines of it that the window shows
+  std::string hint_;       // about the last input
+  int passed_ = 0;         // number of the last shown passing line
+  std::string place_;      // identifies the scrolled content
+  std::size_t first_ = 0;  // first visible line of a long page
+  std::size_t shown_ = 0;  // visible lines of it
   std::size_t length_ = 0;
 };
 

@@ -35,7 +35,7 @@ constexpr Glyphs blockGlyphs{.full = "█",
                              .ground = "─",
                              .eighths = {" ", "▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"}};
 
-// The terminal's own palette, so that the player's choice of dark or light holds.
+// Colors of the terminal's palette, so that its dark or light theme is respected.
 std::string_view startOf(Ink ink) {
   switch (ink) {
     case Ink::plain:

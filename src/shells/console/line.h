@@ -1,6 +1,6 @@
 #pragma once
 
-// A painted line before it becomes bytes: runs of text with their ink, and the number in the margin.
+// A painted line: runs of text with their ink, and the number in the margin.
 
 #include <cstdint>
 #include <string>
@@ -11,23 +11,22 @@
 
 namespace tb::console {
 
-// What a run of text looks like on a terminal with colours. Without them every ink is the same, so nothing
-// is ever said by ink alone.
+// The style of a run of text. Without colors all inks look the same, so information must not depend on ink
+// alone.
 enum class Ink : std::uint8_t { plain, quiet, good, warning, accent, strong, inverse };
 
 [[nodiscard]] Ink inkOf(view::Tone tone);
 
-// The characters that drawings are made of: ASCII alone, or with the block and line characters that a UTF-8
-// terminal has.
+// The characters for drawing: ASCII only, or with block and line characters.
 struct Glyphs {
-  std::string_view full;    // of a bar
-  std::string_view rest;    // of a bar
-  std::string_view side;    // left of what belongs to a card or a dialog
-  std::string_view corner;  // over the side
+  std::string_view full;    // filled cell of a bar
+  std::string_view rest;    // filled cell of a bar
+  std::string_view side;    // left border of a card or a dialog
+  std::string_view corner;  // top left corner
   std::string_view rule;    // a line across the page
   std::string_view star, halfStar, noStar;
   std::string_view axis, origin, ground;  // of a plot
-  std::string_view eighths[9];            // a cell of a plot, filled from below by 0 to 8 eighths
+  std::string_view eighths[9];            // a plot cell filled from below by 0 to 8 eighths
 };
 
 [[nodiscard]] const Glyphs& glyphs(bool blocks);
@@ -41,24 +40,23 @@ using Runs = std::vector<Run>;
 
 [[nodiscard]] int columnsOf(const Runs& runs);
 
-// Things that stand side by side, `gap` columns apart, on as few rows of at most `width` columns as they
-// need. A thing that is wider has a row of its own.
+// Arranges items side by side with `gap` columns between them, in rows of at most `width` columns. A wider
+// item gets its own row.
 [[nodiscard]] std::vector<Runs> rowsOf(const std::vector<Runs>& items, int gap, int width);
 
-// The text `count` times over.
+// The text repeated `count` times.
 [[nodiscard]] std::string repeated(std::string_view text, int count);
 
 struct Line {
-  std::string margin;  // the number of what stands here, such as "[3]"; may be empty
+  std::string margin;  // the item's number, such as "[3]"; can be empty
   Runs runs;
-  bool flush = false;  // starts at the left edge and has no margin: rules, the title, the tabs
+  bool flush = false;  // no margin: rules, the title, the tabs
 };
 
-// Columns left of a page's content, where the numbers hang: "[123] ".
+// Columns of the margin for numbers: "[123] ".
 inline constexpr int marginWidth = 6;
 
-// The line as bytes, without its line break. Text is cleaned here: nothing that a terminal would obey gets
-// out of the game's texts.
+// The line as bytes, without its line break. Removes control sequences from texts.
 [[nodiscard]] std::string printed(const Line& line, bool colours);
 
 }  // namespace tb::console

@@ -40,7 +40,7 @@ constexpr const char* usage =
 
 struct Options {
   std::optional<std::filesystem::path> folder;
-  std::optional<int> exitCode;  // there is nothing to play: --help, --version, or a wrong option
+  std::optional<int> exitCode;  // set for --help, --version and invalid options
 };
 
 Options readOptions(int count, char** words) {
@@ -74,7 +74,7 @@ Options readOptions(int count, char** words) {
 
 std::expected<std::filesystem::path, tb::OpenFailure> folderFor(const Options& options) {
   if (!options.folder) return tb::saveFolder();
-  // Where it cannot be created, opening it says why.
+  // If this fails, opening the folder reports the reason.
   std::error_code ignored;
   std::filesystem::create_directories(*options.folder, ignored);
   return *options.folder;

@@ -16,14 +16,14 @@ using namespace view;
 
 namespace {
 
-constexpr int narrowestTile = 16;
+constexpr int minTileWidth = 16;
 constexpr int gaugeLabelWidth = 24;
 constexpr int gaugeWidth = 24;
-constexpr int whenWidth = 14;                 // of a timeline entry's "when"
-constexpr int bubbleShare = 3;                // a bubble is at most 3 quarters of the page wide
-constexpr double longestCountdown = 359'999;  // seconds: 99:59:59, more is shown as that
+constexpr int whenWidth = 14;             // columns of a timeline entry's "when"
+constexpr int bubbleShare = 3;            // a bubble is at most 3 quarters of the page wide
+constexpr double maxCountdown = 359'999;  // seconds: 99:59:59
 
-// Kinds that stand apart from what is before and after them.
+// Kinds with a blank line before and after.
 template <class Kind>
 constexpr bool standsApart =
     std::is_same_v<Kind, Tiles> || std::is_same_v<Kind, Chart> || std::is_same_v<Kind, Bubble> ||
@@ -78,7 +78,7 @@ std::string inWords(const std::vector<Picture>& pictures) {
   return pictures.empty() ? "" : inWords(pictures.front());
 }
 
-// A number as the player types it: without group separators, with as many decimals as it needs, up to four.
+// A number without group separators and with up to four decimals.
 std::string number(double value) {
   std::string digits = std::format("{:.4f}", value);
   digits.erase(digits.find_last_not_of('0') + 1);
@@ -90,9 +90,9 @@ std::string stepMark(Row::Step step) {
   return step == Row::Step::none ? "" : step == Row::Step::taken ? "(x) " : "( ) ";
 }
 
-// "1:05", or "1:02:03" from an hour on; a second that has begun counts.
+// "1:05", or "1:02:03" from one hour on. Rounded up to whole seconds.
 std::string clock(double seconds) {
-  const double inside = std::isfinite(seconds) ? std::clamp(seconds, 0.0, longestCountdown) : 0;
+  const double inside = std::isfinite(seconds) ? std::clamp(seconds, 0.0, maxCountdown) : 0;
   const auto whole = static_cast<int>(std::ceil(inside));
   const int hours = whole / 3600;
   if (hours == 0) return std::format("{}:{:02}", whole / 60, whole % 60);
@@ -117,7 +117,7 @@ void NodePainter::several(const std::vector<Node>& nodes) {
   depth_ -= 1;
 }
 
-// --- What says something ---
+// --- Nodes without operations ---
 
 void NodePainter::kind(const Text& text) {
   switch (text.style) {
@@ -148,7 +148,7 @@ void NodePainter::kind(const Tiles& tiles) {
     if (!tile.detail.empty()) stack.push_back({tile.detail, Ink::quiet});
     stacks.push_back(std::move(stack));
   }
-  canvas_.grid(stacks, narrowestTile);
+  canvas_.grid(stacks, minTileWidth);
 }
 
 void NodePainter::kind(const Balance& balance) {
@@ -157,8 +157,8 @@ void NodePainter::kind(const Balance& balance) {
   canvas_.line({{balance.income, Ink::strong}, {" | "}, {balance.expenses, inkOf(Tone::warning)}});
 }
 
-// The label, and beside it what is drawn: at one column on the whole page, so that bars can be compared. On
-// lines of their own where that is too wide.
+// A label with a drawing beside it, at the same column on the whole page so that bars can be compared; on
+// separate lines if it does not fit.
 void NodePainter::labelled(const std::string& label, Runs drawn, std::string margin) {
   const bool beside =
       columnsOf(label) < gaugeLabelWidth && gaugeLabelWidth + columnsOf(drawn) <= canvas_.width();
@@ -192,7 +192,7 @@ void NodePainter::kind(const Stars& stars) {
   const Glyphs& glyphs = canvas_.glyphs();
   const std::string drawn = repeated(glyphs.star, halves / 2) + repeated(glyphs.halfStar, halves % 2) +
                             repeated(glyphs.noStar, of - halves / 2 - halves % 2);
-  // The stars are drawn in halves, the figure beside them is the one that is meant.
+  // Stars are drawn in halves; the figure beside them is exact.
   labelled(stars.label, {{drawn}, {std::format("  {:g} of {}", std::round(value * 10) / 10, of)}}, "");
 }
 
@@ -244,11 +244,11 @@ void NodePainter::kind(const Countdown& countdown) {
         Ink::accent, "");
 }
 
-// --- What can be used ---
+// --- Nodes with operations ---
 
 void NodePainter::kind(const Button& button) { drawButton(canvas_, targets_, button); }
 
-// Side by side on one line, else each on its own.
+// On one line if they fit, else one per line.
 void NodePainter::kind(const Buttons& buttons) {
   std::vector<Runs> items;
   bool off = false;
@@ -263,7 +263,7 @@ void NodePainter::kind(const Buttons& buttons) {
     Runs& row = rows.front();
     std::string margin;
     if (buttons.buttons.front().handle != 0) {
-      // The first number hangs where all numbers hang.
+      // The first button's number goes to the margin.
       margin = trimmed(row.front().text);
       row.erase(row.begin());
     }
@@ -330,7 +330,7 @@ void NodePainter::kind(const Slider& slider) {
   canvas_.nested("  ", [&] { canvas_.text(how, Ink::quiet); });
 }
 
-// Options in columns: "(*)" is the one chosen, "(x)" is one of those chosen.
+// Options in columns: "(*)" marks a single choice, "(x)" one of several.
 void NodePainter::kind(const Choice& choice) {
   if (!choice.label.empty()) {
     canvas_.text(choice.label + (choice.several ? " (any number of them)" : "") + ":", Ink::plain);
@@ -350,7 +350,7 @@ void NodePainter::kind(const Choice& choice) {
   canvas_.nested("  ", [&] { canvas_.grid(stacks, std::min(widest, canvas_.width())); });
 }
 
-// --- What holds others ---
+// --- Containers ---
 
 void NodePainter::kind(const Section& section) {
   if (depth_ == 0) {
@@ -370,7 +370,7 @@ void NodePainter::kind(const Fold& fold) {
 void NodePainter::kind(const Card& card) {
   const std::string mark = targets_.add(card.handle, {.label = card.title});
   if (card.subtitle.empty() && inWords(card.picture).empty() && card.nodes.empty()) {
-    // Nothing to frame: what else is on the card is there to be looked at.
+    // No frame: the card has no text besides its title.
     return canvas_.text(card.title, Ink::strong, mark);
   }
   canvas_.framed(card.title, mark, [&] {
@@ -385,7 +385,7 @@ void NodePainter::kind(const SwipeCard& swipe) {
   kind(Buttons{{swipe.left, swipe.right}});
 }
 
-// Laying out leaves a ListPage in its place.
+// layOut() replaces it by a ListPage.
 void NodePainter::kind(const PagedList&) {}
 
 void NodePainter::kind(const ListPage& list) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// How each kind of node looks as text.
+// Draws each kind of node as text.
 
 #include <string>
 #include <vector>
@@ -17,11 +17,11 @@ class NodePainter {
 
   void draw(const view::Node& node);
 
-  // True when a countdown that still runs was drawn.
+  // True when a running countdown was drawn.
   [[nodiscard]] bool counting() const { return counting_; }
 
  private:
-  // One for each kind: a new kind does not compile until it is drawn.
+  // One overload per kind: a new kind does not compile without one.
   void kind(const view::Text& text);
   void kind(const view::Tiles& tiles);
   void kind(const view::Balance& balance);
@@ -53,7 +53,7 @@ class NodePainter {
   Canvas& canvas_;
   Targets& targets_;
   bool counting_ = false;
-  int depth_ = 0;  // of sections, cards and lists around what is drawn
+  int depth_ = 0;  // nesting in sections, cards and lists
 };
 
 }  // namespace tb::console

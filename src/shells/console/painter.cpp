@@ -14,7 +14,7 @@ using namespace view;
 
 constexpr int wayGap = 2;  // columns between the icons
 
-// The title at the left; the icons and the way back at the right, below it where they find no room beside it.
+// The title on the left; icons and the back button on the right, or below it if they do not fit.
 void drawTitle(Canvas& canvas, Targets& targets, const Page& page) {
   std::vector<Runs> ways;
   for (const Tab& icon : page.icons) ways.push_back(tabRuns(targets, icon));
@@ -37,7 +37,7 @@ std::vector<Line> head(const Page& page, const Surface& surface, Targets& target
   Canvas canvas(surface);
   drawTitle(canvas, targets, page);
   if (!page.subtitle.empty()) {
-    // A date on two lines is for a page that has the room.
+    // Puts a subtitle of two lines on one line.
     std::string subtitle = page.subtitle;
     std::ranges::replace(subtitle, '\n', ' ');
     for (std::string& part : wrapped(subtitle, surface.columns))
@@ -54,7 +54,7 @@ std::vector<Line> head(const Page& page, const Surface& surface, Targets& target
 std::vector<Line> dialog(const Dialog& asked, const Surface& surface, Targets& targets) {
   Canvas canvas(surface);
   canvas.framed(asked.title, "", [&] {
-    // Some messages begin with an empty line of their own.
+    // Skips empty lines at the start of a message.
     const std::size_t start = std::min(asked.message.find_first_not_of('\n'), asked.message.size());
     canvas.text(asked.message.substr(start), Ink::plain);
     canvas.text("", Ink::plain);
@@ -63,15 +63,14 @@ std::vector<Line> dialog(const Dialog& asked, const Surface& surface, Targets& t
   return canvas.take();
 }
 
-// A moment is a line with stars around it; what it is about stands on the page as well.
+// A moment is a line with stars around it.
 void drawMoment(Canvas& canvas, const Moment& moment) {
   const std::string stars = repeated(canvas.glyphs().star, 3);
   canvas.text(std::format("{} {} {} {} {}", stars, moment.title, stars, moment.line, stars), Ink::accent);
   canvas.gap();
 }
 
-// What the page is for, and under it the tabs on one line; where their icons leave no room for that, without
-// them.
+// The main action, and the tabs on one line, without their icons if they do not fit.
 std::vector<Line> foot(const Page& page, const Surface& surface, Targets& targets) {
   const auto rowsWith = [&](bool icons) {
     std::vector<Runs> items;

@@ -1,6 +1,6 @@
 #pragma once
 
-// A laid-out page as lines of text. What can be used has its number before it; the numbers are the handles.
+// Paints a laid-out page as lines of text. Usable items have their handle as a number.
 
 #include <map>
 #include <vector>
@@ -13,15 +13,15 @@
 namespace tb::console {
 
 struct PaintedPage {
-  std::vector<Line> head;  // the title, the icons and the way back, the figures that are always in view
+  std::vector<Line> head;  // title, icons, back button and figures
   std::vector<Line> body;
-  std::vector<Line> dialog;  // over the body; empty when there is none
-  std::vector<Line> foot;    // what the page is for, and the tabs
+  std::vector<Line> dialog;  // covers the body; empty when there is none
+  std::vector<Line> foot;    // main action and tabs
   std::map<view::Handle, Target> targets;
-  bool counting = false;  // time runs on this page
+  bool counting = false;  // has a running countdown
 };
 
-// `page` is a laid-out one: without a PagedList, and with its handles.
+// `page` must be laid out: with handles and without PagedList nodes.
 [[nodiscard]] PaintedPage paint(const view::Page& page, const Surface& surface);
 
 }  // namespace tb::console

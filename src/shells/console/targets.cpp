@@ -30,7 +30,7 @@ std::string labelOf(const Button& button) {
   return button.weight == Button::Weight::done ? button.label + " (done)" : button.label;
 }
 
-// Why it is off, or why it would refuse.
+// Why the button is off, or why the rule would refuse.
 const std::string& reasonOf(const Button& button) {
   return button.offReason.empty() ? button.refusal : button.offReason;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-// What can be used on a page, and how it is marked with its number.
+// The usable items of a page and their number marks.
 
 #include <cstdint>
 #include <map>
@@ -11,32 +11,31 @@
 
 namespace tb::console {
 
-// What stands under a number, as far as the player's hand is concerned.
+// A usable item.
 struct Target {
   enum class Kind : std::uint8_t { button, field, slider };
   Kind kind = Kind::button;
   std::string label;
-  std::string value;          // of a field, as it is now
+  std::string value;          // current text of a field
   std::string range;          // of a slider, such as "18 to 60"
   int maximumLength = 0;      // of a field, in characters
   bool severalLines = false;  // of a field
   bool operator==(const Target&) const = default;
 };
 
-// Collects what stands under each number while the page is drawn, so that what the player can use is just
-// what the player sees.
+// Collects usable items while the page is drawn, so that only visible items can be used.
 struct Targets {
   std::map<view::Handle, Target> all;
 
-  // The mark of the number, "[3]"; empty for handle 0.
+  // Returns the mark, such as "[3]"; empty for handle 0.
   std::string add(view::Handle handle, Target target);
 };
 
-// A tab or an icon, and a button, as part of a line.
+// A tab, an icon or a button as part of a line.
 [[nodiscard]] Runs tabRuns(Targets& targets, const view::Tab& tab);
 [[nodiscard]] Runs buttonRuns(Targets& targets, const view::Button& button);
 
-// A button on a line of its own, with the reason below it when it is off.
+// A button on its own line, with the reason below it when it is off.
 void drawButton(Canvas& canvas, Targets& targets, const view::Button& button);
 
 }  // namespace tb::console

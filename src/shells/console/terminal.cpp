@@ -20,11 +20,11 @@ namespace tb::console {
 
 namespace {
 
-constexpr int widest = 100;    // columns; longer lines tire the eye
-constexpr int narrowest = 40;  // columns; a narrower window breaks the lines itself
-constexpr int usual = 80;      // columns, where nothing says how many there are
+constexpr int widest = 100;    // columns; longer lines are hard to read
+constexpr int narrowest = 40;  // columns; a narrower window wraps lines itself
+constexpr int usual = 80;      // columns, when the width is unknown
 constexpr int usualRows = 24;
-constexpr std::size_t longestLine = 4096;  // bytes; the rest of a longer one is dropped
+constexpr std::size_t maxLineBytes = 4096;  // bytes; the rest of a longer line is dropped
 
 constexpr std::string_view clearWindow = "\x1b[2J";
 constexpr std::string_view toTheTop = "\x1b[H";
@@ -56,7 +56,8 @@ sigset_t watchedSignals() {
   return watched;
 }
 
-// Bytes come one by one and unseen as long as this lives, so that the line under way can be painted again.
+// Switches the terminal to unbuffered input without echo while it exists, so that the typed line can be
+// repainted.
 class UneditedInput {
  public:
   UneditedInput() {
@@ -132,7 +133,7 @@ ConsolePort::Shape Terminal::shape() const {
 
 void Terminal::show(std::string_view page) {
   if (!window_) return write(page);
-  // Written over line by line: a window that is cleared first flickers.
+  // Overwrites line by line, because clearing the window first flickers.
   std::string bytes(std::exchange(painted_, true) ? "" : clearWindow);
   bytes += toTheTop;
   bytes += cutLongLines;
@@ -175,7 +176,7 @@ Input Terminal::read(std::string_view prompt, std::optional<double> wait) {
 Input::What Terminal::readLine(std::string_view prompt, std::string& line) {
   write(prompt);
   for (;;) {
-    if (std::optional<std::string> taken = takeLine()) {
+    if (std::optional<std::string> taken = nextLine()) {
       line = std::move(*taken);
       if (!input_is_terminal_) write(cleaned(line) + "\n");
       return Input::What::line;
@@ -183,7 +184,7 @@ Input::What Terminal::readLine(std::string_view prompt, std::string& line) {
     if (at_end_) return Input::What::end;
     switch (await({})) {
       case Event::bytes:
-        at_end_ = !takeBytes();
+        at_end_ = !readBytes();
         break;
       case Event::timeUp:
         break;
@@ -223,25 +224,25 @@ Terminal::Event Terminal::signalled() const {
   return event;
 }
 
-bool Terminal::takeBytes() {
-  char bytes[longestLine];
+bool Terminal::readBytes() {
+  char bytes[maxLineBytes];
   const ssize_t got = ::read(STDIN_FILENO, bytes, sizeof bytes);
   if (got > 0) received_.append(bytes, static_cast<std::size_t>(got));
   return got > 0 || (got < 0 && (errno == EINTR || errno == EAGAIN));
 }
 
-std::optional<std::string> Terminal::takeLine() {
+std::optional<std::string> Terminal::nextLine() {
   const std::size_t end = received_.find('\n');
   if (end == std::string::npos && (!at_end_ || received_.empty())) {
-    if (received_.size() > longestLine) received_.resize(longestLine);
+    if (received_.size() > maxLineBytes) received_.resize(maxLineBytes);
     return {};
   }
-  std::string line = received_.substr(0, std::min(end, longestLine));
+  std::string line = received_.substr(0, std::min(end, maxLineBytes));
   received_.erase(0, end == std::string::npos ? end : end + 1);
   return line;
 }
 
-// --- While a countdown runs ---
+// --- During a countdown ---
 
 Input::What Terminal::editLine(std::string_view prompt, std::string& line,
                                std::optional<Clock::time_point> until) {
@@ -260,7 +261,7 @@ Input::What Terminal::editLine(std::string_view prompt, std::string& line,
     if (at_end_) return Input::What::end;
     switch (await(until)) {
       case Event::bytes:
-        at_end_ = !takeBytes();
+        at_end_ = !readBytes();
         break;
       case Event::timeUp:
       case Event::redraw:
@@ -286,7 +287,7 @@ std::optional<Input::What> Terminal::edit(char byte) {
       typed_.clear();
       break;
     default:
-      if (typed_.size() < longestLine) typed_ += byte;
+      if (typed_.size() < maxLineBytes) typed_ += byte;
   }
   return {};
 }

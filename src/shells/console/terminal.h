@@ -10,16 +10,14 @@
 
 namespace tb::console {
 
-// A window is painted over and over when both ends are a terminal that can do it (TERM says so, and is not
-// "dumb"); colours besides, unless NO_COLOR is set. Everything else gets lines one after the other, without
-// any control sequence, and the lines read from a pipe or a file are repeated, so that a transcript reads as
-// a conversation.
+// If input and output are a terminal (and TERM is not "dumb"), the window is repainted for each page, with
+// colors unless NO_COLOR is set. Otherwise the output is a stream of lines without control sequences, and
+// input lines are echoed so that a transcript shows them.
 //
-// The debug log would be written into a window's page: it is not shown there, but goes wherever else the
-// standard error stream is sent to.
+// The debug log is suppressed when standard error is that window, because it would overwrite the page.
 //
-// SIGINT, SIGTERM and SIGHUP end the input. While a Terminal lives these signals are blocked and read as
-// they come, so that no action of the player is cut in two.
+// SIGINT, SIGTERM and SIGHUP end the input. The signals are blocked and read from a file descriptor, so that
+// they do not interrupt an action.
 class Terminal : public ConsolePort {
  public:
   Terminal();
@@ -32,12 +30,12 @@ class Terminal : public ConsolePort {
  private:
   using Clock = std::chrono::steady_clock;
 
-  // What the wait for the next bytes brought.
+  // The result of waiting for input.
   enum class Event : std::uint8_t { bytes, timeUp, redraw, leave };
   Event await(std::optional<Clock::time_point> until) const;
   [[nodiscard]] Event signalled() const;
-  bool takeBytes();                       // false at the end of the input
-  std::optional<std::string> takeLine();  // from what has come in
+  bool readBytes();                       // false at the end of the input
+  std::optional<std::string> nextLine();  // the next complete line that was received
   Input::What readLine(std::string_view prompt, std::string& line);
   Input::What editLine(std::string_view prompt, std::string& line, std::optional<Clock::time_point> until);
   std::optional<Input::What> edit(char byte);
@@ -45,16 +43,16 @@ class Terminal : public ConsolePort {
   void silenceErrors();
 
   bool input_is_terminal_;
-  bool window_;  // paints over and over
+  bool window_;  // repaints the window for each page
   bool colours_;
   bool blocks_;
   bool painted_ = false;
-  bool gone_ = false;  // nobody reads what is written
+  bool gone_ = false;  // the reader of the output is gone
   bool at_end_ = false;
-  int signals_;           // a file to read the signals from
-  int errors_ = -1;       // the standard error stream while it is silenced
-  std::string received_;  // bytes without a line break so far, or lines not yet asked for
-  std::string typed_;     // the line under way while a countdown repaints the window
+  int signals_;           // signal file descriptor
+  int errors_ = -1;       // saved standard error while it is suppressed
+  std::string received_;  // received bytes that were not returned yet
+  std::string typed_;     // the line typed so far, during a countdown
 };
 
 }  // namespace tb::console

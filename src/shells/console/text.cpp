@@ -22,7 +22,7 @@ struct CodePoint {
 
 CodePoint codePointAt(std::string_view text, std::size_t at) {
   std::string_view rest = text.substr(at);
-  const char32_t value = plist::takeCharacter(rest);
+  const char32_t value = plist::readCharacter(rest);
   return {value, text.size() - at - rest.size()};
 }
 
@@ -31,7 +31,7 @@ struct Range {
   char32_t last;
 };
 
-// Marks that take no room of their own. Scripts in living use; a mark that is missing here costs one column.
+// Zero-width marks of scripts in current use. A missing one only counts as one column.
 constexpr Range unseen[] = {
     {0x0300, 0x036F}, {0x0483, 0x0489},  {0x0591, 0x05BD}, {0x05BF, 0x05BF}, {0x05C1, 0x05C2},
     {0x05C4, 0x05C5}, {0x05C7, 0x05C7},  {0x0610, 0x061A}, {0x064B, 0x065F}, {0x0670, 0x0670},
@@ -85,7 +85,7 @@ int columnsOfCharacter(char32_t value) {
   return isIn(wide, value) ? 2 : 1;
 }
 
-// The length in bytes of the character at `at`: a code point, the marks upon it, and what a joiner ties on.
+// The length in bytes of the character at `at`: a code point, its combining marks, and joined code points.
 std::size_t characterLength(std::string_view text, std::size_t at) {
   CodePoint last = codePointAt(text, at);
   std::size_t end = at + last.length;
@@ -98,7 +98,7 @@ std::size_t characterLength(std::string_view text, std::size_t at) {
   return end - at;
 }
 
-// Where the escape sequence that starts at `at` ends: "ESC [", parameters and one final letter, or ESC alone.
+// The end of the escape sequence at `at`: "ESC [", parameters and a final letter, or just ESC.
 std::size_t afterEscape(std::string_view text, std::size_t at) {
   std::size_t end = at + 1;
   if (end >= text.size() || text[end] != '[') return end;
@@ -107,7 +107,7 @@ std::size_t afterEscape(std::string_view text, std::size_t at) {
   return end < text.size() && text[end] >= 0x40 ? end + 1 : end;
 }
 
-// The longest start of `text` that fits `width` columns; at least one character, so that every line gets on.
+// The longest prefix of `text` that fits `width` columns, but at least one character.
 std::string_view startWithin(std::string_view text, int width) {
   std::size_t end = 0;
   int columns = 0;
@@ -153,8 +153,8 @@ int columnsOf(std::string_view text) {
   int last = 0;
   for (std::size_t at = 0; at < text.size();) {
     const CodePoint point = codePointAt(text, at);
-    // Asked to draw a narrow character as an emoji, some terminals take two columns and others one. Counting
-    // two, a line is never longer than the window.
+    // Terminals draw a narrow character with an emoji selector one or two columns wide. Counting two ensures
+    // that the line fits.
     const bool widened = point.value == emojiSelector && last == 1;
     const int own = widened ? 1 : columnsOfCharacter(point.value);
     columns += own;

@@ -1,7 +1,6 @@
 #pragma once
 
-// Text as a terminal shows it: UTF-8 measured in columns, cleaned of what a terminal would obey, and broken
-// into lines.
+// Text for a terminal: measures UTF-8 in columns, removes control sequences, and wraps lines.
 
 #include <string>
 #include <string_view>
@@ -9,22 +8,22 @@
 
 namespace tb::console {
 
-// The columns that a text takes on one line: two for emoji and wide East Asian characters, none for
-// combining marks, joiners and control characters. Where terminals differ, the most that one takes.
+// The width of a text in columns: two for emoji and wide East Asian characters, zero for combining marks,
+// joiners and control characters. Where terminals differ, the largest width.
 [[nodiscard]] int columnsOf(std::string_view text);
 
-// The text without control characters and escape sequences, without marks that turn the direction of
-// reading, and with U+FFFD for what is no UTF-8. Line breaks stay; a tab becomes a blank.
+// Removes control characters, escape sequences and direction marks, and replaces ill-formed UTF-8 by U+FFFD.
+// Keeps line breaks; a tab becomes a space.
 [[nodiscard]] std::string cleaned(std::string_view text);
 
-// Broken into lines of at most `width` columns (1 and up): at blanks, within a word only when the word alone
-// is wider, and at "\n". At least one line.
+// Wraps text to lines of at most `width` columns (1 and up), at spaces and "\n", and inside a word only if it
+// is wider than a line. Returns at least one line.
 [[nodiscard]] std::vector<std::string> wrapped(std::string_view text, int width);
 
-// The first `count` characters, a character being a code point with the marks that join it.
+// The first `count` characters. A character is a code point with its combining marks.
 [[nodiscard]] std::string firstCharacters(std::string_view text, int count);
 
-// The text cut to `width` columns (4 and up), "..." telling that something is missing.
+// The text truncated with "..." to `width` columns (4 and up).
 [[nodiscard]] std::string fitted(std::string_view text, int width);
 
 }  // namespace tb::console

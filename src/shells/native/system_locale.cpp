@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* noBreakSpace = "\u00A0";
 
-// Standing alone ("LLLL"), not as in a date, where the language makes a difference.
+// Month names in the standalone form ("LLLL"), for languages that have a different form in dates.
 std::array<std::string, 12> monthsAsWritten() {
   constexpr nl_item items[] = {ALTMON_1, ALTMON_2, ALTMON_3, ALTMON_4,  ALTMON_5,  ALTMON_6,
                                ALTMON_7, ALTMON_8, ALTMON_9, ALTMON_10, ALTMON_11, ALTMON_12};
@@ -22,7 +22,7 @@ std::array<std::string, 12> monthsAsWritten() {
   return months;
 }
 
-// A name in the capitals of the language that is set. Empty when the name is no text of its encoding.
+// A name in capitals, by the rules of the current language. Empty when its encoding is invalid.
 std::string capitalsOf(const std::string& name) {
   std::wstring wide(name.size(), L'\0');
   const std::size_t letters = std::mbstowcs(wide.data(), name.c_str(), wide.size());

@@ -14,7 +14,8 @@ std::uint64_t SystemRandom::next() {
 
 void SystemRandom::fill() {
   for (;;) {
-    // So few bytes come all at once; only the wait for the first entropy after a boot can be interrupted.
+    // A request of up to 256 bytes is not split; only the initial wait for entropy after boot can be
+    // interrupted.
     const ssize_t got = getrandom(words_.data(), sizeof words_, 0);
     if (got == static_cast<ssize_t>(sizeof words_)) break;
     if (got < 0 && errno != EINTR) stopTheGame("the system gives no random numbers");

@@ -8,8 +8,8 @@
 
 namespace tb {
 
-// Chance from the system's secure generator: no seed, and no game can be replayed. Asked for many words at a
-// time: a busy week draws thousands, and each question to the system costs more than the words do.
+// Random words from the system's secure generator. Fetches many words at a time, because a busy week draws
+// thousands and a system call costs more than the words.
 class SystemRandom : public RandomSource {
  public:
   std::uint64_t next() override;
@@ -17,7 +17,7 @@ class SystemRandom : public RandomSource {
  private:
   void fill();
 
-  std::array<std::uint64_t, 32> words_ = {};  // 256 bytes: the most that comes all at once
+  std::array<std::uint64_t, 32> words_ = {};  // 256 bytes, the largest request that is not split
   std::size_t used_ = words_.size();
 };
 

@@ -19,7 +19,7 @@ OpenFailure cannotWrite(const std::filesystem::path& folder, const std::string& 
           "Top Billing cannot keep its saves in " + folder.string() + ": " + reason + "."};
 }
 
-// The base directory for a user's data. A relative XDG_DATA_HOME is invalid and counts as not set.
+// The base directory for user data. A relative XDG_DATA_HOME is invalid and is ignored.
 std::filesystem::path dataHome() {
   if (const char* const set = std::getenv("XDG_DATA_HOME"); set != nullptr && set[0] == '/') return set;
   const char* home = std::getenv("HOME");

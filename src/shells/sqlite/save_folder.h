@@ -1,6 +1,6 @@
 #pragma once
 
-// Where a Linux player's saves live, and the lock that keeps a second window out of them.
+// The folder for saves on Linux, and its lock against a second process.
 
 #include <cstdint>
 #include <expected>
@@ -9,22 +9,22 @@
 
 namespace tb {
 
-// Why a career could not be opened. Whatever the reason, nothing that was there has been touched.
+// Why a career could not be opened. Existing files have not been changed.
 struct OpenFailure {
   enum class Kind : std::uint8_t {
-    alreadyOpen,   // another window, or another program, has the file
-    newerVersion,  // a later version of the game wrote the file
-    cannotWrite,   // no such folder, no right to write there, a full disk
+    alreadyOpen,   // another process has the file
+    newerVersion,  // written by a later version of the game
+    cannotWrite,   // missing folder or permission, or a full disk
   };
   Kind kind;
-  std::string message;  // plain sentences for the player
+  std::string message;  // for the player
 };
 
-// $XDG_DATA_HOME/top-billing, or ~/.local/share/top-billing where that is not set; created when missing, for
-// the player's eyes only.
+// $XDG_DATA_HOME/top-billing, or ~/.local/share/top-billing when that is not set. Created if missing,
+// readable by the user only.
 [[nodiscard]] std::expected<std::filesystem::path, OpenFailure> saveFolder();
 
-// Holds a folder of saves for this process. The lock ends with the process, however that ends.
+// Locks a folder of saves for this process, until the process ends in any way.
 class FolderLock {
  public:
   [[nodiscard]] static std::expected<FolderLock, OpenFailure> take(const std::filesystem::path& folder);

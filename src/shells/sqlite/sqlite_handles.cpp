@@ -13,7 +13,7 @@ std::unexpected<Error> lastError(sqlite3* database) {
 }  // namespace
 
 Statement& Statement::bind(int parameter, std::string_view text) {
-  // Bytes and text are good until the statement has run: they need no copy.
+  // The arguments outlive the execution, so SQLite does not copy them.
   sqlite3_bind_text64(statement_.get(), parameter + 1, text.empty() ? "" : text.data(), text.size(),
                       SQLITE_STATIC, SQLITE_UTF8);
   return *this;

@@ -1,6 +1,6 @@
 #pragma once
 
-// The little of SQLite's C interface that the port needs, with its handles closed on time.
+// RAII wrappers for the parts of SQLite's C API that the port needs.
 
 #include <cstddef>
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace tb::sqlite {
 
-// A result code of SQLite that is no success, and its words.
+// An SQLite error code with its message.
 struct Error {
   int code = SQLITE_ERROR;  // primary result code
   std::string message;
@@ -25,23 +25,23 @@ using Result = std::expected<T, Error>;
 
 class Database;
 
-// A prepared statement, used again and again. Parameters and columns count from 0.
+// A reusable prepared statement. Parameters and columns are numbered from 0.
 class Statement {
  public:
   Statement& bind(int parameter, std::string_view text);
   Statement& bind(int parameter, std::int64_t number);
   Statement& bind(int parameter, std::span<const std::byte> bytes);
 
-  // Runs to the end, without results; ready to be bound again.
+  // Executes a statement without results and resets it.
   Result<> run();
 
-  // True while there is a row. Ready to be bound again after false or an error.
+  // True while there is a row. Resets the statement after false or an error.
   Result<bool> step();
 
   [[nodiscard]] int type(int column) const;
   [[nodiscard]] std::int64_t number(int column) const;
   [[nodiscard]] std::string text(int column) const;
-  [[nodiscard]] std::span<const std::byte> bytes(int column) const;  // good until the next step
+  [[nodiscard]] std::span<const std::byte> bytes(int column) const;  // valid until the next step
 
  private:
   friend class Database;
@@ -61,14 +61,14 @@ class Database {
   [[nodiscard]] Result<Statement> prepare(std::string_view sql) const;
   Result<> run(std::string_view sql) const;
 
-  // The first column of the first row, for questions with one answer.
+  // The first column of the first row.
   [[nodiscard]] Result<std::int64_t> number(std::string_view sql) const;
   [[nodiscard]] Result<std::string> text(std::string_view sql) const;
 
-  // Whether closing folds the log of recent writes into the file. While that is off, closing changes nothing.
+  // Whether closing runs a checkpoint. If not, closing does not change the file.
   void tidyWhenClosed(bool tidy) const;
 
-  // Gives up the transaction that is open, if one is.
+  // Rolls back the open transaction, if any.
   void rollBack() const;
 
  private:

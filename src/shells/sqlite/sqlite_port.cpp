@@ -16,15 +16,15 @@ using sqlite::Error;
 using sqlite::Result;
 using sqlite::Statement;
 
-constexpr std::int64_t applicationId = 0x54424c47;  // marks the file as a career of this game
-constexpr std::int64_t schemaVersion = 1;           // raise it with every change of the tables
+constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a career of this game
+constexpr std::int64_t schemaVersion = 1;           // increment with every schema change
 
 // Rows that no version of the game writes.
 constexpr std::string_view damagedRows =
     "(typeof(key) <> 'text' OR typeof(piece) <> 'integer' OR typeof(value) <> 'blob' "
     "OR typeof(shape) <> 'integer' OR shape NOT BETWEEN 0 AND 2)";
 
-// The file's own state, as PRAGMAs have it.
+// The PRAGMA values that identify the file.
 struct FileMarks {
   std::int64_t applicationId = 0;
   std::int64_t version = 0;
@@ -48,7 +48,7 @@ Result<FileMarks> readMarks(const Database& database) {
   return FileMarks{*id, *version, *tables};
 }
 
-// The marks stand in the transaction that makes the tables: there is never one without the other.
+// The marks are set in the transaction that creates the tables, so neither exists without the other.
 Result<> createTables(const Database& database) {
   const std::string statements[] = {
       "BEGIN IMMEDIATE",
@@ -65,8 +65,8 @@ Result<> createTables(const Database& database) {
   return {};
 }
 
-// Moves the rows of every damaged key out of the way. Rows of a key that are sound go along: part of a list
-// would pass for the whole.
+// Moves all rows of a key with a damaged row to kept_aside, because part of a list would look like the whole
+// list.
 Result<> setDamagedRowsAside(const Database& database) {
   const std::string keys = tb::format("key IN (SELECT key FROM pieces WHERE {})", damagedRows);
   const std::string statements[] = {
@@ -85,8 +85,8 @@ Result<> setDamagedRowsAside(const Database& database) {
   return {};
 }
 
-// Synchronous FULL makes every commit of the write-ahead log wait for the disk; the exclusive lock spares the
-// shared index that several processes would need.
+// Synchronous FULL makes every commit of the write-ahead log wait for the disk. The exclusive lock avoids the
+// shared-memory index.
 Result<> setDurability(const Database& database) {
   const auto mode = database.text("PRAGMA journal_mode = WAL");
   if (!mode) return std::unexpected(mode.error());
@@ -95,7 +95,7 @@ Result<> setDurability(const Database& database) {
   return database.run("PRAGMA synchronous = FULL");
 }
 
-// What to say of a write that failed.
+// The message about a failed write.
 std::string sentence(const Error& error) {
   switch (error.code) {
     case SQLITE_FULL:
@@ -111,7 +111,7 @@ std::string sentence(const Error& error) {
 
 bool isDamage(const Error& error) { return error.code == SQLITE_CORRUPT || error.code == SQLITE_NOTADB; }
 
-// The version check answers with this code, which means just that in SQLite: a schema of another version.
+// The result of the version check for a newer schema.
 constexpr int laterSchema = SQLITE_SCHEMA;
 
 OpenFailure failureOf(const Error& error, const std::filesystem::path& file) {
@@ -126,11 +126,11 @@ OpenFailure failureOf(const Error& error, const std::filesystem::path& file) {
           "changed."};
     default:
       return {cannotWrite, tb::format("Top Billing cannot keep its saves in {}. {}",
-                                       file.parent_path().string(), sentence(error))};
+                                      file.parent_path().string(), sentence(error))};
   }
 }
 
-// Renames the career and what SQLite keeps beside it. Answers with its new name.
+// Renames the career file and SQLite's files beside it. Returns the new name.
 std::expected<std::filesystem::path, OpenFailure> moveAside(const std::filesystem::path& file) {
   std::filesystem::path aside;
   std::error_code error;
@@ -164,8 +164,8 @@ std::expected<std::unique_ptr<SqlitePort>, OpenFailure> SqlitePort::open(
     notice =
         Notice{"⚠️ Career File Damaged ⚠️",
                tb::format("Your career could not be read. The damaged file was kept as {}, and a new career "
-                           "begins.",
-                           aside->string())};
+                          "begins.",
+                          aside->string())};
     career = openCareer(file);
   }
   if (!career) return std::unexpected(failureOf(career.error(), file));
@@ -186,7 +186,7 @@ std::expected<void, std::string> SqlitePort::commit(std::span<const StoreChange>
   return std::unexpected(sentence(done.error()));
 }
 
-// Until the career is known to be sound and ours, nothing is written, not even by closing the file.
+// Writes nothing, not even on closing, until the file is known to be an intact career of this game.
 Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& file) {
   auto database = Database::open(file);
   if (!database) return std::unexpected(database.error());
@@ -222,7 +222,7 @@ Result<SqlitePort::Career> SqlitePort::prepareCareer(Database database) {
       "INSERT INTO kept_aside (key, piece, shape, value) SELECT ?1, ?2, ?3, ?4 WHERE NOT EXISTS "
       "(SELECT 1 FROM kept_aside WHERE key = ?1 AND piece = ?2 AND shape = ?3 AND value = ?4)");
   for (const auto* const statement : {&put, &drop, &dropKey, &dropAll, &keepAside}) {
-    if (!*statement) return damaged(statement->error().message);  // our mark, but not our tables
+    if (!*statement) return damaged(statement->error().message);  // has our mark but not our tables
   }
   return Career{std::move(database),
                 *std::move(put),

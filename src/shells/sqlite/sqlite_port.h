@@ -1,16 +1,16 @@
 #pragma once
 
-// A career in a SQLite file, for everything that runs on Linux.
+// A career in an SQLite file, for native programs on Linux.
 //
-// One commit is one transaction, on the disk before commit() returns: a killed process or a power cut loses
-// no committed action and shows none by half. The folder belongs to one process at a time.
+// A commit is a transaction that is on disk when commit() returns, so a killed process or a power failure
+// loses no committed action. Only one process can use the folder at a time.
 //
-//   pieces       what the save store holds, one row a piece
-//   kept_aside   what could not be understood; nothing reads it but people who look for something lost
+//   pieces       the pieces of the save store, one per row
+//   kept_aside   unreadable pieces, for manual recovery; the game does not read them
 //
-// A file that is damaged, or that is no career, is never deleted: it moves aside as
-// career.damaged-<n>.sqlite. Where single rows are damaged, all of their keys' rows go to kept_aside and the
-// rest of the career loads.
+// A damaged file, or one that is not a career, is renamed to career.damaged-<n>.sqlite, never deleted. If
+// single rows are damaged, all rows of their keys are moved to kept_aside and the rest of the career is
+// loaded.
 
 #include <expected>
 #include <filesystem>
@@ -29,19 +29,19 @@ namespace tb {
 
 class SqlitePort : public StorePort {
  public:
-  // Opens the career in the folder, or begins one. Everything is read at once, so that damage anywhere in the
-  // file shows before the first week is played.
+  // Opens the career in the folder, or creates one. Reads the whole file, so that damage is found before the
+  // game starts.
   [[nodiscard]] static std::expected<std::unique_ptr<SqlitePort>, OpenFailure> open(
       const std::filesystem::path& folder);
 
-  // What the player has to know about the opening: where a damaged career was put.
+  // A notice about where a damaged career was moved, if any.
   [[nodiscard]] const std::optional<Notice>& notice() const { return notice_; }
 
   std::vector<StoredPiece> load() override;
   std::expected<void, std::string> commit(std::span<const StoreChange> changes) override;
 
  private:
-  // A database that is known to be a sound career, with what it holds.
+  // A verified career database with its pieces.
   struct Career {
     sqlite::Database database;
     sqlite::Statement put;
@@ -49,7 +49,7 @@ class SqlitePort : public StorePort {
     sqlite::Statement dropKey;
     sqlite::Statement dropAll;
     sqlite::Statement keepAside;
-    std::vector<StoredPiece> pieces;  // until load() hands them over
+    std::vector<StoredPiece> pieces;  // until load() returns them
   };
 
   SqlitePort(FolderLock lock, Career career, std::optional<Notice> notice);

@@ -11,7 +11,7 @@ namespace tb {
 
 namespace {
 
-// Room for the longest double in full, and for 700 digits behind the point.
+// Enough for the longest double and 700 digits after the decimal point.
 using Text = std::array<char, 1024>;
 
 std::string_view print(Text& text, const char* format, int precision, double value) {
@@ -27,14 +27,14 @@ std::to_chars_result copy(std::string_view text, char* first, char* last) {
   return {std::ranges::copy(text, first).out, std::errc{}};
 }
 
-// The shortest text in scientific notation: digits are added until it reads back as the same double.
+// The shortest scientific notation: adds digits until the text parses to the same double.
 std::string_view shortestScientific(Text& text, double value) {
-  constexpr int mostDigits = 16;  // behind the point; so many tell every double from its neighbours
-  for (int precision = 0; precision < mostDigits; ++precision) {
+  constexpr int maxDigits = 16;  // after the decimal point; enough to distinguish all doubles
+  for (int precision = 0; precision < maxDigits; ++precision) {
     const std::string_view tried = print(text, "%.*e", precision, value);
     if (std::strtod(text.data(), nullptr) == value) return tried;
   }
-  return print(text, "%.*e", mostDigits, value);
+  return print(text, "%.*e", maxDigits, value);
 }
 
 // The same digits in fixed notation.
@@ -65,7 +65,7 @@ std::to_chars_result writeShortest(char* first, char* last, double value, std::c
   Text fixedText;
   const std::string_view fixed = inFixed(fixedText, scientific, value);
   if (notation == std::chars_format::fixed) return copy(fixed, first, last);
-  // The general notation is fixed for what has its first digit between 0.0001 and 999,999.
+  // The general notation is fixed for values from 0.0001 to 999,999.
   const int exponent = std::atoi(scientific.data() + scientific.find('e') + 1);
   return copy(exponent >= -4 && exponent < 6 ? fixed : scientific, first, last);
 }

@@ -1,22 +1,22 @@
 #pragma once
 
-// Doubles as text for the page, digit for digit what std::to_chars writes. The standard library's own way
-// carries tables of 120 KB, which nothing compresses: a quarter of what a first visit fetches. The C library
-// writes the same digits by plain long arithmetic, and its few kilobytes are there anyway.
+// Doubles as text for the web page, with the same output as std::to_chars. The standard library's
+// implementation has 120 KB of incompressible tables, a quarter of the first download. This one uses the C
+// library, which is linked anyway.
 
 #include <charconv>
 
 namespace tb {
 
-// Each writes to [first, last) without a closing zero and answers as std::to_chars does: where the text ends,
-// or errc::value_too_large with nothing to rely on in between.
+// Like std::to_chars, each writes to [first, last) without a terminating zero and returns the end of the
+// text, or errc::value_too_large.
 
-// The fewest digits that read back as the same double, in the shorter of the two notations.
+// The fewest digits that parse to the same double, in the shorter notation.
 [[nodiscard]] std::to_chars_result writeShortest(char* first, char* last, double value);
 [[nodiscard]] std::to_chars_result writeShortest(char* first, char* last, double value,
                                                  std::chars_format notation);
 
-// With `precision` digits, 0 or more; not for hexadecimal notation.
+// With `precision` digits (0 and up). Does not support hexadecimal notation.
 [[nodiscard]] std::to_chars_result writePrecise(char* first, char* last, double value,
                                                 std::chars_format notation, int precision);
 

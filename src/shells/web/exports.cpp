@@ -1,11 +1,9 @@
-// The functions that the page calls; web/src/runtime/game.ts is their other side.
+// The functions that the page calls; web/src/runtime/game.ts is the caller.
 //
-// Texts and bytes come in through `incoming`: the page asks for room, writes them there, and calls the
-// function that reads them. They go out through `answer`, whose length the function returns. Both stay good
-// until the next call.
+// Input is passed in `incoming`: the page requests a buffer, fills it, and calls the function that reads it.
+// Output is in `answer`, whose length the function returns. Both are valid until the next call.
 //
-// A trap anywhere leaves this instance in pieces: the page never calls it again, and starts a new one from
-// what was saved.
+// After a trap the instance is unusable: the page starts a new one from the saved data.
 
 #include <cstddef>
 #include <cstdint>
@@ -57,18 +55,18 @@ EXPORT(incoming) std::byte* roomForIncoming(std::size_t size) {
 
 EXPORT(answer) const std::byte* answerAddress() { return answer.data(); }
 
-// Incoming: the stored pieces. Everything else comes after this.
+// Incoming: the stored pieces. Must be called first.
 EXPORT(open_store) void openStore() { game.emplace(tb::readPieces(incoming)); }
 
-// Incoming: the texts. Once; only the page that a new career begins with goes without them.
-EXPORT(hand_in_texts) void handInTexts() { tb::handInTexts(incomingText()); }
+// Incoming: the texts. Called once; only the new-career form works without them.
+EXPORT(set_texts) void setTexts() { tb::setTexts(incomingText()); }
 
-// Incoming: the locale. Loads the career, or opens the form of a new one.
+// Incoming: the locale. Loads the career, or opens the new-career form.
 EXPORT(start) void start() {
   game->app.emplace(game->store, game->random, tb::readLocale(incoming), tb::systemClock);
 }
 
-// The page on show, as JSON. The functions below it change what is on show.
+// The current page as JSON.
 EXPORT(view) std::size_t viewPage() { return answerWith(tb::pageJson(game->app->view())); }
 
 EXPORT(press) void press(std::int32_t handle) { game->app->press(handle); }
@@ -78,10 +76,10 @@ EXPORT(tick) void tick(double seconds) { game->app->tick(seconds); }
 EXPORT(back) void back() { game->app->back(); }
 EXPORT(saving_failed) void savingFailed() { game->app->savingFailed(incomingText()); }
 
-// These two need the store alone, so that they work for a career that does not start.
+// These two use only the store, so that they also work for a career that fails to start.
 EXPORT(export_store) std::size_t exportStore() { return answerWith(tb::exportedSave(game->store)); }
 
-// Incoming: a file. Answers with why it was refused; with nothing when it was taken and committed.
+// Incoming: a file. Answer: why it was refused, or empty when it was imported and committed.
 EXPORT(import_store) std::size_t importStore() {
   const std::string refusal = tb::importSave(game->store, incoming);
   if (refusal.empty()) static_cast<void>(game->store.commit());

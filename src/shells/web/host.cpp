@@ -5,7 +5,7 @@
 #include "core/stop.h"
 #include "shells/web/message.h"
 
-// The game's one import of its own, beside those of WASI.
+// The only import besides those of WASI.
 extern "C" __attribute__((import_module("game"), import_name("commit"))) void commitToPage(
     const std::byte* message, std::size_t size);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// What the game needs of the page around it: a place for what is saved, and chance.
+// The services of the page: storage and random numbers.
 
 #include <array>
 #include <cstddef>
@@ -13,9 +13,9 @@
 
 namespace tb {
 
-// The pieces come in once, when the store is opened; each commit goes out as one message, which the page puts
-// into one transaction before the player's next action can begin. The page learns only later whether the
-// browser took it: it keeps what was not taken, adds it to the next commit, and tells App::savingFailed.
+// Gets the pieces once, when the store is opened. Each commit is sent as one message, which the page puts
+// into one transaction before the next action. If the browser rejects it later, the page adds the changes to
+// the next commit and calls App::savingFailed.
 class HostPort : public StorePort {
  public:
   explicit HostPort(std::vector<StoredPiece> pieces) : pieces_(std::move(pieces)) {}
@@ -27,14 +27,14 @@ class HostPort : public StorePort {
   std::vector<StoredPiece> pieces_;
 };
 
-// The browser's secure generator, asked for many words at a time: crossing the boundary costs more than the
-// words do.
+// Random words from the browser's secure generator. Fetches many words at a time, because a call to the page
+// costs more than the words.
 class HostRandom : public RandomSource {
  public:
   std::uint64_t next() override;
 
  private:
-  std::array<std::uint64_t, 32> words_ = {};  // 256 bytes: the most that one request gives
+  std::array<std::uint64_t, 32> words_ = {};  // 256 bytes, the maximum of a request
   std::size_t used_ = words_.size();
 };
 

@@ -1,9 +1,8 @@
 #pragma once
 
-// What crosses the boundary between the page and the game, apart from plain numbers: texts, the pieces of the
-// store, the changes of a commit. One message is a row of values with no names, read in the order in which
-// they were written: numbers in little-endian, a text or bytes as a 32-bit length and then its bytes. The
-// page's side is web/src/runtime/message.ts.
+// Messages between the page and the game: texts, the pieces of the store, the changes of a commit. A message
+// is a sequence of unnamed values: little-endian numbers, and texts or bytes as a 32-bit length followed by
+// the bytes. The page's implementation is web/src/runtime/message.ts.
 
 #include <cstddef>
 #include <cstdint>
@@ -30,7 +29,7 @@ class MessageWriter {
   Bytes message_;
 };
 
-// Both sides are built together, so a message that ends early is a fault of the program and stops it.
+// Both sides are built together, so a message that is too short is a programming error and stops the game.
 class MessageReader {
  public:
   explicit MessageReader(std::span<const std::byte> message) : rest_(message) {}
@@ -46,13 +45,13 @@ class MessageReader {
   std::span<const std::byte> rest_;
 };
 
-// A number of pieces, then of each: key, shape, piece number, bytes.
+// The number of pieces, then for each: key, shape, piece number, bytes.
 [[nodiscard]] std::vector<StoredPiece> readPieces(std::span<const std::byte> message);
 
-// A number of changes, then of each: kind, key, shape, piece number, bytes.
+// The number of changes, then for each: kind, key, shape, piece number, bytes.
 [[nodiscard]] Bytes writeChanges(std::span<const StoreChange> changes);
 
-// The fields of Locale in their order, all as texts; "1" for a sign before the amount.
+// The fields of Locale in order, all as texts; "1" if the symbol is before the amount.
 [[nodiscard]] Locale readLocale(std::span<const std::byte> message);
 
 }  // namespace tb

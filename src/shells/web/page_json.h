@@ -1,7 +1,7 @@
 #pragma once
 
-// A laid-out page as JSON, for the page in the browser to draw. Its shape is web/src/view_types.ts, which
-// comes from the same lists.
+// A laid-out page as JSON for the web page. web/src/view_types.ts describes it and is generated from the same
+// lists.
 
 #include <string>
 
@@ -9,7 +9,7 @@
 
 namespace tb {
 
-// Texts are written as they stand (UTF-8). A figure that JSON cannot hold, which no screen should show, is 0.
+// Texts are UTF-8. Infinity and NaN, which no screen should have, become 0.
 [[nodiscard]] std::string pageJson(const view::Page& page);
 
 }  // namespace tb

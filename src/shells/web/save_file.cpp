@@ -10,8 +10,7 @@ std::string importSave(SaveStore& store, std::span<const std::byte> file) {
   const auto read = plist::read(file);
   if (!read) return "This file is damaged, or it is no save of Top Billing.";
 
-  // Any property list that is a dictionary could be stored. Only a career says whether its form was filled
-  // in.
+  // Recognizes a career by this key; any property-list dictionary could be stored.
   const auto* values = read->as<plist::Dictionary>();
   const plist::Value* started = values ? read->find("enterPlayerDetails") : nullptr;
   if (!started || !started->as<std::int64_t>()) return "This file holds no career.";

@@ -1,7 +1,6 @@
 #pragma once
 
-// A whole game as one file: the dictionary of the store as a binary property list, for the player to keep
-// and to bring back, on this device or another.
+// Export and import of a career as a file: the store's dictionary as a binary property list.
 
 #include <cstddef>
 #include <span>
@@ -13,8 +12,8 @@ namespace tb {
 
 [[nodiscard]] Bytes exportedSave(const SaveStore& store);
 
-// Replaces all that the store holds by what the file holds. Answers with a sentence for the player and leaves
-// the store as it is when the file is no save of the game; an empty text says that it was done.
+// Replaces the store's contents by the file's. Returns an empty text on success; for a file that is not a
+// save of the game, returns a message for the player and does not change the store.
 [[nodiscard]] std::string importSave(SaveStore& store, std::span<const std::byte> file);
 
 }  // namespace tb

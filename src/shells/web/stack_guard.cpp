@@ -1,6 +1,5 @@
-// 128-bit division comes from a compiler library that was built with stack protection; these are the two
-// names it wants. The guard is no secret here: memory outside of the game's own is out of WebAssembly's
-// reach.
+// The compiler library with 128-bit division was built with stack protection and needs these two symbols. The
+// guard value does not have to be secret in WebAssembly.
 
 #include <cstdint>
 

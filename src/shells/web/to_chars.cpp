@@ -1,7 +1,6 @@
-// Stands in for the standard library's writing of floating-point numbers, in the page's program alone (see
-// double_text.h): std::format and std::to_chars end up here, because the linker prefers a function of the
-// program to one of a library. The game knows doubles only; float and long double are here because
-// std::format can be asked for them, and are written as the double that they convert to.
+// Replaces the standard library's floating-point std::to_chars in the web build (see double_text.h): the
+// linker prefers a function of the program to one of a library. The game only uses double; float and long
+// double are converted to double.
 
 #include "shells/web/double_text.h"
 
@@ -17,7 +16,7 @@
     return tb::writePrecise(first, last, static_cast<double>(value), notation, precision);              \
   }
 
-// The nine functions that the library would bring; one left out would bring all of its own along.
+// All nine overloads: a missing one would link the library's implementation.
 TB_STAND_IN(float)
 TB_STAND_IN(double)
 TB_STAND_IN(long double)

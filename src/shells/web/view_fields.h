@@ -1,11 +1,11 @@
 #pragma once
 
-// The view vocabulary, described once for the page: the fields of every struct and the words of every
-// enumeration. The JSON of a page (page_json.h) and the page's TypeScript types (view_types.h) both come from
-// these lists. A field or a word that is missing here does not compile, nor does a new kind of node.
+// The fields of every struct and the values of every enumeration of the view vocabulary. The JSON of a page
+// (page_json.h) and its TypeScript types (view_types.h) are generated from these lists. A missing field,
+// value or kind of node does not compile.
 //
-// Operations are listed like every field but never written, since a handle stands for them. A PagedList has
-// no line: laying a page out leaves none.
+// Operations are listed but not written, because their handles are. PagedList is not listed, because layOut()
+// replaces it.
 
 #include <string>
 #include <string_view>
@@ -17,16 +17,16 @@
 
 namespace tb {
 
-// The name of a struct or an enumeration, as C++ writes it inside tb::view.
+// The name of a struct or an enumeration inside tb::view.
 template <class T>
 inline constexpr std::string_view viewName{};
 
-// A field that stays on this side of the boundary.
+// A field that is not written to JSON.
 template <class T>
 inline constexpr bool isOperation =
     std::is_same_v<T, Operation> || std::is_same_v<T, TextOperation> || std::is_same_v<T, NumberOperation>;
 
-// What a node calls itself on the page: "timelineEntry" for a TimelineEntry.
+// A node's `kind` in JSON: "timelineEntry" for a TimelineEntry.
 [[nodiscard]] inline std::string kindOf(std::string_view name) {
   std::string kind(name);
   kind.front() = static_cast<char>(kind.front() - 'A' + 'a');
@@ -52,7 +52,8 @@ inline constexpr bool isVector<std::vector<T>> = true;
     __VA_OPT__(VIEW_WORDS_AGAIN TB_PARENTHESES(__VA_ARGS__))
 #define VIEW_WORDS_AGAIN() VIEW_WORDS_STEP
 
-// wordOf(value): its name; empty for a number that is no value. The switch makes the compiler count.
+// Defines wordOf(value), the value's name; empty for an invalid value. The switch lets the compiler check
+// completeness.
 #define VIEW_ENUM(Type, ...)                                      \
   template <>                                                     \
   inline constexpr std::string_view viewName<view::Type> = #Type; \

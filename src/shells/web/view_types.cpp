@@ -20,14 +20,14 @@ constexpr std::string_view opening =
 // build the target view_types and run it.
 )";
 
-// "Choice::Option" is ChoiceOption on the page.
+// "Choice::Option" becomes ChoiceOption.
 std::string typeName(std::string_view name) {
   std::string joined(name);
   if (const std::size_t colons = joined.find("::"); colons != std::string::npos) joined.erase(colons, 2);
   return joined;
 }
 
-// Writes each type once, after all types that it is made of.
+// Writes each type once, after the types that it uses.
 class TypeWriter {
  public:
   template <class T>
@@ -41,7 +41,7 @@ class TypeWriter {
     } else if constexpr (isVector<T>) {
       return std::format("readonly {}[]", reference<typename T::value_type>());
     } else if constexpr (std::is_same_v<T, view::Node>) {
-      return "Node";  // written last: it is made of nodes itself
+      return "Node";  // recursive, so it is written last
     } else {
       if (written_.insert(viewName<T>).second) write<T>();
       return typeName(viewName<T>);

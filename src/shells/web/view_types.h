@@ -1,12 +1,12 @@
 #pragma once
 
-// The page's TypeScript types of the view vocabulary, written from the same lists as the JSON of a page.
+// Generates the TypeScript types of the view vocabulary from the same lists as the JSON.
 
 #include <string>
 
 namespace tb {
 
-// The whole of web/src/view_types.ts.
+// The contents of web/src/view_types.ts.
 [[nodiscard]] std::string viewTypes();
 
 }  // namespace tb

@@ -1,4 +1,4 @@
-// Writes the page's TypeScript types of the view vocabulary to the file that it is given.
+// Writes the TypeScript types of the view vocabulary to the given file.
 
 #include <cstdio>
 #include <fstream>

@@ -10,7 +10,7 @@ Bytes bytesOf(std::string_view text) {
   return {raw.begin(), raw.end()};
 }
 
-TEST(Message, piecesOfTheSaveComeInAsThePageKeptThem) {
+TEST(WebMessage, ReadsPieces) {
   MessageWriter writer;
   writer.number(2);
   for (const std::string_view key : {"saveAllFilmList", "myName"}) {
@@ -27,7 +27,7 @@ TEST(Message, piecesOfTheSaveComeInAsThePageKeptThem) {
   EXPECT_EQ(pieces[1].bytes, bytesOf("myName"));
 }
 
-TEST(Message, changesOfOneActionGoOutInTheirOrder) {
+TEST(WebMessage, WritesChangesInOrder) {
   const std::vector<StoreChange> changes = {
       {.kind = StoreChange::Kind::dropAll},
       {.kind = StoreChange::Kind::put,
@@ -45,7 +45,7 @@ TEST(Message, changesOfOneActionGoOutInTheirOrder) {
   EXPECT_EQ(reader.bytes(), bytesOf("x"));
 }
 
-TEST(Message, theDevicesWayOfWritingMoneyArrives) {
+TEST(WebMessage, ReadsTheLocale) {
   MessageWriter writer;
   for (const std::string_view text : {"€", "0", "\u00A0", ",", ".", "−"}) writer.text(text);
   for (int month = 1; month <= 12; ++month) writer.text("month " + std::to_string(month));

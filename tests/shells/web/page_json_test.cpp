@@ -15,13 +15,13 @@ std::string withTitle(std::string title) {
   return json.substr(0, json.find(",\"subtitle\""));
 }
 
-TEST(PageJson, textsComeThroughWhateverThePlayerTyped) {
+TEST(PageJson, EscapesAnyText) {
   EXPECT_EQ(withTitle("Café \"Noir\" 🎬"), R"({"title":"Café \"Noir\" 🎬")");
   EXPECT_EQ(withTitle("a\\b\nc\td\x01"), R"({"title":"a\\b\nc\u0009d\u0001")");
   EXPECT_EQ(withTitle("</script>{}[],:"), R"({"title":"</script>{}[],:")");
 }
 
-TEST(PageJson, aPageNamesEveryPartOnceAndInOrder) {
+TEST(PageJson, WritesEveryFieldInOrder) {
   view::Page page;
   page.title = "T";
   page.icons.push_back({.label = "Backstage", .icon = "B", .press = [](Stage&) {}, .handle = 1});
@@ -45,7 +45,7 @@ TEST(PageJson, aPageNamesEveryPartOnceAndInOrder) {
       R"("moment":[],"passing":[],"offersSaves":false,"screen":2})");
 }
 
-TEST(PageJson, figuresKeepAllTheirDigitsAndNeverBreakThePage) {
+TEST(PageJson, WritesAllDigitsAndValidJson) {
   view::Page page;
   page.nodes.push_back(view::Countdown{.label = "", .secondsLeft = 0.1, .secondsInAll = 1e300});
   page.nodes.push_back(view::Countdown{.label = "",

@@ -10,13 +10,13 @@ namespace {
 plist::Value text(std::string value) { return {std::move(value)}; }
 plist::Value whole(std::int64_t value) { return {value}; }
 
-class SaveFile : public ::testing::Test {
+class WebSaveFile : public ::testing::Test {
  protected:
   test::MemoryPort port;
   SaveStore store{port};
 };
 
-TEST_F(SaveFile, aCareerTakenOutComesBackAsItWas) {
+TEST_F(WebSaveFile, RoundTripsACareer) {
   store.put("enterPlayerDetails", whole(1));
   store.put("myName", text("Ada Ösel"));
   store.put("trackFans", {plist::Array{whole(1), whole(2)}});
@@ -30,7 +30,7 @@ TEST_F(SaveFile, aCareerTakenOutComesBackAsItWas) {
   EXPECT_EQ(other.dictionary(), store.dictionary());
 }
 
-TEST_F(SaveFile, aFileThatIsNoCareerLeavesTheOneInPlayAlone) {
+TEST_F(WebSaveFile, RejectsOtherFiles) {
   store.put("enterPlayerDetails", whole(1));
   store.put("myName", text("Ada"));
   const plist::Dictionary before = store.dictionary();

@@ -7,7 +7,7 @@
 namespace tb {
 namespace {
 
-TEST(ViewTypes, thePageIsBuiltAgainstTheVocabularyThatTheGameSpeaks) {
+TEST(ViewTypes, AreUpToDate) {
   std::ifstream file(VIEW_TYPES_FILE, std::ios::binary);
   const std::string committed(std::istreambuf_iterator<char>(file), {});
   EXPECT_EQ(committed, viewTypes()) << VIEW_TYPES_FILE " is stale: build the target view_types and run it";

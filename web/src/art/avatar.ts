@@ -1,5 +1,5 @@
-// Faces: the personas of Draftbit. Every trait is chosen here from the name and passed on, so that all moods
-// are ones that a headshot may have. A name with "man", "woman", "m", "f" or the like in it gives a face to match.
+// Faces from Draftbit's personas. All traits are chosen here from the name, to avoid unsuitable expressions.
+// A name with "man", "woman", "m" or "f" gives a matching face.
 
 import { createAvatar } from "@dicebear/core";
 import * as personas from "@dicebear/personas";
@@ -113,7 +113,7 @@ function someone(name: string, chance: Chance): Face {
   };
 }
 
-// Headshots: no two neighbours alike, and all of them young while the performer is.
+// Headshots: adjacent ones differ, and all look young.
 const youngLongHair = ["long", "bobCut", "curly", "straightBun", "bobBangs", "extraLong", "sideShave", "curlyBun"] as const;
 const youngShortHair = ["shortCombover", "curlyHighTop", "fade", "bunUndercut", "long", "shortComboverChops"] as const;
 const youngHairColours = ["1f1a1c", "6b4530", "2f2226", "b98045", "46302a", "8d5b34", "a33b2a", "d9b06a"];
@@ -121,8 +121,8 @@ const youngBeards = ["", "", "shadow", "", "goatee", "", "soulPatch", ""] as con
 const grey = "#c9c6c8";
 const headshot = /^headshot_[fm] \((\d+)\)/u;
 
-// Of a performer of that age in years. Who it is is said by the number; the decades add grey, glasses, lines,
-// and take hair, each at an age of this one's own.
+// The performer's face at an age in years. `number` selects the face; age adds gray hair, glasses and
+// wrinkles and removes hair, each at an individual age.
 function performer(name: string, number: number, age: number, chance: Chance): Face {
   const female = isFemale.test(name);
   const turn = (step: number, length: number): number => ((number - 1) * step) % length;
@@ -151,7 +151,7 @@ function performer(name: string, number: number, age: number, chance: Chance): F
   };
 }
 
-// The face of that name; of a headshot as it looks at an age in years, where that is known.
+// The face of a name; for a headshot at an age in years, if known.
 export function avatar(name: string, age = 0): string {
   const chance = new Chance(`avatar ${name}`);
   const number = Number(headshot.exec(name)?.[1] ?? 0);
@@ -172,13 +172,12 @@ export function avatar(name: string, age = 0): string {
   return withBackdrop(softened(art), face.backdrop);
 }
 
-// The light on the face is a third of what it was: on skin that is less pink than the original's it looks like
-// chalk.
+// Reduces the highlight on the face to a third, because it looks like chalk on darker skin.
 const softened = (svg: string): string => svg.replace('opacity=".36"', 'opacity=".12"');
 
 function withBackdrop(svg: string, colour: string): string {
   const light = element("rect", { width: 64, height: 64, fill: colour });
   const glow = element("circle", { cx: 32, cy: 30, r: 25, fill: mix(colour, "#ffffff", 0.28) });
-  // Who made it stands in credits.ts, once, where the player can see it.
+  // credits.ts has the attribution, so the metadata is removed.
   return svg.replace(/^(<svg[^>]*>)(<metadata.*?<\/metadata>)?/su, `$1${light}${glow}`);
 }

@@ -1,4 +1,4 @@
-// The badges of the banana page: what critics and audiences think, told by fruit and popcorn.
+// The badges of the RottenBanana page: bananas for critics, popcorn for audiences.
 
 import { circle, many, moved, path, picture, polygon, rect, stroke, turned } from "./svg";
 

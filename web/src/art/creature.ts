@@ -1,5 +1,4 @@
-// Little beasts for trading cards: a body, a face, and what grows on it, put together by chance. Around 0, 0,
-// some 80 across, feet at 36.
+// Creatures for trading cards, combined from random parts. Centered at 0, 0, about 80 wide, feet at y = 36.
 
 import type { Chance } from "./random";
 import { circle, ellipse, group, many, mix, n, path, stroke } from "./svg";
@@ -13,7 +12,7 @@ interface Hide {
 
 interface Body {
   readonly art: string;
-  readonly headY: number; // middle of the face
+  readonly headY: number; // center of the face
   readonly head: number; // half its width
 }
 

@@ -1,4 +1,4 @@
-// Art of others that the page shows, to be named where the player can see it: its licence asks for that.
+// Attribution of third-party art, which its license requires to be visible to the player.
 export const artCredit = {
   text: "Avatars: Personas by Draftbit",
   work: "https://personas.draftbit.com/",

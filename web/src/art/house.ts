@@ -1,5 +1,4 @@
-// Houses, from the cabin to the castle, each in its garden and its light. A name that says which gets that
-// one.
+// Houses, from a cabin to a castle, with garden and sky. A name that contains a kind gets that kind.
 
 import { kindIn } from "./names";
 import { Chance } from "./random";

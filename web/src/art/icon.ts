@@ -1,4 +1,4 @@
-// Small signs in two tones on a disc. A name that says which gets that one.
+// Two-tone icons on a disc. A name that contains a kind gets that kind.
 
 import { badge } from "./badge";
 import { kindIn } from "./names";

@@ -1,11 +1,11 @@
-// An alphabet of our own, drawn by the pen: each letter is the way of the pen's point, so that one alphabet
-// gives thin, heavy, round and inlined letters that look the same on every system.
+// A stroke font: each letter is a path of the pen, so that one alphabet gives thin, heavy, round and inline
+// letters that look the same on every system.
 
 import { Chance } from "./random";
 import { element, group, n } from "./svg";
 import type { Attributes } from "./svg";
 
-// Letters are 10 high; a letter's width, and its way.
+// Letters are 10 high; each entry is the letter's width and its path.
 const letters: Readonly<Record<string, readonly [width: number, way: string]>> = {
   A: [6, "M0 10L3 0L6 10M1.1 6.7H4.9"],
   B: [5.4, "M0 0V10H3C6.2 10 6.2 4.8 3 4.8H0M0 0H2.8C5.6 0 5.6 4.8 2.8 4.8"],
@@ -56,16 +56,16 @@ const letters: Readonly<Record<string, readonly [width: number, way: string]>> =
 const blank = 3.4;
 
 export interface Hand {
-  readonly pen: number; // width of the stroke, of a height of 10
-  readonly gap: number; // between two letters
-  readonly narrow: number; // across, 1 for the letters as they are
+  readonly pen: number; // stroke width, relative to a height of 10
+  readonly gap: number; // between letters
+  readonly narrow: number; // horizontal scale, 1 for normal
   readonly round: boolean; // ends and corners
-  readonly inline: boolean; // a thin line of the ground down the middle of a heavy stroke
+  readonly inline: boolean; // a thin line of the background color in the middle of strokes
   readonly slant: number; // degrees
-  readonly contrast: number; // stems to hairlines, 1 for a pen that is the same all over
-  readonly serif: boolean; // a stop across the end of each stem
-  readonly wild: number; // how far the pen slips, of a height of 10
-  readonly dance: number; // degrees that letters lean to and fro
+  readonly contrast: number; // stem width to hairline width, 1 for uniform strokes
+  readonly serif: boolean; // serifs at the ends of stems
+  readonly wild: number; // random displacement of points, relative to a height of 10
+  readonly dance: number; // random rotation of letters, degrees
 }
 
 const hand = (pen: number, gap: number, narrow: number, more: Partial<Hand> = {}): Hand => ({
@@ -101,7 +101,7 @@ export const hands = {
   poster: hand(2, 3.1, 0.66),
 } as const satisfies Record<string, Hand>;
 
-// The letters of a text as they can be drawn; empty where the alphabet does not have them.
+// The text in letters of the alphabet; empty when it has others.
 export function drawable(text: string): string {
   const plain = text
     .normalize("NFD")
@@ -117,15 +117,15 @@ function widthOf(text: string, { gap, narrow }: Hand): number {
   return Math.max(all - gap, 0);
 }
 
-const step = /([MLHVCSZ])([^MLHVCSZ]*)/gu; // one command of a way, and its figures
+const step = /([MLHVCSZ])([^MLHVCSZ]*)/gu; // a path command with its numbers
 
 const figuresOf = (command: string): number[] =>
   (command.slice(1).match(/-?(?:\d+\.?\d*|\.\d+)/gu) ?? []).map(Number);
 const isAcross = (letter: string, index: number): boolean =>
   letter === "H" || (letter !== "V" && index % 2 === 0);
 
-// A command made narrower and moved to the right. The pen keeps its width: only the way is changed. `slip` is
-// asked for each figure how far the pen is off.
+// Scales a path command horizontally and moves it to the right; the stroke width is unchanged. `slip` returns
+// the displacement of each number.
 function placed(command: string, narrow: number, right: number, slip: () => number): string {
   const letter = command.charAt(0);
   return (
@@ -136,9 +136,9 @@ function placed(command: string, narrow: number, right: number, slip: () => numb
   );
 }
 
-const halfSerif = 1.15; // of a letter's height of 10
+const halfSerif = 1.15; // relative to a height of 10
 
-// The stops at the ends of a letter's straight strokes: across the foot and head of a stem, down from a bar.
+// Serifs at the ends of straight strokes: horizontal on stems, vertical on bars.
 function serifs(way: string, narrow: number, right: number, contrast: number): string {
   let art = "";
   for (const stroke of way.split(/(?=M)/u)) {
@@ -168,7 +168,7 @@ function serifs(way: string, narrow: number, right: number, contrast: number): s
   return art;
 }
 
-// One line of drawable letters, its top left at 0, 0 and 10 high.
+// A line of letters, 10 high, with its top left at 0, 0.
 function line(text: string, hand: Hand, ink: string, ground: string): string {
   const chance = new Chance(text);
   const slip = hand.wild === 0 ? () => 0 : () => chance.between(-hand.wild, hand.wild);
@@ -202,7 +202,7 @@ function line(text: string, hand: Hand, ink: string, ground: string): string {
   return changes === "" ? outer + inner : group(outer + inner, { transform: changes });
 }
 
-// Words in so many lines that the letters come out as large as the box allows.
+// Breaks words into lines so that the letters are as large as possible.
 function broken(words: readonly string[], lines: number): string[] {
   const all = words.join(" ").length;
   const rows: string[] = [];
@@ -226,7 +226,7 @@ export interface Box {
   readonly height: number;
 }
 
-const leading = 1.36; // from line to line, of a letter's height
+const leading = 1.36; // line height relative to the letter height
 
 interface Rows {
   readonly rows: string[];
@@ -246,13 +246,12 @@ function setIn(box: Box, words: readonly string[], hand: Hand): Rows {
 }
 
 export interface Setting {
-  readonly atFoot?: boolean; // of the box, not in its middle
+  readonly atFoot?: boolean; // bottom of the box instead of its middle
   readonly onTop?: boolean;
-  readonly fromLeft?: boolean; // not centred
+  readonly fromLeft?: boolean; // left-aligned instead of centered
 }
 
-// The text as large as the box allows, centred in it unless told otherwise. Letters that the alphabet does not
-// have are left to the system's own face.
+// The text as large as the box allows. Uses a system font for letters that the alphabet does not have.
 export function lettering(
   text: string,
   box: Box,

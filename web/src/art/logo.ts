@@ -1,4 +1,4 @@
-// The sign of a company: its first letters or a mark, on a badge of its colours.
+// Company logos: initials or a mark on a colored badge.
 
 import { drawable, hands, lettering } from "./lettering";
 import { wordsOf } from "./names";
@@ -111,7 +111,7 @@ const reel: Mark = (chance, ink, accent) => {
 
 const marks: readonly Mark[] = [petals, play, orbit, rungs, waves, peaks, star, arcs, links, reel];
 
-// The letters that a company is known by: one of a single word, else the first ones of up to three.
+// The initials of up to three words.
 function initialsOf(name: string): string {
   const words = wordsOf(name);
   const letters =

@@ -1,8 +1,8 @@
-// What a picture's name says about it. Names are files or titles: "imbdPearTv.png", "lake_house-3", "Night
+// Parses picture names, which are file names or titles: "imdbPearTv.png", "lake_house-3", "Night
 // Train".
 
-// The words of a name, without ending, numbers and the prefix that files of one kind share: where some words
-// of one piece start with a capital, only these count.
+// The words of a name, without extension, numbers and prefix: in a camel-case name only capitalized words
+// count.
 export function wordsOf(name: string): string[] {
   const stem = name.replace(/\.\w{2,5}$/u, "");
   const words = stem
@@ -14,12 +14,12 @@ export function wordsOf(name: string): string[] {
   return capital.length > 0 && !/\s/u.test(stem) ? capital : words;
 }
 
-// Whether a name is a title to be shown in letters, not the plain name of a file.
+// Whether a name is a title to be lettered, not a file name.
 export function isTitle(name: string): boolean {
   return /^[\p{Lu}\p{Lo}\p{N}]/u.test(name) && !/\.\w{2,5}$/u.test(name);
 }
 
-// The first of the `kinds` whose words the name speaks of.
+// The first of the `kinds` whose words occur in the name.
 export function kindIn<Kind extends string>(
   name: string,
   kinds: Readonly<Record<Kind, RegExp>>,

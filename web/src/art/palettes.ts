@@ -1,4 +1,4 @@
-// Five colours that go together, from the darkest to the lightest; `pop` is the one that is looked at first.
+// Five matching colors from dark to light; `pop` is the accent.
 
 export interface Palette {
   readonly night: string;

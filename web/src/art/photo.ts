@@ -1,4 +1,4 @@
-// Photos: views and keepsakes. 160 by 112. A name that says what is on it gets that.
+// Photos of places and objects, 160 by 112. A name that contains a subject gets that subject.
 
 import { kindIn } from "./names";
 import { palettes } from "./palettes";

@@ -1,4 +1,4 @@
-// The art of every kind of picture, drawn from what the picture is told, and from nothing else.
+// Draws every kind of picture from its fields only.
 
 import type { Picture, PictureKind } from "../view_types";
 import { avatar } from "./avatar";
@@ -21,5 +21,5 @@ const artists: Readonly<Record<PictureKind, (shown: Picture) => string>> = {
   icon: ({ name }) => icon(name),
 };
 
-// The picture as an SVG document. The same for the same picture, every time and everywhere.
+// The picture as an SVG document. Deterministic.
 export const pictureArt = (shown: Picture): string => artists[shown.kind](shown);

@@ -1,5 +1,5 @@
-// A title's poster: by its genre the scene, the colours and the letters, by what it is made for the layout, and
-// all else by chance from its name and title.
+// Posters: the genre determines scene, colors and lettering, the format the layout; the rest is random,
+// seeded by name and title.
 
 import type { Picture, PosterFormat } from "../view_types";
 import { isTitle } from "./names";

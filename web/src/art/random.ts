@@ -1,10 +1,11 @@
-// Chance that is the same for the same name, every time and everywhere: what all art is drawn from.
+// A random generator seeded by a name, used by all art.
 
 export class Chance {
   private state: number;
 
   constructor(name: string) {
-    // FNV-1a over the UTF-16 units, then a few steps so that names of one letter's difference part.
+    // FNV-1a over the UTF-16 units; the first few results are skipped because they are similar for similar
+    // names.
     let hash = 0x811c9dc5;
     for (let index = 0; index < name.length; ++index)
       hash = Math.imul(hash ^ name.charCodeAt(index), 0x01000193);
@@ -12,7 +13,7 @@ export class Chance {
     for (let step = 0; step < 4; ++step) this.unit();
   }
 
-  // 0 up to, not including, 1 (the generator is mulberry32).
+  // From 0 to below 1 (mulberry32).
   unit(): number {
     this.state = (this.state + 0x6d2b79f5) | 0;
     let mixed = Math.imul(this.state ^ (this.state >>> 15), 1 | this.state);
@@ -24,7 +25,7 @@ export class Chance {
     return least + this.unit() * (most - least);
   }
 
-  // Whole numbers, both ends included.
+  // Integers, inclusive.
   whole(least: number, most: number): number {
     return least + Math.floor(this.unit() * (most - least + 1));
   }
@@ -33,7 +34,7 @@ export class Chance {
     return choices[Math.floor(this.unit() * choices.length)]!;
   }
 
-  // True in `share` of all cases.
+  // True with probability `share`.
   likely(share: number): boolean {
     return this.unit() < share;
   }

@@ -1,4 +1,4 @@
-// The sky over houses, vehicles and photos, and what grows on their ground. 160 by 112, the ground at 88.
+// Sky and plants for houses, vehicles and photos. 160 by 112, the ground at y = 88.
 
 import type { Chance } from "./random";
 import { circle, ellipse, fall, many, mix, n, path, rect } from "./svg";
@@ -13,7 +13,7 @@ export interface Light {
   readonly land: string; // far hills
   readonly grass: string;
   readonly leaves: string;
-  readonly glass: string; // windows, lit or mirroring
+  readonly glass: string; // windows, lit or reflecting
   readonly isDark: boolean;
 }
 

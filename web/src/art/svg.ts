@@ -1,8 +1,8 @@
-// Pieces of SVG as text. Looks are given by attributes alone: the page's policy allows no style in markup.
+// SVG as text. Uses attributes only, because the page's policy forbids inline styles.
 
 export type Attributes = Readonly<Record<string, string | number>>;
 
-// At most two decimals: more is nothing that anybody could see.
+// Rounds to two decimals; more are not visible.
 export function n(figure: number): string {
   return String(Math.round(figure * 100) / 100);
 }
@@ -55,14 +55,14 @@ export const moved = (x: number, y: number, content: string): string =>
 export const turned = (degrees: number, x: number, y: number, content: string): string =>
   group(content, { transform: `rotate(${n(degrees)} ${n(x)} ${n(y)})` });
 
-// `count` pieces, each from its index.
+// Concatenates `count` pieces, each from its index.
 export const many = (count: number, piece: (index: number) => string): string =>
   Array.from({ length: count }, (_, index) => piece(index)).join("");
 
 export const polygon = (points: readonly (readonly [number, number])[]): string =>
   `M${points.map(([x, y]) => `${n(x)} ${n(y)}`).join("L")}Z`;
 
-// A gradient downwards, and the paint that uses it. `id` has to be the same for the same colours.
+// A vertical gradient and the paint that uses it. Equal colors must have equal `id`s.
 export function fall(
   id: string,
   colours: readonly string[],
@@ -84,7 +84,7 @@ export function picture(width: number, height: number, content: string): string 
   return `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 ${width} ${height}" preserveAspectRatio="xMidYMid slice">${content}</svg>`;
 }
 
-// A mix of two colours given as "#rrggbb"; `share` of the second.
+// Mixes two "#rrggbb" colors, with `share` of the second.
 export function mix(first: string, second: string, share: number): string {
   const part = (colour: string, at: number): number => Number.parseInt(colour.slice(at, at + 2), 16);
   const mixed = [1, 3, 5].map((at) => Math.round(part(first, at) * (1 - share) + part(second, at) * share));

@@ -1,5 +1,4 @@
-// A collector's card: a beast of its element in a window, with a frame, a name and the signs of a game that
-// nobody plays. Some shine.
+// Collectible cards: a creature in a frame with a name and symbols. Some are shiny.
 
 import { creature } from "./creature";
 import { hands, lettering } from "./lettering";
@@ -16,7 +15,7 @@ interface Kind {
   readonly sky: readonly [string, string];
   readonly coats: readonly string[];
   readonly mark: string;
-  readonly sign: string; // a way in a square of 12 around 0, 0
+  readonly sign: string; // a path in a square of 12 around 0, 0
 }
 
 const elements: readonly Kind[] = [

@@ -1,4 +1,4 @@
-// Vehicles, from the bicycle to the jet, each where it belongs. A name that says which gets that one.
+// Vehicles, from a bicycle to a jet, with a background. A name that contains a kind gets that kind.
 
 import { kindIn } from "./names";
 import { Chance } from "./random";
@@ -9,7 +9,7 @@ import { circle, ellipse, many, mix, n, path, picture, rect, stroke } from "./sv
 type Maker = (paint: string, glass: string) => string;
 type Place = "road" | "water" | "air";
 
-const road = groundLine + 6; // where wheels stand
+const road = groundLine + 6; // bottom of the wheels
 const tyre = "#22232a";
 
 const wheel = (x: number, r: number): string =>

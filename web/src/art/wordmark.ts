@@ -1,5 +1,5 @@
-// The name of the game as its own marquee. It stands on the first page, before the rest of the art is loaded, so
-// it is kept here as lettering.ts draws it; test/draw_art.test.ts compares the two.
+// The game's logo. It is on the first page, before the art is loaded, so the output of lettering.ts is copied
+// here; test/draw_art.test.ts compares the two.
 
 export const text = "Top Billing";
 export const box = { x: 0, y: 0, width: 209, height: 30 };

@@ -6,8 +6,7 @@ import { Words } from "./words";
 
 const longestFigure = 12; // characters of a figure that fit a phone at full size
 
-// What is left, and under it what came in and what went out. The heading above says which is which, and so
-// does the colour.
+// The net amount above income and expenses, which the heading and the colors distinguish.
 export function Balance({ label, net, tone, income, expenses }: View.Balance) {
   const figure = useRef<HTMLElement>(null);
   useCounting(figure, `balance ${label}`, net);

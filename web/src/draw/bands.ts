@@ -1,4 +1,4 @@
-// The band of a 0 to 100 score: below 25, 25 to 49, 50 to 79, 80 and above.
+// Bands of a score: below 25, 25 to 49, 50 to 79, 80 and above.
 type Band = "poor" | "fair" | "good" | "great";
 
 export function bandOf(score: number): Band {

@@ -1,4 +1,4 @@
-// What is said between people.
+// A chat bubble.
 
 import type { ComponentChildren } from "preact";
 

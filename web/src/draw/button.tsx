@@ -1,5 +1,5 @@
-// Buttons. One with a price is a ticket: the price stands on the stub. One that is off stays in reach and
-// says why, and one that would refuse says so before it is pressed.
+// Buttons. A button with a price looks like a ticket with the price on its stub. A disabled button stays
+// focusable and shows its reason, and so does one that would refuse.
 
 import { useId } from "preact/hooks";
 
@@ -9,10 +9,10 @@ import { usePress } from "./pressing";
 import { Check } from "./signs";
 import { Words } from "./words";
 
-// A price in energy, as it is said: a flash of lightning is read out as "high voltage".
+// A price in energy for screen readers, which would read the emoji as "high voltage".
 const spokenPrice = (price: string): string => price.replace(/⚡\ufe0f?\s*([\d.,]+)/u, "$1 energy");
 
-// What a screen reader calls the button; empty where its own words say it.
+// The button's accessible name; empty when its text is enough.
 function spokenName({ label, name, price }: View.Button): string {
   if (name === "" && spokenPrice(price) === price) return "";
   const called = name === "" ? label : name;
@@ -62,7 +62,7 @@ export function PressButton(button: View.Button) {
   );
 }
 
-// Buttons that stand side by side, as far as their words allow.
+// Buttons side by side, if their labels fit.
 export function Buttons({ buttons }: View.Buttons) {
   const keys = numbered(buttons.map((button) => button.label));
   return (

@@ -1,5 +1,5 @@
-// A ticket: what it is for on top, the rest under the tear. A card that can be pressed is pressed anywhere on
-// it; for the keyboard and the screen reader its title is the button.
+// A card in the shape of a ticket: the title above a perforation, the rest below. A pressable card can be
+// pressed anywhere; for keyboards and screen readers its title is the button.
 
 import type { ComponentChildren } from "preact";
 
@@ -15,7 +15,7 @@ export function Cards({ children }: { readonly children?: ComponentChildren }) {
   return <div class="cards">{children}</div>;
 }
 
-// Pictures that are wider than high stand over the words, all others beside them.
+// Landscape pictures are above the text, others beside it.
 const wide: ReadonlySet<View.PictureKind> = new Set(["house", "vehicle", "photo"]);
 
 function CardHead({ title, subtitle, handle }: Pick<View.Card, "title" | "subtitle" | "handle">) {
@@ -43,7 +43,7 @@ function CardHead({ title, subtitle, handle }: Pick<View.Card, "title" | "subtit
   );
 }
 
-// A head of a title alone is no higher than it needs to be.
+// A head with just a title is lower.
 function headOf({ subtitle, picture }: View.Card): string {
   if (picture.some((shown) => wide.has(shown.kind))) return " card-banner";
   return subtitle === "" && picture.length === 0 ? " card-bare" : "";

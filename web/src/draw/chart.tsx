@@ -1,6 +1,5 @@
-// Charts. The plot is one picture with the summary for its name. Over it lies a slider without looks: with it
-// the arrow keys, a finger or the mouse go from point to point, and the line over the plot says what stands
-// there.
+// Charts. The plot is an image named by the summary. An invisible slider over it lets arrow keys, a finger or
+// the mouse select a point, whose value is shown above the plot.
 
 import { useId, useState } from "preact/hooks";
 
@@ -10,8 +9,8 @@ import type { Plot } from "./chart_geometry";
 import { Pie } from "./pie";
 import { Words } from "./words";
 
-const smallTable = 24; // points that are worth reading one by one
-const fitsUnderPlot = 40; // letters of all labels together, on a phone
+const smallTable = 24; // points; larger tables are omitted for screen readers
+const fitsUnderPlot = 40; // total characters of the labels, on a phone
 
 export function Chart(chart: View.Chart) {
   const empty = chart.points.length === 0;
@@ -32,7 +31,7 @@ export function Chart(chart: View.Chart) {
   );
 }
 
-// The point that a chart speaks of before anybody asks: the latest of a line, the highest of bars.
+// The initially selected point: the latest of a line, the highest bar.
 function telling({ kind, points }: View.Chart): number {
   if (kind === "line") return points.length - 1;
   return points.reduce((best, point, index) => (point.value > points[best]!.value ? index : best), 0);
@@ -128,7 +127,7 @@ function Scale({ scale, plot }: { readonly scale: readonly View.ChartTick[]; rea
   );
 }
 
-// All labels where they fit, else the first and the last.
+// All labels if they fit, else the first and the last.
 function Labels({ chart: { kind, points } }: { readonly chart: View.Chart }) {
   const letters = points.reduce((sum, point) => sum + point.label.length + 2, 0);
   const all = letters <= fitsUnderPlot;
@@ -179,7 +178,7 @@ function Scrub({ chart: { kind, title, points }, shown, ask }: ScrubProps) {
   );
 }
 
-// Every figure of a plot. Of a histogram it is on show: a vote is read share by share.
+// A table of all values. It is visible for a histogram.
 function Table({ kind, title, points }: View.Chart) {
   return (
     <div class={kind === "histogram" ? "chart-shares" : "unseen"}>

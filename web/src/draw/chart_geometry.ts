@@ -1,5 +1,5 @@
-// Where the points of a chart stand, in a square of 100 by 100 with the value axis upwards. The square is
-// stretched to the plot; texts and markers are placed over it in percent.
+// Positions of a chart's points in a square of 100 by 100 with the value axis upward. The square is stretched
+// to the plot; texts and markers are positioned in percent.
 
 import type { Chart, ChartPoint } from "../view_types";
 
@@ -11,11 +11,11 @@ export interface Bar {
 }
 
 export interface Plot {
-  readonly across: (index: number) => number; // middle of a point's place, 0 to 100
+  readonly across: (index: number) => number; // center of a point, 0 to 100
   readonly up: (value: number) => number; // 0 at the bottom, 100 at the top
 }
 
-// Between two bars, as a share of a bar's place.
+// The gap between bars as a fraction of a bar's width.
 const barGap: Readonly<Record<"bar" | "histogram", number>> = { bar: 0.34, histogram: 0.06 };
 
 function extent(chart: Chart): [number, number] {
@@ -49,8 +49,7 @@ function placesOf(points: readonly ChartPoint[], plot: Plot): Place[] {
   return points.map((point, index) => ({ x: round(plot.across(index)), y: round(100 - plot.up(point.value)) }));
 }
 
-// The slope of the curve at each place, so that it goes through all of them and never rises or falls where they
-// do not (M. Steffen, 1990).
+// Slopes for monotone cubic interpolation (M. Steffen, 1990).
 function slopesOf(places: readonly Place[]): number[] {
   const last = places.length - 1;
   const width = (index: number) => places[index + 1]!.x - places[index]!.x;
@@ -69,7 +68,7 @@ function slopesOf(places: readonly Place[]): number[] {
   });
 }
 
-// A curve through the places; a line through two, a dot at one.
+// A curve through the points; a line for two, a dot for one.
 function curveThrough(places: readonly Place[]): string {
   const [first, second] = places;
   if (!first) return "";
@@ -91,7 +90,7 @@ export function linePath(points: readonly ChartPoint[], plot: Plot): string {
   return curveThrough(placesOf(points, plot));
 }
 
-// The area between the line and the bottom.
+// The area below the line.
 export function areaPath(points: readonly ChartPoint[], plot: Plot): string {
   const places = placesOf(points, plot);
   const line = curveThrough(places).replace("Z", "");
@@ -116,7 +115,7 @@ export function bars(kind: "bar" | "histogram", points: readonly ChartPoint[], p
 const innerRadius = 27;
 const outerRadius = 49;
 
-// The ring from one share of a whole turn to another, both counted from the top.
+// A ring segment between two fractions of a full turn, clockwise from the top.
 function slice(from: number, to: number): string {
   if (to - from > 0.9999) return wholeRing;
   const at = (radius: number, share: number) =>
@@ -128,14 +127,15 @@ function slice(from: number, to: number): string {
   );
 }
 
-// An arc that ends where it starts is none, so a circle takes two. The hole goes the other way around.
+// A full circle needs two arcs, because an arc that ends at its start is empty. The hole has the opposite
+// direction.
 const circle = (radius: number, sweep: 0 | 1): string => {
   const half = `A${radius},${radius},0,0,${sweep},0,`;
   return `M0,${-radius}${half}${radius}${half}${-radius}Z`;
 };
 const wholeRing = circle(outerRadius, 1) + circle(innerRadius, 0);
 
-// One path a point, in a square of 100 around the middle; empty for a point without a share.
+// One path per point, in a square of 100; empty for a point with no share.
 export function slices(points: readonly ChartPoint[]): string[] {
   const values = points.map((point) => Math.max(point.value, 0));
   const whole = values.reduce((sum, value) => sum + value, 0);

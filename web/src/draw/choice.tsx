@@ -1,4 +1,4 @@
-// One or several of a few options, as radio buttons or check boxes, whatever they look like.
+// A choice of one or several options, implemented as radio buttons or check boxes in all styles.
 
 import { useId, useLayoutEffect, useRef } from "preact/hooks";
 
@@ -9,10 +9,10 @@ import { usePress } from "./pressing";
 import { Check } from "./signs";
 import { Words } from "./words";
 
-const fitsSideBySide = 22; // letters of all options together, on a small phone
-const fitsAChip = 6; // letters of the longest option
+const fitsSideBySide = 22; // total characters of the options, on a small phone
+const fitsAChip = 6; // characters of the longest option
 const fitsALabel = 18;
-const mostLabels = 8; // beyond that a list is read faster
+const mostLabels = 8; // more options are shown as a list
 
 type Looks = "pictures" | "side-by-side" | "chips" | "labels" | "list";
 
@@ -34,7 +34,7 @@ export function Choice(choice: View.Choice) {
   const chosen = useRef<readonly boolean[]>([]);
   chosen.current = choice.options.map((option) => option.chosen);
 
-  // The browser marks an option as it is pressed; whether it is chosen is for the page to say.
+  // Undoes the browser's own check mark: the game decides what is chosen.
   const showChosen = () => {
     fieldset.current?.querySelectorAll("input").forEach((input, index) => {
       input.checked = chosen.current[index] ?? false;

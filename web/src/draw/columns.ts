@@ -1,16 +1,16 @@
-// How the nodes of a page share a wide screen. On a phone the parts stand under each other in the same order.
+// The column layout of a page on a wide screen. On a phone the parts are below each other in the same order.
 
 import type { Node, PictureKind } from "../view_types";
 
 export interface Parts {
-  readonly front: readonly Node[]; // none or one: the picture that the page opens with, beside the lead
-  readonly lead: readonly Node[]; // over both columns
+  readonly front: readonly Node[]; // none or one: the page's first picture, beside the lead
+  readonly lead: readonly Node[]; // above both columns
   readonly columns: readonly (readonly Node[])[]; // none, or two
-  readonly isNarrow: boolean; // nothing on it uses a wide screen
+  readonly isNarrow: boolean; // has no content for a wide screen
 }
 
-// How high a node stands, roughly, in rows of text. Nodes are never measured, so a page keeps its columns
-// while figures change.
+// The estimated height of a node in rows of text. Nodes are not measured, so that columns do not change with
+// figures.
 function heightOf(node: Node): number {
   switch (node.kind) {
     case "section":
@@ -41,7 +41,7 @@ function heightOf(node: Node): number {
 
 const heightOfAll = (nodes: readonly Node[]): number => nodes.reduce((sum, node) => sum + heightOf(node), 0);
 
-// Where to cut the sections so that the higher of the two columns is as low as can be.
+// The index to split the sections at, to minimize the higher column.
 function cutOf(sections: readonly Node[]): number {
   const all = heightOfAll(sections);
   let best = sections.length;
@@ -55,21 +55,21 @@ function cutOf(sections: readonly Node[]): number {
   return best;
 }
 
-// Cards stand side by side where there is room.
+// Whether the node uses the full width, such as cards side by side.
 const isWide = (node: Node): boolean =>
   node.kind === "card" ||
   (node.kind === "listPage" && node.content.nodes.some((listed) => listed.kind === "card"));
 
 const uprights: ReadonlySet<PictureKind> = new Set(["poster", "card", "avatar", "logo", "icon"]);
 
-// A picture that leaves room at its side, with something to stand there.
+// Whether the first node is a picture with room for the second beside it.
 const isFront = (first: Node | undefined, second: Node | undefined): boolean =>
   first?.kind === "picture" && uprights.has(first.content.kind) && second !== undefined;
 
-// A poster's height in rows of text: what there is room for at its side.
+// A poster's height in rows of text.
 const besideFront = 14;
 
-// Where the two columns begin: at the first section, or after those that fit beside the picture in front.
+// The index where columns start: the first section, or the first that does not fit beside the picture.
 function startOfColumns(nodes: readonly Node[]): number {
   const first = nodes.findIndex((node) => node.kind === "section");
   if (first < 0 || !isFront(nodes[0], nodes[1])) return first;

@@ -1,9 +1,9 @@
-// Time that runs: a ring that empties, and the minutes and seconds in it.
+// A countdown: an emptying ring around the time.
 
 import type * as View from "../view_types";
 import { Words } from "./words";
 
-const lastCall = 10; // seconds from which on the ring warns
+const lastCall = 10; // seconds; from here on the ring is in the warning color
 const radius = 44; // in a square of 100
 const around = 2 * Math.PI * radius;
 

@@ -1,4 +1,4 @@
-// Figures that count from what the player saw last to what they are now.
+// Animates figures from the last shown value to the new one.
 
 import type { RefObject } from "preact";
 import { useLayoutEffect } from "preact/hooks";
@@ -7,11 +7,11 @@ import { stillness } from "./motion";
 
 interface Figure {
   readonly prefix: string;
-  readonly value: number; // with its K, M or B worked in
+  readonly value: number; // including its K, M or B
   readonly suffix: string;
   readonly scale: number;
   readonly decimals: number;
-  readonly group: string; // what stands between thousands, may be empty
+  readonly group: string; // thousands separator, can be empty
   readonly point: string;
 }
 
@@ -19,14 +19,14 @@ const scales: Readonly<Record<string, number>> = { K: 1e3, M: 1e6, B: 1e9 };
 const countingTime = 180; // milliseconds
 
 // The figure in a text such as "$1,250", "-3.5%" or "€ 1,2 Mio"; null when there is none. Three digits after
-// a separator are read as thousands: at worst one frame of the motion shows another figure, never the last.
+// a separator are parsed as thousands; a wrong guess affects only intermediate frames.
 export function parseFigure(text: string): Figure | null {
   const match = /^([^\d]*)(\d[\d.,'\u2019\u00a0\u202f]*)(.*)$/su.exec(text);
   if (match === null) return null;
   const [, prefix = "", tail = "", rest = ""] = match;
   const digits = tail.replace(/[^\d]+$/u, "");
   const suffix = tail.slice(digits.length) + rest;
-  if (/\d/u.test(suffix)) return null; // two figures, as in "72 of 100": nothing to count
+  if (/\d/u.test(suffix)) return null; // two figures, as in "72 of 100", are not animated
   const fraction = /[.,](\d+)$/u.exec(digits);
   const isFraction = fraction !== null && fraction[1]!.length !== 3;
   const whole = isFraction ? digits.slice(0, fraction.index) : digits;
@@ -44,7 +44,7 @@ export function parseFigure(text: string): Figure | null {
   };
 }
 
-// `value` as a text of the same make as `like`.
+// `value` in the format of `like`.
 export function formatLike(like: Figure, value: number): string {
   const [whole = "0", fraction] = (Math.abs(value) / like.scale).toFixed(like.decimals).split(".");
   const grouped = like.group === "" ? whole : whole.replace(/\B(?=(\d{3})+$)/gu, like.group);
@@ -53,7 +53,7 @@ export function formatLike(like: Figure, value: number): string {
 
 const lastSeen = new Map<string, string>();
 
-// Counts the text of `figure` up or down when `text` is another than at the last time under the same key.
+// Animates the text of `figure` when `text` differs from the last one with the same key.
 export function useCounting(figure: RefObject<HTMLElement | null>, key: string, text: string): void {
   useLayoutEffect(() => {
     const before = lastSeen.get(key);
@@ -67,7 +67,7 @@ export function useCounting(figure: RefObject<HTMLElement | null>, key: string, 
     const start = performance.now();
     let frame = 0;
     const step = (now: number) => {
-      // A frame's time may lie before the start: the frame had begun when the figure changed.
+      // The frame's time can be before the start, if the frame began before the change.
       const part = Math.min(Math.max((now - start) / countingTime, 0), 1);
       const eased = 1 - (1 - part) ** 3;
       node.data = part < 1 ? formatLike(to, from.value + (to.value - from.value) * eased) : text;

@@ -1,5 +1,5 @@
-// A message over the page, in a frame of bulbs. The browser's own modal dialog keeps the focus in it and
-// gives it back; all that is to do is to let nothing close it but an answer.
+// A modal message in a frame of bulbs. The browser's modal dialog manages the focus; this component only
+// prevents closing it without an answer.
 
 import { useLayoutEffect, useRef } from "preact/hooks";
 
@@ -16,7 +16,7 @@ export function Dialog({ title, message, answers }: View.Dialog) {
   useLayoutEffect(() => {
     const dialog = frame.current!;
     dialog.showModal();
-    // A question is read before it is answered; a notice has the one way out.
+    // Focuses the heading of a question, or the only answer of a notice.
     (onlyAnswer ? dialog.querySelector<HTMLElement>(".button") : heading.current)?.focus();
     return () => dialog.close();
   }, []);
@@ -25,11 +25,11 @@ export function Dialog({ title, message, answers }: View.Dialog) {
     event.preventDefault();
     if (onlyAnswer) frame.current?.querySelector<HTMLButtonElement>(".button")?.click();
   };
-  // Browsers close a dialog at the second Escape whatever the page says, unless the key itself is refused.
+  // Browsers close a dialog at the second Escape unless the key event is prevented.
   const onKeyDown = (event: KeyboardEvent) => {
     if (event.key === "Escape") refuse(event);
   };
-  // And the back gesture of a phone closes it too: the message comes again until it is answered.
+  // The back gesture of a phone also closes it, so it is opened again until it is answered.
   const onClose = () => {
     if (frame.current?.isConnected) frame.current.showModal();
   };

@@ -1,14 +1,14 @@
-// Pictures as the page shows them: each is drawn once, kept as the address of an image, and stands on the page as
-// one element, however much is drawn in it. In lists they are drawn when they come near the screen and the browser
-// has nothing else to do, so that a page with many of them opens at once. The art itself is a script of its own,
-// which is fetched after the first page has been painted: until then every picture is one that is not drawn yet.
+// A cache of pictures as image addresses, each a single element on the page. Pictures in lists are drawn in
+// idle time when they come near the viewport, so that a page with many of them opens at once. The art is a
+// separate script, which is fetched after the first paint; until then no picture is drawn.
 
 import type { Picture } from "../view_types";
 
 let art: typeof import("../art/picture_art") | undefined;
 let loading: Promise<void> | undefined;
 
-// Resolves when pictures can be drawn; rejects when the art could not be fetched. The next call then tries again.
+// Resolves when pictures can be drawn; rejects when the art could not be fetched, and then the next call
+// tries again.
 export function loadArt(): Promise<void> {
   loading ??= import("../art/picture_art").then(
     (loaded) => {
@@ -23,18 +23,18 @@ export function loadArt(): Promise<void> {
   return loading;
 }
 
-// Some hundreds of pictures make a career; of those drawn longest ago some may have to be drawn again.
+// A career has some hundreds of pictures; the least recently used ones are dropped.
 const mostKept = 400;
-const kept = new Map<string, string>(); // by key, the address asked for last at the end
+const kept = new Map<string, string>(); // addresses by key, most recently used last
 
-// Two pictures of one key look the same; what is only said of them makes no difference.
+// Pictures with equal keys look the same. The description is not part of the key.
 export const keyOf = ({ kind, name, title, genre, format, season, billed, age }: Picture): string =>
   [kind, name, title, genre, format, season, billed, age].join("\n");
 
-// Only what means something else in an address is written in another way.
+// Escapes only the characters with a meaning in an address.
 const addressOf = (svg: string): string => `data:image/svg+xml,${svg.replace(/[%#]/gu, encodeURIComponent)}`;
 
-// The address of a picture that has been drawn; undefined before.
+// The address of a picture if it is in the cache.
 export function addressIfDrawn(key: string): string | undefined {
   const address = kept.get(key);
   if (address !== undefined) {
@@ -44,7 +44,7 @@ export function addressIfDrawn(key: string): string | undefined {
   return address;
 }
 
-// The address of the picture, which is drawn now if it has not been; undefined before the art is loaded.
+// The address of the picture, drawing it if needed; undefined until the art is loaded.
 export function draw(shown: Picture): string | undefined {
   const key = keyOf(shown);
   const known = addressIfDrawn(key);
@@ -60,13 +60,13 @@ interface Waiting {
   readonly ready: () => void;
 }
 
-const places = new Map<Element, Waiting>(); // where a picture is missing
-const near = new Set<Element>(); // those of them that are on the screen or close to it
+const places = new Map<Element, Waiting>(); // elements whose picture is missing
+const near = new Set<Element>(); // those of them near the viewport
 let asked = false;
 
-const leastTime = 3; // milliseconds that drawing and showing one picture takes
+const leastTime = 3; // milliseconds to draw and show a picture
 
-// Safari has no idle time to give: there one picture is drawn after the other, with a pause in between.
+// Safari has no requestIdleCallback, so it draws one picture at a time with pauses.
 function whenIdle(work: (timeLeft: () => number) => void): void {
   if ("requestIdleCallback" in globalThis) {
     requestIdleCallback((deadline) => work(() => deadline.timeRemaining()), { timeout: 200 });
@@ -112,8 +112,8 @@ const watch =
       )
     : undefined;
 
-// Draws the picture when the element in its place comes near the screen, and calls `ready` when it can be shown.
-// Answers with what ends the waiting.
+// Draws the picture when its placeholder comes near the viewport, then calls `ready`. Returns a function to
+// cancel.
 export function drawWhenNear(place: Element, shown: Picture, ready: () => void): () => void {
   places.set(place, { shown, ready });
   if (watch) watch.observe(place);

@@ -1,6 +1,5 @@
-// Text that the player types. It is handed over when the player is done with it: on leaving the field, on
-// Enter, or before anything else is pressed. Until then a page that is drawn again leaves text and caret
-// alone.
+// A text field. Its text is submitted on blur, on Enter, or before anything else is pressed. Until then
+// redrawing the page does not change text and caret.
 
 import { useId, useLayoutEffect, useRef } from "preact/hooks";
 
@@ -20,7 +19,7 @@ function useTyping(value: string) {
     const field = control.current;
     if (field !== null && !isTyping.current && field.value !== value) field.value = value;
   });
-  // A field that leaves the page takes what was typed with it.
+  // A removed field discards its text.
   useLayoutEffect(
     () => () => {
       if (isTyping.current) setUnfinished(null);
@@ -54,7 +53,7 @@ export function Field({ label, value, hint, maximumLength, severalLines, handle 
     id,
     class: "field-control",
     "data-handle": handle,
-    // In UTF-16 units, so that an emoji counts as two: never more characters than the game wants.
+    // maxLength counts UTF-16 units, so it is never more than the game's limit of characters.
     maxLength: maximumLength,
     autoComplete: "off",
     "aria-describedby": hint === "" ? undefined : `${id}-hint`,

@@ -1,4 +1,4 @@
-// A row that opens to further nodes.
+// A row that expands to show more nodes.
 
 import { useId } from "preact/hooks";
 

@@ -1,5 +1,5 @@
-// News: what is stamped on it, what happened, and where a press leads. The lead is drawn as a front page, the
-// others as lines of a list.
+// A news item with stamp, text and an optional press. The lead is drawn as a front page, others as lines of a
+// list.
 
 import type { ComponentChildren } from "preact";
 

@@ -1,5 +1,5 @@
-// What tells the nodes of one run apart when they are drawn again: their kind and the words that name them. A
-// control that keeps its name keeps its element, and with it the focus, wherever it moves among its fellows.
+// Keys of sibling nodes: their kind and name. A control with the same name keeps its element, and so its
+// focus, when it moves among its siblings.
 
 import type { Node } from "../view_types";
 
@@ -40,7 +40,7 @@ function nameOf(node: Node): string {
   }
 }
 
-// One key a node, no two alike: nodes of one name are told apart by their order.
+// A unique key per node; nodes with equal names are numbered.
 export function keysOf(nodes: readonly Node[]): string[] {
   return numbered(nodes.map((node) => `${node.kind} ${nameOf(node)}`));
 }

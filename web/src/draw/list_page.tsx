@@ -1,4 +1,4 @@
-// The part of a long list that is on show, and the ways back and on.
+// The visible page of a long list, with paging buttons.
 
 import { useLayoutEffect, useRef } from "preact/hooks";
 
@@ -10,7 +10,7 @@ export function ListPage({ nodes, position, turns }: View.ListPage) {
   const list = useRef<HTMLDivElement>(null);
   const shown = useRef(position);
 
-  // A turned list is read from its top. Who turns it by the keyboard stays at the button: the focus is there.
+  // Paging scrolls to the top of the list, except by keyboard, where the focus stays on the button.
   useLayoutEffect(() => {
     if (shown.current === position) return;
     shown.current = position;

@@ -1,4 +1,4 @@
-// How much of something is there, as a row of bulbs: as many are lit as there is of it.
+// A meter as a row of bulbs.
 
 import type * as View from "../view_types";
 import { bandOf } from "./bands";

@@ -1,5 +1,5 @@
-// A moment: a scene of less than a second over the page. Any press skips it, and does nothing else; where the
-// system asks for no motion there is none. Its words are read out with the news of the page.
+// A moment: an animation of less than a second over the page. Any press skips it and does nothing else. It is
+// not played with reduced motion. news.ts announces its words.
 
 import type { TargetedEvent } from "preact";
 import { useEffect, useRef, useState } from "preact/hooks";
@@ -9,11 +9,11 @@ import { stillness } from "./motion";
 import { Picture } from "./picture";
 import { Words } from "./words";
 
-const wholeScene = "moment-whole"; // the animation that lasts as long as the scene, in style/moments.css
-const longestWaitForClick = 350; // milliseconds that a click may follow the finger that was lifted
+const wholeScene = "moment-whole"; // the animation with the length of the scene, in style/moments.css
+const longestWaitForClick = 350; // milliseconds between lifting a finger and its click
 
-// The moment that plays now, and how to end it. Each number is played once, whatever is drawn meanwhile; one that
-// comes under a message is let go.
+// The current moment and a function to end it. Each number is played once, even if the page is redrawn; a
+// moment under a message is dropped.
 function usePlaying({ moment, dialog }: View.Page): [View.Moment | null, () => void] {
   const playing = useRef<View.Moment | null>(null);
   const last = useRef(0);
@@ -39,8 +39,7 @@ function Scene({ moment, end }: { readonly moment: View.Moment; readonly end: ()
   const [skipped, skip] = useState(false);
   const held = useRef(false);
 
-  // The key that skips is not for what has the focus under the scene. One that is still held down since it
-  // brought the scene skips nothing.
+  // The key that skips the scene does not reach the focused control. Repeats of a held key do not skip.
   useEffect(() => {
     const onKeyDown = (event: KeyboardEvent) => {
       event.preventDefault();
@@ -51,7 +50,7 @@ function Scene({ moment, end }: { readonly moment: View.Moment; readonly end: ()
     return () => window.removeEventListener("keydown", onKeyDown, true);
   }, []);
 
-  // The scene stays over the page, unseen, until the click of the finger that skipped it is over.
+  // The invisible scene stays until the click that follows the skipping touch.
   const onPointerDown = () => {
     held.current = true;
     skip(true);

@@ -1,4 +1,4 @@
-// Whether the system asks for no motion.
+// Whether reduced motion is requested.
 const wish = globalThis.matchMedia?.("(prefers-reduced-motion: reduce)");
 
 export const stillness = (): boolean => wish?.matches ?? true;

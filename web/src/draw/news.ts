@@ -1,10 +1,9 @@
-// What a screen reader is told when a screen is drawn again: what is new on it, in the words that stand
-// there.
+// Screen-reader announcements of changes when a screen is redrawn.
 
 import type { Node, Page } from "../view_types";
 import { screenOf } from "./places";
 
-const mostAtOnce = 4; // a player who listens wants the outcome, not the page
+const mostAtOnce = 4; // sentences per announcement
 const lastCall = 10; // seconds
 
 interface Said {
@@ -51,7 +50,7 @@ function listen(nodes: readonly Node[], said: Said): void {
         if (node.content.position !== "") said.sentences.add(node.content.position);
         listen(node.content.nodes, said);
         break;
-      default: // says nothing of itself
+      default: // is not announced
         break;
     }
   }
@@ -64,13 +63,14 @@ function heard(page: Page): Said {
   return said;
 }
 
-// A moment is told on whatever screen it comes.
+// A moment is announced on every screen.
 function momentBetween(before: Page, after: Page): string[] {
   const moment = after.moment[0];
   return moment === undefined || moment.number === before.moment[0]?.number ? [] : [`${moment.title}: ${moment.line}`];
 }
 
-// Sentences to read out, the most telling first; of another screen, whose heading is read anyway, a moment alone.
+// Sentences to announce, most important first; for another screen, whose heading is read anyway, only a
+// moment.
 export function newsBetween(before: Page, after: Page): string[] {
   const moment = momentBetween(before, after);
   if (screenOf(before) !== screenOf(after)) return moment;

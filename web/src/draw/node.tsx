@@ -1,4 +1,4 @@
-// One node of the vocabulary, whatever its kind, and nodes in their order.
+// Draws a node of any kind, and lists of nodes.
 
 import type { ComponentChild, FunctionComponent } from "preact";
 
@@ -26,8 +26,7 @@ import { Text } from "./text";
 import { Tiles } from "./tiles";
 import { Timeline, TimelineEntry } from "./timeline";
 
-// A kind that the vocabulary has and this switch has not does not compile: the function would end without a
-// value.
+// A missing kind does not compile, because the function would end without a value.
 function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
   switch (node.kind) {
     case "text":
@@ -77,7 +76,7 @@ function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
   }
 }
 
-// Kinds that form one list where they follow each other.
+// Kinds whose adjacent nodes form a list.
 const lists: Partial<Record<Node["kind"], FunctionComponent>> = {
   row: Rows,
   headline: Headlines,

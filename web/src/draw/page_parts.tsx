@@ -1,5 +1,4 @@
-// What stands around a page: the bar over it, the title it opens with, and at its foot what it is for and the
-// tabs.
+// The frame of a page: the bar, the masthead, and the foot with the main action and the tabs.
 
 import type * as View from "../view_types";
 import { PressButton } from "./button";
@@ -9,7 +8,7 @@ import { Back } from "./signs";
 import { Words } from "./words";
 import { wordmark } from "../art/wordmark";
 
-// Cash and energy, always in view.
+// Cash and energy, always visible.
 function Figures({ figures }: Pick<View.Page, "figures">) {
   if (figures.length === 0) return null;
   return (
@@ -27,10 +26,10 @@ function Figures({ figures }: Pick<View.Page, "figures">) {
   );
 }
 
-// Its figures stand in the masthead, where there is one with room.
+// Whether the figures are in the masthead.
 const isOpening = (page: View.Page): boolean => page.head === "full" && page.close.length === 0;
 
-// One line holds the title, unless a masthead does. A tab's own heading is for those who do not see the tabs.
+// The title in the bar, unless there is a masthead. The tab's heading is for screen readers.
 function BarTitle({ title, subtitle, heading, head }: View.Page) {
   const words = <Words text={title} />;
   if (head === "full") {
@@ -98,8 +97,8 @@ export function Bar({ page }: { readonly page: View.Page }) {
   );
 }
 
-// The heading takes the focus when a screen opens, so that its name is read and the keyboard starts from its
-// top.
+// The heading gets the focus when a screen opens, so that it is announced and keyboard navigation starts at
+// the top.
 export function Masthead({ page }: { readonly page: View.Page }) {
   const { title, subtitle, heading, head } = page;
   if (head === "line") {
@@ -132,7 +131,7 @@ function Tabs({ tabs }: { readonly tabs: readonly View.Tab[] }) {
   const press = usePress();
   if (tabs.length === 0) return null;
   const keys = numbered(tabs.map((tab) => tab.label));
-  // Tabs that can't be used keep their place and are not there for anybody.
+  // Disabled tabs keep their space but are hidden, also from screen readers.
   const isOff = tabs.every((tab) => tab.isOff);
   return (
     <nav class={isOff ? "tabs is-off" : "tabs"} aria-label="Tabs" id="tabs" tabIndex={-1} inert={isOff}>
@@ -160,7 +159,7 @@ function Tabs({ tabs }: { readonly tabs: readonly View.Tab[] }) {
   );
 }
 
-// At one spot on every page: over the tabs on a phone, under them at the side of a wide screen.
+// At the same position on every page: above the tabs on a phone, below them on a wide screen.
 export function Foot({ main, tabs }: Pick<View.Page, "main" | "tabs">) {
   if (main.length === 0 && tabs.length === 0) return null;
   return (

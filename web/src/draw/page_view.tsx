@@ -1,8 +1,7 @@
-// Draws a page: the one way in for whoever holds it.
+// The entry point for drawing a page.
 //
-// A page is drawn over the one before. On the same screen everything keeps its place: the scroll, the focus,
-// a text that is being typed. Another screen starts at its top, with the focus on its heading; one that is
-// come back to is found where it was left.
+// A redraw of the same screen keeps scroll position, focus and typed text. Another screen starts at its top
+// with the focus on its heading; a screen that the player returns to is restored.
 
 import { Component, createRef } from "preact";
 
@@ -16,13 +15,13 @@ import { Screen } from "./screen";
 
 const product = document.title;
 
-// What a press meets: the screen, or the message over it.
+// Identifies the screen or the message over it.
 const placeOf = (page: Page): string => `${screenOf(page)} ${page.dialog[0]?.title ?? ""}`;
 
 export class PageView extends Component<PageViewProps> {
   private readonly root = createRef<HTMLDivElement>();
   private readonly places = new Places();
-  private focus: Focus | null = null; // the last one on the page itself, while a dialog has it
+  private focus: Focus | null = null; // the page's last focus while a dialog is open
 
   override componentDidMount(): void {
     this.nameTab();
@@ -33,7 +32,7 @@ export class PageView extends Component<PageViewProps> {
     removeEventListener("keydown", this.onKeyDown);
   }
 
-  // Escape goes back. In a field it only ends the typing, and a message has its own answer to it.
+  // Escape goes back, except in fields, where it ends typing, and in messages.
   private readonly onKeyDown = (event: KeyboardEvent): void => {
     if (event.key !== "Escape" || event.defaultPrevented || document.querySelector("dialog[open]") !== null) return;
     const control = document.activeElement;
@@ -42,7 +41,7 @@ export class PageView extends Component<PageViewProps> {
     this.props.actions.back();
   };
 
-  // The page before is still on show.
+  // Runs while the previous page is still shown.
   override getSnapshotBeforeUpdate(before: PageViewProps): null {
     this.focus = focusNow(this.root.current!) ?? (before.page.dialog.length > 0 ? this.focus : null);
     if (screenOf(before.page) !== screenOf(this.props.page)) this.places.leave(before.page, this.focus);

@@ -1,5 +1,4 @@
-// The passing line: what was done just now, over the foot of the page for a few seconds. It covers nothing that
-// can be pressed for long, takes no press itself, and is read out.
+// A toast above the foot of the page for a few seconds. It does not intercept presses and is announced.
 
 import { useEffect, useState } from "preact/hooks";
 
@@ -8,11 +7,11 @@ import { Words } from "./words";
 
 const shownFor = 4000; // milliseconds
 
-// `place`: which page is on show. What was done on another one is over.
+// `place` identifies the shown page; a change hides the line.
 export function Passing({ passing, place }: Pick<View.Page, "passing"> & { readonly place: string }) {
   const said = passing[0];
   const [shown, setShown] = useState<View.PassingLine | null>(null);
-  // The same page drawn again says nothing any more; the line stays its time.
+  // A redraw without a line does not remove it early.
   useEffect(() => {
     if (said !== undefined) setShown(said);
   }, [said?.number]);

@@ -1,4 +1,4 @@
-// A picture in the size that its place asks for. Its place is kept while it is not drawn.
+// A picture in a given size, with a placeholder until it is drawn.
 
 import { useEffect, useRef, useState } from "preact/hooks";
 
@@ -9,7 +9,7 @@ type Size = "row" | "lead" | "card" | "option" | "full";
 
 const nothing = "data:image/svg+xml,<svg xmlns='http://www.w3.org/2000/svg'/>";
 
-// A large picture is what its page is about: it is there at once.
+// Large pictures are drawn immediately.
 const isLarge = (size: Size): boolean => size === "full" || size === "lead";
 
 // The address of the image.

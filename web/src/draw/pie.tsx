@@ -1,10 +1,10 @@
-// A pie and its legend. The legend holds every figure, so the pie itself needs no words.
+// A pie chart with a legend, which has all figures.
 
 import type * as View from "../view_types";
 import { slices } from "./chart_geometry";
 import { Words } from "./words";
 
-const colours = 8; // the style's slices; a ninth takes the first again
+const colours = 8; // slice colors in the style; a ninth slice reuses the first
 
 const colourOf = (index: number): string => `slice-${(index % colours) + 1}`;
 

@@ -1,21 +1,19 @@
-// Where the player was: how far a page was scrolled and which control had the focus, kept when the page is
-// drawn again, and found again when a screen is come back to.
+// Restores scroll position and focus when a page is redrawn or the player returns to a screen.
 
 import type { Page } from "../view_types";
 
-// A screen that nothing leads back from: the hub behind its tabs.
+// A screen without a back button: the hub.
 const isRoot = (page: Page): boolean => page.close.length === 0;
 
-// What tells one place from another: the screen, and on the hub the tab. The title says nothing of it: a film's
-// page, its box office and its reviews share theirs, and a list may change its own as it is switched over.
+// Identifies the screen, and the hub's tab. Titles are not unique: a film's pages share one, and some change.
 export function screenOf(page: Page): string {
   return isRoot(page) ? `${page.screen} ${page.heading}` : String(page.screen);
 }
 
 const controls = "button, input, textarea";
 
-// What a control is called, so that it is found when its element is gone. Cards and rows of one list have
-// buttons of the same name; the title of the card or row tells them apart.
+// The name of a control, to find it again when its element is replaced. Includes the title of its card or
+// row, because these have buttons with the same name.
 function nameOf(control: Element): string {
   const label = (control as HTMLInputElement).labels?.[0] ?? control;
   const around = control.closest(".row-place, .card")?.querySelector(".row-label, .card-title");
@@ -29,10 +27,10 @@ function findByName(root: ParentNode, name: string): HTMLElement | undefined {
 
 export interface Focus {
   readonly name: string;
-  readonly around: readonly Element[]; // the parts of the page that held it, innermost first
+  readonly around: readonly Element[]; // its ancestors, innermost first
 }
 
-// The control on the page that has the focus now, and what to fall back on when it goes.
+// The focused control with fallbacks in case it is removed.
 export function focusNow(root: Element): Focus | null {
   const control = document.activeElement;
   if (control === null || !root.contains(control) || control.closest("dialog") !== null) return null;
@@ -42,8 +40,8 @@ export function focusNow(root: Element): Focus | null {
   return { name: nameOf(control), around };
 }
 
-// After drawing the same screen again. A control that is gone gives the focus to the heading of its part,
-// never to another control: the next press of Enter must not do what the player did not mean.
+// Restores the focus after redrawing the same screen. If the control is gone, the heading of its section gets
+// the focus, never another control, so that Enter does nothing unintended.
 export function keepFocus(root: Element, before: Focus | null): void {
   const now = document.activeElement;
   if (now !== null && now !== document.body) return;
@@ -58,15 +56,15 @@ export function keepFocus(root: Element, before: Focus | null): void {
 
 interface Place {
   readonly scroll: number;
-  readonly focus: string; // the name of the control, empty for none
+  readonly focus: string; // the control's name, empty for none
   readonly isRoot: boolean;
 }
 
-// The places of the screens that can be come back to.
+// Saved positions of the screens that the player can return to.
 export class Places {
   private readonly places = new Map<string, Place>();
 
-  // As a screen is left.
+  // Saves the position when a screen is left.
   leave(page: Page, focus: Focus | null): void {
     this.places.set(screenOf(page), {
       scroll: window.scrollY,
@@ -75,13 +73,13 @@ export class Places {
     });
   }
 
-  // As a screen opens: at its top, or where it was left when the player comes back to it. Under a dialog
-  // nothing can take the focus; it goes to the heading when the dialog is answered.
+  // Restores the position when a screen opens, or starts at its top. Nothing under a dialog can get the
+  // focus, so it goes to the heading when the dialog is answered.
   enter(root: Element, page: Page): void {
     const screen = screenOf(page);
     const place = this.places.get(screen);
     this.places.delete(screen);
-    // Back on a tab, what was opened from it is over: opened again, it starts at its top.
+    // Returning to a tab discards the positions of the screens above it.
     if (isRoot(page)) {
       for (const [other, { isRoot }] of this.places) if (!isRoot) this.places.delete(other);
     }

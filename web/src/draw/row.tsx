@@ -1,4 +1,4 @@
-// One line of a list: what, how much, and where a press leads.
+// A line of a list: label, value and an optional press.
 
 import type { ComponentChildren } from "preact";
 
@@ -17,7 +17,7 @@ export function Rows({ children }: { readonly children?: ComponentChildren }) {
   );
 }
 
-// A step that is taken has a tick in its circle.
+// A completed step has a check mark in its circle.
 function StepMark({ step }: Pick<View.Row, "step">) {
   if (step === "none") return null;
   return (
@@ -54,7 +54,7 @@ function RowContent({ label, value, detail, picture, step }: View.Row) {
   );
 }
 
-// Beside a picture there is room for a figure; what is said in words stands under the name.
+// Beside a picture there is room for a short figure only; longer values are below the label.
 const longestFigure = 10;
 
 function layoutOf({ value, picture, tone }: View.Row): string {

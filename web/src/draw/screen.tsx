@@ -15,8 +15,8 @@ import { Passing } from "./passing";
 import { screenOf } from "./places";
 import { ScreenContext } from "./screen_context";
 
-// While a message is up, nothing under it can be used and its controls have no handles. The page then stays
-// as it was before the message came, and what has changed shows when the player has read why.
+// While a message is open, the page below keeps its previous content, because its controls have no handles.
+// Changes appear when the message is closed.
 function usePageUnderDialog(page: Page): Page {
   const open = useRef(page);
   if (page.dialog.length === 0 || screenOf(page) !== screenOf(open.current)) open.current = page;
@@ -47,7 +47,7 @@ function Content({ front, lead, columns }: Parts) {
   );
 }
 
-// Tells the style when the title has scrolled away, so that the bar shows it.
+// Sets a class when the title has scrolled out of view, so that the bar shows it.
 function useScrolledTitle(root: RefObject<HTMLDivElement | null>, head: Page["head"]): void {
   useEffect(() => {
     const screen = root.current!;
@@ -57,7 +57,7 @@ function useScrolledTitle(root: RefObject<HTMLDivElement | null>, head: Page["he
     const watch = new IntersectionObserver(
       ([seen]) => screen.toggleAttribute("data-scrolled", !seen!.isIntersecting),
       {
-        rootMargin: "-56px 0px 0px", // under the bar is out of sight
+        rootMargin: "-56px 0px 0px", // the bar's height
       },
     );
     watch.observe(title);
@@ -65,8 +65,7 @@ function useScrolledTitle(root: RefObject<HTMLDivElement | null>, head: Page["he
   }, [head]);
 }
 
-// Tells the style how high the foot stands, which large text may break into more lines: what has the focus is
-// scrolled clear of it.
+// Sets the foot's height as a style variable, so that focused controls are scrolled above it.
 function useFootHeight(root: RefObject<HTMLDivElement | null>, hasFoot: boolean): void {
   useEffect(() => {
     const foot = root.current!.querySelector<HTMLElement>(".foot");

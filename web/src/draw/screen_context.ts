@@ -1,5 +1,4 @@
-// What every component of one screen knows: its title, its way to the owner, and how deep headings are
-// nested.
+// Shared by a screen's components: its title, its actions, and the heading level.
 
 import { createContext } from "preact";
 import { useContext } from "preact/hooks";

@@ -1,4 +1,4 @@
-// A part of the page under its heading. Headings count down from the page's own, as parts stand within parts.
+// A section with a heading, whose level depends on its nesting.
 
 import type { ComponentChildren } from "preact";
 
@@ -18,14 +18,14 @@ export function Heading(props: HeadingProps) {
   return <Tag {...props} />;
 }
 
-// What stands under a heading: its own headings are one level down.
+// Content below a heading, with headings one level lower.
 export function Under({ children }: { readonly children: ComponentChildren }) {
   const screen = useScreen();
   const below = { ...screen, headingLevel: Math.min(screen.headingLevel + 1, 6) };
   return <ScreenContext.Provider value={below}>{children}</ScreenContext.Provider>;
 }
 
-// Found by its heading; a landmark of its own for each part would be too many to go through.
+// Not a landmark, because a page would have too many.
 export function Section({ heading, nodes }: View.Section) {
   if (heading === "") {
     return (

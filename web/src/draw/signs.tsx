@@ -1,4 +1,4 @@
-// The few signs that the page itself needs; everything else is in the game's own words and pictures.
+// The page's own icons.
 
 interface SignProps {
   readonly path: string;

@@ -1,5 +1,4 @@
-// A value between two ends. Sliding is told at most once a frame, and the page that answers says where the
-// thumb is.
+// A slider. Reports values at most once per frame; the game's page sets the thumb's position.
 
 import { useEffect, useId, useLayoutEffect, useRef } from "preact/hooks";
 

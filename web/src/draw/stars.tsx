@@ -6,7 +6,7 @@ const star = "M12 1.8l3.1 6.5 7.1 1-5.2 4.9 1.3 7.1L12 17.9l-6.3 3.4 1.3-7.1L1.8
 
 const figure = new Intl.NumberFormat(undefined, { maximumFractionDigits: 1 });
 
-// Stars out of `outOf`, filled to the half that is nearest.
+// Stars out of `outOf`, rounded to halves.
 export function Stars({ label, value, outOf }: View.Stars) {
   const filled = Math.round(Math.min(Math.max(value, 0), outOf) * 2) / 2;
   const words = `${figure.format(value)} of ${outOf} stars`;

@@ -1,4 +1,4 @@
-// A card that is answered: by pushing it aside, or by one of its two buttons.
+// A card that is answered by swiping or with one of its two buttons.
 
 import { useLayoutEffect, useRef } from "preact/hooks";
 
@@ -10,10 +10,10 @@ import { Picture } from "./picture";
 import { Heading, Under } from "./section";
 import { Words } from "./words";
 
-const decided = 88; // CSS pixels of push after which letting go answers
-const begun = 8; // pixels after which it is a push and no longer a press or a scroll
-const flight = 140; // milliseconds for the card to leave
-const lean = 0.06; // degrees a pixel
+const decided = 88; // CSS pixels; releasing beyond this answers
+const begun = 8; // pixels; beyond this it is a swipe, not a press or a scroll
+const flight = 140; // milliseconds of the exit animation
+const lean = 0.06; // degrees per pixel
 
 type Side = "left" | "right";
 

@@ -1,4 +1,4 @@
-// Large figures side by side, as on a letter board.
+// Large figures side by side.
 
 import { useRef } from "preact/hooks";
 
@@ -8,19 +8,19 @@ import { numbered } from "./keys";
 import { useScreen } from "./screen_context";
 import { Words } from "./words";
 
-// Characters of a figure that fit at full size, by how many tiles share a phone's width.
+// Characters of a figure that fit at full size, by the number of tiles across a phone.
 const fitsHalf = 8;
 const fitsThird = 5;
 
-// Letters of what stands over and under a figure in a third of a phone's width.
+// Characters of labels in a third of a phone's width.
 const labelInThird = 12;
 const detailInThird = 18;
 
 const longestOf = (tiles: readonly View.StatTile[]): number =>
   Math.max(...tiles.map(({ value }) => value.length));
 
-// Three short figures share one line. Of any other odd number the first, the leading one, has a line to itself
-// where two would fit: a last one alone looks left over.
+// Three short figures share a line. For other odd numbers the first tile gets its own line, so that the last
+// one is not alone.
 function layoutOf(tiles: readonly View.StatTile[]): "one" | "three" | "odd" | "even" {
   if (tiles.length === 1) return "one";
   if (tiles.length % 2 === 0) return "even";
@@ -30,7 +30,7 @@ function layoutOf(tiles: readonly View.StatTile[]): "one" | "three" | "odd" | "e
   return tiles.length === 3 && short ? "three" : "odd";
 }
 
-// Figures side by side are of one size, that of the longest; one with a line to itself has room.
+// Figures side by side have the size that fits the longest; a tile on its own line is not considered.
 function sizeOf(tiles: readonly View.StatTile[], layout: string): string {
   if (longestOf(tiles) > 2 * fitsHalf) return " figure-words";
   const longest = longestOf(layout === "odd" ? tiles.slice(1) : tiles);

@@ -1,4 +1,4 @@
-// What happened, along a strip of film.
+// A timeline in the style of a film strip.
 
 import type { ComponentChildren } from "preact";
 

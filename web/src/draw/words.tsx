@@ -1,17 +1,17 @@
-// Text with its emoji on nodes of their own: in a common font stack some systems draw them in one colour.
+// Text with emoji in separate nodes, because some systems draw emoji in one color with a text font stack.
 
 import type { ComponentChild } from "preact";
 
-// A flag, a keycap, or a pictograph with what can follow it; joined, they are one sign.
+// Matches a flag, a keycap, or a pictograph with its modifiers, and joined sequences.
 const picture = String.raw`(?:\p{Emoji_Presentation}|\p{Extended_Pictographic})(?:\ufe0f|\p{Emoji_Modifier})?`;
 const sign = String.raw`\p{Regional_Indicator}{2}|[#*0-9]\ufe0f?\u20e3|${picture}(?:\u200d${picture})*`;
 const emoji = new RegExp(`(?:${sign})+`, "gu");
 
-// Signs that were text before there were emoji, and stay it.
+// Symbols that stay text.
 const plain = /^[©®™]+$/u;
 
 export function Words({ text }: { readonly text: string }) {
-  // Most text is Latin, and every emoji has a sign above that.
+  // Fast path: every emoji contains a character above this range.
   if (!/[\u2000-\u{10ffff}]/u.test(text)) return <>{text}</>;
   const parts: ComponentChild[] = [];
   let end = 0;

@@ -1,12 +1,11 @@
-// What the runtime and the drawing of a page agree on. The drawing gets a PageViewProps and hands back what
-// the player used; it knows nothing of WebAssembly, storage or other tabs.
+// The interface between the runtime and the drawing code, which gets PageViewProps and reports the player's
+// actions. The drawing code is independent of WebAssembly, storage and other tabs.
 
 import type { ComponentChildren } from "preact";
 
 import type { Page } from "../view_types";
 
-// The player used what stands under a handle. Each is one action of the game, saved as a whole, after which
-// the page is drawn again.
+// The player used the item with this handle. Each call is one saved action of the game, followed by a redraw.
 export interface Actions {
   press(handle: number): void;
   type(handle: number, text: string): void;
@@ -17,6 +16,6 @@ export interface Actions {
 export interface PageViewProps {
   readonly page: Page;
   readonly actions: Actions;
-  readonly banner: ComponentChildren; // notices about saving and updates: above the page's nodes
-  readonly corner: ComponentChildren; // the way to the saves: after the last node of a page that offers it
+  readonly banner: ComponentChildren; // notices about saving and updates, above the page's nodes
+  readonly corner: ComponentChildren; // export and import of saves, after the last node of pages that offer it
 }

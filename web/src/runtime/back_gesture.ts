@@ -1,7 +1,6 @@
-// The system's way back, a swipe or a button, leaves the screen on top as the page's own "Back" does, or a tab of
-// the hub for the first one, instead of leaving the game. While there is somewhere to go back to there is one entry more in the browser's history for it to take.
-// The entry stays when the screen is left by the page's own button, and serves the next screen: going back in the
-// history by ourselves would race with what the player does.
+// The system's back gesture or button works like the page's "Back" and does not leave the game. While there
+// is somewhere to go back to, the browser's history has one extra entry for it. The entry stays for the next
+// screen when the page's own button is used: calling history.back() would race with the player's actions.
 
 import type { Page } from "../view_types";
 
@@ -10,10 +9,10 @@ const canGoBack = (page: Page): boolean => page.close.length > 0 || page.tabs.fi
 const mark = "screen";
 
 export class BackGesture {
-  // A page that was loaded again stands on the entry that its former self made.
+  // A reloaded page is already on the entry.
   private guarded = history.state === mark;
 
-  // `back`: leaves the screen on top; does nothing where that can't be left.
+  // `back` leaves the top screen, if possible.
   constructor(back: () => void) {
     addEventListener("popstate", () => {
       this.guarded = false;
@@ -21,7 +20,7 @@ export class BackGesture {
     });
   }
 
-  // The page that is on show now; none while nothing is played.
+  // Sets the current page; undefined while no game is running.
   watch(page: Page | undefined): void {
     if (this.guarded || !page || !canGoBack(page)) return;
     history.pushState(mark, "");

@@ -1,2 +1,2 @@
-// Style sheets are bundled by importing them.
+// Style sheets are imported to bundle them.
 declare module "*.css";

@@ -1,5 +1,4 @@
-// Which money a region uses. The browser knows how to write a currency but not which one the device's region
-// has; a region that is not listed gets dollars, like a device without a locale.
+// Currencies by region, which browsers do not provide. Other regions use dollars.
 
 const regionsByCurrency: Record<string, string> = {
   AED: "AE", AFN: "AF", ALL: "AL", AMD: "AM", AOA: "AO", ARS: "AR", AUD: "AU CC CX HM KI NF NR TV", AWG: "AW",

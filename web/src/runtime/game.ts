@@ -1,5 +1,5 @@
-// One running game: an instance of the WebAssembly module behind typed functions. After a trap the instance
-// may hold anything, so it is never called again; its caller starts a new one from what was saved.
+// A typed wrapper of an instance of the WebAssembly module. After a trap the instance is unusable; the caller
+// starts a new one from the saved data.
 
 import type { Page } from "../view_types";
 import { type Change, type Piece, readChanges, writePieces } from "./pieces";
@@ -11,7 +11,7 @@ interface Exports {
   incoming(size: number): number;
   answer(): number;
   open_store(): void;
-  hand_in_texts(): void;
+  set_texts(): void;
   start(): void;
   view(): number;
   press(handle: number): void;
@@ -25,11 +25,11 @@ interface Exports {
 }
 
 const exportNames = [
-  "_initialize", "incoming", "answer", "open_store", "hand_in_texts", "start", "view", "press", "type", "slide", "tick",
+  "_initialize", "incoming", "answer", "open_store", "set_texts", "start", "view", "press", "type", "slide", "tick",
   "back", "saving_failed", "export_store", "import_store",
 ] as const satisfies readonly Exclude<keyof Exports, "memory">[];
 
-// The game stopped in the middle of something. `cause` is the trap; the log is what it last said.
+// The game trapped. `cause` is the trap; the log has its last output.
 export class GameStopped extends Error {
   constructor(cause: unknown, readonly log: readonly string[]) {
     super("The game stopped.", { cause });
@@ -37,7 +37,7 @@ export class GameStopped extends Error {
 }
 
 export interface GameHost {
-  // All that one action wrote. Called within the action.
+  // The changes of an action. Called during the action.
   commit(changes: Change[]): void;
 }
 
@@ -52,7 +52,7 @@ export class Game {
     private readonly log: readonly string[],
   ) {}
 
-  // A game over these pieces. Throws GameStopped, like every function of a game.
+  // Creates a game with these pieces. Like all functions of a game, it throws GameStopped.
   static async open(module: WebAssembly.Module, host: GameHost, pieces: readonly Piece[]): Promise<Game> {
     const log: string[] = [];
     const memory = () => exports.memory;
@@ -64,26 +64,26 @@ export class Game {
     const game = new Game(exports, log);
     game.guarded(() => {
       exports._initialize();
-      game.handIn(writePieces(pieces));
+      game.setIncoming(writePieces(pieces));
       exports.open_store();
     });
     return game;
   }
 
-  // The rows of all banks. A new career can be filled in without them; everything after that needs them.
-  handInTexts(texts: Uint8Array): void {
+  // Sets the rows of all banks. Only the new-career form works without them.
+  setTexts(texts: Uint8Array): void {
     this.guarded(() => {
-      this.handIn(texts);
-      this.exports.hand_in_texts();
+      this.setIncoming(texts);
+      this.exports.set_texts();
     });
     this.textsAreIn = true;
   }
 
-  // Loads the career, or opens the form of a new one. What follows, apart from the export and the import of
-  // the whole store, needs a started game.
+  // Loads the career, or opens the new-career form. The functions below need a started game, except export
+  // and import.
   start(locale: Uint8Array): void {
     this.guarded(() => {
-      this.handIn(locale);
+      this.setIncoming(locale);
       this.exports.start();
     });
   }
@@ -99,7 +99,7 @@ export class Game {
 
   type(handle: number, text: string): void {
     this.guarded(() => {
-      this.handIn(new TextEncoder().encode(text));
+      this.setIncoming(new TextEncoder().encode(text));
       this.exports.type(handle);
     });
   }
@@ -118,7 +118,7 @@ export class Game {
 
   savingFailed(why: string): void {
     this.guarded(() => {
-      this.handIn(new TextEncoder().encode(why));
+      this.setIncoming(new TextEncoder().encode(why));
       this.exports.saving_failed();
     });
   }
@@ -127,17 +127,17 @@ export class Game {
     return this.guarded(() => this.answer(this.exports.export_store()));
   }
 
-  // Why the file was refused; nothing when it was taken and committed.
+  // Returns why the file was refused, or an empty string when it was imported and committed.
   importStore(file: Uint8Array): string {
     const refusal = this.guarded(() => {
-      this.handIn(file);
+      this.setIncoming(file);
       return this.answer(this.exports.import_store());
     });
     return new TextDecoder().decode(refusal);
   }
 
-  // Memory moves when it grows, so every use looks at it anew.
-  private handIn(bytes: Uint8Array): void {
+  // Growing memory detaches views, so each use creates a new one.
+  private setIncoming(bytes: Uint8Array): void {
     const at = this.exports.incoming(bytes.length);
     new Uint8Array(this.exports.memory.buffer, at, bytes.length).set(bytes);
   }

@@ -1,9 +1,8 @@
-// Installing the game to the home screen, where the browser offers that: once, in the game's own words. Whoever has
-// answered is not asked again.
+// Offers to install the game, once, if the browser supports it.
 
 const answeredKey = "install offer answered";
 
-// Not every browser has it, and TypeScript's own list of events does not.
+// Not standard, so TypeScript has no type for it.
 interface InstallPrompt extends Event {
   prompt(): Promise<unknown>;
 }
@@ -11,10 +10,10 @@ interface InstallPrompt extends Event {
 export class InstallOffer {
   private prompt: InstallPrompt | undefined;
 
-  // `changed`: whether there is something to offer now.
+  // `changed` is called when the availability of the offer changes.
   constructor(private readonly changed: (isOffered: boolean) => void) {
     addEventListener("beforeinstallprompt", (event) => {
-      event.preventDefault(); // the browser would ask at a moment of its own
+      event.preventDefault(); // suppresses the browser's own prompt
       if (wasAnswered()) return;
       this.prompt = event as InstallPrompt;
       this.changed(true);
@@ -33,7 +32,7 @@ export class InstallOffer {
     try {
       localStorage.setItem(answeredKey, "yes");
     } catch {
-      // nothing is kept here, and so nothing is installed from here either
+      // without storage there is no installation either
     }
     this.changed(false);
   }

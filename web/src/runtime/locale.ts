@@ -1,4 +1,4 @@
-// How this device writes money, numbers and months, as the game wants to know it (src/core/locale.h).
+// The device's formats for money, numbers and months, as the game's Locale (src/core/locale.h).
 
 import { currencyOf } from "./currencies";
 import { MessageWriter } from "./message";
@@ -6,7 +6,7 @@ import { MessageWriter } from "./message";
 const twelveMonths = Array.from({ length: 12 }, (_, month) => new Date(Date.UTC(2026, month, 15)));
 const noBreakSpace = "\u00a0";
 
-// The fields of the game's Locale in their order, for the language tag of a device ("de-CH").
+// The fields of the game's Locale in order, for a language tag ("de-CH").
 export function localeMessage(tag: string): Uint8Array {
   const writer = new MessageWriter();
   for (const text of localeFields(tag)) writer.text(text);
@@ -15,7 +15,7 @@ export function localeMessage(tag: string): Uint8Array {
 
 export function localeFields(tag: string): string[] {
   const currency = currencyOf(new Intl.Locale(tag).maximize().region ?? "US");
-  // The game writes its digits itself, so the device's signs have to be those of Western digits.
+  // The game writes Western digits, so the separators must belong to these.
   const money = new Intl.NumberFormat(tag, { style: "currency", currency, numberingSystem: "latn" });
   const parts = money.formatToParts(1);
   const symbolAt = parts.findIndex((part) => part.type === "currency");

@@ -1,6 +1,6 @@
-// What crosses the boundary between the page and the game, apart from plain numbers. One message is a row of
-// values with no names: numbers in little-endian, a text or bytes as a 32-bit length and then its bytes. The
-// game's side is src/shells/web/message.h.
+// Messages between the page and the game. A message is a sequence of unnamed values: little-endian numbers,
+// and texts or bytes as a 32-bit length followed by the bytes. The game's implementation is
+// src/shells/web/message.h.
 
 export class MessageWriter {
   private bytes = new Uint8Array(1024);
@@ -59,7 +59,7 @@ export class MessageReader {
     return Number(this.view.getBigInt64(this.at - 8, true));
   }
 
-  // A copy: the message may stand in the game's memory, which moves when it grows.
+  // Returns a copy, because the message can be in the game's memory, which moves when it grows.
   bytesOf(): Uint8Array<ArrayBuffer> {
     const size = this.number();
     this.at += size;

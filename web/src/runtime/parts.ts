@@ -1,4 +1,4 @@
-// The parts of the game that are fetched, each once. A failure is tried again the next time a part is wanted.
+// Parts of the game that are fetched once. After a failure the next request tries again.
 
 declare const WASM_FILE: string;
 declare const TEXTS_FILE: string;
@@ -25,15 +25,14 @@ class Part<T> {
   }
 }
 
-// What the page needs before it can draw anything.
+// Needed before the first page.
 export const program = new Part(compile, WASM_FILE);
 
-// The rows of all banks, which the page does not need before a career begins: they are fetched after it has been
-// painted.
+// The rows of all banks, which are fetched after the first paint.
 export const texts = new Part(async (answer) => new Uint8Array(await answer.arrayBuffer()), TEXTS_FILE);
 
 async function compile(answer: Response): Promise<WebAssembly.Module> {
-  // Compiling while it arrives is faster, but insists on a type that not every host knows.
+  // Streaming compilation is faster but needs a MIME type that not every host sends.
   const streams = answer.headers.get("Content-Type")?.startsWith("application/wasm") ?? false;
   return streams ? WebAssembly.compileStreaming(answer) : WebAssembly.compile(await answer.arrayBuffer());
 }

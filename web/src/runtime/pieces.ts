@@ -1,5 +1,4 @@
-// The save as the page keeps it: pieces of a dictionary, changed by the commits of the game. The same words
-// stand in the game's save store (src/core/save_store.h).
+// The save as pieces of a dictionary, changed by the game's commits. Uses the terms of src/core/save_store.h.
 
 import { MessageReader, MessageWriter } from "./message";
 
@@ -41,8 +40,8 @@ export function readChanges(message: Uint8Array): Change[] {
   });
 }
 
-// The changes of both in one list with the same outcome, without those that later ones make void: what waits
-// to be stored never grows beyond the save itself.
+// Merges two lists of changes and drops those that later ones override, so that pending changes never exceed
+// the size of the save.
 export function joined(earlier: readonly Change[], later: readonly Change[]): Change[] {
   let all = [...earlier];
   for (const change of later) {
@@ -81,7 +80,7 @@ export class Pieces {
     }
   }
 
-  // What makes an empty or damaged storage hold exactly these pieces.
+  // The changes that make any storage hold exactly these pieces.
   rewriting(): Change[] {
     const nothing = { key: "", shape: 0, piece: 0, bytes: new Uint8Array() };
     const puts = this.all().map((stored) => ({ kind: "put", stored }) as const);

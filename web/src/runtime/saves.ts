@@ -1,12 +1,12 @@
-// Taking the whole save out as a file, and bringing one in. Both work on a game of their own that never plays,
-// so that they are there when the career in play does not start, and a bad file can do no harm.
+// Export and import of the whole save. Both use a separate game instance, so that they work when the current
+// career does not start, and a bad file does no harm.
 
 import type { Page } from "../view_types";
 import { Game, GameStopped } from "./game";
 import { type Change, joined } from "./pieces";
 import type { Storage } from "./storage";
 
-const largestFile = 256 * 1024 * 1024; // bytes; a career of a hundred years takes a tenth of it
+const largestFile = 256 * 1024 * 1024; // bytes; a career of a hundred years needs a tenth of this
 
 export async function downloadSave(module: WebAssembly.Module, storage: Storage): Promise<void> {
   const game = await Game.open(module, { commit: () => undefined }, storage.all());
@@ -15,29 +15,29 @@ export async function downloadSave(module: WebAssembly.Module, storage: Storage)
   link.href = URL.createObjectURL(file);
   link.download = `top-billing-${new Date().toISOString().slice(0, 10)}.plist`;
   link.click();
-  // The download has begun, but a phone may still be asking where to put it.
+  // A phone can still be asking where to save the file.
   setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
 }
 
-// What a player knows a career by.
+// Identifies a career to the player.
 export interface Career {
   readonly name: string;
-  readonly date: string; // as the hub shows it; empty before the career has begun
+  readonly date: string; // as on the hub; empty before the career starts
 }
 
-// A save that was read and started once, and that nothing has been replaced by yet.
+// A save that was read and started for validation, but not stored yet.
 export interface ReadSave {
   readonly changes: readonly Change[];
   readonly career: Career;
 }
 
-// A page without tabs is the form of a career that has not begun.
+// A page without tabs is the new-career form.
 function careerOn(page: Page): Career {
   if (page.tabs.length === 0) return { name: "a career that has not begun", date: "" };
   return { name: page.title, date: page.subtitle.replaceAll("\n", " ") };
 }
 
-// The career that is stored here now; nothing when it can't be opened.
+// The stored career; undefined when it can't be opened.
 export async function storedCareer(
   module: WebAssembly.Module,
   texts: Uint8Array,
@@ -46,7 +46,7 @@ export async function storedCareer(
 ): Promise<Career | undefined> {
   try {
     const game = await Game.open(module, { commit: () => undefined }, storage.all());
-    game.handInTexts(texts);
+    game.setTexts(texts);
     game.start(locale);
     return careerOn(game.page());
   } catch {
@@ -54,7 +54,7 @@ export async function storedCareer(
   }
 }
 
-// What the file holds, or why it can't be brought in: a sentence for the player.
+// The save in the file, or a message why it can't be imported.
 export async function readSave(
   module: WebAssembly.Module,
   texts: Uint8Array,
@@ -70,7 +70,7 @@ export async function readSave(
     const game = await Game.open(module, { commit: keep }, []);
     const refusal = game.importStore(new Uint8Array(await file.arrayBuffer()));
     if (refusal !== "") return refusal;
-    game.handInTexts(texts);
+    game.setTexts(texts);
     game.start(locale);
     return { changes, career: careerOn(game.page()) };
   } catch (error) {

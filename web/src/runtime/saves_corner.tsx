@@ -1,4 +1,4 @@
-// The way to the saves: taking the career out as a file, and bringing one in.
+// The controls for export and import of a career.
 
 import { type JSX } from "preact";
 import { useRef, useState } from "preact/hooks";
@@ -9,7 +9,7 @@ import type { Shell } from "./shell";
 
 const named = ({ name, date }: Career): string => (date === "" ? name : `${name}, ${date}`);
 
-// Both careers by name, so that none is replaced by mistake.
+// The question names both careers.
 interface Question {
   readonly save: ReadSave;
   readonly inPlay: Career | undefined;

@@ -1,5 +1,5 @@
-// Keeps a game running in the page: loads it, saves what it writes, starts it anew when it stopped, and steps
-// aside for another tab. What the player sees of that is `state`; shell_view.tsx draws it.
+// Runs the game in the page: loads it, saves its changes, restarts it after a trap, and yields to another
+// tab. shell_view.tsx draws its `state`.
 
 import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
@@ -19,14 +19,14 @@ export type Showing =
   | { readonly kind: "loading" }
   | { readonly kind: "elsewhere" } // the game is open in another tab
   | { readonly kind: "playing"; readonly page: Page }
-  | { readonly kind: "stopped" } // the game stopped in the middle of something
-  | { readonly kind: "unavailable" }; // its program or its texts did not load
+  | { readonly kind: "stopped" } // the game trapped
+  | { readonly kind: "unavailable" }; // the program or the texts could not be loaded
 
 export interface ShellState {
   readonly showing: Showing;
-  readonly refusal: Refusal | undefined; // nothing is saved here, and why
-  readonly failing: string | undefined; // the last save did not get through, and why
-  readonly textsMissing: boolean; // a press needs the texts, which could not be fetched
+  readonly refusal: Refusal | undefined; // why nothing can be saved here
+  readonly failing: string | undefined; // why the last save failed
+  readonly textsMissing: boolean; // a press is waiting for the texts, which could not be fetched
   readonly updateReady: boolean;
   readonly installOffered: boolean;
 }
@@ -44,8 +44,8 @@ export class Shell {
 
   private storage: Promise<Storage> | undefined;
   private game: Game | undefined;
-  private runs = 0; // a run that was overtaken by a later one, or by another tab, leaves without a word
-  private waitingPress: number | undefined; // for the texts
+  private runs = 0; // number of the current run; an older run ends silently
+  private waitingPress: number | undefined; // handle of a press that waits for the texts
   private askedToKeep = false;
   private fetchesRest = false;
   private readonly locale = localeMessage(navigator.language || "en-US");
@@ -77,20 +77,20 @@ export class Shell {
   }
 
   async start(): Promise<void> {
-    // The program is loaded even while another tab plays: this page's own version of it may be gone from the
-    // server by the time that tab is closed.
+    // The program is loaded even while another tab plays, because this version may be gone from the server
+    // later.
     program.get().catch(() => undefined);
     await this.lock.acquire();
   }
 
-  // After a stop, or when a part of the game did not load.
+  // Restarts after a trap or a failed load.
   startAgain(): void {
     void this.run();
   }
 
-  // After a press that needs the texts, which did not load. The art did not either, then.
+  // Fetches the texts, and the art, again for a waiting press.
   fetchTextsAgain(): void {
-    this.handInTexts()
+    this.setTexts()
       .then(loadArt)
       .catch(() => this.change({ textsMissing: !this.game?.textsAreIn }));
   }
@@ -116,14 +116,13 @@ export class Shell {
     return storedCareer(await program.get(), await texts.get(), this.locale, await this.openStorage());
   }
 
-  // Puts the save in the place of the one in play, and plays it. Rejects when it can't be stored; everything is
-  // then as it was.
+  // Replaces the current save and starts it. Rejects without changes when it can't be stored.
   async bringIn(save: ReadSave): Promise<void> {
     await (await this.openStorage()).replace(save.changes);
     await this.run();
   }
 
-  // Starts the game from what was saved.
+  // Starts the game from the saved data.
   private async run(): Promise<void> {
     this.runs += 1;
     const thisRun = this.runs;
@@ -138,7 +137,7 @@ export class Shell {
       this.change({ refusal: storage.refusal });
       const game = await Game.open(module, { commit: (changes) => storage.save(changes) }, storage.all());
       if (thisRun !== this.runs) return;
-      if (rows) game.handInTexts(rows);
+      if (rows) game.setTexts(rows);
       game.start(this.locale);
       this.game = game;
       this.show({ kind: "playing", page: game.page() });
@@ -149,21 +148,21 @@ export class Shell {
     }
   }
 
-  // A button that is pressed before the texts are there is answered when they are.
+  // A press before the texts are loaded is delayed until they are.
   private press(handle: number): void {
     if (!this.game || this.game.textsAreIn || isChoice(this.current.showing, handle)) {
       this.act((game) => game.press(handle));
     } else if (this.waitingPress === undefined) {
       this.waitingPress = handle;
-      this.handInTexts().catch(() => {
+      this.setTexts().catch(() => {
         this.waitingPress = undefined;
         this.change({ textsMissing: true });
       });
     }
   }
 
-  // Rejects when the texts could not be fetched.
-  private async handInTexts(): Promise<void> {
+  // Loads the texts into the game. Rejects when they could not be fetched.
+  private async setTexts(): Promise<void> {
     const { runs } = this;
     const rows = await texts.get();
     this.change({ textsMissing: false });
@@ -171,17 +170,17 @@ export class Shell {
     const handle = this.waitingPress;
     this.waitingPress = undefined;
     this.act((game) => {
-      game.handInTexts(rows);
+      game.setTexts(rows);
       if (handle !== undefined) game.press(handle);
     });
   }
 
-  // What the first page goes without: it is fetched once that is painted, and then all is kept for offline.
+  // Fetches the parts that the first page does not need, then prepares offline play.
   private async fetchRest(): Promise<void> {
     if (this.fetchesRest) return;
     this.fetchesRest = true;
     await new Promise((painted) => requestAnimationFrame(() => setTimeout(painted)));
-    await Promise.allSettled([this.handInTexts(), loadArt()]);
+    await Promise.allSettled([this.setTexts(), loadArt()]);
     await this.updates.start();
   }
 
@@ -212,7 +211,7 @@ export class Shell {
     this.runs += 1;
     this.game = undefined;
     const storage = await this.storage;
-    this.storage = undefined; // the other tab's writes make this one's copy old
+    this.storage = undefined; // outdated by the other tab's writes
     await storage?.settled();
     storage?.close();
   }
@@ -242,7 +241,7 @@ export class Shell {
   }
 }
 
-// Options are chosen on the form of a new career too, where nothing of the texts is shown.
+// Whether the handle is an option of a choice, which works without texts on the new-career form.
 function isChoice(showing: Showing, handle: number): boolean {
   if (showing.kind !== "playing") return false;
   return showing.page.nodes.some(

@@ -1,4 +1,4 @@
-// What the player sees of the shell: the game's page with its notices, or why there is none.
+// Draws the shell's state: the game's page with notices, or why there is none.
 
 import { type JSX } from "preact";
 import { useEffect, useState } from "preact/hooks";
@@ -65,7 +65,7 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
   }
 }
 
-// A page of the shell's own, in the same house as the game's.
+// A page of the shell itself.
 function Standing({ title, corner, children }: {
   title: string;
   corner?: JSX.Element;
@@ -98,13 +98,12 @@ const refusals: Record<Refusal, string> = {
     "page again may help.",
 };
 
-// The new version starts at the hub, so it is offered there and not on a screen over it. Without a save it would
-// end the career.
+// The update restarts the game at the hub, so it is offered on the hub only, and only if the career is saved.
 function mayUpdate({ showing, updateReady, refusal }: ShellState): boolean {
   return updateReady && !refusal && showing.kind === "playing" && showing.page.close.length === 0;
 }
 
-// Not on the form of a new career: first there has to be something to come back to.
+// Not on the new-career form.
 function mayInstall({ showing, installOffered }: ShellState): boolean {
   return installOffered && showing.kind === "playing" && showing.page.close.length === 0 && showing.page.tabs.length > 0;
 }

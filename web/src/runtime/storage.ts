@@ -1,13 +1,11 @@
-// Where the save lives: in this browser's IndexedDB, or in memory alone where the browser refuses.
+// Stores the save in IndexedDB, or only in memory if the browser refuses.
 //
-// All that one action of the player wrote goes into one transaction, which is opened and committed in the
-// same turn of the event loop: a page that is closed or killed right after loses nothing, and never keeps
-// half an action. The browser's default durability is right here: it survives the end of the browser, and a phone
-// that loses its power in the next moments goes back by an action or two, whole.
+// The changes of an action go into one transaction, which is opened and committed in the same turn of the
+// event loop, so closing the page right after loses nothing and never saves half an action. With the default
+// durability a power failure can lose the last action or two, but never a part of one.
 //
-// The browser says only later whether a transaction was kept. Until then its changes wait, and the next
-// action's transaction carries them once more: whichever is refused, what is stored is always the state after
-// some action.
+// The result of a transaction comes later. Until then its changes stay pending and are repeated in the next
+// transaction, so the stored state is always the state after some action.
 
 import { type DBSchema, type IDBPDatabase, openDB } from "idb";
 
@@ -15,25 +13,25 @@ import { type Change, joined, type Piece, Pieces } from "./pieces";
 
 interface Schema extends DBSchema {
   pieces: { key: [string, number]; value: Piece };
-  // Values that the game could not understand, as they were. Nothing reads them; they are there to be rescued.
+  // Unreadable values, for manual recovery. The game does not read them.
   aside: { key: [string, number, Uint8Array<ArrayBuffer>]; value: Piece };
 }
 
 const databaseName = "top-billing";
 const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
-const openingPatience = 5000; // milliseconds; some browsers neither open a database nor refuse it
+const openingPatience = 5000; // milliseconds; some browsers never report a result
 
-// Why nothing is saved here; each is told to the player in her own words.
+// Why nothing can be saved here.
 export type Refusal = "refused" | "unreadable";
 
 export interface StorageWatcher {
-  failed(why: string): void; // a save did not get through; told once until one does
+  failed(why: string): void; // a save failed; called once until a save succeeds
   recovered(): void;
 }
 
 export class Storage {
   private waiting: Change[] = [];
-  private latest = 0; // the number of the last transaction that was opened
+  private latest = 0; // number of the last opened transaction
   private failing = false;
   private writes: Promise<unknown> = Promise.resolve();
 
@@ -44,7 +42,7 @@ export class Storage {
     private readonly watcher: StorageWatcher,
   ) {}
 
-  // Always gives a storage; one with a refusal keeps everything in memory.
+  // Always resolves to a storage; with a refusal it is in memory only.
   static async open(watcher: StorageWatcher): Promise<Storage> {
     let storage: Storage | undefined;
     let database: IDBPDatabase<Schema>;
@@ -73,7 +71,7 @@ export class Storage {
     this.write();
   }
 
-  // Replaces the whole save, or rejects and leaves everything as it was.
+  // Replaces the whole save, or rejects without changes.
   async replace(changes: readonly Change[]): Promise<void> {
     const replaced = new Pieces();
     replaced.change(changes);
@@ -83,13 +81,12 @@ export class Storage {
     this.waiting = [];
   }
 
-  // When all that was handed over so far is kept or refused.
+  // Resolves when all pending transactions have a result.
   async settled(): Promise<void> {
     await this.writes;
   }
 
-  // Asks the browser not to throw the save away when it needs room. Some ask the player, so it should follow
-  // something that she did.
+  // Requests persistent storage. Some browsers ask the player, so call it after an action of the player.
   askToKeep(): void {
     if (!this.refusal) navigator.storage?.persist?.().catch(() => undefined);
   }
@@ -105,7 +102,7 @@ export class Storage {
     const upTo = this.latest;
     this.writes = (this.database ? this.transaction(this.waiting) : this.reopen()).then(
       () => {
-        // What came after this transaction waits for the one that carries it.
+        // Later changes stay pending.
         if (upTo === this.latest) this.waiting = [];
         if (this.failing) this.watcher.recovered();
         this.failing = false;
@@ -130,7 +127,7 @@ export class Storage {
         if (kind === "dropAll") return pieces.clear();
         return aside.put(stored);
       });
-      // A request that fails ends the transaction, and that is where its failure is heard.
+      // A failed request aborts the transaction, which reports the error.
       for (const request of requests) request.catch(() => undefined);
       transaction.commit();
     } catch (error) {
@@ -146,8 +143,8 @@ export class Storage {
     this.write();
   }
 
-  // The browser closed the database by itself, and may have thrown its content away: the new one is given the
-  // whole save. It may also need a moment before it opens one again.
+  // The browser closed the database and may have deleted it, so the whole save is written to the new one.
+  // Opening can fail at first and is retried.
   private async reopen(): Promise<void> {
     for (const pause of pausesBeforeReopening) {
       await new Promise((over) => setTimeout(over, pause));
@@ -156,7 +153,7 @@ export class Storage {
         await this.transaction(this.pieces.rewriting());
         return;
       } catch {
-        // The next try, or the error below, which is what the player is told.
+        // Tries again, or reports the error below.
       }
     }
     throw closed();

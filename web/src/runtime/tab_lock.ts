@@ -1,16 +1,15 @@
-// One tab plays at a time: two would save over each other. The one that plays holds a Web Lock; another waits
-// for it, and may ask for it. A browser without Web Locks (a page that is neither https nor localhost) has to
-// do without.
+// Allows one playing tab at a time, because two would overwrite each other's saves. The playing tab holds a
+// Web Lock; others wait for it or request it. Without Web Locks (not https or localhost) there is no check.
 
 const lockName = "top-billing";
 const channelName = "top-billing";
 const handOver = "hand over";
-const patience = 2000; // milliseconds; a tab that the browser has put to sleep never answers
+const patience = 2000; // milliseconds; a frozen tab does not respond
 
 export interface TabLockWatcher {
-  elsewhere(): void; // another tab plays; `granted` follows when that ends
+  elsewhere(): void; // another tab is playing; `granted` is called when that ends
   granted(): void;
-  lost(): Promise<void>; // another tab wants to play: stop, and resolve when nothing is left to be saved
+  lost(): Promise<void>; // another tab takes over: stop, and resolve when everything is saved
 }
 
 export class TabLock {
@@ -32,7 +31,7 @@ export class TabLock {
     if (!(await this.hold({ ifAvailable: true }))) this.wait();
   }
 
-  // Asks the tab that plays to stop. It hands the lock on by itself, or loses it.
+  // Asks the playing tab to stop. It releases the lock, or loses it after a timeout.
   takeOver(): void {
     this.channel.postMessage(handOver);
     setTimeout(() => {
@@ -48,7 +47,7 @@ export class TabLock {
     void this.hold({ signal: this.waiting.signal });
   }
 
-  // Resolves when the browser has answered, to whether the lock is held. The lock is held until `release`.
+  // Requests the lock and resolves to whether it is held. It is held until `release`.
   private hold(options: LockOptions): Promise<boolean> {
     return new Promise((answered) => {
       let granted = false;
@@ -62,7 +61,7 @@ export class TabLock {
         this.watcher.granted();
         return ended;
       });
-      // Rejects when the wait was given up, or when another tab stole the lock from a tab that was asleep.
+      // Rejects when the request was aborted or another tab stole the lock.
       held.catch(() => {
         if (granted) this.lose();
       });

@@ -1,5 +1,4 @@
-// Lets the player's time go by for the game while a countdown is on show and the page is looked at: a phone
-// that is put away takes nobody's turn.
+// Sends ticks to the game while a countdown is shown and the page is visible.
 
 import type { Node, Page } from "../view_types";
 
@@ -15,7 +14,7 @@ export class Ticker {
     });
   }
 
-  // The page that is on show now; none while nothing is played.
+  // Sets the current page; undefined while no game is running.
   watch(page: Page | undefined): void {
     const runs = page !== undefined && page.dialog.length === 0 && page.nodes.some(holdsCountdown);
     if (runs === (this.timer !== undefined)) return;

@@ -1,9 +1,8 @@
-// Play without a network, and new versions. The service worker keeps a complete copy of the version in use. A
-// new one is fetched beside it and waits: the player is told, and it comes in when she says so, or when the
-// game is opened the next time.
+// Offline play and updates. The service worker caches the current version completely. A new version is
+// fetched in the background and waits until the player accepts it or opens the game again.
 
-const takeOver = "take over"; // the word that the service worker waits for
-const betweenChecks = 60 * 60 * 1000; // milliseconds; for a game that stays open for days
+const takeOver = "take over"; // message to the service worker
+const betweenChecks = 60 * 60 * 1000; // milliseconds; for pages that stay open for days
 
 export class Updates {
   private waiting: ServiceWorker | undefined;
@@ -17,24 +16,24 @@ export class Updates {
     try {
       registration = await navigator.serviceWorker.register("service-worker.js", { updateViaCache: "none" });
     } catch {
-      return; // the game plays all the same, with a network
+      return; // the game works online only
     }
     if (registration.waiting) this.ready(registration.waiting);
     registration.addEventListener("updatefound", () => {
       const found = registration.installing;
       found?.addEventListener("statechange", () => {
-        // Without a controller this is the first version, which has nothing to take the place of.
+        // Without a controller this is the first installation, not an update.
         if (found.state === "installed" && navigator.serviceWorker.controller) this.ready(found);
       });
     });
     document.addEventListener("visibilitychange", () => {
       if (document.hidden || Date.now() - this.lastCheck < betweenChecks) return;
       this.lastCheck = Date.now();
-      registration.update().catch(() => undefined); // no network: the next time, then
+      registration.update().catch(() => undefined); // no network; tried again later
     });
   }
 
-  // Brings the new version in and loads the page again.
+  // Activates the new version and reloads the page.
   takeOver(): void {
     navigator.serviceWorker.addEventListener("controllerchange", () => location.reload(), { once: true });
     this.waiting?.postMessage(takeOver);

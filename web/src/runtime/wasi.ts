@@ -1,15 +1,15 @@
-// What the game's C library wants of the system around it: two streams to write to, a clock, random bytes,
-// and nothing else. There are no files, no arguments and no environment.
+// The WASI functions that the game's C library needs: output, clock and random bytes. There are no files,
+// arguments or environment variables.
 
 const done = 0;
 const badFile = 8;
 const badArgument = 28;
 
-const randomAtOnce = 65536; // the most that one request to the browser gives
+const randomAtOnce = 65536; // bytes; the browser's limit per request
 
 export interface WasiHost {
   memory(): WebAssembly.Memory;
-  line(text: string): void; // one line that the game wrote to its output or its error stream
+  line(text: string): void; // receives a line of standard output or standard error
 }
 
 export function wasiImports(host: WasiHost): WebAssembly.ModuleImports {
@@ -41,7 +41,7 @@ export function wasiImports(host: WasiHost): WebAssembly.ModuleImports {
       if (file > 2) return badFile;
       const view = memory();
       for (let offset = 0; offset < 24; offset += 8) view.setBigUint64(at + offset, 0n, true);
-      view.setUint8(at, 2); // a terminal: the C library then hands each line over as it ends
+      view.setUint8(at, 2); // character device, for line buffering in the C library
       return done;
     },
     environ_sizes_get(countAt: number, sizeAt: number): number {

@@ -1,4 +1,4 @@
-// Scenes of dramas, romances and family films: people and what lies between them.
+// Scenes of dramas, romances and family films.
 
 import { circle, ellipse, group, many, mix, n, path, rect, stroke } from "../svg";
 import { at, birds, cloud, couple, fill, firs, heart, hills, moon, person, poses, rain, rays, round, shadow, sky } from "./stage";
@@ -42,7 +42,7 @@ const window: Scene = ({ p, chance, y }) => {
 
 const face = "M0 150V92C-22 78-34 48-32 18C-30-26 6-54 46-50C84-46 96-16 92 6L110 34Q113 42 103 45L97 47L101 57L94 63L97 73Q95 86 78 86L62 88V150Z";
 
-// Two in profile who look past each other.
+// Two profiles that look past each other.
 const profiles: Scene = ({ p, chance, y }) => {
   const art =
     fill(p.light) +
@@ -118,7 +118,7 @@ const umbrella: Scene = ({ p, chance, y }) => {
   return { art, sky: p.night, ground: mix(p.night, p.deep, 0.5) };
 };
 
-// A face close by, and a tear.
+// A close-up of a face with a tear.
 const tear: Scene = ({ p, chance, y }) => {
   const side = chance.likely(0.5) ? 1 : -1;
   const skin = mix(p.pop, p.light, 0.35);
@@ -138,7 +138,7 @@ const tear: Scene = ({ p, chance, y }) => {
   return { art: fill(p.deep) + art + path(`M0 ${y + 92}Q100 ${y + 130} 200 ${y + 92}V300H0Z`, p.deep), sky: p.night, ground: p.deep };
 };
 
-// Someone alone in a wide field.
+// A person alone in a wide field.
 const field: Scene = ({ p, chance, y }) => {
   const line = y + 30;
   const x = chance.between(70, 130);

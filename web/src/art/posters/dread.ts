@@ -1,4 +1,4 @@
-// Scenes of thrillers, horror films, crime stories and mysteries: what waits in the dark.
+// Scenes of thrillers, horror films, crime stories and mysteries.
 
 import { circle, ellipse, group, many, mix, n, path, rect, stroke } from "../svg";
 import { at, burst, fill, firs, hills, moon, peaks, person, poses, rain, round, shadow, sky, skyline, stars } from "./stage";
@@ -372,7 +372,7 @@ const doors: Scene = ({ p, chance, y }) => {
   return { art, sky: p.deep, ground: p.night };
 };
 
-// A road that asks a question, and one who walks on it.
+// A road in the shape of a question mark, with a walker.
 const question: Scene = ({ p, chance, y }) => {
   const art =
     sky(p.deep, mix(p.deep, p.night, 0.6)) +

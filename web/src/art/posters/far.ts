@@ -1,4 +1,4 @@
-// Scenes of far places and times: action, adventure, war, history and the West.
+// Scenes of action, adventure, war, history and Western films.
 
 import { circle, ellipse, group, many, mix, n, path, polygon, rect, stroke } from "../svg";
 import { at, birds, burst, cloud, fill, firs, hills, peaks, person, poses, rays, round, sea, shadow, sky, skyline, stars } from "./stage";

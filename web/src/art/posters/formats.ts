@@ -1,4 +1,4 @@
-// How a poster is laid out, by what it is made for: the scene, the title, the name that is billed, small print.
+// Poster layouts by format: scene, title, billed name, small print.
 
 import { hands, lettering } from "../lettering";
 import type { Box, Hand, Setting } from "../lettering";
@@ -18,7 +18,7 @@ export interface Job {
   readonly chance: Chance;
 }
 
-// What makes two posters of one genre differ, in the order in which it strikes the eye.
+// The differences between posters of a genre, most visible first.
 export interface Look {
   readonly scene: number;
   readonly palette: number;
@@ -32,7 +32,7 @@ export interface Sheet {
   readonly look: Look;
 }
 
-// The part of light that a colour gives back, 0 to 1.
+// The relative luminance of a color, 0 to 1.
 function brightness(colour: string): number {
   const part = (from: number): number => {
     const value = Number.parseInt(colour.slice(from, from + 2), 16) / 255;
@@ -46,7 +46,7 @@ export function contrast(one: string, other: string): number {
   return (bright! + 0.05) / (dark! + 0.05);
 }
 
-// The colour that reads on the ground: the striking one where it does, else the lightest or the darkest.
+// A readable color on the background: the accent if readable, else the lightest or darkest.
 export function inkOn(ground: string, p: Palette, striking: boolean): string {
   if (striking && contrast(p.pop, ground) >= 4.5) return p.pop;
   const best = contrast(p.light, ground) >= contrast(p.night, ground) ? p.light : p.night;
@@ -54,7 +54,7 @@ export function inkOn(ground: string, p: Palette, striking: boolean): string {
   return contrast("#000000", ground) > contrast("#ffffff", ground) ? "#000000" : "#ffffff";
 }
 
-// A scene on a sheet of its own, cut off at its edges.
+// A scene clipped to its box.
 const cut = (box: Box, view: Box, content: string, mirrored = false): string =>
   element(
     "svg",
@@ -73,7 +73,7 @@ const letters = (text: string, box: Box, hand: Hand, ink: string, ground: string
 
 const small = hands.plain;
 
-// The colour of the ground grows under the words from `from` to `to`, so that they read over any scene.
+// A gradient from `from` to `to` under the text, so that it is readable over any scene.
 const under = (colour: string, from: number, to: number): string =>
   element(
     "linearGradient",
@@ -84,7 +84,7 @@ const under = (colour: string, from: number, to: number): string =>
 const billing = (name: string, y: number, ink: string, ground: string): string =>
   letters(name, { x: 24, y, width: 152, height: 10 }, small, ink, ground);
 
-// The lines of small print, too small to be read, as on any poster.
+// Lines of illegible small print.
 function smallPrint(chance: Chance, y: number, ink: string): string {
   let ways = "";
   for (let line = 0; line < 2; ++line) {
@@ -141,7 +141,7 @@ export function feature(job: Job): Sheet {
     return { look, art: turned(art) + under(sky, 100, 72) + words + smallPrint(chance, 286, inkOn(ground, p, false)) };
   }
   if (look.layout === 2) {
-    // A panel of one colour under the scene.
+    // A single-color panel below the scene.
     const panel = chance.pick([p.pop, p.light, p.night]);
     const { art, sky } = drawn(108);
     const view = { x: 0, y: 0, width: 200, height: 208 };
@@ -150,7 +150,7 @@ export function feature(job: Job): Sheet {
       letters(title, { x: 14, y: 216, width: 172, height: 62 }, hand, inkOn(panel, p, false), panel, { fromLeft });
     return { look, art: fill(panel) + cut(view, view, art, look.mirrored) + words + smallPrint(chance, 285, inkOn(panel, p, false)) };
   }
-  // A frame of paper around it.
+  // A paper frame.
   const paper = chance.likely(0.6) ? p.light : p.night;
   const ink = inkOn(paper, p, striking);
   const { art } = drawn(110);
@@ -160,7 +160,7 @@ export function feature(job: Job): Sheet {
   return { look, art: fill(paper) + cut({ x: 11, y: 11, width: 178, height: 200 }, { x: 0, y: 0, width: 200, height: 224 }, art, look.mirrored) + words };
 }
 
-// A still with the broadcaster's bar under it.
+// A still above the network's bar.
 export function series(job: Job): Sheet {
   const { p, hand, look, drawn } = choose(job, 2);
   const { chance, title, billed, season } = job;
@@ -180,19 +180,19 @@ export function series(job: Job): Sheet {
   return { look, art: (look.mirrored ? flipped(art) : art) + (look.layout === 0 ? under(ground, 172, 212) : under(sky, 100, 72)) + rect(0, 0, 6, 270, bar) + strip + words };
 }
 
-// The product in the light, its brand over it, the slogan under it.
+// A lit product between its brand and its slogan.
 export function commercial(job: Job): Sheet {
   const { chance, title, billed } = job;
   const { p, look } = choose(job, 4);
   const product = productOf(title, chance);
-  // "Brand: Slogan"; a name alone stands half above, half below.
+  // "Brand: Slogan"; a name without a colon is split in half.
   const words = title.split(" ");
   const half = Math.ceil(words.length / 2);
   const [brand = "", slogan = ""] = title.includes(":") ? title.split(/:\s*/u) : [words.slice(0, half).join(" "), words.slice(half).join(" ")];
   const back = [p.pop, p.light, p.mid, p.deep][look.layout]!;
   const glow = mix(back, "#ffffff", brightness(back) > 0.5 ? 0.45 : 0.2);
   const foot = 206;
-  // What is shown keeps off the colour behind it.
+  // The product avoids the background color.
   const shown = { ...p, mid: back === p.mid || look.layout === 0 ? p.deep : p.mid, light: back === p.light ? mix(p.pop, "#ffffff", 0.35) : p.light };
   const stage =
     fill(back) +
@@ -215,7 +215,7 @@ const laurel = (x: number, y: number, side: number, ink: string): string =>
     transform: `translate(${x} ${y})scale(${side} 1)`,
   });
 
-// A picture taped to paper, and a pen.
+// A picture taped to paper, with handwriting.
 export function student(job: Job): Sheet {
   const { p, look, drawn } = choose(job, 3);
   const { chance, title, billed } = job;
@@ -237,7 +237,7 @@ export function student(job: Job): Sheet {
   return { look, art: fill(paper) + ruled + photo + tape(40, top + 2, -38 + turn) + tape(162, top, 34 + turn) + words };
 }
 
-// A small window in much paper, as festivals have it.
+// A small picture with wide margins.
 export function shortFilm(job: Job): Sheet {
   const { p, look, drawn } = choose(job, 3);
   const { chance, title, billed } = job;

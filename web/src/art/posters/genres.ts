@@ -1,4 +1,4 @@
-// What tells the genres apart: their scenes, their colours and their letters.
+// Scenes, colors and lettering of each genre.
 
 import { hands } from "../lettering";
 import type { Hand } from "../lettering";
@@ -14,12 +14,11 @@ export interface Genre {
   readonly scenes: readonly Scene[];
   readonly palettes: readonly Palette[];
   readonly hands: readonly Hand[];
-  // Where chance starts. It is set so that no two titles of the catalogue look alike; a test says when it has to
-  // be another.
+  // The seed, chosen so that no two titles of the catalogue look alike; a test says when it needs changing.
   readonly salt: number;
 }
 
-// Each palette from the darkest to the lightest colour, written without "#".
+// Palettes from dark to light, without "#".
 function genre(
   salt: number, scenes: readonly Scene[], theHands: readonly Hand[], ...colours: readonly string[]
 ): Genre {
@@ -32,7 +31,7 @@ function genre(
 
 const { slim, plain, heavy, tall, round, inline, racing, wide, roman, book, slab, italic, merry, claw, poster } = hands;
 
-// By the words of the catalogue.
+// By the catalogue's genre names.
 export const genres: Readonly<Record<string, Genre>> = {
   Action: genre(4, action, [racing, poster, heavy],
     "14121a 3a1a22 d6431f ff9d1e fff0c2", "0b1b24 12404f e5482b ffb02e fdf1d6", "1a1410 51220f e2571a ffc83d fff4d0", "10131f 27305c d13a3f ff8a3d ffe9c9", "18181b 3d3d42 c8321f ffb400 f6efe2"),

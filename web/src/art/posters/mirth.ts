@@ -1,4 +1,4 @@
-// Scenes of comedies, and of films with music or sport in them.
+// Scenes of comedies, music and sports films.
 
 import { circle, ellipse, group, many, mix, n, path, rect, stroke } from "../svg";
 import { at, burst, fill, person, poses, rays, round, sky, stars } from "./stage";

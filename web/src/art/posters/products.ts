@@ -1,4 +1,4 @@
-// What commercials sell: each around 0, 0, some 110 across, its foot at 60.
+// Products in commercials: centered at 0, 0, about 110 wide, bottom at y = 60.
 
 import type { Palette } from "../palettes";
 import { kindIn } from "../names";
@@ -80,7 +80,7 @@ const named: Readonly<Record<Kind, RegExp>> = {
   bottle: /water|sauce|shampoo/iu,
 };
 
-// What the title speaks of, or any of them: its number.
+// The index of the product named in the title, or a random one.
 export function productOf(title: string, chance: Chance): number {
   const kinds = Object.keys(products) as Kind[];
   return kinds.indexOf(kindIn(title, named) ?? chance.pick(kinds));

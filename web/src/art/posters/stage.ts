@@ -1,4 +1,4 @@
-// What the scenes of posters are made of: backdrops over the whole sheet of 200 by 300, and people.
+// Parts of poster scenes: backdrops for the sheet of 200 by 300, and people.
 
 import type { Palette } from "../palettes";
 import type { Chance } from "../random";
@@ -6,7 +6,7 @@ import {
   circle, ellipse, fall, group, mix, n, path, polygon, rect, stroke,
 } from "../svg";
 
-// `y` is the middle of what is looked at: it leaves room for the title above or below.
+// `y` is the vertical center of the subject, which leaves room for the title above or below.
 export interface Stage {
   readonly p: Palette;
   readonly chance: Chance;
@@ -15,8 +15,8 @@ export interface Stage {
 
 export interface Drawn {
   readonly art: string;
-  readonly sky: string; // the colour behind a title at the top
-  readonly ground: string; // and behind one at the foot
+  readonly sky: string; // the color behind a title at the top
+  readonly ground: string; // the color behind a title at the bottom
 }
 
 export type Scene = (stage: Stage) => Drawn;
@@ -28,7 +28,7 @@ export function sky(...colours: readonly string[]): string {
   return shade.defs + fill(shade.paint);
 }
 
-// Content drawn around 0, 0, put down in the sheet.
+// Places content that is centered at 0, 0.
 export const at = (x: number, y: number, content: string, scale = 1, turn = 0): string =>
   group(content, {
     transform: `translate(${n(x)} ${n(y)})${turn === 0 ? "" : `rotate(${n(turn)})`}${scale === 1 ? "" : `scale(${n(scale)})`}`,
@@ -36,7 +36,7 @@ export const at = (x: number, y: number, content: string, scale = 1, turn = 0): 
 
 export const round = { "stroke-linecap": "round", "stroke-linejoin": "round" } as const;
 
-// Beams from a point to all sides.
+// Beams in all directions from a point.
 export function rays(x: number, y: number, count: number, colour: string, share = 0.5, length = 320): string {
   return path(
     Array.from({ length: count }, (_, index) => {
@@ -52,7 +52,7 @@ export function rays(x: number, y: number, count: number, colour: string, share 
   );
 }
 
-// A star of many points, such as a blast or a seal.
+// A star with many points, such as an explosion or a seal.
 export function burst(x: number, y: number, points: number, outer: number, inner: number, colour: string): string {
   return path(
     polygon(
@@ -66,14 +66,14 @@ export function burst(x: number, y: number, points: number, outer: number, inner
   );
 }
 
-// Rolling land from edge to edge, down to the foot.
+// Hills across the sheet, down to the bottom.
 export function hills(chance: Chance, y: number, height: number, colour: string): string {
   const a = chance.between(-height, height);
   const b = chance.between(-height, height);
   return path(`M0 ${n(y + b)}C40 ${n(y - a)} 70 ${n(y - height)} 110 ${n(y + a / 2)}S170 ${n(y + b)} 200 ${n(y - b)}V300H0Z`, colour);
 }
 
-// Broken land: mountains, with snow on them where `cap` is given.
+// Mountains, with snow if `cap` is given.
 export function peaks(chance: Chance, y: number, height: number, colour: string, cap = ""): string {
   let way = `M-20 300V${n(y)}`;
   let caps = "";
@@ -89,7 +89,7 @@ export function peaks(chance: Chance, y: number, height: number, colour: string,
   return path(`${way}L220 300Z`, colour) + (cap === "" ? "" : path(caps, cap));
 }
 
-// A row of houses; `lit` windows where it is given.
+// A row of houses, with windows if `lit` is given.
 export function skyline(chance: Chance, foot: number, least: number, most: number, colour: string, lit = ""): string {
   let way = "";
   let windows = "";
@@ -136,7 +136,7 @@ export function sea(y: number, colours: readonly string[]): string {
     .join("");
 }
 
-// Firs, their feet at y.
+// Fir trees with their bottom at y.
 export function firs(chance: Chance, y: number, height: number, colour: string): string {
   let way = "";
   for (let x = -8; x < 210; ) {
@@ -151,11 +151,11 @@ export function firs(chance: Chance, y: number, height: number, colour: string):
 export const birds = (x: number, y: number, colour: string): string =>
   stroke(`M${x} ${y}q4-5 7 0q3-5 7 0M${x + 19} ${y + 9}q3-4 5 0q2-4 5 0M${x + 24} ${y - 9}q3-4 5 0q2-4 5 0`, colour, 1.3);
 
-// Someone as a sign shows them, feet at 0, 0, ten high: limbs as ways of a thick pen.
+// A pictogram of a person, feet at 0, 0, ten high: limbs are thick strokes.
 export interface Pose {
   readonly legs: string;
   readonly arms: string;
-  readonly lean: number; // of the head from the middle
+  readonly lean: number; // horizontal offset of the head
   readonly trunk: string;
 }
 
@@ -195,7 +195,7 @@ const hats: Readonly<Record<string, string>> = {
   tall: "M-1.3-9.6H1.3V-10H.85V-11.9H-.85V-10H-1.3Z",
 };
 
-// Two who hold each other, feet at 0, 0, ten high.
+// An embracing couple, feet at 0, 0, ten high.
 export const couple = (x: number, y: number, height: number, his: string, hers: string): string =>
   at(
     x,
@@ -211,7 +211,7 @@ export const couple = (x: number, y: number, height: number, his: string, hers: 
     height / 10,
   );
 
-// A shadow on the ground, falling towards the eye.
+// A shadow on the ground toward the viewer.
 export const shadow = (x: number, y: number, width: number, length: number, lean: number, colour: string): string =>
   path(`M${n(x - width)} ${n(y)}h${n(width * 2)}L${n(x + lean + width * 2.2)} ${n(y + length)}H${n(x + lean - width * 2.2)}Z`, colour);
 
@@ -221,7 +221,7 @@ export const moon = (x: number, y: number, r: number, colour: string, dark: stri
   circle(x + r * 0.35, y + r * 0.3, r * 0.16, mix(colour, dark, 0.14)) +
   circle(x + r * 0.2, y - r * 0.5, r * 0.1, mix(colour, dark, 0.14));
 
-// A ball of clouds, its flat foot at y.
+// A cloud with its flat bottom at y.
 export const cloud = (x: number, y: number, scale: number, colour: string): string =>
   at(x, y, path("M-26 0Q-36 0-34-9Q-30-17-21-13Q-18-25-6-23Q4-22 7-13Q16-19 22-11Q34-11 32-3Q31 0 26 0Z", colour), scale);
 

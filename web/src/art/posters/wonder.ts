@@ -1,4 +1,4 @@
-// Scenes of what never was: science fiction and fantasy.
+// Scenes of science fiction and fantasy.
 
 import { circle, ellipse, fall, group, many, mix, n, path, rect, stroke } from "../svg";
 import { at, burst, fill, firs, hills, moon, peaks, person, poses, rays, round, sky, skyline, stars } from "./stage";

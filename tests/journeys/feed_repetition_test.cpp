@@ -1,4 +1,4 @@
-// What a career tells over three years: a player who reads every line is not told the same one again soon.
+// The lines of three years rarely repeat soon.
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -23,11 +23,10 @@ namespace {
 constexpr int weeksPlayed = 150;
 constexpr int weeksRemembered = 10;
 constexpr int submissionsAWeek = 3;
-constexpr int weeksToTheLastAnswer = 20;  // to a submission, the audition included
+constexpr int weeksToTheLastAnswer = 20;  // to a submission, including the audition
 
-// A performer with a job who sends out three showreels a week, for titles that were not tried lately,
-// rehearses with the energy that is left, takes a class when there is cash for one, and joins the guild as
-// soon as it opens.
+// A performer with a job who submits three times a week for titles not tried recently, rehearses with the
+// remaining energy, takes affordable classes, and joins the guild as soon as possible.
 class Performer {
  public:
   explicit Performer(std::uint64_t seed) : chance_(seed) {
@@ -40,9 +39,9 @@ class Performer {
         50;
   }
 
-  // Lives a week and says what it told, word for word: the lines of the review, and what is new in the log.
-  // The log's word for a week without anything is not counted.
-  std::vector<std::string> liveWeek() {
+  // Plays a week and returns the lines of the review and the log, without the log's line for a week without
+  // news.
+  std::vector<std::string> playWeek() {
     const std::size_t before = game_.world.activityTracker.size();
     work();
     endWeek(game_);
@@ -51,7 +50,7 @@ class Performer {
     refreshHub(game_, HubRefresh::worldChanged);
     const TextList& log = game_.world.activityTracker;
     for (std::size_t index = 0; index < log.size() - before; ++index) {
-      // What stands in both lists is one line.
+      // Lines in both lists count once.
       if (std::ranges::contains(told, log[index])) continue;
       if (log[index] != "Nothing significant happened this week") told.push_back(log[index]);
     }
@@ -76,9 +75,9 @@ class Performer {
   void work() {
     submit();
     for (const JobOffer& offer : openJobBoard(game_)) static_cast<void>(acceptJob(game_, offer));
-    for (std::size_t index = 0; index < game_.world.saveAllAuditionList.size(); ++index) {
-      const auto boost = boostOf(game_.world, game_.world.saveAllAuditionList[index]);
-      if (boost && boost->kind == BoostKind::rehearse) static_cast<void>(buyBoost(game_, index));
+    for (const Audition& project : game_.world.saveAllAuditionList) {
+      const auto boost = boostOf(game_.world, project);
+      if (boost && boost->kind == BoostKind::rehearse) static_cast<void>(buyBoost(game_, project.filmId));
     }
     static_cast<void>(joinGuild(game_));
     for (const ClassOption& option : openClasses(game_)) {
@@ -107,17 +106,17 @@ class Performer {
   SaveStore store_{port_};
   test::SeededRandom chance_;
   Game game_{.store = store_, .random = chance_};
-  std::map<std::string, std::int64_t> last_tried_;  // title, and the week of the submission
+  std::map<std::string, std::int64_t> last_tried_;  // week of the submission by title
   std::size_t submissions_ = 0;
 };
 
-// How many of the weeks held a line told within the ten weeks before, or twice in one week.
+// The number of weeks with a line that was already shown in the same or the previous ten weeks.
 int weeksThatRepeat(Performer& performer, std::vector<std::string>& repeated) {
   std::map<std::string, int> lastTold;
   int repeating = 0;
   for (int week = 0; week < weeksPlayed; ++week) {
     bool repeats = false;
-    for (const std::string& line : performer.liveWeek()) {
+    for (const std::string& line : performer.playWeek()) {
       const auto last = lastTold.find(line);
       if (last != lastTold.end() && week - last->second <= weeksRemembered) {
         repeats = true;
@@ -130,7 +129,7 @@ int weeksThatRepeat(Performer& performer, std::vector<std::string>& repeated) {
   return repeating;
 }
 
-TEST(ToldLines, FewWeeksRepeatALineOfTheTenBefore) {
+TEST(FeedRepetition, FewWeeksRepeatRecentLines) {
   for (std::uint64_t seed = 1; seed <= 5; ++seed) {
     Performer performer(seed);
     std::vector<std::string> repeated;
