@@ -54,7 +54,7 @@ std::string withoutDigits(std::string text) {
 template <class OnText, class OnUse>
 class Walk {
  public:
-  Walk(OnText on_text, OnUse on_use) : text_(on_text), use_(on_use) {}
+  Walk(OnText onText, OnUse onUse) : text_(onText), use_(onUse) {}
 
   void page(const Page& page) {
     if (!page.dialog.empty()) {
@@ -330,8 +330,8 @@ std::string Player::said() const {
 
 Player::Usable Player::find(const std::string& label, Usable::Kind kind) const {
   for (const Usable& usable : this->usable()) {
-    const bool is_called_so = usable.label == label || usable.name == label;
-    if (is_called_so && usable.kind == kind) return usable;
+    const bool hasThatName = usable.label == label || usable.name == label;
+    if (hasThatName && usable.kind == kind) return usable;
   }
   ADD_FAILURE() << "nothing to use is called " << label << " on " << title();
   return {.label = label, .handle = 0, .kind = kind};

@@ -1,4 +1,4 @@
-// Builds the site and runs the page's tests with node's own runner.
+// Builds the site and runs the page's tests with Node's test runner.
 //
 //   node test.mjs [--wasm <file>] [<part of a test file's name> ...]
 
@@ -29,7 +29,7 @@ if (tests.length === 0) {
 
 run("node", "build.mjs", ...(options.wasm ? ["--wasm", options.wasm] : []));
 
-// Inside node_modules, so that the packages are found from there and nothing has to be cleaned up.
+// Inside node_modules, so that packages are resolved and no cleanup is needed.
 const built = join(here, "node_modules/.cache/tests");
 rmSync(built, { recursive: true, force: true });
 await build({
@@ -45,5 +45,5 @@ await build({
   loader: { ".css": "empty" },
   logLevel: "warning",
 });
-// One file after the other: each has browsers of its own, and figures are measured in some.
+// One file at a time: each starts browsers, and some measure performance.
 run("node", "--test", "--test-concurrency=1", ...tests.map((name) => join(built, name.replace(/\.\w+$/, ".mjs"))));

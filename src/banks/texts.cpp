@@ -19,7 +19,7 @@ std::string currentTexts;
 void setTexts(std::string texts) { currentTexts = std::move(texts); }
 
 std::string_view texts() {
-  if (currentTexts.empty()) stopTheGame("the texts are wanted before they were handed in");
+  if (currentTexts.empty()) stopTheGame("the texts are used before they were set");
   return currentTexts;
 }
 
@@ -115,9 +115,9 @@ namespace {
 std::string unescaped(std::string_view row) {
   std::string text;
   for (std::size_t place = 0; place < row.size(); ++place) {
-    const bool line_break = row.substr(place).starts_with("\\n");
-    text += line_break ? '\n' : row[place];
-    if (line_break) place += 1;
+    const bool lineBreak = row.substr(place).starts_with("\\n");
+    text += lineBreak ? '\n' : row[place];
+    if (lineBreak) place += 1;
   }
   return text;
 }

@@ -59,9 +59,9 @@ bool isAnnounced(const Audition& project) {
 
 // Wins one time in three. A non-member who auditions for a principal role gets a second draw.
 bool winsRoll(Pass& pass, const Audition& project) {
-  const bool is_given_a_break = project.isPrincipal == rolePart::principal && pass.world.isSAG == 0;
+  const bool getsAnotherChance = project.isPrincipal == rolePart::principal && pass.world.isSAG == 0;
   const std::int64_t face = RandomBetween(pass.game.random, 1, 3);
-  return face == 2 || (face == 3 && is_given_a_break);
+  return face == 2 || (face == 3 && getsAnotherChance);
 }
 
 // A score that meets the chance still has to win the die roll. A lower score may get that roll too, with a

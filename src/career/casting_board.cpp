@@ -14,24 +14,24 @@ constexpr std::int64_t maxListings = 8;
 constexpr int maxRedraws = 10;  // of a title that is already on the board; after that it is listed twice
 
 const Movie& drawMovie(Game& game, const CastingBoard& board, const MadeTitles& made) {
-  const auto is_taken = [&](const Movie& movie) {
+  const auto isListed = [&](const Movie& movie) {
     return std::ranges::any_of(
         board, [&](const CastingListing& taken) { return taken.movie->title == movie.title; });
   };
   const Movie* movie = &RandomElement(game.random, movies());
-  for (int redraw = 0; redraw < maxRedraws && is_taken(*movie); ++redraw)
+  for (int redraw = 0; redraw < maxRedraws && isListed(*movie); ++redraw)
     movie = &RandomElement(game.random, movies());
-  return newTitle(movies(), *movie, made, is_taken);
+  return newTitle(movies(), *movie, made, isListed);
 }
 
 CastingListing drawListing(Game& game, const CastingBoard& board, const MadeTitles& made,
                            std::int64_t filmId) {
   CastingListing listing{.filmId = filmId, .isPrincipal = RandomRange(game.random, 2)};
-  const TvRole& tv_role = drawTvRole(game);
+  const TvRole& tvRole = drawTvRole(game);
   listing.movie = &drawMovie(game, board, made);
   listing.role = drawRole(game, listing.isPrincipal);
   listing.isUnion = drawUnionFlag(game);
-  completeListing(game, listing, tv_role);
+  completeListing(game, listing, tvRole);
   return listing;
 }
 

@@ -75,8 +75,8 @@ std::vector<ClassOption> openClasses(Game& game) {
   std::vector<ClassOption> options;
   for (int draw = 0; draw < maxDraws && std::ssize(options) < wanted; ++draw) {
     const JulliardClass& row = *RandomElement<const JulliardClass*>(game.random, pool);
-    const bool offered_already = std::ranges::contains(options, &row, &ClassOption::offered);
-    if (!offered_already && !isTaken(game.world, row.id)) options.push_back(withTerms(game.random, row));
+    const bool isOffered = std::ranges::contains(options, &row, &ClassOption::offered);
+    if (!isOffered && !isTaken(game.world, row.id)) options.push_back(withTerms(game.random, row));
   }
   return options;
 }

@@ -60,9 +60,9 @@ Verdict judge(Game& game, const Audition& project) {
 
 // Only feature films of a saga can continue.
 bool isUndecided(const Audition& project, std::int64_t typeOfFilm) {
-  const bool can_go_on = typeOfFilm == filmType::series || project.franchiseId != outsideSagas;
+  const bool canContinue = typeOfFilm == filmType::series || project.franchiseId != outsideSagas;
   return project.funnelStage >= funnel::wrapped && project.isContinued == 0 &&
-         project.typeOfFilm == typeOfFilm && can_go_on;
+         project.typeOfFilm == typeOfFilm && canContinue;
 }
 
 // --- The next instalment ---

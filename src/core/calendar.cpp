@@ -16,9 +16,9 @@ std::optional<std::chrono::year_month_day> fridayOf(std::int64_t week, std::int6
   if (week < 1 || week > weeksInTheLongestYear) return std::nullopt;
   if (year < 1 || year > static_cast<int>(std::chrono::year::max())) return std::nullopt;
 
-  const sys_days new_year = std::chrono::year{static_cast<int>(year)} / January / 1;
-  const sys_days first_sunday = new_year - (weekday{new_year} - Sunday);
-  return year_month_day{first_sunday + weeks{week - 1} + (Friday - Sunday)};
+  const sys_days newYear = std::chrono::year{static_cast<int>(year)} / January / 1;
+  const sys_days firstSunday = newYear - (weekday{newYear} - Sunday);
+  return year_month_day{firstSunday + weeks{week - 1} + (Friday - Sunday)};
 }
 
 DateLabel labelOf(std::chrono::year_month_day day, const std::array<std::string, 12>& months) {

@@ -17,11 +17,11 @@ char32_t twoByteLetter(std::string_view text, std::size_t place) {
 char32_t capital(char32_t letter) {
   if (letter >= 0xE0 && letter <= 0xFE && letter != 0xF7) return letter - 0x20;
   if (letter == 0xFF) return 0x178;
-  const bool even_capitals = (letter >= 0x100 && letter <= 0x137 && letter != 0x130 && letter != 0x131) ||
-                             (letter >= 0x14A && letter <= 0x177);
-  const bool odd_capitals = (letter >= 0x139 && letter <= 0x148) || (letter >= 0x179 && letter <= 0x17E);
-  if (even_capitals && letter % 2 == 1) return letter - 1;
-  if (odd_capitals && letter % 2 == 0) return letter - 1;
+  const bool evenCapitals = (letter >= 0x100 && letter <= 0x137 && letter != 0x130 && letter != 0x131) ||
+                            (letter >= 0x14A && letter <= 0x177);
+  const bool oddCapitals = (letter >= 0x139 && letter <= 0x148) || (letter >= 0x179 && letter <= 0x17E);
+  if (evenCapitals && letter % 2 == 1) return letter - 1;
+  if (oddCapitals && letter % 2 == 0) return letter - 1;
   return letter;
 }
 
@@ -85,15 +85,15 @@ std::string fill(std::string_view row, std::initializer_list<Filling> values) {
     row.remove_prefix(open);
 
     std::size_t taken = 1;
-    std::string_view put_in = row.substr(0, 1);
+    std::string_view inserted = row.substr(0, 1);
     for (const auto& [name, value] : values) {
       if (row.substr(1).starts_with(name) && row.substr(1 + name.size()).starts_with('}')) {
         taken = name.size() + 2;
-        put_in = value;
+        inserted = value;
         break;
       }
     }
-    filled += put_in;
+    filled += inserted;
     row.remove_prefix(taken);
   }
   return filled;

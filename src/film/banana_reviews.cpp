@@ -66,10 +66,10 @@ Review criticCard(Game& game, const Film& film, double criticScore, const std::v
     const double score = RandomUnit(game.random, band->minScore, band->maxScore);
     card.stars = std::max(1.0, score / scoreOfAStar);
   }
-  const bool is_male = RandomRange(game.random, 2) == 0;
-  card.name = inventedName(game.random, is_male);
+  const bool isMale = RandomRange(game.random, 2) == 0;
+  card.name = inventedName(game.random, isMale);
   card.newsOutlet = drawFreshRow(game, bank::reviewerCompanyBank);
-  card.image = drawPortrait(game.random, is_male ? portraitsOfMen : portraitsOfWomen, others);
+  card.image = drawPortrait(game.random, isMale ? portraitsOfMen : portraitsOfWomen, others);
   return card;
 }
 
@@ -95,8 +95,8 @@ AudienceReview audienceCard(Game& game, const Film& film, double audienceScore) 
 // The Friday of a tracked week, which can be in an earlier year.
 DateLabel dateOf(const Game& game, std::int64_t trackedWeek) {
   const WorldState& world = game.world;
-  const std::int64_t weeks_ago = world.weekNumberForTracking - trackedWeek;
-  const std::int64_t weeks = world.yearNumber * weeksPerYear + world.weekNumber - 1 - weeks_ago;
+  const std::int64_t weeksAgo = world.weekNumberForTracking - trackedWeek;
+  const std::int64_t weeks = world.yearNumber * weeksPerYear + world.weekNumber - 1 - weeksAgo;
   return dateLabel(game.locale, weeks % weeksPerYear + 1, weeks / weeksPerYear).value_or(DateLabel{});
 }
 

@@ -97,9 +97,9 @@ std::string criticCount(const Locale& locale, const Film& film) {
 }
 
 std::string audienceCount(const Locale& locale, const Film& film) {
-  const bool is_beyond = film.numImbdRatings > maxCounted;
+  const bool isBeyond = film.numImbdRatings > maxCounted;
   return plainCount(locale, std::min(film.numImbdRatings, maxCounted)) +
-         (is_beyond ? "+ Reviews" : " Reviews");
+         (isBeyond ? "+ Reviews" : " Reviews");
 }
 
 }  // namespace tb

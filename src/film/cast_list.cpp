@@ -36,13 +36,13 @@ std::vector<std::string> castList(const Film& film) {
   std::vector<std::string> cast = film.didAct == 1 ? film.cast : std::vector<std::string>();
   if (film.typeOfFilm == filmType::commercial) return cast;
   FilmSeededRandom words(film.filmId);
-  const auto small_part = film.isPrincipal == rolePart::background ? cast.begin() : cast.end();
+  const auto position = film.isPrincipal == rolePart::background ? cast.begin() : cast.end();
   std::vector<std::string> others;
   while (others.size() < colleagues) {
     const std::string& star = RandomElement(words, starNames());
     if (!std::ranges::contains(others, star)) others.push_back(star);
   }
-  cast.insert(small_part, others.begin(), others.end());
+  cast.insert(position, others.begin(), others.end());
   return cast;
 }
 

@@ -41,8 +41,8 @@ MetReview cardOf(Game& game, const Film& film) {
                  .description = film.movieDescription,
                  .imageString = film.imageString,
                  .season = film.seasonNumber};
-  const bool is_male = RandomRange(game.random, 2) == 0;
-  card.reviewerName = inventedName(game.random, is_male);
+  const bool isMale = RandomRange(game.random, 2) == 0;
+  card.reviewerName = inventedName(game.random, isMale);
   card.reviewerCompany = drawFreshRow(game, bank::reviewerCompanyBank);
   if (const StarBand* const band = bandOf(starBands, meanScore(film))) {
     card.starString = band->stars;

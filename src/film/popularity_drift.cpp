@@ -17,13 +17,13 @@ constexpr double maxDecay = 0.4;
 constexpr double maxPopularity = 100;
 
 bool drifts(const WorldState& world, const Film& film) {
-  const bool can_drift = film.typeOfFilm == filmType::feature || film.typeOfFilm == filmType::series;
-  return can_drift && film.weekReleased < world.weekNumberForTracking && film.currentPopularity > 0;
+  const bool canDrift = film.typeOfFilm == filmType::feature || film.typeOfFilm == filmType::series;
+  return canDrift && film.weekReleased < world.weekNumberForTracking && film.currentPopularity > 0;
 }
 
 double changeOfWeek(Game& game, const Film& film) {
-  const bool is_judged = RandomRange(game.random, 3) == 1;
-  if (!is_judged) return -RandomUnit(game.random, minDecay, maxDecay);
+  const bool isJudged = RandomRange(game.random, 3) == 1;
+  if (!isJudged) return -RandomUnit(game.random, minDecay, maxDecay);
   return (film.imbdRating - RandomUnit(game.random, minThreshold, maxThreshold)) * popularityPerRating;
 }
 

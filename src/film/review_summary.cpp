@@ -128,8 +128,8 @@ constexpr std::array<Mood, 5> moods = {{
 std::string joined(std::span<const std::string> reviews) {
   std::string text;
   for (const std::string& review : reviews) {
-    const std::string trimmed_review = trimmed(review);
-    if (!trimmed_review.empty()) text += lowerCase(trimmed_review) + "\n";
+    const std::string trimmedReview = trimmed(review);
+    if (!trimmedReview.empty()) text += lowerCase(trimmedReview) + "\n";
   }
   return text;
 }
@@ -137,15 +137,15 @@ std::string joined(std::span<const std::string> reviews) {
 bool isLetterAt(std::string_view text, std::size_t place) {
   if (place >= text.size()) return false;
   const char c = text[place];
-  const bool is_accented = static_cast<unsigned char>(c) >= 0x80;  // part of a non-ASCII character
-  return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || is_accented;
+  const bool isAccented = static_cast<unsigned char>(c) >= 0x80;  // part of a non-ASCII character
+  return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || isAccented;
 }
 
 // True when the text contains the word as a whole word.
 bool hasWord(std::string_view text, std::string_view word) {
   for (std::size_t at = text.find(word); at != std::string_view::npos; at = text.find(word, at + 1)) {
-    const bool begins_word = at == 0 || !isLetterAt(text, at - 1);
-    if (begins_word && !isLetterAt(text, at + word.size())) return true;
+    const bool beginsWord = at == 0 || !isLetterAt(text, at - 1);
+    if (beginsWord && !isLetterAt(text, at + word.size())) return true;
   }
   return false;
 }
@@ -174,14 +174,14 @@ std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
   const std::string text = joined(reviews);
   if (text.empty()) return "Not enough reviews to generate a summary yet.";
 
-  const bool is_casual = wordsIn(text, slang) >= casualSlangWords;
+  const bool isCasual = wordsIn(text, slang) >= casualSlangWords;
   const Mood& mood = *bandOf(moods, wordsIn(text, praise) - wordsIn(text, blame));
-  const SentenceBanks& banks = is_casual ? mood.casual : mood.formal;
+  const SentenceBanks& banks = isCasual ? mood.casual : mood.formal;
 
   const std::string subject = title ? "\"" + *title + "\"" : "this film";
-  const std::string good = topicsIn(text, praiseTopics, is_casual ? "some moments" : "a few highlights");
+  const std::string good = topicsIn(text, praiseTopics, isCasual ? "some moments" : "a few highlights");
   const std::string bad =
-      topicsIn(text, complaintTopics, is_casual ? "a couple rough spots" : "a few rough edges");
+      topicsIn(text, complaintTopics, isCasual ? "a couple rough spots" : "a few rough edges");
 
   const std::string verdict = fill(drawFreshRow(game, banks.verdict), {{"subject", subject}});
   const std::string balance = fill(drawFreshRow(game, banks.balance), {{"good", good}, {"bad", bad}});

@@ -73,10 +73,10 @@ void logPremiere(Game& game, const Audition& project, double views) {
 }
 
 void airEpisode(Game& game, const Film& film, std::int64_t weeksSinceRelease, Ratings& season) {
-  const auto last_week = static_cast<std::size_t>(weeksSinceRelease - 1);
-  if (last_week >= season.premiereViews.size()) return;
+  const auto lastWeek = static_cast<std::size_t>(weeksSinceRelease - 1);
+  if (lastWeek >= season.premiereViews.size()) return;
   const double talk = std::pow(1.25, film.currentPopularity / 100) - 1;
-  const double views = (talk + retention(game, film)) * season.premiereViews[last_week];
+  const double views = (talk + retention(game, film)) * season.premiereViews[lastWeek];
   season.premiereViews.push_back(views);
   season.hoursWatched.push_back(hoursOf(game, views));
   season.weeksTracked.push_back(game.world.weekNumberForTracking);

@@ -69,8 +69,8 @@ double valueOfSeries(const WorldState& world, const Film& film) {
 }
 
 double valueOfMovie(const WorldState& world, const Film& film) {
-  const bool has_closed = film.boxOfficeGross > 0;
-  const double gross = has_closed ? film.boxOfficeGross : grossOf(world, film.filmId).value_or(0);
+  const bool hasClosed = film.boxOfficeGross > 0;
+  const double gross = hasClosed ? film.boxOfficeGross : grossOf(world, film.filmId).value_or(0);
   const double profit = gross / film.budget - 1;
   return (std::max(profit * 0.5, 0.0) + scoresOf(film) / 20) * (film.budget * 0.25);
 }
@@ -137,18 +137,18 @@ Syndication newRecord(const WorldState& world, const Film& film) {
 }
 
 bool isRunOver(const WorldState& world, const Film& film) {
-  const bool is_shown_again = film.typeOfFilm == filmType::feature || film.typeOfFilm == filmType::series;
-  return is_shown_again && world.weekNumberForTracking - film.weekReleased >= firstRunWeeks;
+  const bool isSyndicated = film.typeOfFilm == filmType::feature || film.typeOfFilm == filmType::series;
+  return isSyndicated && world.weekNumberForTracking - film.weekReleased >= firstRunWeeks;
 }
 
 void recordBid(Game& game, const Film& film) {
   List<Syndication>& records = game.world.saveAllSyndication;
   const std::size_t at = find(records, &Syndication::filmId, film.filmId).value_or(records.size());
-  const bool is_first = at == records.size();
-  if (!is_first && records[at].didAcceptOffer) return;
-  const auto bid = drawBid(game, film, is_first);
+  const bool isFirst = at == records.size();
+  if (!isFirst && records[at].didAcceptOffer) return;
+  const auto bid = drawBid(game, film, isFirst);
   if (!bid) return;
-  if (is_first) {
+  if (isFirst) {
     records.push_back(newRecord(game.world, film));
   } else if (std::ranges::contains(records[at].networkNames, networks[bid->network])) {
     return;

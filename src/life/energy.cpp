@@ -14,12 +14,12 @@ constexpr std::int64_t maxRolesWithoutStress = 5;
 }  // namespace
 
 std::int64_t manyRolesStress(const WorldState& world, std::int64_t week) {
-  const auto is_running = [week](const Audition& audition) {
+  const auto isRunning = [week](const Audition& audition) {
     return audition.funnelStage == funnel::booked ||
            (audition.funnelStage == funnel::invited && audition.weekAudition >= week);
   };
   const auto roles = std::ranges::count_if(world.saveAllAuditionList, [&](const Audition& audition) {
-    return audition.didAct == 1 && audition.isPrincipal == rolePart::principal && is_running(audition);
+    return audition.didAct == 1 && audition.isPrincipal == rolePart::principal && isRunning(audition);
   });
   return std::max<std::int64_t>(roles, maxRolesWithoutStress) - maxRolesWithoutStress;
 }
@@ -34,8 +34,8 @@ void refillEnergy(Game& game) {
   // Energy above the maximum is kept, and is not refilled.
   const std::int64_t full = std::max(world.totalEnergyMax, world.totalEnergyAvailable);
   // The clock still shows the week that is ending, whose auditions are over.
-  const std::int64_t coming_week = world.weekNumberForTracking + 1;
-  world.totalEnergyAvailable = std::max<std::int64_t>(full - weeklyEnergyDrain(world, coming_week), 0);
+  const std::int64_t comingWeek = world.weekNumberForTracking + 1;
+  world.totalEnergyAvailable = std::max<std::int64_t>(full - weeklyEnergyDrain(world, comingWeek), 0);
 }
 
 void ageEnergyCeiling(WorldState& world) {

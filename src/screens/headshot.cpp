@@ -24,8 +24,8 @@ Image headshotImage(const std::string& name) {
 
 std::string headshotIn(const Image& image) {
   const Bytes& bytes = image.bytes;
-  const auto is_letter = [](std::byte byte) { return byte >= std::byte{0x20} && byte < std::byte{0x7F}; };
-  if (bytes.size() > longestName || !std::ranges::all_of(bytes, is_letter)) return "";
+  const auto isLetter = [](std::byte byte) { return byte >= std::byte{0x20} && byte < std::byte{0x7F}; };
+  if (bytes.size() > longestName || !std::ranges::all_of(bytes, isLetter)) return "";
   std::string name;
   for (const std::byte byte : bytes) name += static_cast<char>(byte);
   return name;

@@ -17,12 +17,12 @@ ListPage cutList(const PagedList& list, const Stage& stage) {
     if (!list.whenEmpty.empty()) shown.nodes.push_back(Text{.text = list.whenEmpty, .tone = Tone::quiet});
     return shown;
   }
-  const std::size_t last_page = (list.size - 1) / list.pageLength;
-  const std::size_t page = std::min(stage.listPage(list.key), last_page);
+  const std::size_t lastPage = (list.size - 1) / list.pageLength;
+  const std::size_t page = std::min(stage.listPage(list.key), lastPage);
   const std::size_t first = page * list.pageLength;
   const std::size_t end = std::min(first + list.pageLength, list.size);
   for (std::size_t index = first; index < end; ++index) shown.nodes.push_back(list.nodeAt(index));
-  if (last_page == 0) return shown;
+  if (lastPage == 0) return shown;
 
   const auto turnTo = [&](const char* label, bool possible, std::size_t target) {
     return Button{.label = label,
@@ -31,7 +31,7 @@ ListPage cutList(const PagedList& list, const Stage& stage) {
                   .weight = Button::Weight::quiet};
   };
   shown.position = tb::format("{}–{} of {}", first + 1, end, list.size);
-  shown.turns = {turnTo("Previous", page > 0, page - 1), turnTo("Next", page < last_page, page + 1)};
+  shown.turns = {turnTo("Previous", page > 0, page - 1), turnTo("Next", page < lastPage, page + 1)};
   return shown;
 }
 

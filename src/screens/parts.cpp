@@ -16,8 +16,8 @@ Text caption(std::string text) {
 }
 
 std::string shownMoney(const Locale& locale, double amount) {
-  const std::string in_short = shortMoney(locale, amount);
-  return in_short.empty() ? currency(locale, amount, 0) : in_short;
+  const std::string shortForm = shortMoney(locale, amount);
+  return shortForm.empty() ? currency(locale, amount, 0) : shortForm;
 }
 
 Meter energyMeter(const WorldState& world) {

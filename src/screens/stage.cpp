@@ -41,7 +41,7 @@ void Stage::leaveTo(std::size_t depth, const Operation& then) {
 
 void Stage::renewFirst() {
   screens_.front().number = ++opened_;
-  screens_.front().list_pages.clear();
+  screens_.front().listPages.clear();
 }
 
 void Stage::show(Notice notice) {
@@ -89,17 +89,17 @@ void Stage::settle() {
 }
 
 std::size_t Stage::listPage(const std::string& key) const {
-  const auto& pages = screens_.back().list_pages;
+  const auto& pages = screens_.back().listPages;
   const auto found = pages.find(key);
   return found == pages.end() ? 0 : found->second;
 }
 
-void Stage::turnList(const std::string& key, std::size_t page) { screens_.back().list_pages[key] = page; }
+void Stage::turnList(const std::string& key, std::size_t page) { screens_.back().listPages[key] = page; }
 
-bool Stage::isFoldOpen(const std::string& key) const { return screens_.back().open_folds.contains(key); }
+bool Stage::isFoldOpen(const std::string& key) const { return screens_.back().openFolds.contains(key); }
 
 void Stage::turnFold(const std::string& key) {
-  std::set<std::string>& open = screens_.back().open_folds;
+  std::set<std::string>& open = screens_.back().openFolds;
   if (open.erase(key) == 0) open.insert(key);
 }
 

@@ -138,8 +138,8 @@ class Stage {
     std::unique_ptr<Screen> screen;
     int number = 0;
     bool appeared = false;
-    std::map<std::string, std::size_t> list_pages = {};
-    std::set<std::string> open_folds = {};
+    std::map<std::string, std::size_t> listPages = {};
+    std::set<std::string> openFolds = {};
   };
 
   Game& game_;

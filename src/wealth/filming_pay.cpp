@@ -53,8 +53,8 @@ std::int64_t weeksAtResidual(const WorldState& world, const Audition& project) {
 
 // Unlike session fees, residuals cost dues for members and non-members alike.
 void payResidual(WorldState& world, const Audition& project, std::int64_t weeks) {
-  const auto earlier_residuals = static_cast<double>(weeks / weeksBetweenResiduals - 1);
-  const double rate = project.residual - project.residual * earlier_residuals * lossPerResidual;
+  const auto earlierResiduals = static_cast<double>(weeks / weeksBetweenResiduals - 1);
+  const double rate = project.residual - project.residual * earlierResiduals * lossPerResidual;
   WeeklyEarnings record = earningsOf(world, project);
   record.residualsEarned = netOfDues(world, rate * project.payment);
   world.saveAllWeeklyEarnings.push_back(std::move(record));

@@ -92,9 +92,9 @@ std::vector<YearOfPayments> paymentsByYear(const std::vector<Payment>& history, 
     sums.year = payment.year;
     sums.byKind[static_cast<std::size_t>(payment.kind)] += payment.amount;
   }
-  std::vector<YearOfPayments> oldest_first;
-  for (const auto& [year, sums] : years) oldest_first.push_back(sums);
-  return oldest_first;
+  std::vector<YearOfPayments> oldestFirst;
+  for (const auto& [year, sums] : years) oldestFirst.push_back(sums);
+  return oldestFirst;
 }
 
 }  // namespace tb

@@ -141,18 +141,18 @@ std::optional<FirstSteps> firstSteps(const WorldState& world) {
 std::vector<Outcome> lastWeeksOutcomes(const WorldState& world) {
   const std::int64_t ended = endedTrackingWeek(world);
   std::vector<Outcome> outcomes;
-  std::int64_t not_selected = 0;
+  std::int64_t lostRoles = 0;
   for (std::size_t index = 0; index < world.saveAllAuditionList.size(); ++index) {
     const Audition& project = world.saveAllAuditionList[index];
     if (const auto kind = outcomeOf(project, ended)) outcomes.push_back({.kind = *kind, .index = index});
     if (project.funnelStage == funnel::invited && project.didAct == 1 && project.weekAudition == ended) {
-      not_selected += 1;
+      lostRoles += 1;
     }
   }
   if (const double paid = paidLastWeek(world); paid > 0) {
     outcomes.push_back({.kind = Outcome::Kind::paid, .amount = paid});
   }
-  if (not_selected > 0) outcomes.push_back({.kind = Outcome::Kind::notSelected, .count = not_selected});
+  if (lostRoles > 0) outcomes.push_back({.kind = Outcome::Kind::notSelected, .count = lostRoles});
   std::ranges::stable_sort(outcomes, {}, &Outcome::kind);
   return outcomes;
 }

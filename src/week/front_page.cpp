@@ -86,8 +86,8 @@ std::string countedWords(const std::vector<Story>& folded, NewsKind kind, std::s
   const auto first = std::ranges::find_if(folded, isOfKind);
   if (count > 1 || first->project.empty()) return tb::format("{} {}", count, what);
   const Audition& project = first->project.front();
-  const bool is_commercial = project.typeOfFilm == filmType::commercial;
-  return tb::format("{} {}", is_commercial ? "a commercial" : project.title, what);
+  const bool isCommercial = project.typeOfFilm == filmType::commercial;
+  return tb::format("{} {}", isCommercial ? "a commercial" : project.title, what);
 }
 
 }  // namespace
@@ -104,9 +104,9 @@ FrontPage layOutFrontPage(const Game& game) {
     page.headline.push_back(std::move(stories[headline]));
     stories.erase(stories.begin() + static_cast<std::ptrdiff_t>(headline));
   }
-  const bool is_folded = std::ranges::count_if(stories, folds) >= minToFold;
+  const bool isFolded = std::ranges::count_if(stories, folds) >= minToFold;
   for (Story& story : stories) {
-    (is_folded && folds(story) ? page.folded : page.rows).push_back(std::move(story));
+    (isFolded && folds(story) ? page.folded : page.rows).push_back(std::move(story));
   }
   return page;
 }

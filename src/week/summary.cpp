@@ -32,9 +32,9 @@ void recordWeekNet(Game& game) {
 void closeActivityLog(Game& game) {
   WorldState& world = game.world;
   const std::string date = dateHeading(game.locale, world.weekNumber, world.yearNumber, " ");
-  const bool something_happened = std::ssize(world.activityTracker) != world.lastWeekTrackerCount;
-  if (!something_happened && date.empty()) return;
-  if (!something_happened) logActivity(world, "Nothing significant happened this week");
+  const bool hadNews = std::ssize(world.activityTracker) != world.lastWeekTrackerCount;
+  if (!hadNews && date.empty()) return;
+  if (!hadNews) logActivity(world, "Nothing significant happened this week");
   logActivity(world, date);
 }
 

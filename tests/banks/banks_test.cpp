@@ -125,8 +125,8 @@ TEST(Banks, HaveValidMarksAndEnoughRowsForBeginners) {
       EXPECT_FALSE(markedRow(row).text.starts_with('@')) << bank.name << ": " << row;
       marked += markedRow(row).needs != 0 ? 1 : 0;
     }
-    const bool is_table = bank.placeholders == "name";
-    if (!is_table && marked > 0) EXPECT_GE(std::ssize(rowsOf(bank.bank)) - marked, onAPage) << bank.name;
+    const bool isTable = bank.placeholders == "name";
+    if (!isTable && marked > 0) EXPECT_GE(std::ssize(rowsOf(bank.bank)) - marked, onAPage) << bank.name;
   }
 }
 
@@ -223,10 +223,10 @@ TEST(InventedNames, AvoidWellKnownPeople) {
                                                                        {"Stella", "McCartney"},
                                                                        {"Willa", "Fitzgerald"}};
   for (const auto& [first, last] : refused) {
-    const bool is_first_name =
+    const bool isFirstName =
         std::ranges::any_of(std::array{bank::firstNames, bank::maleFirstNames, bank::femaleFirstNames},
                             [&](Bank bank) { return std::ranges::contains(rowsOf(bank), first); });
-    EXPECT_FALSE(is_first_name && std::ranges::contains(rowsOf(bank::lastNameBank), last))
+    EXPECT_FALSE(isFirstName && std::ranges::contains(rowsOf(bank::lastNameBank), last))
         << first << " " << last;
   }
 }

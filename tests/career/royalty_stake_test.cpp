@@ -21,7 +21,7 @@ const TalentAgent signedOne{.id = 5,
                             .isSigned = 1};
 
 struct StakeOffers : test::RuleTest {
-  Stake() : RuleTest(test::Unscripted::low) {
+  StakeOffers() : RuleTest(test::Unscripted::low) {
     world.isSAG = 1;
     world.filmId = 40;
     world.weekNumberForTracking = 20;

@@ -196,13 +196,13 @@ TEST(Dictionary, IgnoresValuesOfAnotherType) {
   for (const Variable& variable : variables()) {
     SCOPED_TRACE(variable.key);
     const ValueType::Form form = variable.type->form;
-    const bool is_number =
+    const bool isNumber =
         form == ValueType::Form::integer || form == ValueType::Form::real || form == ValueType::Form::boolean;
     const Value text{std::string("text")};
     const Value number{std::int64_t{2}};
     const Value garbage{Data{Bytes(9, std::byte{1})}};
     const Value list{Array{Value{Dictionary{}}}};
-    for (const Value& wrong : {is_number && !variable.isList ? text : number, garbage, list}) {
+    for (const Value& wrong : {isNumber && !variable.isList ? text : number, garbage, list}) {
       if (form == ValueType::Form::data && wrong == garbage) continue;  // any bytes are a valid picture
       scratch.store.put(variable.key, wrong);
       scratch.game.world = played;

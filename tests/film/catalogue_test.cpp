@@ -36,8 +36,8 @@ TEST(Catalogue, NumbersSagasWithoutGaps) {
   const MovieFranchise* before = nullptr;
   ASSERT_EQ(movieFranchises().size(), 22U);
   for (const MovieFranchise& entry : movieFranchises()) {
-    const bool goes_on = before != nullptr && before->id == entry.id;
-    EXPECT_EQ(entry.movieNumber, goes_on ? before->movieNumber + 1 : 1) << entry.title;
+    const bool continues = before != nullptr && before->id == entry.id;
+    EXPECT_EQ(entry.movieNumber, continues ? before->movieNumber + 1 : 1) << entry.title;
     EXPECT_EQ(entry.type, filmType::feature) << entry.title;
     before = &entry;
   }

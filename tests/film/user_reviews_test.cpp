@@ -32,12 +32,12 @@ TEST_F(UserReviews, SkipsStarsWithFewRatings) {
 }
 
 TEST_F(UserReviews, SkipsStarsWithoutRatings) {
-  StarHistogram one_star{};
-  one_star[2] = 4;
+  StarHistogram oneStar{};
+  oneStar[2] = 4;
   for (int draw = 0; draw < 12; ++draw) random.range(10, draw % 2 == 0 ? 1 : 3);
   random.range(10, 2).any(4);
   for (int draw = 0; draw < 12; ++draw) random.range(10, 9);  // 25 draws of stars in total
-  const std::vector<Reviews> reviews = drawUserReviews(game, rated(3, 4), one_star);
+  const std::vector<Reviews> reviews = drawUserReviews(game, rated(3, 4), oneStar);
   ASSERT_EQ(reviews.size(), 1U);
   EXPECT_EQ(reviews.front().rating, 3);
   EXPECT_TRUE(drawUserReviews(game, rated(0, 0), {}).empty());

@@ -99,7 +99,7 @@ struct FirstWeeksJourney : testing::Test {
   test::SeededRandom random{5};
   test::Device device{random};
   test::Player& player() { return device.player(); }
-  FirstWeeks() {
+  FirstWeeksJourney() {
     device.begin([](WorldState&) {});
   }
   // Names of the board's buttons that do not show a refusal.

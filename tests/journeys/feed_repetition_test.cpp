@@ -94,8 +94,8 @@ class Performer {
     for (const CastingListing& listing : openCastingNetwork(game_)) {
       const std::string& title = listing.movie->title;
       const auto last = last_tried_.find(title);
-      const bool tried_lately = last != last_tried_.end() && now - last->second <= weeksToTheLastAnswer;
-      if (sent == submissionsAWeek || tried_lately || submitToCastingListing(game_, listing)) continue;
+      const bool triedRecently = last != last_tried_.end() && now - last->second <= weeksToTheLastAnswer;
+      if (sent == submissionsAWeek || triedRecently || submitToCastingListing(game_, listing)) continue;
       last_tried_[title] = now;
       sent += 1;
     }

@@ -22,7 +22,7 @@ struct FirstCareerJourney : testing::Test {
     player.type("Biography", "Two left feet, one good side.");
     player.press("Start my career");
   }
-  FirstCareer() {
+  FirstCareerJourney() {
     device.launch();
     startCareer();
   }

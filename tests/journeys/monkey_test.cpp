@@ -51,11 +51,11 @@ class Monkey {
 
 // Whether the line has it as a whole word, as in "$nan" but not in "tenant".
 bool hasWord(const std::string& line, const std::string& word) {
-  const auto is_letter = [&](std::size_t at) {
+  const auto isLetter = [&](std::size_t at) {
     return at < line.size() && std::isalpha(static_cast<unsigned char>(line[at]));
   };
   for (std::size_t at = line.find(word); at != std::string::npos; at = line.find(word, at + 1)) {
-    if (!is_letter(at - 1) && !is_letter(at + word.size())) return true;
+    if (!isLetter(at - 1) && !isLetter(at + word.size())) return true;
   }
   return false;
 }

@@ -162,10 +162,10 @@ class Explorer {
     if (now.screen < page) return "goes back to " + now.title;
     // Tabs are views of the hub, even if they write. Elsewhere a press that writes is an action, not a change
     // of view.
-    const bool is_side = path.presses.empty() || device_.port.commits == commits_;
+    const bool isSameScreen = path.presses.empty() || device_.port.commits == commits_;
     const Lines lines = added(before, words());
     if (lines.empty()) return "changes nothing here";
-    if (is_side && !path.isTurned) {
+    if (isSameScreen && !path.isTurned) {
       waiting_.push_back(path.with(place, label, true));
       return "shows another side";
     }

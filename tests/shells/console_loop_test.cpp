@@ -212,15 +212,14 @@ TEST_F(ConsoleLoop, ScrollsLongPagesWithVisibleTabs) {
   port.window(24);
   port.types("").types("").types("").types("").types("").types("");
   play();
-  std::string seen_lines;
+  std::string seenLines;
   for (const std::string& page : port.pages) {
     EXPECT_LE(std::ranges::count(page, '\n'), 23) << "the prompt has a line too";
     EXPECT_TRUE(shows(page, "Desk"));
     EXPECT_TRUE(shows(page, "<Home>"));
-    seen_lines += page;
+    seenLines += page;
   }
-  for (int line = 1; line <= 60; ++line)
-    EXPECT_TRUE(shows(seen_lines, std::format("Line {}.", line))) << line;
+  for (int line = 1; line <= 60; ++line) EXPECT_TRUE(shows(seenLines, std::format("Line {}.", line))) << line;
   EXPECT_TRUE(shows(pageAfter(0), "Enter for more"));
   EXPECT_TRUE(std::ranges::any_of(port.pages,
                                   [](const std::string& page) { return shows(page, "Enter for the top"); }));

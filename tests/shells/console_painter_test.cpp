@@ -56,11 +56,11 @@ TEST(ConsolePainter, NoLineIsWiderThanThePage) {
       Button{.label = std::string(300, 'x'), .press = nothing, .price = std::string(120, '9')});
   page.nodes.push_back(
       Card{.title = std::string(200, 'y'), .nodes = {Row{.label = "役", .value = std::string(90, 'z')}}});
-  const Page laid_out = laidOut(std::move(page));
+  const Page laid = laidOut(std::move(page));
   for (const int columns : {40, 41, 47, 53, 66, 79, 80, 100}) {
     for (const bool blocks : {false, true}) {
       SCOPED_TRACE(std::format("{} columns", columns));
-      expectWithin(textOf(paint(laid_out, {.columns = columns, .blocks = blocks})), columns);
+      expectWithin(textOf(paint(laid, {.columns = columns, .blocks = blocks})), columns);
     }
   }
 }
@@ -69,16 +69,16 @@ TEST(ConsolePainter, NumbersEveryUsableItemOnce) {
   test::ScratchGame scratch;
   Stage stage(scratch.game);
   stage.open(std::make_unique<test::BlankScreen>());
-  const LaidOutPage laid_out = layOut(test::gallery(), stage);
-  const PaintedPage painted = paint(laid_out.page, {});
+  const LaidOutPage layout = layOut(test::gallery(), stage);
+  const PaintedPage painted = paint(layout.page, {});
   const std::string text = textOf(painted);
 
-  ASSERT_EQ(painted.targets.size(), laid_out.uses.size());
+  ASSERT_EQ(painted.targets.size(), layout.uses.size());
   for (const auto& [handle, target] : painted.targets) {
     const std::string mark = std::format("[{}]", handle);
     EXPECT_NE(text.find(mark), std::string::npos) << target.label;
     EXPECT_EQ(text.find(mark), text.rfind(mark)) << target.label;
-    const LaidOutPage::Use& use = laid_out.uses[static_cast<std::size_t>(handle) - 1];
+    const LaidOutPage::Use& use = layout.uses[static_cast<std::size_t>(handle) - 1];
     EXPECT_EQ(target.kind == Target::Kind::button, static_cast<bool>(use.press)) << target.label;
     EXPECT_EQ(target.kind == Target::Kind::field, static_cast<bool>(use.type)) << target.label;
     EXPECT_EQ(target.kind == Target::Kind::slider, static_cast<bool>(use.slide)) << target.label;

@@ -61,14 +61,14 @@ class FullDisk {
   static inline int room_ = 0;
 };
 
-class SqlitePort : public testing::Test {
+class SqliteCareer : public testing::Test {
  protected:
-  SqlitePortTest() {
+  SqliteCareer() {
     std::string name = (fs::temp_directory_path() / "billing-store-XXXXXX").string();
     folder_ = mkdtemp(name.data());
     file_ = folder_ / "career.sqlite";
   }
-  ~SqlitePortTest() override {
+  ~SqliteCareer() override {
     std::error_code error;
     fs::remove_all(folder_, error);
   }
@@ -122,7 +122,7 @@ class SqlitePort : public testing::Test {
   fs::path file_;
 };
 
-TEST_F(SqlitePort, KeepsTheCareerBetweenSessions) {
+TEST_F(SqliteCareer, KeepsTheCareerBetweenSessions) {
   const Dictionary first = beginCareer();
   EXPECT_EQ(stored(), first);
   {
@@ -154,7 +154,7 @@ TEST_F(SqlitePort, KeepsTheCareerBetweenSessions) {
   EXPECT_EQ(stored(), (Dictionary{{"myName", Value{std::string("Ada")}}}));
 }
 
-TEST_F(SqlitePort, RejectsASecondProcess) {
+TEST_F(SqliteCareer, RejectsASecondProcess) {
   const auto port = open();
   const pid_t other = fork();
   if (other == 0) {
@@ -172,7 +172,7 @@ TEST_F(SqlitePort, RejectsASecondProcess) {
   EXPECT_TRUE(store.commit());
 }
 
-TEST_F(SqlitePort, DoesNotTouchLockedFiles) {
+TEST_F(SqliteCareer, DoesNotTouchLockedFiles) {
   beginCareer();
   {
     const auto other = sqlite::Database::open(file_);
@@ -183,7 +183,7 @@ TEST_F(SqlitePort, DoesNotTouchLockedFiles) {
   EXPECT_EQ(stored().size(), 3u);
 }
 
-TEST_F(SqlitePort, RenamesDamagedCareers) {
+TEST_F(SqliteCareer, RenamesDamagedCareers) {
   beginCareer();
   const std::string sound = contentOf(file_);
   std::string scratched = sound;
@@ -216,7 +216,7 @@ TEST_F(SqlitePort, RenamesDamagedCareers) {
   EXPECT_EQ(stored().size(), 1u);
 }
 
-TEST_F(SqlitePort, RenamesOtherDatabases) {
+TEST_F(SqliteCareer, RenamesOtherDatabases) {
   alter("CREATE TABLE recipes (name TEXT)");
   EXPECT_TRUE(open()->notice());
   EXPECT_TRUE(fs::exists(folder_ / "career.damaged-1.sqlite"));
@@ -225,13 +225,13 @@ TEST_F(SqlitePort, RenamesOtherDatabases) {
   EXPECT_TRUE(fs::exists(folder_ / "career.damaged-2.sqlite"));
 }
 
-TEST_F(SqlitePort, TreatsAnEmptyFileAsNew) {
+TEST_F(SqliteCareer, TreatsAnEmptyFileAsNew) {
   overwrite(file_, "");
   EXPECT_FALSE(open()->notice());
   EXPECT_EQ(beginCareer(), stored());
 }
 
-TEST_F(SqlitePort, RejectsNewerVersions) {
+TEST_F(SqliteCareer, RejectsNewerVersions) {
   beginCareer();
   alter("PRAGMA user_version = 2");
   alter("INSERT INTO pieces VALUES ('future', 0, 9, x'00')");
@@ -241,7 +241,7 @@ TEST_F(SqlitePort, RejectsNewerVersions) {
   EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1.sqlite"));
 }
 
-TEST_F(SqlitePort, SetsDamagedKeysAside) {
+TEST_F(SqliteCareer, SetsDamagedKeysAside) {
   beginCareer();
   alter(
       "INSERT INTO pieces VALUES ('shape', 0, 7, x'00'), ('text', 0, 0, 'text'), ('piece', 'one', 0, x'00')");
@@ -254,7 +254,7 @@ TEST_F(SqlitePort, SetsDamagedKeysAside) {
   EXPECT_EQ(count("pieces"), 2);
 }
 
-TEST_F(SqlitePort, ReportsUnwritableFolders) {
+TEST_F(SqliteCareer, ReportsUnwritableFolders) {
   overwrite(folder_ / "file", "");
   const auto port = SqlitePort::open(folder_ / "file");
   ASSERT_FALSE(port);
@@ -262,7 +262,7 @@ TEST_F(SqlitePort, ReportsUnwritableFolders) {
   EXPECT_TRUE(port.error().message.contains((folder_ / "file").string()));
 }
 
-TEST_F(SqlitePort, SurvivesAFullDiskAtAnyWrite) {
+TEST_F(SqliteCareer, SurvivesAFullDiskAtAnyWrite) {
   const Dictionary begun = beginCareer();
   bool fitted = false;
   for (int room = 0; !fitted; ++room) {
@@ -288,7 +288,7 @@ TEST_F(SqlitePort, SurvivesAFullDiskAtAnyWrite) {
   }
 }
 
-TEST_F(SqlitePort, ContinuesWhenTheDiskHasRoom) {
+TEST_F(SqliteCareer, ContinuesWhenTheDiskHasRoom) {
   beginCareer();
   Dictionary last;
   {
@@ -309,7 +309,7 @@ TEST_F(SqlitePort, ContinuesWhenTheDiskHasRoom) {
   EXPECT_EQ(stored(), last);
 }
 
-TEST_F(SqlitePort, ReportsAFullDiskAtCreation) {
+TEST_F(SqliteCareer, ReportsAFullDiskAtCreation) {
   bool fitted = false;
   for (int room = 0; !fitted; ++room) {
     ASSERT_LT(room, 100);
@@ -327,7 +327,7 @@ TEST_F(SqlitePort, ReportsAFullDiskAtCreation) {
   }
 }
 
-TEST_F(SqlitePort, UsesTheDataFolder) {
+TEST_F(SqliteCareer, UsesTheDataFolder) {
   setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
   EXPECT_EQ(saveFolder(), folder_ / "data" / "top-billing");
   EXPECT_EQ(fs::status(folder_ / "data" / "top-billing").permissions(), fs::perms::owner_all);

@@ -10,7 +10,7 @@ namespace {
 constexpr std::int64_t now = 60;
 
 struct WeeklyBalance : test::RuleTest {
-  Balance() {
+  WeeklyBalance() {
     world.yearNumber = 2027;
     world.weekNumberForTracking = now;
   }

@@ -13,7 +13,7 @@ namespace tb {
 namespace {
 
 struct FrontPageLayout : test::RuleTest {
-  FrontPages() { world.weekNumberForTracking = 20; }
+  FrontPageLayout() { world.weekNumberForTracking = 20; }
 
   // Adds a project with the next id from 1, titled "One", "Two", ...
   Audition& add(std::int64_t funnelStage, std::int64_t weekReleased = 40) {

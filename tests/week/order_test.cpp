@@ -76,7 +76,7 @@ struct WeekStepOrder : testing::Test {
   Game game{.store = store, .random = witness};
   WorldState& world = game.world;
 
-  StepOrder() {
+  WeekStepOrder() {
     world.weekNumber = 25;
     world.yearNumber = 2027;
     world.weekNumberForTracking = now;

@@ -9,7 +9,7 @@ namespace tb {
 namespace {
 
 struct EndWeek : test::RuleTest {
-  Week() : RuleTest(test::Unscripted::low) {}
+  EndWeek() : RuleTest(test::Unscripted::low) {}
 
   void close() {
     refreshHub(game, HubRefresh::worldChanged);
@@ -64,9 +64,9 @@ TEST_F(EndWeek, AJobIsClearedAWeekAfterItEnds) {
   endWeek(game);
   EXPECT_EQ(world.weeklyJobContractRemaining, 0);
   EXPECT_EQ(world.weeklyJobTitle, "Set Runner");
-  const WeekSummary last_week = openSummary(game);
-  EXPECT_EQ(last_week.feed, std::vector<std::string>{"The contract for your job has ended"});
-  EXPECT_EQ(last_week.balance.income, 400);
+  const WeekSummary lastWeek = openSummary(game);
+  EXPECT_EQ(lastWeek.feed, std::vector<std::string>{"The contract for your job has ended"});
+  EXPECT_EQ(lastWeek.balance.income, 400);
   EXPECT_EQ(world.totalCashAvailable, 400);
   endWeek(game);
   EXPECT_EQ(openSummary(game).balance.income, 0);

@@ -1,5 +1,5 @@
-// Everybody can use what is drawn: every page of the gallery, in both themes, at three widths and with text twice as
-// large; and the keyboard reaches all of it.
+// Accessibility of every page of the gallery, in both themes, at three widths and with text at 200 %, and
+// with the keyboard.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -25,7 +25,7 @@ for (const size of [phone, narrow, wide]) {
     onEveryPage(size, (page, name) => inspect(page, name, size)));
 }
 
-// What sticks out of the page to the right, and text that its box cuts off.
+// Elements that overflow the page to the right, and clipped text.
 function cutOff(): string[] {
   const wide = document.documentElement.clientWidth;
   const cut: string[] = [];
@@ -56,11 +56,11 @@ for (const [what, size, zoom] of [
     }));
 }
 
-// All words that a page says, by the names of their fields; the rest are words of the vocabulary itself.
+// All texts of a page, by field names; other strings are values of enumerations.
 function wordsIn(part: unknown, field = ""): string[] {
   if (typeof part === "string") return /^(kind|style|tone|weight|name|head|step|format)$/.test(field) ? [] : [part];
   if (typeof part !== "object" || part === null) return [];
-  // Of a long chart the points are read one by one, and a passing line goes by itself.
+  // Long charts have no table, and a passing line disappears.
   return Object.entries(part).flatMap(([name, inner]) =>
     name === "passing" || (name === "points" && (inner as unknown[]).length > 24) ? [] : wordsIn(inner, Array.isArray(part) ? field : name),
   );
@@ -77,7 +77,7 @@ for (const size of [phone, wide]) {
           (element as HTMLInputElement).value,
         ]),
       );
-      // A heading of two lines may stand in one.
+      // A heading of two lines can be shown in one.
       const inOneLine = (words: string) => words.replace(/\s+/g, " ");
       const all = inOneLine(shown.join("\n"));
       assert.deepEqual(wordsIn(pages[name]).filter((words) => !all.includes(inOneLine(words))), [], name);
@@ -99,8 +99,8 @@ test("a finger hits every control: none is under 44 pixels", () =>
     assert.deepEqual(small, [], name);
   }));
 
-// Gives each control that Tab should reach its place in the page, and starts at the top, as after loading it; a dialog
-// keeps the focus anyway. Of radio buttons it is the chosen one of each group.
+// Numbers the controls that Tab should reach, and moves the focus to the start. Of radio buttons only the
+// checked one of each group counts.
 function numberControls(): number {
   const within = document.querySelector("dialog") ?? document;
   const all = [...within.querySelectorAll<HTMLElement>("button, input, textarea, a[href]")].filter(
@@ -115,7 +115,7 @@ function numberControls(): number {
   return all.length;
 }
 
-// The control that has the focus, and whether it is in sight, not under the bar or the tabs.
+// The focused control, and whether it is visible and not covered by the bar or the tabs.
 function focusedControl() {
   const control = document.activeElement;
   if (!(control instanceof HTMLElement) || control.dataset["place"] === undefined) return null;
@@ -139,7 +139,7 @@ test("the keyboard reaches everything, in its order, and it can be seen", () =>
       assert.ok(at.isSeen, `${name}: hidden under something: ${at.what}`);
       reached.push(at.place);
     }
-    // A dialog opens with the focus in its middle.
+    // A dialog has its own initial focus.
     const isDialog = await page.evaluate(() => document.querySelector("dialog") !== null);
     assert.deepEqual(isDialog ? reached.sort((a, b) => a - b) : reached, wanted, name);
   }));

@@ -1,4 +1,4 @@
-// Pictures and figures: what is worked out from a name or a number, mostly without a browser around it.
+// Pictures, figures and chart geometry, mostly without a browser.
 
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
@@ -24,7 +24,7 @@ import { pages } from "./gallery_pages";
 
 const gallery = setGallery();
 
-// The words that the vocabulary has for a type, from its generated TypeScript.
+// The values of an enumeration, from the generated TypeScript.
 const types = readFileSync("src/view_types.ts", "utf8");
 const wordsOf = (type: string): string[] =>
   [...new RegExp(`type ${type} = ([^;]+);`, "u").exec(types)![1]!.matchAll(/\w+/gu)].map(([word]) => word);
@@ -52,8 +52,7 @@ test("a picture is the same for the same name everywhere, and another for anothe
   }
 });
 
-// What is wrong with a picture: it is no SVG, it does something, it asks for something, or a part of it stands
-// nowhere.
+// Faults of a picture: invalid SVG, scripts, external references, or invalid coordinates.
 const faultsOf = (svgs: readonly string[]): unknown[] => svgs.flatMap((svg) => {
   const drawing = new DOMParser().parseFromString(svg, "image/svg+xml");
   const all = [...drawing.querySelectorAll("*")];
@@ -70,14 +69,14 @@ test("every picture is sound SVG that only shows, whatever its name", async () =
   const page = await gallery.open("hub");
   const named = kinds.flatMap((kind) => names.map((name) => picture(kind, name)));
   const titled = names.map((title) => poster(title, "Drama", { billed: title }));
-  // The one style there may be says how colors mix, in an image of its own: the page's policy is not asked.
+  // The only allowed style is mix-blend-mode, to which the page's policy does not apply inside images.
   const arts = [...named, ...titled, ...everyPoster].map((shown) =>
     pictureArt(shown).replace(/ style="(mix-blend-mode|mask-type):\w+"/gu, ""),
   );
   assert.deepEqual(await page.evaluate(faultsOf, arts), []);
 });
 
-// The titles of the catalogue, each as its poster.
+// The posters of the catalogue.
 function catalogue(): Picture[] {
   const posters: Picture[] = [];
   let columns: string[] = [];
@@ -93,7 +92,7 @@ function catalogue(): Picture[] {
   return posters;
 }
 
-// What strikes the eye from afar: what is shown, in which colors, and where the title stands.
+// The most visible features: scene, colors and layout.
 const glance = ({ genre, format }: Picture, { scene, palette, layout }: Look): string =>
   format === "commercial" ? `product ${scene}` : `${genre} ${format} scene ${scene} palette ${palette} layout ${layout}`;
 
@@ -107,7 +106,7 @@ test("no two titles that can meet on a casting board or in a filmography share a
     met.set(seen, shown.title);
     return other === undefined || other === shown.title ? [] : [`${other} and ${shown.title}: ${seen}`];
   });
-  // Another salt for the genre (src/art/posters/genres.ts) deals its titles anew.
+  // If this fails, change the genre's salt (src/art/posters/genres.ts).
   assert.deepEqual(shared, []);
   for (const { genre } of titles) assert.ok(genres[genre], `no scenes of the genre ${genre}`);
 });

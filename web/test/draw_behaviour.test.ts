@@ -1,4 +1,4 @@
-// What the player does to a page, and what drawing it again leaves alone.
+// The player's input, and what a redraw must not change.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -12,7 +12,7 @@ import { narrow, phone, wide } from "./inspect";
 
 const gallery = setGallery();
 
-// A page with these nodes, drawn by hand; later ones of the same title are drawn over it.
+// Shows a page with these nodes; later pages with the same title are redraws.
 async function drawn(nodes: readonly View.Node[], rest: Partial<View.Page> = {}, looks: Looks = {}): Promise<Page> {
   const page = await gallery.open("hub", looks);
   await again(page, nodes, rest);
@@ -71,11 +71,11 @@ test("what is still being typed is handed over before a press, which takes the h
   const page = await drawn([typed(1, ""), press("Begin", 2)]);
   const after = [text("Hello Mara"), typed(11, "Mara"), press("Begin", 12)];
   await page.evaluate((nodes) => {
-    // All handles are others then, and the new page comes a moment later, as from a state of the shell.
+    // The new page has other handles and comes asynchronously, as from the shell.
     window.gallery.afterTyping = (shown) => queueMicrotask(() => window.gallery.show({ ...shown, nodes }));
   }, after);
   await page.fill("input", "Mara");
-  // As on a touch screen, where the field keeps the focus.
+  // Like on a touch screen, where the field keeps the focus.
   await page.evaluate(() => document.querySelector<HTMLElement>(".button")!.click());
   assert.deepEqual(await done(page), [["type", 1, "Mara"], ["press", 12]]);
 });
@@ -115,7 +115,7 @@ for (const [several, control] of [[false, "radio"], [true, "checkbox"]] as const
     const page = await drawn([make.choice("Type", options, several)]);
     const first = page.getByRole(control, { name: "A" });
     await page.getByRole(control, { name: "B" }).click();
-    if (several) await first.click(); // what is chosen can be taken back
+    if (several) await first.click(); // options can be unchecked
     assert.deepEqual(await done(page), several ? [["press", 2], ["press", 1]] : [["press", 2]]);
     assert.ok(await first.isChecked());
   });
@@ -130,7 +130,7 @@ test("half a star lights half a star", async () => {
 test("the points of a chart are read with the arrow keys", async () => {
   const page = await gallery.open("charts");
   const points = page.getByRole("slider", { name: "Of ten markets, bar, points" });
-  assert.equal(await points.getAttribute("aria-valuetext"), "M 8: $210K"); // the highest
+  assert.equal(await points.getAttribute("aria-valuetext"), "M 8: $210K"); // the highest bar
   await points.focus();
   await page.keyboard.press("ArrowRight");
   assert.equal(await points.getAttribute("aria-valuetext"), "M 9: $140K");
@@ -385,7 +385,7 @@ test("figures count to where they belong", async () => {
   assert.equal(await page.locator(".figure").textContent(), "$2,400");
 });
 
-// Seconds of the longest motion on the page.
+// The duration of the longest animation in seconds.
 function longestMotion(): number {
   const seconds = (list: string) =>
     Math.max(...list.split(",").map((time) => parseFloat(time) * (/ms/.test(time) ? 0.001 : 1)));
@@ -418,10 +418,10 @@ test("a page of 160 rows with pictures is drawn again within a frame", async () 
       const large = JSON.stringify(window.gallery.pages["large"]);
       for (let run = 0; run < runs; ++run) {
         window.gallery.show(JSON.parse(large.replace("1.2M", `1.${run}M`).replace("0 ♥", `${run} ♥`)));
-        document.body.getBoundingClientRect(); // with its layout
+        document.body.getBoundingClientRect(); // forces layout
       }
     }, times);
-  await redraw(10); // the browser compiles what it runs often
+  await redraw(10); // warm-up for the JIT compiler
   const before = await milliseconds();
   await redraw(40);
   const each = ((await milliseconds()) - before) / 40;

@@ -1,5 +1,5 @@
-// A browser with the gallery in it, for the tests of the drawing. It stands in the page's own index.html, so
-// under its policy: a picture or a style that would break it shows here.
+// A browser with the gallery, for tests of drawing. It uses the page's index.html and so its content security
+// policy.
 
 import assert from "node:assert/strict";
 import { mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
@@ -14,7 +14,7 @@ import { phone } from "./inspect";
 
 export const galleryFolder = join(process.cwd(), "node_modules/.cache/gallery");
 
-// The page's index.html with the gallery in place of the game, and without what installs it.
+// The page's index.html with the gallery instead of the game, and without the manifest.
 function index(): string {
   const names: Record<string, string> = { "{script}": "gallery.js", "{style}": "gallery.css" };
   return readFileSync("static/index.html", "utf8")
@@ -42,15 +42,15 @@ async function buildGallery(): Promise<void> {
 export interface Looks {
   readonly width?: number;
   readonly height?: number;
-  readonly still?: boolean; // no motion asked for
+  readonly still?: boolean; // reduced motion
 }
 
 export interface Gallery {
-  // A window with that page of gallery_pages.ts.
+  // Opens a page of gallery_pages.ts.
   open(name: string, looks?: Looks): Promise<Page>;
 }
 
-// The gallery for the tests of one file. Each fails on anything that the browser's console complains of.
+// The gallery for the tests of a file. A test fails on any console error.
 export function setGallery(): Gallery {
   let served: Served;
   let browser: Browser;
@@ -79,7 +79,7 @@ export function setGallery(): Gallery {
   };
 }
 
-// The processor's time, so that a busy machine gives the same answer.
+// Measures processor time, which does not depend on the machine's load.
 export async function processorTime(page: Page): Promise<() => Promise<number>> {
   const session = await page.context().newCDPSession(page);
   await session.send("Performance.enable", { timeDomain: "threadTicks" });

@@ -1,4 +1,4 @@
-// A moment: played once, skipped by any press that does nothing else, and absent where no motion is asked for.
+// Moments are played once, are skipped by any press, and are absent with reduced motion.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -21,7 +21,7 @@ const pressable = (moment: readonly View.Moment[] = [], rest: Partial<View.Page>
   });
 const show = (page: Page, shown: View.Page) => page.evaluate((given) => window.gallery.show(given), shown);
 
-// Shows a page and stops the clock of its moment as it begins. Says how long it would play, in milliseconds.
+// Shows a page and pauses its moment. Returns the moment's duration in milliseconds.
 const begin = (page: Page, shown: View.Page) =>
   page.evaluate((given) => {
     window.gallery.show(given);
@@ -45,12 +45,12 @@ test("a moment plays for less than a second, once, and is told to who does not s
     const length = await begin(page, pressable(booked(index + 1).map((each) => ({ ...each, scene }))));
     assert.ok(length >= 600 && length <= 900, `${scene}: ${length} ms`);
     assert.equal(await page.locator("[data-news]").textContent(), "BOOKED: Two Hats • Lead.");
-    await show(page, pressable()); // drawn again: it goes on
+    await show(page, pressable()); // a redraw: it continues
     assert.equal(await playing(page), 1);
     await letGo(page);
     await over(page);
   }
-  await show(page, pressable(booked(3), { screen: 2 })); // come back to
+  await show(page, pressable(booked(3), { screen: 2 })); // returned to
   assert.equal(await playing(page), 0);
 });
 

@@ -1,4 +1,4 @@
-// Pictures on a page: how many there are, and when they are drawn.
+// When pictures are drawn.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -10,10 +10,10 @@ import { pages } from "./gallery_pages";
 
 const gallery = setGallery();
 
-// Milliseconds of processor time: a frame and, for machines that do something else besides, as much again.
+// Milliseconds of processor time: two frames.
 const slowestOpening = 32;
 
-// A filmography of 44 rows, each with a poster of its own, under the name of another screen.
+// A filmography of 44 rows with different posters, as another screen.
 const filmography = (from: number) =>
   make.page({
     title: `Auditions ${from}`,
@@ -40,7 +40,7 @@ test("a list of 44 posters opens at once, costs one node a picture, and holds it
   const open = (next: View.Page) =>
     page.evaluate((shown) => {
       window.gallery.show(shown);
-      return document.body.getBoundingClientRect().height; // with its layout
+      return document.body.getBoundingClientRect().height; // forces layout
     }, next);
   const pagesToOpen = Array.from({ length: 30 }, (_, index) => JSON.stringify(filmography(index * 50)));
   const openAll = (from: number, to: number) =>
@@ -50,7 +50,7 @@ test("a list of 44 posters opens at once, costs one node a picture, and holds it
         document.body.getBoundingClientRect();
       }
     }, pagesToOpen.slice(from, to));
-  await openAll(0, 10); // the browser compiles what it runs often
+  await openAll(0, 10); // warm-up for the JIT compiler
   const before = await milliseconds();
   await openAll(10, 30);
   const each = ((await milliseconds()) - before) / 20;
@@ -60,17 +60,17 @@ test("a list of 44 posters opens at once, costs one node a picture, and holds it
   assert.ok(each <= slowestOpening, `${each} ms`);
   assert.ok(nodes <= 400, `${nodes} elements`);
   assert.equal(await page.locator("img.picture").count(), 44);
-  // What is on the screen is drawn soon, what is far below is not; nothing moves.
+  // Visible pictures are drawn soon, those far below are not, and the layout does not shift.
   await page.locator(".picture").first().and(page.locator(":not(.is-missing)")).waitFor();
   await page.evaluate(() => new Promise((wait) => setTimeout(wait, 500)));
   assert.equal(await page.evaluate(() => document.body.getBoundingClientRect().height), height);
   assert.ok((await page.locator(".is-missing").count()) > 10);
   const shown = page.locator(".picture:not(.is-missing)").first();
   assert.deepEqual(await shown.evaluate((image: HTMLImageElement) => [image.clientWidth, image.clientHeight, image.complete && image.naturalWidth > 0]), [56, 84, true]);
-  // The last ones come when they are scrolled to.
+  // The last ones are drawn when scrolled to.
   await page.locator(".picture").last().scrollIntoViewIfNeeded();
   await page.locator(".picture").last().and(page.locator(":not(.is-missing)")).waitFor();
-  // What was drawn once is there at once.
+  // Cached pictures are shown immediately.
   await open(pages["hub"]!);
   await open(filmography(9000));
   assert.ok((await page.locator(".picture:not(.is-missing)").count()) > 10);

@@ -1,5 +1,4 @@
-// The gallery: shows one page of gallery_pages.ts, named in the address after "#", and keeps what was done to
-// it.
+// The gallery: shows the page of gallery_pages.ts named after "#" in the address, and records actions.
 
 import { render } from "preact";
 
@@ -40,7 +39,7 @@ declare global {
       readonly pictureArt: typeof pictureArt;
       readonly show: typeof show;
       readonly done: Done[];
-      afterTyping: typeof show; // what the game answers; the same page again unless a test says otherwise
+      afterTyping: typeof show; // the response to an action; by default the same page
     };
   }
 }

@@ -1,5 +1,5 @@
-// Short ways to write pages down: of each node only what is unusual is said. What can be pressed has the
-// handle 1 unless told otherwise; rows and cards can be pressed only when told so.
+// Helpers to define pages with default values. Buttons have handle 1 by default; rows and cards are not
+// pressable by default.
 
 import type * as View from "../src/view_types";
 
@@ -65,7 +65,7 @@ const usualPicture: View.Picture = {
 export const picture = (kind: View.PictureKind, name: string, description = ""): View.Picture => ({
   ...usualPicture, kind, name, description,
 });
-// The poster of a title of the catalogue's kind.
+// A poster like those of the catalogue.
 export const poster = (title: string, genre: string, rest: Partial<View.Picture> = {}): View.Picture => ({
   ...usualPicture, kind: "poster", name: `${title}.png`, title, genre, ...rest,
 });
@@ -83,7 +83,7 @@ export const listPage = (nodes: readonly View.Node[], position = "", turns: read
 export const dialog = (title: string, message: string, ...answers: View.Button[]) => [{ title, message, answers }];
 export const tab = (label: string, icon: string, current = false): View.Tab => ({ label, icon, current, isOff: false, handle: 1 });
 
-// The hub's tabs and icons, and the way back from a screen.
+// The hub's tabs and icons, and the back button.
 export const tabs = (current: number) =>
   ["Career 🎬", "Casting 🎭", "Social 💬", "Energy ⚡️", "Wealth 💰"].map((words, index) => {
     const [label, icon] = words.split(" ");
@@ -92,7 +92,7 @@ export const tabs = (current: number) =>
 export const icons = [tab("Inbox", "✉️"), tab("The Backstage", "B")];
 export const back = (label = "Back") => [plainButton({ label })];
 
-// Points and ticks of a chart.
+// A chart's points and ticks.
 export const points = (values: readonly number[], label = "Week") =>
   values.map((value, index) => ({ label: `${label} ${index + 1}`, value, text: `$${value}K` }));
 export const ticks = (...values: number[]) => values.map((value) => ({ value, text: `$${value}K` }));

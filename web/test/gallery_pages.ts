@@ -1,5 +1,5 @@
-// Pages with every kind of node, in all its options and with all that is hard to draw: words without an end,
-// words that look like markup, nothing at all, and very much.
+// Pages with every kind of node and option, and with edge cases: long words, markup characters, empty and
+// very long content.
 
 import type * as View from "../src/view_types";
 import * as make from "./gallery_nodes";
@@ -95,7 +95,7 @@ const hub = page({
   ],
 });
 
-// A board whose rows can be acted on in place, under a head of one line.
+// A board with buttons in rows and a one-line head.
 const board = page({
   title: "Casting Network",
   subtitle: "The Backstage",
@@ -121,7 +121,7 @@ const board = page({
   ),
 });
 
-// A title's page: its poster beside what leads, parts within parts.
+// A title's page: poster beside the lead, nested sections.
 const film = page({
   title: "Summer of Steel",
   subtitle: "Feature Film • Action, Drama • 2027",
@@ -154,7 +154,7 @@ const film = page({
   ],
 });
 
-// All charts, of nothing, of one point, above and below nothing, and of more than can be read one by one.
+// All kinds of charts: empty, one point, negative values, and many points.
 const bottomless = { points: points([-40, 20, -10, 60], "A quarter of the very long year"), scale: ticks(-40, 0, 60) };
 const series: Readonly<Record<string, Partial<View.Chart>>> = {
   nothing: {},
@@ -174,7 +174,7 @@ const charts = page({
     section(
       `As a ${kind}`,
       ...Object.entries(series)
-        .filter(([what]) => kind !== "pie" || what !== "two years") // the legend would name each week
+        .filter(([what]) => kind !== "pie" || what !== "two years") // the legend would be too long
         .map(([what, rest]) => chart({ kind, title: `Of ${what}, ${kind}`, summary: `It says ${what}, ${kind}.`, ...rest })),
     ),
   ),
@@ -207,7 +207,7 @@ const latch = page({
 
 const news = (stamp: string, words: string, rest: Partial<View.Headline> = {}) =>
   make.headline({ stamp, text: words, picture: poster, handle: 1, ...rest });
-// It has to be closed before the tabs are in reach again.
+// The tabs are off until it is closed.
 const review = page({
   title: "REVIEW",
   subtitle: "Week 4 of 2026",

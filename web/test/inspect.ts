@@ -1,5 +1,5 @@
-// A look at a page as everybody has to be able to use it: the rules of WCAG 2.2 AA that a machine can check. With
-// SCREENSHOTS=<folder> it also keeps a picture of each page.
+// Checks a page by the automatic rules of WCAG 2.2 AA. With SCREENSHOTS=<folder> it also saves a screenshot
+// of each page.
 
 import assert from "node:assert/strict";
 import { mkdirSync, readFileSync } from "node:fs";
@@ -25,18 +25,18 @@ interface Violation {
   readonly nodes: readonly { readonly html: string; readonly failureSummary: string }[];
 }
 
-// The page as it is now, in both themes: no violation, and nothing wider than the screen.
+// Checks the current page in both themes for violations and horizontal overflow.
 export async function inspect(page: Page, name: string, size: Size = phone): Promise<void> {
   for (const theme of ["light", "dark"] as const) {
     await page.emulateMedia({ colorScheme: theme, reducedMotion: "reduce" });
     await page.setViewportSize(size);
-    // As high as the page is: what stays in reach of the thumb would cover a part of what the player scrolls into the
-    // open. A message is in the open anyway.
+    // The viewport is as high as the page, because sticky elements would cover content. Not needed for a
+    // dialog.
     const whole = await page.evaluate(() =>
       document.querySelector("dialog[open]") ? 0 : document.documentElement.scrollHeight,
     );
     await page.setViewportSize({ width: size.width, height: Math.max(size.height, whole) });
-    // The page's policy lets no script in but its own; the checker comes in by the debugger.
+    // The page's policy blocks other scripts, so the checker is evaluated by the debugger.
     await page.evaluate(checker);
     const found = await page.evaluate<Violation[]>(
       `axe.run({ runOnly: ${JSON.stringify(rules)} }).then((run) => run.violations)`,

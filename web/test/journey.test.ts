@@ -1,5 +1,5 @@
-// A career in the real browser: started, lived, trained, left and found again, and every screen of the game read by an
-// accessibility checker in both themes.
+// A career in the browser: start, weeks, training, reload, and an accessibility check of every screen in both
+// themes.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -19,7 +19,7 @@ async function backToTheTabs(page: Page): Promise<void> {
   while ((await back.count()) > 0) await back.click();
 }
 
-// The tab, what is pressed from there on, and what the picture is called. An answer in a notice is a press too.
+// The tab, the presses from there, and the name of the screenshot. Answers in notices are presses too.
 type Walk = readonly [tab: string, presses: readonly RegExp[], name: string];
 
 async function inspectOnTheWay(page: Page, walks: readonly Walk[]): Promise<void> {
@@ -27,7 +27,7 @@ async function inspectOnTheWay(page: Page, walks: readonly Walk[]): Promise<void
     await backToTheTabs(page);
     await hubTab(page, tab);
     for (const press of presses) {
-      await page.waitForTimeout(350); // a second press at once at the same spot counts for nothing
+      await page.waitForTimeout(350); // a double tap at the same spot is ignored
       const pressed = page.getByRole("button", { name: press }).or(page.getByRole("radio", { name: press })).first();
       assert(await pressed.isVisible(), `${name}: nothing to press for ${String(press)}`);
       await pressed.click();
@@ -89,7 +89,7 @@ test("the way back of the phone leaves a screen, not the game", async () => {
     await home.waitFor({ state: "detached" });
     await page.goBack();
     await home.waitFor();
-    await page.waitForTimeout(400); // a second press at once at the same spot counts for nothing
+    await page.waitForTimeout(400); // a double tap at the same spot is ignored
   }
   await hubTab(page, "Wealth");
   await page.getByRole("heading", { level: 1, name: "Wealth" }).waitFor();
@@ -102,7 +102,7 @@ test("the way back of the phone leaves a screen, not the game", async () => {
   assert.equal(new URL(page.url()).origin, setting.site.origin);
 });
 
-// The figures of the part of the page under that heading, one a row.
+// The figures of the section's rows.
 const figuresUnder = (page: Page, heading: string): Promise<number[]> =>
   page
     .locator(".section", { has: page.getByRole("heading", { name: heading }) })

@@ -1,5 +1,4 @@
-// The first visit: how much comes over the network and when, how soon the game can be played, and how fast it
-// answers.
+// The first visit: download size and order, time until playable, and response times.
 
 import assert from "node:assert/strict";
 import { readdirSync, readFileSync } from "node:fs";

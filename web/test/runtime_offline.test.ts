@@ -1,4 +1,4 @@
-// Without a network, and from one version to the next.
+// Offline play and updates.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -10,7 +10,7 @@ import {
 
 const setting = stage();
 
-// A site of its own for a test to take away or to change. The game works under any path of a host.
+// A separate site that a test can change or stop, below a path.
 async function withOwnSite(test: (own: Stage) => Promise<void>): Promise<void> {
   const site = await new Site("under/a path").start();
   try {
@@ -47,13 +47,13 @@ test("a new version is offered, not forced, and takes the career along", () =>
     await page.reload();
     const offer = page.getByRole("button", { name: "Use it now" });
     await offer.waitFor();
-    // The old version plays on until the player says so.
+    // The old version is used until the player accepts the update.
     assert.equal(await versionOf(page), "first");
     await page.reload();
     await offer.waitFor();
     assert.equal(await versionOf(page), "first");
 
-    // It stands at the hub alone: another screen would be lost.
+    // The update is offered on the hub only.
     await press(page, "Settings");
     await offer.waitFor({ state: "detached" });
     await page.goBack();
@@ -64,7 +64,7 @@ test("a new version is offered, not forced, and takes the career along", () =>
     await finds(page, "Ada Update");
     assert.equal(await offer.count(), 0);
 
-    // The old version's copy is gone, and the new one is complete.
+    // The old version's cache is deleted, and the new one is complete.
     assert.equal(await page.evaluate(async () => (await caches.keys()).length), 1);
     await own.site.stop();
     await page.reload();
@@ -90,5 +90,5 @@ test("a new version that comes only in part leaves the old one complete", () =>
     await page.reload();
     await finds(page, "Ada Part");
     await waitForGame(page);
-    player.expect(/404/, 0); // the missing file, of which not every browser says a word
+    player.expect(/404/, 0); // the missing file, which not every browser reports
   }));

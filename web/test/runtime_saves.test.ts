@@ -1,4 +1,4 @@
-// The save as a file: out, in, and nothing lost by a bad one.
+// Export and import of saves; a bad file changes nothing.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -61,7 +61,7 @@ test("a file that is no career changes nothing and says why", async () => {
   const whole = workingActor();
   const { page } = await play(setting, "Ada Untouched");
   await openSaves(page);
-  // A property list, but of something else: the dictionary {"a": 1}.
+  // A property list that is not a save: the dictionary {"a": 1}.
   const another =
     "62706c6973743030d1010251611001080b0d000000000000010100000000000000030000000000000000000000000000000f";
   const files: [Buffer, RegExp][] = [

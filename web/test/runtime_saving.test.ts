@@ -1,5 +1,4 @@
-// What was played is there again, whatever the browser did in between; and a player who plays without a save
-// knows it.
+// The game is saved in spite of reloads and storage errors, and the player is told when it can't be.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -15,7 +14,7 @@ test("a reload right after a press finds the career", async () => {
   const page = await (await visit(setting)).open();
   await nameField(page).fill("Ada Reload");
   await nameField(page).blur();
-  // The reload begins in the same task as the press.
+  // Reloads in the same task as the press.
   await page.getByRole("button", { name: "Start my career" }).evaluate((button) => {
     (button as HTMLElement).click();
     location.reload();
@@ -85,7 +84,7 @@ test("a device without room is told of once, and the career is whole once there 
   await dialog.getByRole("button", { name: "OK" }).click();
   await dialog.waitFor({ state: "detached" });
 
-  // Playing on is possible, and the dialog does not come again with each save that fails.
+  // The game continues, and the dialog is shown only once.
   const notice = page.getByRole("status").filter({ hasText: "Not saved" });
   await liveAWeek(page);
   assert.equal(await dialog.count(), 0);

@@ -1,6 +1,5 @@
-// What the tests of the runtime share: the built site on a server of its own, a browser, and the first steps of
-// a career. A page here fails its test on any error in its console and on anything that the content security
-// policy refused.
+// Shared by the runtime's tests: a server with the built site, a browser, and the start of a career. A test
+// fails on any console error and on violations of the content security policy.
 
 import assert from "node:assert/strict";
 import { cpSync, mkdtempSync, readdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
@@ -13,13 +12,13 @@ import { launchChromium } from "../browser.mjs";
 import { serve, type Served } from "../server.mjs";
 import { phone } from "./inspect";
 
-// A copy of the built site that a test may change or take off the network.
+// A copy of the built site that a test can change or stop.
 export class Site {
   readonly folder = mkdtempSync(join(tmpdir(), "top-billing-"));
   private served: Served | undefined;
-  bytesSent = 0; // of the contents of all answers, as they went over the wire
+  bytesSent = 0; // response bodies as transferred
 
-  // `below`: the path under the server's root at which the site stands.
+  // `below` is the site's path on the server.
   constructor(private readonly below = "") {
     cpSync(join(process.cwd(), "dist"), join(this.folder, below), { recursive: true });
   }
@@ -43,7 +42,7 @@ export class Site {
     this.served = undefined;
   }
 
-  // A new version of the site: its pages have another title in their source, so its service worker differs.
+  // Publishes a new version with another title, and so another service worker.
   publish(mark: string): void {
     const change = (name: string, from: RegExp, to: string) => {
       const file = join(this.folder, this.below, name);
@@ -55,7 +54,7 @@ export class Site {
     change("service-worker.js", /"[0-9a-f]{10}"/, `"${mark}"`);
   }
 
-  // Some of its files are not there.
+  // Removes the files that match.
   lose(names: RegExp): void {
     const folder = join(this.folder, this.below);
     for (const name of readdirSync(folder)) if (names.test(name)) rmSync(join(folder, name));
@@ -73,7 +72,7 @@ export interface Stage {
 
 const visits = new Set<Visit>();
 
-// A served site and a browser for the tests of one file, each of which ends the visits that it began.
+// A site and a browser for the tests of a file. Each test must end its visits.
 export function stage(): Stage {
   const made: { site?: Site; browser?: Browser } = {};
   before(async () => {
@@ -94,11 +93,11 @@ export function stage(): Stage {
 export interface Visit {
   readonly context: BrowserContext;
   open(): Promise<Page>;
-  expect(complaint: RegExp, least?: number): void; // what a test provoked: one such or more, and so far no other
-  end(): Promise<void>; // fails on any other complaint
+  expect(complaint: RegExp, least?: number): void; // expects `least` or more console errors that match, and no others so far
+  end(): Promise<void>; // fails on other console errors
 }
 
-// One player's browser profile. The scripts run in each page before anything of the page does.
+// Opens a new browser profile. The scripts run in each page before its own.
 export async function visit(stage: Stage, ...scripts: (() => void)[]): Promise<Visit> {
   const context = await stage.browser.newContext({ viewport: phone, acceptDownloads: true });
   const complaints: string[] = [];
@@ -134,7 +133,7 @@ export async function visit(stage: Stage, ...scripts: (() => void)[]): Promise<V
   return player;
 }
 
-// A visit with a career of that name.
+// A visit with a new career.
 export async function play(
   stage: Stage,
   name: string,
@@ -146,10 +145,10 @@ export async function play(
   return { player, page };
 }
 
-// When the career of that name is on show.
+// Waits until the career with this name is shown.
 export const finds = (page: Page, name: string) => page.getByText(name).first().waitFor();
 
-// The hub, or the form of a new career.
+// Waits for the hub or the new-career form.
 export async function waitForGame(page: Page): Promise<void> {
   await page.getByRole("button", { name: /^(End Week|Start my career)$/ }).waitFor();
 }
@@ -164,7 +163,7 @@ export async function startCareer(page: Page, name: string): Promise<void> {
   await finds(page, name);
 }
 
-// When the page has a service worker that keeps everything.
+// Waits until the service worker has cached everything.
 export async function waitForCopy(page: Page): Promise<void> {
   await page.evaluate(async () => {
     await navigator.serviceWorker.ready;
@@ -177,13 +176,13 @@ export const press = (page: Page, name: string) => page.getByRole("button", { na
 export const heading = (page: Page, name: string) => page.getByRole("heading", { name, exact: true }).waitFor();
 export const says = (page: Page, words: string | RegExp) => page.getByRole("status").filter({ hasText: words }).waitFor();
 
-// A press of a finger that is back at the same spot: right after the last one it would not count.
+// Waits before pressing, because a double tap at the same spot is ignored.
 export async function pressAgain(page: Page, name: string): Promise<void> {
   await page.waitForTimeout(350);
   await press(page, name);
 }
 
-// From the hub, to it.
+// Ends a week from the hub and returns to it.
 export async function liveAWeek(page: Page): Promise<void> {
   await pressAgain(page, "End Week");
   await heading(page, "REVIEW");
@@ -191,7 +190,7 @@ export async function liveAWeek(page: Page): Promise<void> {
   await page.getByRole("button", { name: "End Week" }).waitFor();
 }
 
-// In the settings, on the form of a new career, and where the game does not run.
+// Opens the saves on the current page.
 export async function openSaves(page: Page): Promise<void> {
   const saves = page.getByRole("button", { name: "Saves", exact: true });
   const settings = page.getByRole("button", { name: "Settings", exact: true });
@@ -201,29 +200,29 @@ export async function openSaves(page: Page): Promise<void> {
   await heading(page, "Saves");
 }
 
-// In the open saves: the career as a file.
+// Downloads the career from the open saves.
 export async function download(page: Page): Promise<Buffer> {
   const [file] = await Promise.all([page.waitForEvent("download"), press(page, "Download a copy")]);
   assert.match(file.suggestedFilename(), /^top-billing-\d{4}-\d\d-\d\d\.plist$/);
   return readFileSync(await file.path());
 }
 
-// In the open saves: a file is brought in, as far as the question whether it may take the career's place.
+// Chooses a file to import, up to the confirmation.
 export async function choose(page: Page, buffer: Buffer): Promise<void> {
   await page
     .getByLabel("Bring in a copy")
     .setInputFiles({ name: "career.plist", mimeType: "application/x-plist", buffer });
 }
 
-// Ada Vale, an actor of four years with titles on every step of their way.
+// The career of Ada Vale, in her fourth year with projects in every stage.
 export const workingActor = () => readFileSync(join(process.cwd(), "test/saves/working_actor.plist"));
 
-// For visit(): a browser that stores nothing.
+// For visit(): disables storage.
 export function withoutStorage(): void {
   Object.defineProperty(globalThis, "indexedDB", { value: undefined });
 }
 
-// For visit(): with `full` set, no transaction gets through, in the way in which browsers refuse one.
+// For visit(): while `full` is set, transactions fail with a quota error.
 export function fillable(): void {
   const commit = IDBTransaction.prototype.commit;
   IDBTransaction.prototype.commit = function refused(this: IDBTransaction): void {
@@ -238,8 +237,7 @@ export async function fill(page: Page, full: boolean): Promise<void> {
   await page.evaluate((given) => Object.assign(globalThis, { full: given }), full);
 }
 
-// For visit(): with `breaks` set, using or starting a game traps in its WebAssembly: it is handed a message that ends
-// early.
+// For visit(): while `breaks` is set, calls trap in WebAssembly because of truncated messages.
 export function breakable(): void {
   const instantiate = WebAssembly.instantiate as (
     module: WebAssembly.Module,
@@ -258,7 +256,7 @@ export function breakable(): void {
   Object.assign(WebAssembly, { instantiate: breaking });
 }
 
-// `names`: the functions that trap from now on; none in an empty text.
+// `names`: the functions that trap from now on; empty for none.
 export async function breakFrom(page: Page, names: string): Promise<void> {
   await page.evaluate((given) => Object.assign(globalThis, { breaks: given }), names);
 }

@@ -1,4 +1,4 @@
-// One tab plays at a time.
+// Only one tab can play.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -40,7 +40,7 @@ test("a second tab can take the game over, and give it back with all that was pl
 
 test("a tab that the browser has put to sleep does not keep the game", async () => {
   const { player, page: first } = await play(setting, "Ada Sleeps");
-  // Asleep, it hears nothing of the other tab's wish.
+  // A frozen tab does not respond to the other tab.
   await first.evaluate(() => {
     BroadcastChannel.prototype.dispatchEvent = () => true;
     Object.defineProperty(BroadcastChannel.prototype, "onmessage", { set: () => undefined });

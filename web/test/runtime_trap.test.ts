@@ -1,4 +1,4 @@
-// When the game stops in the middle of something: the player is told, and goes on from the last save.
+// When the game traps, the player is told and can continue from the last save.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -14,7 +14,7 @@ const setting = stage();
 
 const turnToAnotherTab = (page: Page) => page.getByRole("navigation").getByRole("button").last().click();
 const stopped = (page: Page) => heading(page, "Cut!");
-const trap = /unreachable/; // as the browser logs it
+const trap = /unreachable/; // logged by the browser
 
 test("after a trap the player goes on from the last save, in a new game", async () => {
   const { player, page } = await play(setting, "Ada Cut", breakable);
@@ -63,5 +63,5 @@ test("without the game's program the page says so, and tries again", async () =>
   await player.context.unroute("**/*.wasm");
   await press(page, "Try again");
   await nameField(page).waitFor();
-  player.expect(/./); // whatever the browser says of what it could not fetch
+  player.expect(/./); // the browser's errors about failed requests
 });

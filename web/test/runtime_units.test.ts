@@ -1,4 +1,4 @@
-// The parts of the runtime that need no browser.
+// Unit tests of the runtime without a browser.
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
@@ -25,7 +25,7 @@ test("a message says on the other side what was put into it, however long", () =
   assert.equal(reader.wideNumber(), -3);
   assert.equal(reader.text(), long);
   const read = reader.bytesOf();
-  message.fill(0); // as when the game's memory is used again
+  message.fill(0); // like reused memory
   assert.deepEqual([...read], [1, 2, 3]);
 });
 
@@ -36,7 +36,7 @@ test("a commit of an unknown kind is refused rather than half understood", () =>
   assert.throws(() => readChanges(writer.message()));
 });
 
-// A fixed sequence, so that a failure comes again.
+// A fixed pseudorandom sequence.
 function* draws(seed: number): Generator<number, never> {
   for (let state = seed; ; state = (state * 48271) % 2147483647) yield state;
 }
@@ -86,9 +86,9 @@ test("money, numbers and months are written as the device writes them", () => {
   assert.deepEqual(localeFields("de-DE").slice(0, 7), ["€", "0", "\u00a0", ",", ".", "-", "Januar"]);
   assert.deepEqual(localeFields("pt-BR").slice(0, 5), ["R$", "1", "\u00a0", ",", "."]);
   assert.equal(localeFields("en-CA")[0], "$");
-  assert.equal(localeFields("ja")[0], "￥"); // a language without a region means its usual one
+  assert.equal(localeFields("ja")[0], "￥"); // a language without a region has a default one
   const capitals = (tag: string) => localeFields(tag).slice(6 + 12);
-  assert.equal(capitals("ru-RU")[0], "ЯНВАРЬ"); // in every script, as its language does it
+  assert.equal(capitals("ru-RU")[0], "ЯНВАРЬ"); // in the language's own script
   assert.equal(capitals("tr-TR")[3], "NİSAN");
   assert.match(capitals("el-GR")[0]!, /^ΙΑΝΟΥΑΡΙΟ[ΣΥ]$/); // without its accent; the case is the browser's
   for (const tag of ["en", "ar-EG", "fa-IR", "hi-IN", "de-CH", "fr-FR", "tr-TR", "th-TH", "und", "eo"]) {
@@ -158,7 +158,7 @@ test("what the game logs comes line by line, emoji whole, even when it is writte
     return (fd_write as (...values: number[]) => number)(2, 0, 1, 8);
   };
   const text = new TextEncoder().encode("rating save failed: 🎬\nnext");
-  assert.equal(write(text.subarray(0, 22)), 0); // in the middle of the emoji
+  assert.equal(write(text.subarray(0, 22)), 0); // splits the emoji
   assert.equal(write(text.subarray(22)), 0);
   assert.deepEqual(lines, ["rating save failed: 🎬"]);
   assert.equal((fd_write as (...values: number[]) => number)(5, 0, 0, 8), 8);

@@ -100,7 +100,7 @@ Row openRow(const Game& game, const AgendaItem& item) {
 
 Row runningRow(const Game& game, const AgendaItem& item) {
   const WorldState& world = game.world;
-  const std::string weeks_left = counted(item.count, "week") + " left";
+  const std::string weeksLeft = counted(item.count, "week") + " left";
   switch (item.kind) {
     case AgendaItem::Kind::answers:
       return {.label = counted(item.count, "showreel") + (item.count == 1 ? " is out" : " are out"),
@@ -108,12 +108,12 @@ Row runningRow(const Game& game, const AgendaItem& item) {
               .press = opens<ActiveAuditionViewController>()};
     case AgendaItem::Kind::contract:
       return {.label = world.weeklyJobTitle,
-              .value = weeks_left,
+              .value = weeksLeft,
               .detail = tb::format("{} a week", shortMoney(game.locale, world.weeklyJobIncome)),
               .press = opens<JobBoardViewController>()};
     default:
       return {.label = className(world.saveAllCompletedClasses[item.index]),
-              .value = weeks_left,
+              .value = weeksLeft,
               .press = opens<ActingClassesViewController>()};
   }
 }
@@ -240,8 +240,8 @@ std::vector<Node> nextAtWork(const Game& game) {
 std::vector<Node> nextInPublic(const Game& game) {
   std::vector<Node> rows;
   for (const AgendaItem& item : dueItems(game.world)) {
-    const bool is_release = item.kind == AgendaItem::Kind::release;
-    if (is_release && rows.size() < maxDue) rows.emplace_back(dueRow(game.world, item));
+    const bool isRelease = item.kind == AgendaItem::Kind::release;
+    if (isRelease && rows.size() < maxDue) rows.emplace_back(dueRow(game.world, item));
   }
   return underNext(std::move(rows));
 }

@@ -149,7 +149,7 @@ Section critics(const Film& film) {
 }
 
 Section more(const WorldState& world, const Film& film) {
-  const bool is_series = film.typeOfFilm == filmType::series;
+  const bool forSeries = film.typeOfFilm == filmType::series;
   const auto quotes = std::ranges::count(world.saveAllQuotes, film.filmId, &Quote::filmId);
   return {
       .heading = "MORE",
@@ -157,8 +157,8 @@ Section more(const WorldState& world, const Film& film) {
                     .press = [id = film.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }},
                 Row{.label = "Top 250",
                     .press =
-                        [is_series](Stage& stage) {
-                          const auto list = is_series ? TopList::shows : TopList::movies;
+                        [forSeries](Stage& stage) {
+                          const auto list = forSeries ? TopList::shows : TopList::movies;
                           stage.open<Top250MoviesViewController>(list);
                         }},
                 Row{.label = "Quotes",

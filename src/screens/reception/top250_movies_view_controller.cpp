@@ -50,19 +50,18 @@ Choice Top250MoviesViewController::choice() {
 }
 
 Page Top250MoviesViewController::view(const Game& game) {
-  const bool is_movies = shown_ == TopList::movies;
-  const auto nodeAt = [this, &game, is_movies](std::size_t index) -> Node {
-    return is_movies ? movieRow(game, index + 1, lists_.movies[index])
-                     : showRow(game.world, index + 1, lists_.shows[index]);
+  const bool isMovies = shown_ == TopList::movies;
+  const auto nodeAt = [this, &game, isMovies](std::size_t index) -> Node {
+    return isMovies ? movieRow(game, index + 1, lists_.movies[index])
+                    : showRow(game.world, index + 1, lists_.shows[index]);
   };
-  return {
-      .title = is_movies ? "TOP 250 Movies" : "TOP 250 Shows",
-      .subtitle = is_movies ? "All Time Box Office Gross" : "All Time Highest Rated Series",
-      .nodes = {choice(),
-                Section{.heading = is_movies ? "WORLDWIDE" : "RATING",
-                        .nodes = {PagedList{.key = is_movies ? "movies" : "shows",
-                                            .size = is_movies ? lists_.movies.size() : lists_.shows.size(),
-                                            .nodeAt = nodeAt}}}}};
+  return {.title = isMovies ? "TOP 250 Movies" : "TOP 250 Shows",
+          .subtitle = isMovies ? "All Time Box Office Gross" : "All Time Highest Rated Series",
+          .nodes = {choice(),
+                    Section{.heading = isMovies ? "WORLDWIDE" : "RATING",
+                            .nodes = {PagedList{.key = isMovies ? "movies" : "shows",
+                                                .size = isMovies ? lists_.movies.size() : lists_.shows.size(),
+                                                .nodeAt = nodeAt}}}}};
 }
 
 }  // namespace tb

@@ -66,12 +66,12 @@ Section PaymentTransactionsViewController::yearSection(const Game& game) {
 }
 
 Page PaymentTransactionsViewController::view(const Game& game) {
-  double in_all = 0;
-  for (const YearOfPayments& year : years_) in_all += paidIn(year);
+  double total = 0;
+  for (const YearOfPayments& year : years_) total += paidIn(year);
   return {.title = "Payments",
           .subtitle = "What your titles have paid you",
           .nodes = {Tiles{{moneyTile(game, tb::format("In {}", years_[year_].year), paidIn(years_[year_])),
-                           moneyTile(game, "In all", in_all)}},
+                           moneyTile(game, "In all", total)}},
                     kindChoice(),
                     yearBars(game, "Year by year", years_,
                              [this](const YearOfPayments& year) { return paidIn(year); }),

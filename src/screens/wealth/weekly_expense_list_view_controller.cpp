@@ -50,10 +50,10 @@ Chart shares(const Game& game, const std::vector<std::size_t>& expenses) {
   }
   sortDescending(parts, &MoneyPart::amount);
   while (parts.size() > maxSlices) {
-    const double small_change = parts.back().amount;
+    const double smallItems = parts.back().amount;
     parts.pop_back();
     MoneyPart& last = parts.back();
-    last = {"Everything else", last.amount + small_change};
+    last = {"Everything else", last.amount + smallItems};
   }
   return moneyPie(game, "Where it goes", parts, "Nothing is taken.");
 }

@@ -9,11 +9,11 @@ namespace tb {
 // A project before its release: description, progress and available actions.
 class AuditionDetailViewController : public Screen {
  public:
-  explicit AuditionDetailViewController(std::int64_t filmId) : filmId_(filmId) {}
+  explicit AuditionDetailViewController(std::int64_t filmId) : film_id_(filmId) {}
   [[nodiscard]] view::Page view(const Game& game) override;
 
  private:
-  std::int64_t filmId_;
+  std::int64_t film_id_;
 };
 
 }  // namespace tb

@@ -60,7 +60,7 @@ bool hasFigures(const Audition& project) {
 }  // namespace
 
 Page PostReleaseAuditionViewController::view(const Game& game) {
-  const auto index = find(game.world.saveAllAuditionList, &Audition::filmId, filmId_);
+  const auto index = find(game.world.saveAllAuditionList, &Audition::filmId, film_id_);
   if (!index) return {.title = "Auditions", .nodes = {caption("This project is not on your list anymore.")}};
   const Audition& project = game.world.saveAllAuditionList[*index];
   Page page{.title = titleWithSeason(project),

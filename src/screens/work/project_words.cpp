@@ -64,9 +64,9 @@ bool isReleased(const WorldState& world, const Audition& project) {
 }
 
 bool isOver(const WorldState& world, const Audition& project) {
-  const bool turned_down =
+  const bool wasLost =
       project.funnelStage == funnel::invited && project.weekAudition < world.weekNumberForTracking;
-  return project.funnelStage == funnel::closed || turned_down;
+  return project.funnelStage == funnel::closed || wasLost;
 }
 
 view::Section roleSection(const Audition& project) {

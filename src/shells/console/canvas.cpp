@@ -52,19 +52,19 @@ void Canvas::text(std::string_view text, Ink ink, const std::string& margin, int
   }
 }
 
-void Canvas::leader(std::string_view label, std::string_view value, Ink label_ink, Ink value_ink,
+void Canvas::leader(std::string_view label, std::string_view value, Ink labelInk, Ink valueInk,
                     std::string margin) {
-  if (value.empty()) return text(label, label_ink, margin, 2);
+  if (value.empty()) return text(label, labelInk, margin, 2);
   const bool single = value.find('\n') == std::string_view::npos;
   const int dots = width() - columnsOf(label) - columnsOf(value) - 2;
   if (single && dots >= minLeaderDots && label.find('\n') == std::string_view::npos) {
-    return line({{std::string(label), label_ink},
+    return line({{std::string(label), labelInk},
                  {" " + repeated(".", dots) + " ", Ink::quiet},
-                 {std::string(value), value_ink}},
+                 {std::string(value), valueInk}},
                 std::move(margin));
   }
-  text(label, label_ink, margin, 2);
-  nested("  ", [&] { text(value, value_ink); });
+  text(label, labelInk, margin, 2);
+  nested("  ", [&] { text(value, valueInk); });
 }
 
 void Canvas::flow(const std::vector<Runs>& items) {

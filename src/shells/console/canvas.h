@@ -36,7 +36,7 @@ class Canvas {
   void text(std::string_view text, Ink ink, const std::string& margin = "", int hang = 0);
 
   // "label ........ value", on several lines if it does not fit one.
-  void leader(std::string_view label, std::string_view value, Ink label_ink, Ink value_ink,
+  void leader(std::string_view label, std::string_view value, Ink labelInk, Ink valueInk,
               std::string margin = "");
 
   // Items side by side, wrapped to several lines if needed.

@@ -30,19 +30,19 @@ struct Bar {
 };
 
 void drawBars(Canvas& canvas, const std::vector<Bar>& bars) {
-  int label_width = 0;
-  int text_width = 0;
+  int labelWidth = 0;
+  int textWidth = 0;
   for (const Bar& drawn : bars) {
-    label_width = std::max(label_width, columnsOf(drawn.label));
-    text_width = std::max(text_width, columnsOf(drawn.text));
+    labelWidth = std::max(labelWidth, columnsOf(drawn.label));
+    textWidth = std::max(textWidth, columnsOf(drawn.text));
   }
-  label_width = std::min(label_width, canvas.width() / 3);
-  const int width = std::clamp(canvas.width() - label_width - text_width - 3, 4, maxBarWidth);
+  labelWidth = std::min(labelWidth, canvas.width() / 3);
+  const int width = std::clamp(canvas.width() - labelWidth - textWidth - 3, 4, maxBarWidth);
   for (const Bar& drawn : bars) {
-    const std::string label = fitted(drawn.label, std::max(4, label_width));
+    const std::string label = fitted(drawn.label, std::max(4, labelWidth));
     const std::string full =
         repeated(canvas.glyphs().full, static_cast<int>(std::lround(drawn.share * width)));
-    canvas.line({{label + repeated(" ", label_width - columnsOf(label) + 1)},
+    canvas.line({{label + repeated(" ", labelWidth - columnsOf(label) + 1)},
                  {full, Ink::accent},
                  {repeated(" ", width - columnsOf(full) + 1) + drawn.text}});
   }

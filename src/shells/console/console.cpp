@@ -35,9 +35,9 @@ struct Command {
 
 Command commandIn(const std::string& line) {
   const std::size_t digits = std::min(line.find_first_not_of("0123456789"), line.size());
-  const bool is_number =
+  const bool isNumber =
       digits > 0 && digits <= maxNumberLength && (digits == line.size() || line[digits] == ' ');
-  if (!is_number) return {.words = line};
+  if (!isNumber) return {.words = line};
   view::Handle number = 0;
   std::from_chars(line.data(), line.data() + digits, number);
   return {.number = number, .words = trimmed(std::string_view(line).substr(digits))};
@@ -59,8 +59,8 @@ std::string joined(std::span<const Line> lines, bool colours) {
 }
 
 // Identifies the scrolled content: a new page, tab or dialog starts at its top.
-std::string scrolledPlace(const view::Page& page, bool dialog_alone) {
-  if (dialog_alone) return page.dialog.front().title;
+std::string scrolledPlace(const view::Page& page, bool dialogAlone) {
+  if (dialogAlone) return page.dialog.front().title;
   const auto tab = std::ranges::find(page.tabs, true, &view::Tab::current);
   return tab == page.tabs.end() ? page.title : page.title + "\n" + tab->label;
 }
@@ -184,9 +184,9 @@ void Console::goBack() {
 
 // Nothing at the end of the input.
 std::optional<std::string> Console::ask(const std::string& question) {
-  const std::string clean_question = cleaned(question);
+  const std::string cleanQuestion = cleaned(question);
   for (;;) {
-    const Input input = port_.read(clean_question, {});
+    const Input input = port_.read(cleanQuestion, {});
     if (input.what == Input::What::end) return {};
     letTimePass(input.seconds);
     if (input.what == Input::What::line) {
@@ -259,11 +259,11 @@ std::string Console::window(const ConsolePort::Shape& shape) {
   const int fixed = static_cast<int>(page_.head.size() + foot.size() + hint.size()) + ruleAndPrompt;
   const int room = std::max(minScrolledLines, shape.rows - fixed);
   const int dialog = static_cast<int>(page_.dialog.size());
-  const bool dialog_alone = dialog > room - minScrolledLines - 1;
-  const bool over = dialog > 0 && !dialog_alone;
-  const std::vector<Line>& scrolled = dialog > 0 && dialog_alone ? page_.dialog : page_.body;
+  const bool dialogAlone = dialog > room - minScrolledLines - 1;
+  const bool over = dialog > 0 && !dialogAlone;
+  const std::vector<Line>& scrolled = dialog > 0 && dialogAlone ? page_.dialog : page_.body;
 
-  const std::string place = scrolledPlace(app_.view(), dialog > 0 && dialog_alone);
+  const std::string place = scrolledPlace(app_.view(), dialog > 0 && dialogAlone);
   if (std::exchange(place_, place) != place) first_ = 0;
   length_ = scrolled.size();
   shown_ = static_cast<std::size_t>(over ? room - dialog - 1 : room);

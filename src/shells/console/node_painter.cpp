@@ -174,10 +174,10 @@ void NodePainter::gauge(const std::string& label, double share, const std::strin
                         std::string margin) {
   const int width = std::min(gaugeWidth, canvas_.width() / 3);
   Runs drawn{{"["}, {bar(canvas_.glyphs(), share, width), ink}, {"]"}};
-  const bool short_text = width + 4 + columnsOf(text) <= canvas_.width();
-  if (short_text && !text.empty()) drawn.push_back({"  " + text});
+  const bool shortText = width + 4 + columnsOf(text) <= canvas_.width();
+  if (shortText && !text.empty()) drawn.push_back({"  " + text});
   labelled(label, std::move(drawn), std::move(margin));
-  if (!short_text) canvas_.text(text, Ink::plain);
+  if (!shortText) canvas_.text(text, Ink::plain);
 }
 
 void NodePainter::kind(const Meter& meter) {

@@ -69,10 +69,10 @@ Locale localeFrom(const lconv& conventions, const MonthNames& names) {
     locale.currencyBeforeAmount = conventions.p_cs_precedes != 0;
     locale.currencyGap = conventions.p_sep_by_space == 1 ? noBreakSpace : "";
   }
-  const auto is_complete = [](const auto& months) {
+  const auto isComplete = [](const auto& months) {
     return std::ranges::none_of(months, &std::string::empty);
   };
-  if (is_complete(names.months) && is_complete(names.capitals)) {
+  if (isComplete(names.months) && isComplete(names.capitals)) {
     locale.months = names.months;
     locale.monthCapitals = names.capitals;
   }

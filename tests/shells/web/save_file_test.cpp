@@ -22,8 +22,8 @@ TEST_F(WebSaveFile, RoundTripsACareer) {
   store.put("trackFans", {plist::Array{whole(1), whole(2)}});
   const Bytes file = exportedSave(store);
 
-  test::MemoryPort other_port;
-  SaveStore other(other_port);
+  test::MemoryPort otherPort;
+  SaveStore other(otherPort);
   other.put("myName", text("Somebody else"));
   other.put("saveAllFilmList", {plist::Data{}});
   EXPECT_EQ(importSave(other, file), "");
