@@ -108,6 +108,7 @@ TVRecord tvRecordOf(Columns& columns) {
 CatalogueTitle catalogueTitleOf(Columns& columns) {
   return {.title = columns.text(),
           .year = columns.number(),
+          .genre = columns.text(),
           .imageString = columns.text(),
           .description = columns.text()};
 }

@@ -69,6 +69,7 @@ struct TVRecord {
 struct CatalogueTitle {
   std::string title;
   std::int64_t year = 0;
+  std::string genre;
   std::string imageString;  // poster
   std::string description;
 };

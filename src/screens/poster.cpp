@@ -53,7 +53,7 @@ Picture posterOf(const Movie& movie) {
 }
 
 Picture posterOf(const CatalogueTitle& title) {
-  return {.kind = PictureKind::poster, .name = title.imageString, .title = title.title};
+  return {.kind = PictureKind::poster, .name = title.imageString, .title = title.title, .genre = title.genre};
 }
 
 Picture posterOf(const WorldState& world, const Audition& project) {

@@ -2,83 +2,114 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-#include "career/job_board.h"
-#include "career/submission.h"
-#include "career/traits.h"
 #include "tests/journeys/device.h"
-#include "tests/scratch_game.h"
-#include "week/agenda.h"
-#include "week/end_week.h"
 
 namespace tb {
 namespace {
 
-// A beginner who follows the agenda from top to bottom.
+const view::Button* actionOf(const view::Row& row) {
+  return row.action.empty() ? nullptr : &row.action.front();
+}
+
+// A beginner who does what the rows under THIS WEEK on Home say, from the top to the end, and nothing else.
 class Beginner {
  public:
-  explicit Beginner(std::uint64_t seed) : random_(seed) { refreshHub(game_, HubRefresh::launch); }
+  explicit Beginner(std::uint64_t seed) : random_(seed), device_(random_) {
+    device_.begin([](WorldState&) {});
+  }
 
   // The week of the first booking, or `last` when there is none by then.
   std::int64_t weekOfFirstBooking(std::int64_t last) {
-    while (world().weekNumberForTracking < last && !isBooked()) playAWeek();
-    return world().weekNumberForTracking;
+    while (device_.world().weekNumberForTracking < last && !isBooked()) playAWeek();
+    return device_.world().weekNumberForTracking;
   }
   // True when an audition was rehearsed in the week of the first invitation.
   [[nodiscard]] bool rehearsedAtOnce() const { return rehearsed_at_once_; }
 
  private:
-  [[nodiscard]] WorldState& world() { return game_.world; }
-  [[nodiscard]] bool isBooked() {
-    return std::ranges::any_of(world().saveAllAuditionList,
+  [[nodiscard]] bool isBooked() const {
+    return std::ranges::any_of(device_.world().saveAllAuditionList,
                                [](const Audition& project) { return project.funnelStage == funnel::booked; });
+  }
+  const view::Page& page() { return device_.player().page(); }
+  void use(view::Handle handle) { device_.app().press(handle); }
+
+  std::vector<view::Row> thisWeek() {
+    std::vector<view::Row> rows;
+    for (const view::Node& node : page().nodes) {
+      const auto* const section = std::get_if<view::Section>(&node.node);
+      if (section == nullptr || section->heading != "THIS WEEK") continue;
+      for (const view::Node& row : section->nodes) rows.push_back(std::get<view::Row>(row.node));
+    }
+    return rows;
+  }
+
+  // Presses the first action of that name that would not refuse; false when there is none.
+  bool actInPlace(const std::string& label) {
+    for (const view::Row& row : thisWeek()) {
+      const view::Button* const action = actionOf(row);
+      if (action == nullptr || !action->label.starts_with(label) || !action->refusal.empty()) continue;
+      use(action->handle);
+      return true;
+    }
+    return false;
   }
 
   void playAWeek() {
     rehearse();
-    for (const AgendaItem& item : openItems(world())) doIt(item);
-    endWeek(game_);
-    static_cast<void>(openSummary(game_));
-    closeSummary(game_);
-    refreshHub(game_, HubRefresh::worldChanged);
+    for (const view::Row& row : thisWeek()) {
+      if (row.label == "Send showreels") follow(row.label, [this] { submitToAll(); });
+      if (row.label == "Find work") follow(row.label, [this] { acceptAJob(); });
+    }
+    actInPlace("Train to ");
+    use(page().main.front().handle);
+    EXPECT_EQ(page().title, "REVIEW");
+    use(page().main.front().handle);
   }
 
   void rehearse() {
+    const bool isInvited = std::ranges::any_of(thisWeek(), [](const view::Row& row) {
+      return row.label.starts_with("Audition in ") || row.label == "Audition this week";
+    });
     bool rehearsed = false;
-    bool invited = false;
-    for (const AgendaItem& item : dueItems(world())) {
-      if (item.kind != AgendaItem::Kind::audition) continue;
-      const Audition& project = world().saveAllAuditionList[item.index];
-      while (boostOf(world(), project) && !buyBoost(game_, project.filmId)) {
-      }
-      invited = true;
-      rehearsed |= world().saveAllAuditionList[item.index].rehearsalBoostCount > 0;
-    }
-    if (invited && !was_invited_) rehearsed_at_once_ = rehearsed;
-    was_invited_ |= invited;
+    while (actInPlace("Rehearse")) rehearsed = true;
+    if (isInvited && !was_invited_) rehearsed_at_once_ = rehearsed;
+    was_invited_ |= isInvited;
   }
 
-  void doIt(const AgendaItem& item) {
-    switch (item.kind) {
-      case AgendaItem::Kind::submissions:
-        for (const CastingListing& listing : openCastingNetwork(game_))
-          submitToCastingListing(game_, listing);
+  // Opens the screen that the row leads to, and comes back to Home. Each page has handles of its own.
+  template <class Visit>
+  void follow(const std::string& label, Visit visit) {
+    const std::vector<view::Row> rows = thisWeek();
+    const auto row = std::ranges::find(rows, label, &view::Row::label);
+    if (row == rows.end()) return;
+    use(row->handle);
+    visit();
+    use(page().tabs.front().handle);
+  }
+
+  void submitToAll() {
+    for (bool sent = true; sent;) {
+      sent = false;
+      for (const view::Node& node : page().nodes) {
+        const auto* const role = std::get_if<view::Row>(&node.node);
+        const view::Button* const submit = role == nullptr ? nullptr : actionOf(*role);
+        if (submit == nullptr || submit->label != "Submit" || !submit->refusal.empty()) continue;
+        use(submit->handle);
+        sent = true;
         break;
-      case AgendaItem::Kind::job:
-        for (const JobOffer& offer : openJobBoard(game_)) acceptJob(game_, offer);
-        break;
-      case AgendaItem::Kind::training:
-        while (!buyTrait(game_, static_cast<int>(item.index) + 1)) {
-        }
-        break;
-      default:
-        break;
+      }
     }
+  }
+
+  void acceptAJob() {
+    const auto usable = device_.player().usable();
+    const auto accept = std::ranges::find(usable, "Accept", &test::Player::Usable::label);
+    if (accept != usable.end()) use(accept->handle);
   }
 
   test::SeededRandom random_;
-  test::MemoryPort port_;
-  SaveStore store_{port_};
-  Game game_{.store = store_, .random = random_};
+  test::Device device_;
   bool was_invited_ = false;
   bool rehearsed_at_once_ = false;
 };

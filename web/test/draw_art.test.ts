@@ -76,17 +76,17 @@ test("every picture is sound SVG that only shows, whatever its name", async () =
   assert.deepEqual(await page.evaluate(faultsOf, arts), []);
 });
 
-// The posters of the catalogue.
-function catalogue(): Picture[] {
+// The titles of a file of texts, each as its poster. Where no type is told, a title is a feature.
+function titlesOf(file: string): Picture[] {
   const posters: Picture[] = [];
   let columns: string[] = [];
-  for (const line of readFileSync("../src/banks/titles.txt", "utf8").split("\n")) {
+  for (const line of readFileSync(`../src/banks/${file}.txt`, "utf8").split("\n")) {
     if (line.startsWith("[")) columns = [];
     if (line.startsWith("# columns: ")) columns = line.slice("# columns: ".length).split(" | ");
     if (line.startsWith("#") || !columns.includes("genre") || line === "") continue;
     const cells = line.split(" | ");
     const cell = (column: string): string => cells[columns.indexOf(column)]!;
-    const format = formats[Number(cell("type"))]!;
+    const format = columns.includes("type") ? formats[Number(cell("type"))]! : "feature";
     posters.push(poster(cell("title"), cell("genre").split(", ")[0]!, { name: cell("imageString"), format }));
   }
   return posters;
@@ -97,7 +97,7 @@ const glance = ({ genre, format }: Picture, { scene, palette, layout }: Look): s
   format === "commercial" ? `product ${scene}` : `${genre} ${format} scene ${scene} palette ${palette} layout ${layout}`;
 
 test("no two titles that can meet on a casting board or in a filmography share a picture", () => {
-  const titles = catalogue();
+  const titles = titlesOf("titles");
   assert.ok(titles.length > 200, `${titles.length} titles`);
   const met = new Map<string, string>();
   const shared = titles.flatMap((shown) => {
@@ -108,7 +108,12 @@ test("no two titles that can meet on a casting board or in a filmography share a
   });
   // If this fails, change the genre's salt (src/art/posters/genres.ts).
   assert.deepEqual(shared, []);
-  for (const { genre } of titles) assert.ok(genres[genre], `no scenes of the genre ${genre}`);
+});
+
+test("every title has a genre that posters are drawn of", () => {
+  for (const { title, genre } of [...titlesOf("titles"), ...titlesOf("rate_movies")]) {
+    assert.ok(genres[genre], `${title}: no scenes of the genre ${genre}`);
+  }
 });
 
 test("a poster bears its title, the season of a series, and the name that is billed", () => {

@@ -384,20 +384,24 @@ const question: Scene = ({ p, chance, y }) => {
   return { art, sky: p.deep, ground: mix(p.deep, p.night, 0.6) };
 };
 
+// A dark house, and a glass that finds the one who is in it.
 const manor: Scene = ({ p, chance, y }) => {
+  const side = chance.likely(0.5) ? 1 : -1;
+  const x = 100 + side * 34;
   const lit = chance.whole(0, 9);
   const house = rect(-62, -70, 124, 70, p.night) + path("M-70-70L-52-96H52L70-70Z", p.night) + path("M-16-96L0-118L16-96Z", p.night) + rect(-46, -112, 9, 30, p.night) + rect(36, -112, 9, 30, p.night) +
     many(10, (index) => rect(-53 + (index % 5) * 23, -62 + Math.floor(index / 5) * 28, 12, 17, index === lit ? p.pop : mix(p.night, p.deep, 0.7))) + rect(-8, -20, 16, 20, p.deep);
   const art =
-    sky(p.night, p.deep, p.mid) +
-    path(`M150 ${y - 110}l-16 34h12l-20 40l4-28h-11l12-46Z`, p.light) +
+    sky(p.deep, mix(p.deep, p.mid, 0.5), p.mid) +
     peaks(chance, y + 60, 40, mix(p.deep, p.night, 0.4)) +
     hills(chance, y + 58, 5, mix(p.night, p.deep, 0.3)) +
     at(100, y + 58, house, 1.06) +
     path(`M92 ${y + 56}h16l40 100H52Z`, mix(p.night, p.deep, 0.7)) +
-    rain(chance, p.light, 0.3) +
-    person(100, y + 98, 40, p.night, poses.coat, "fedora");
-  return { art, sky: p.night, ground: mix(p.night, p.deep, 0.3) };
+    stroke(`M${x - side * 26} ${y + 56}L${x - side * 62} ${y + 106}`, p.light, 13, round) +
+    circle(x, y + 20, 42, p.pop) +
+    person(x, y + 56, 62, p.night, poses.coat, "fedora") +
+    circle(x, y + 20, 42, "none", { stroke: p.light, "stroke-width": 8 });
+  return { art, sky: p.deep, ground: mix(p.night, p.deep, 0.3) };
 };
 
 export const mystery: readonly Scene[] = [magnifier, keyhole, streetlamp, doors, question, manor];

@@ -263,7 +263,10 @@ const letter: Scene = ({ p, chance, y }) => {
   return { art, sky: p.mid, ground: p.night };
 };
 
+// An engine between a gentleman in a top hat and a lady with a parasol.
 const locomotive: Scene = ({ p, chance, y }) => {
+  const gentleman = person(30, y + 112, 92, p.night, poses.coat) + rect(21, y + 5, 18, 21, p.night) + rect(14, y + 23, 32, 4, p.night);
+  const lady = person(168, y + 112, 84, p.night, poses.dress) + stroke(`M150 ${y + 66}V${y - 6}`, p.light, 2.4) + path(`M114 ${y + 10}Q150 ${y - 42} 186 ${y + 10}Q168 ${y + 1} 150 ${y + 10}Q132 ${y + 1} 114 ${y + 10}Z`, p.light);
   const art =
     sky(p.pop, p.light) +
     cloud(100, y - 56, 1.5, p.light) +
@@ -283,7 +286,9 @@ const locomotive: Scene = ({ p, chance, y }) => {
     circle(56, y + 53, 6, p.pop) +
     circle(144, y + 53, 6, p.pop) +
     path(`M56 ${y + 62}H144L164 ${y + 98}H36Z`, p.night) +
-    stroke(many(7, (index) => `M${64 + index * 12} ${y + 64}L${46 + index * 18} ${y + 96}`), p.pop, 2.4);
+    stroke(many(7, (index) => `M${64 + index * 12} ${y + 64}L${46 + index * 18} ${y + 96}`), p.pop, 2.4) +
+    gentleman +
+    lady;
   return { art, sky: p.pop, ground: p.deep };
 };
 
