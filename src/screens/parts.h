@@ -40,11 +40,16 @@ template <class Opened>
 // Why the button would refuse, in a few words; empty when it would not.
 [[nodiscard]] std::string briefOf(const Refusal& refusal);
 
-// "⚡️ 12", as prices in energy are written.
-[[nodiscard]] std::string energyPrice(std::int64_t energy);
+// A price in energy, and one in cash: whole units of money.
+[[nodiscard]] view::Price energyPrice(std::int64_t energy);
+[[nodiscard]] view::Price moneyPrice(const Locale& locale, double price);
+
+// The band of a score from 0 to 100.
+[[nodiscard]] view::Band scoreBand(double score);
 
 // A 0 to 100 score, tinted by its band. A score above 100 fills the meter.
 [[nodiscard]] view::Meter scoreMeter(std::string label, std::int64_t score);
+[[nodiscard]] view::StatTile scoreTile(std::string label, std::int64_t score, std::string detail = "");
 
 // How a chart writes its values.
 using ValueText = std::function<std::string(double)>;

@@ -38,8 +38,11 @@ enum class Tone : std::uint8_t {
   accent,
 };
 
-// The band of a 0 to 100 score: below 25, 25 to 49, 50 to 79, 80 and above.
-enum class Band : std::uint8_t { poor, fair, good, great };
+// The band of a score from 0 to 100, by which it is tinted wherever it stands; none for any other figure.
+enum class Band : std::uint8_t { none, poor, fair, good, great };
+
+// A small sign beside words or a figure. Each shell draws it in its own way.
+enum class Icon : std::uint8_t { none, home, work, social, life, wealth, backstage, settings, energy };
 
 enum class PictureKind : std::uint8_t { avatar, poster, logo, house, vehicle, card, photo, icon };
 
@@ -80,6 +83,8 @@ struct StatTile {
   std::string value;  // formatted
   std::string detail;
   Tone tone = Tone::plain;
+  Band band = Band::none;  // takes the place of the tone
+  Icon icon = Icon::none;  // what it is counted in
 };
 
 // Tiles that belong side by side.
@@ -102,8 +107,8 @@ struct Meter {
   std::string label;
   double value = 0;  // 0 to maximum; a value above it fills the meter
   double maximum = 100;
-  std::string text;      // the figure in words, such as "72 of 100"
-  bool isScore = false;  // a score from 0 to 100: tinted by its band
+  std::string text;  // the figure in words, such as "72 of 100"
+  Band band = Band::none;
 };
 
 // Stars out of `outOf`, halves included.
@@ -113,10 +118,16 @@ struct Stars {
   int outOf = 5;
 };
 
+// What a button costs.
+struct Price {
+  std::string amount;      // formatted; empty for nothing
+  Icon icon = Icon::none;  // of what is paid with, where the amount does not say it
+};
+
 struct Button {
   std::string label;
   Operation press;
-  std::string price;      // formatted, empty when it costs nothing
+  Price price;
   std::string offReason;  // not empty: the button is off, and this is why
   // Not empty: the rule behind it refuses now, and this is why, in a few words. It can be pressed all the
   // same and then says the whole of it.
@@ -149,6 +160,7 @@ struct Row {
   Tone tone = Tone::plain;
   enum class Step : std::uint8_t { none, open, taken };
   Step step = Step::none;      // of a list of steps, with a mark that tells those taken from the others
+  Band band = Band::none;      // of the value, where it is a score
   Operation press;             // may be empty
   std::vector<Button> action;  // none or one
   Handle handle = 0;
@@ -298,7 +310,7 @@ struct Node {
 // A way to another screen that is always in reach: tabs at the bottom, icons at the top right.
 struct Tab {
   std::string label;
-  std::string icon;  // one emoji or letter
+  Icon icon = Icon::none;
   bool current = false;
   Operation press;
   bool isOff = false;  // can't be used on this screen; its place is kept

@@ -1,7 +1,16 @@
-// Art of others that the page shows, to be named where the player can see it: its licence asks for that.
-export const artCredit = {
-  text: "Avatars: Personas by Draftbit",
-  work: "https://personas.draftbit.com/",
-  licenceName: "CC BY 4.0",
-  licence: "https://creativecommons.org/licenses/by/4.0/",
-} as const;
+// Work of others that the page shows, to be named where the player can see it: their licenses ask for that.
+
+export const credits = [
+  {
+    text: "Avatars: Personas by Draftbit",
+    work: "https://personas.draftbit.com/",
+    licenseName: "CC BY 4.0",
+    license: "https://creativecommons.org/licenses/by/4.0/",
+  },
+  {
+    text: "Headings: Barlow Condensed by the Barlow Project Authors",
+    work: "https://github.com/jpt/barlow",
+    licenseName: "SIL Open Font License 1.1",
+    license: "barlow-condensed-license.txt",
+  },
+] as const;

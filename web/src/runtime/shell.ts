@@ -5,6 +5,7 @@ import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
+import { isFaceKept, loadFace } from "./face";
 import { Game, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
@@ -80,6 +81,7 @@ export class Shell {
     // The program is loaded even while another tab plays: this page's own version of it may be gone from the
     // server by the time that tab is closed.
     program.get().catch(() => undefined);
+    if (isFaceKept()) loadFace().catch(() => undefined);
     await this.lock.acquire();
   }
 
@@ -181,7 +183,7 @@ export class Shell {
     if (this.fetchesRest) return;
     this.fetchesRest = true;
     await new Promise((painted) => requestAnimationFrame(() => setTimeout(painted)));
-    await Promise.allSettled([this.handInTexts(), loadArt()]);
+    await Promise.allSettled([this.handInTexts(), loadArt(), loadFace()]);
     await this.updates.start();
   }
 
