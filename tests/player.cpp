@@ -30,6 +30,20 @@ std::string toneMark(Tone tone) {
   constexpr std::array marks = {"", " <quiet>", " <good>", " <warning>", " <accent>"};
   return marks[static_cast<std::size_t>(tone)];
 }
+std::string iconMark(Icon icon) {
+  constexpr std::array marks = {"", "🏠", "🎬", "💬", "⚡️", "💰", "B", "⚙️", "⚡️"};
+  return marks[static_cast<std::size_t>(icon)];
+}
+std::string withIcon(Icon icon, const std::string& words) {
+  return icon == Icon::none ? words : iconMark(icon) + " " + words;
+}
+std::string bandMark(Band band) {
+  constexpr std::array marks = {"", " <poor>", " <fair>", " <good>", " <great>"};
+  return marks[static_cast<std::size_t>(band)];
+}
+std::string inWords(const Price& price) {
+  return price.amount.empty() ? "" : withIcon(price.icon, price.amount);
+}
 std::string weightMark(Button::Weight weight) {
   constexpr std::array marks = {"", " <primary>", " <quiet>", " <destructive>", " <done>"};
   return marks[static_cast<std::size_t>(weight)];
@@ -72,7 +86,8 @@ class Walk {
     for (const Tab& icon : page.icons) node(icon);
     for (const Button& close : page.close) node(close);
     for (const StatTile& figure : page.figures) {
-      text_(figure.label + ": " + joined({figure.value, figure.detail}) + toneMark(figure.tone));
+      text_(figure.label + ": " + joined({withIcon(figure.icon, figure.value), figure.detail}) +
+            toneMark(figure.tone));
     }
     on_page_ = true;
     nodes(page.nodes);
@@ -114,7 +129,7 @@ class Walk {
   }
 
   void node(const Tab& tab) {
-    text_("[" + tab.label + "] " + tab.icon + (tab.current ? " <current>" : ""));
+    text_("[" + tab.label + "] " + iconMark(tab.icon) + (tab.current ? " <current>" : ""));
     press(tab.label, tab.handle);
   }
   void node(const Text& text) {
@@ -122,12 +137,13 @@ class Walk {
   }
   void node(const Tiles& tiles) {
     for (const StatTile& tile : tiles.tiles) {
-      text_(tile.label + ": " + joined({tile.value, tile.detail}) + toneMark(tile.tone));
+      text_(tile.label + ": " + joined({withIcon(tile.icon, tile.value), tile.detail}) + toneMark(tile.tone) +
+            bandMark(tile.band));
     }
   }
   void node(const Meter& meter) {
-    text_(std::format("{}: {} ({} of {}{})", meter.label, meter.text, meter.value, meter.maximum,
-                      meter.isScore ? ", score" : ""));
+    text_(std::format("{}: {} ({} of {})", meter.label, meter.text, meter.value, meter.maximum) +
+          bandMark(meter.band));
   }
   void node(const Balance& balance) {
     text_(balance.label + ": " + balance.net + toneMark(balance.tone));
@@ -137,7 +153,7 @@ class Walk {
     text_(std::format("{}: {} of {} stars", stars.label, stars.value, stars.outOf));
   }
   void node(const Button& button) {
-    text_(joined({"[" + button.label + "]", button.price, button.offReason, button.refusal}) +
+    text_(joined({"[" + button.label + "]", inWords(button.price), button.offReason, button.refusal}) +
           weightMark(button.weight));
     press(button.label, button.handle, button.name);
   }
@@ -146,7 +162,8 @@ class Walk {
   }
   void node(const Row& row) {
     const std::string label = row.press ? "[" + row.label + "]" : row.label;
-    text_(stepMark(row.step) + joined({label, row.value, row.detail}) + toneMark(row.tone));
+    text_(stepMark(row.step) + joined({label, row.value, row.detail}) + toneMark(row.tone) +
+          bandMark(row.band));
     for (const Picture& picture : row.picture) node(picture);
     press(row.label, row.handle);
     for (const Button& action : row.action) node(action);

@@ -70,6 +70,13 @@ const artApart = {
     onResolve({ filter: /\/art\/picture_art$/ }, () => ({ path: `./${artScript}`, external: true })),
 };
 
+// The display face, in the parts that face.mjs cut it into.
+const faceFolder = join(here, "src/face");
+const faces = JSON.parse(readFileSync(join(faceFolder, "parts.json"), "utf8")).map(({ name, range }) => ({
+  file: putHashed(`face-${name}`, "woff2", readFileSync(join(faceFolder, `${name}.woff2`))),
+  range,
+}));
+
 const page = await build({
   ...bundling,
   entryPoints: [join(here, "src/main.tsx")],
@@ -77,7 +84,7 @@ const page = await build({
   format: "esm",
   jsx: "automatic",
   jsxImportSource: "preact",
-  define: { WASM_FILE: JSON.stringify(wasm), TEXTS_FILE: JSON.stringify(texts) },
+  define: { WASM_FILE: JSON.stringify(wasm), TEXTS_FILE: JSON.stringify(texts), FACES: JSON.stringify(faces) },
   plugins: [artApart],
 });
 const bundled = (ending) => page.outputFiles.find((file) => file.path.endsWith(ending)).contents;
@@ -89,7 +96,7 @@ const index = readFileSync(join(here, "static/index.html"), "utf8").replace(/\{\
 put("index.html", index);
 
 // The files for offline play. Home screens keep their own copies of the PNG icons.
-const files = [script, style, wasm, texts, artScript, ...staticFiles.filter((name) => !name.endsWith(".png"))];
+const files = [script, style, wasm, texts, artScript, ...faces.map(({ file }) => file), ...staticFiles.filter((name) => !name.endsWith(".png"))];
 
 // The version is a hash of all files.
 const version = hashOf([index, ...files.map((name) => name + hashOf(readFileSync(join(options.out, name))))].join("\n"));

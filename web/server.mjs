@@ -16,8 +16,9 @@ const types = {
   ".txt": "text/plain; charset=utf-8",
   ".wasm": "application/wasm",
   ".webmanifest": "application/manifest+json",
+  ".woff2": "font/woff2",
 };
-const alreadySmall = new Set([".png"]);
+const alreadySmall = new Set([".png", ".woff2"]);
 
 const encoders = {
   br: (content) => promisify(brotliCompress)(content, { params: { [constants.BROTLI_PARAM_QUALITY]: 9 } }),

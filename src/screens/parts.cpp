@@ -33,20 +33,39 @@ std::vector<StatTile> headFigures(const Game& game) {
            .value = cash(game.locale, world.totalCashAvailable),
            .tone = world.totalCashAvailable < 0 ? Tone::warning : Tone::plain},
           {.label = "Energy",
-           .value = energyPrice(world.totalEnergyAvailable),
-           .detail = tb::format("of {}", world.totalEnergyMax)}};
+           .value = std::to_string(world.totalEnergyAvailable),
+           .detail = tb::format("of {}", world.totalEnergyMax),
+           .icon = Icon::energy}};
 }
 
 std::string briefOf(const Refusal& refusal) { return refusal ? refusal->brief : ""; }
 
-std::string energyPrice(std::int64_t energy) { return tb::format("⚡️ {}", energy); }
+Price energyPrice(std::int64_t energy) { return {.amount = std::to_string(energy), .icon = Icon::energy}; }
+
+Price moneyPrice(const Locale& locale, double price) { return {.amount = currency(locale, price, 0)}; }
+
+Band scoreBand(double score) {
+  constexpr double fairFrom = 25;
+  constexpr double goodFrom = 50;
+  constexpr double greatFrom = 80;
+  if (score < fairFrom) return Band::poor;
+  if (score < goodFrom) return Band::fair;
+  return score < greatFrom ? Band::good : Band::great;
+}
 
 Meter scoreMeter(std::string label, std::int64_t score) {
   return {.label = std::move(label),
           .value = static_cast<double>(score),
           .maximum = 100,
           .text = std::to_string(score),
-          .isScore = true};
+          .band = scoreBand(static_cast<double>(score))};
+}
+
+StatTile scoreTile(std::string label, std::int64_t score, std::string detail) {
+  return {.label = std::move(label),
+          .value = std::to_string(score),
+          .detail = std::move(detail),
+          .band = scoreBand(static_cast<double>(score))};
 }
 
 namespace {

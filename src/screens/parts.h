@@ -44,11 +44,16 @@ template <class Opened>
 // The brief reason of a refusal; empty when there is none.
 [[nodiscard]] std::string briefOf(const Refusal& refusal);
 
-// A price in energy: "⚡️ 12".
-[[nodiscard]] std::string energyPrice(std::int64_t energy);
+// A price in energy, and one in cash: whole units of money.
+[[nodiscard]] view::Price energyPrice(std::int64_t energy);
+[[nodiscard]] view::Price moneyPrice(const Locale& locale, double price);
+
+// The band of a score from 0 to 100.
+[[nodiscard]] view::Band scoreBand(double score);
 
 // A meter of a score from 0 to 100, tinted by its band. A score above 100 fills it.
 [[nodiscard]] view::Meter scoreMeter(std::string label, std::int64_t score);
+[[nodiscard]] view::StatTile scoreTile(std::string label, std::int64_t score, std::string detail = "");
 
 // Formats a chart's values.
 using ValueText = std::function<std::string(double)>;

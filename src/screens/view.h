@@ -37,8 +37,11 @@ enum class Tone : std::uint8_t {
   accent,
 };
 
-// Bands of a score: below 25, 25 to 49, 50 to 79, 80 and above.
-enum class Band : std::uint8_t { poor, fair, good, great };
+// Bands of a score from 0 to 100, for its tint: below 25, 25 to 49, 50 to 79, 80 and above. None for other figures.
+enum class Band : std::uint8_t { none, poor, fair, good, great };
+
+// A small icon beside a text or a figure. Each shell draws it in its own way.
+enum class Icon : std::uint8_t { none, home, work, social, life, wealth, backstage, settings, energy };
 
 enum class PictureKind : std::uint8_t { avatar, poster, logo, house, vehicle, card, photo, icon };
 
@@ -79,6 +82,8 @@ struct StatTile {
   std::string value;  // formatted
   std::string detail;
   Tone tone = Tone::plain;
+  Band band = Band::none;  // takes the place of the tone
+  Icon icon = Icon::none;  // what it is counted in
 };
 
 // Tiles side by side.
@@ -101,8 +106,8 @@ struct Meter {
   std::string label;
   double value = 0;  // 0 to maximum; a higher value fills the meter
   double maximum = 100;
-  std::string text;      // such as "72 of 100"
-  bool isScore = false;  // from 0 to 100, tinted by its band
+  std::string text;  // such as "72 of 100"
+  Band band = Band::none;
 };
 
 // A rating out of `outOf` stars, with halves.
@@ -112,10 +117,16 @@ struct Stars {
   int outOf = 5;
 };
 
+// What a button costs.
+struct Price {
+  std::string amount;      // formatted; empty for nothing
+  Icon icon = Icon::none;  // of what is paid with, where the amount does not say it
+};
+
 struct Button {
   std::string label;
   Operation press;
-  std::string price;      // formatted; empty when it is free
+  Price price;
   std::string offReason;  // if not empty, the button is off for this reason
   // If not empty, the rule would refuse now, for this brief reason. The button can still be pressed and then
   // shows the full notice.
@@ -148,6 +159,7 @@ struct Row {
   Tone tone = Tone::plain;
   enum class Step : std::uint8_t { none, open, taken };
   Step step = Step::none;      // marks the row as an open or a completed step
+  Band band = Band::none;      // of the value, if it is a score
   Operation press;             // may be empty
   std::vector<Button> action;  // none or one
   Handle handle = 0;
@@ -297,7 +309,7 @@ struct Node {
 // A link that is always visible: a tab at the bottom or an icon at the top right.
 struct Tab {
   std::string label;
-  std::string icon;  // one emoji or letter
+  Icon icon = Icon::none;
   bool current = false;
   Operation press;
   bool isOff = false;  // visible but not usable on this screen

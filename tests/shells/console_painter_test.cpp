@@ -53,7 +53,7 @@ TEST(ConsolePainter, NoLineIsWiderThanThePage) {
   Page page = test::gallery();
   page.title = "Wilhelmina Alexandrina Rumpelstiltskin the Third 🎬";
   page.nodes.push_back(
-      Button{.label = std::string(300, 'x'), .press = nothing, .price = std::string(120, '9')});
+      Button{.label = std::string(300, 'x'), .press = nothing, .price = {std::string(120, '9')}});
   page.nodes.push_back(
       Card{.title = std::string(200, 'y'), .nodes = {Row{.label = "役", .value = std::string(90, 'z')}}});
   const Page laid = laidOut(std::move(page));
@@ -100,7 +100,7 @@ TEST(ConsolePainter, NumbersOnlyDialogAnswers) {
 }
 
 TEST(ConsolePainter, ShowsReasonsOfDisabledButtons) {
-  const Button off{.label = "Fly", .press = nothing, .price = "$9", .offReason = "The airport is closed."};
+  const Button off{.label = "Fly", .press = nothing, .price = {"$9"}, .offReason = "The airport is closed."};
   for (const Node& node : {Node(off), Node(Buttons{{off}}), Node(Card{.title = "Trip", .nodes = {off}}),
                            Node(SwipeCard{.left = off, .right = off})}) {
     const std::string text = bodyOf({node});
@@ -118,7 +118,7 @@ TEST(ConsolePainter, RemovesControlSequencesFromNames) {
                .nodes = {Text{.text = name}, Row{.label = name, .value = name},
                          Bubble{.speaker = name, .text = name, .mine = true}, Card{.title = name},
                          Field{.label = name, .value = name}, Tiles{{{.label = name, .value = name}}}},
-               .tabs = {{.label = name, .icon = name}},
+               .tabs = {{.label = name, .icon = Icon::home}},
                .dialog = {{.title = name, .message = name}}});
   for (const char byte : textOf(paint(page, {}))) {
     EXPECT_TRUE(byte == '\n' || static_cast<unsigned char>(byte) >= 0x20) << static_cast<int>(byte);

@@ -2,9 +2,11 @@
 // build the target view_types and run it.
 export type PageHead = "full" | "line";
 
+export type Icon = "none" | "home" | "work" | "social" | "life" | "wealth" | "backstage" | "settings" | "energy";
+
 export interface Tab {
   readonly label: string;
-  readonly icon: string;
+  readonly icon: Icon;
   readonly current: boolean;
   readonly isOff: boolean;
   readonly handle: number;
@@ -12,18 +14,27 @@ export interface Tab {
 
 export type Tone = "plain" | "quiet" | "good" | "warning" | "accent";
 
+export type Band = "none" | "poor" | "fair" | "good" | "great";
+
 export interface StatTile {
   readonly label: string;
   readonly value: string;
   readonly detail: string;
   readonly tone: Tone;
+  readonly band: Band;
+  readonly icon: Icon;
+}
+
+export interface Price {
+  readonly amount: string;
+  readonly icon: Icon;
 }
 
 export type ButtonWeight = "normal" | "primary" | "quiet" | "destructive" | "done";
 
 export interface Button {
   readonly label: string;
-  readonly price: string;
+  readonly price: Price;
   readonly offReason: string;
   readonly refusal: string;
   readonly name: string;
@@ -111,7 +122,7 @@ export interface Meter {
   readonly value: number;
   readonly maximum: number;
   readonly text: string;
-  readonly isScore: boolean;
+  readonly band: Band;
 }
 
 export interface Stars {
@@ -133,6 +144,7 @@ export interface Row {
   readonly picture: readonly Picture[];
   readonly tone: Tone;
   readonly step: RowStep;
+  readonly band: Band;
   readonly action: readonly Button[];
   readonly handle: number;
 }

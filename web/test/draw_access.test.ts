@@ -8,6 +8,7 @@ import type { Page } from "playwright-core";
 import { type Looks, setGallery } from "./draw_browser";
 import { pages } from "./gallery_pages";
 import { inspect, narrow, phone, wide } from "./inspect";
+import { cutOff } from "./whole_words";
 
 const gallery = setGallery();
 
@@ -25,25 +26,6 @@ for (const size of [phone, narrow, wide]) {
     onEveryPage(size, (page, name) => inspect(page, name, size)));
 }
 
-// Elements that overflow the page to the right, and clipped text.
-function cutOff(): string[] {
-  const wide = document.documentElement.clientWidth;
-  const cut: string[] = [];
-  if (document.documentElement.scrollWidth > wide)
-    cut.push(`the page is ${document.documentElement.scrollWidth} wide`);
-  for (const element of document.querySelectorAll("#app *")) {
-    const box = element.getBoundingClientRect();
-    if (element.closest("svg, .unseen, .turns .off-reason, .skip, .bar-title, [inert], .is-off") || box.width === 0) continue;
-    if (box.right > wide + 1 || box.left < -1) cut.push(`${element.className} ends at ${box.right}`);
-    const style = getComputedStyle(element);
-    const hides = style.overflowX !== "visible" || style.overflowY !== "visible";
-    const scrolls = /auto|scroll/.test(style.overflowX + style.overflowY) || element.matches("input");
-    if (hides && !scrolls && element.scrollWidth > element.clientWidth + 1)
-      cut.push(`${element.className} hides its content`);
-  }
-  return cut;
-}
-
 for (const [what, size, zoom] of [
   ["a screen of 320 pixels", narrow, 1],
   ["text of twice the size on a phone", phone, 2],
@@ -58,7 +40,7 @@ for (const [what, size, zoom] of [
 
 // All texts of a page, by field names; other strings are values of enumerations.
 function wordsIn(part: unknown, field = ""): string[] {
-  if (typeof part === "string") return /^(kind|style|tone|weight|name|head|step|format)$/.test(field) ? [] : [part];
+  if (typeof part === "string") return /^(kind|style|tone|weight|name|head|step|format|band|icon)$/.test(field) ? [] : [part];
   if (typeof part !== "object" || part === null) return [];
   // Long charts have no table, and a passing line disappears.
   return Object.entries(part).flatMap(([name, inner]) =>

@@ -14,7 +14,6 @@ import type { Look } from "../src/art/posters/formats";
 import { genres } from "../src/art/posters/genres";
 import { picture as svg } from "../src/art/svg";
 import { box, ground, ink, text, wordmark } from "../src/art/wordmark";
-import { bandOf } from "../src/draw/bands";
 import { areaPath, bars, linePath, plotOf, slices } from "../src/draw/chart_geometry";
 import { formatLike, parseFigure } from "../src/draw/counting";
 import type { Chart, Picture, PictureKind, PosterFormat } from "../src/view_types";
@@ -198,11 +197,6 @@ test("a figure is read and written back as it stood, in any country's way", () =
   for (const text of ["72 of 100", "None", "", "—"]) assert.equal(parseFigure(text), null, text);
 });
 
-test("a score has the colour of its band", () => {
-  const bands = [0, 24, 25, 49, 50, 79, 80, 100].map(bandOf);
-  assert.deepEqual(bands, ["poor", "poor", "fair", "fair", "good", "good", "great", "great"]);
-});
-
 test("a chart's line rises with its figures, and its bars stand on zero, or hang from it", () => {
   const points = [-10, 0, 30].map((value) => ({ label: "", value, text: "" }));
   const chart: Chart = { kind: "line", title: "", points, scale: [{ value: -10, text: "" }], summary: "" };
@@ -240,14 +234,14 @@ test("the gallery shows all that the vocabulary has, of each type and kind", () 
   const visit = (value: unknown): void => {
     if (value === null || typeof value !== "object") return;
     for (const [name, inner] of Object.entries(value)) {
-      if (/^(kind|style|tone|weight)$/u.test(name)) shown.add(inner);
+      if (/^(kind|style|tone|weight|band|icon)$/u.test(name)) shown.add(inner);
       visit(inner);
     }
   };
   visit(pages);
   const nodes = [...types.matchAll(/readonly kind: "(\w+)"/gu)].map(([, kind]) => kind);
   assert.ok(nodes.length > 15);
-  const words = ["PictureKind", "ChartKind", "TextStyle", "Tone", "ButtonWeight"].flatMap(wordsOf);
+  const words = ["PictureKind", "ChartKind", "TextStyle", "Tone", "ButtonWeight", "Band", "Icon"].flatMap(wordsOf);
   assert.deepEqual([...nodes, ...words].filter((word) => !shown.has(word)), []);
 });
 

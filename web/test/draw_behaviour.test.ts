@@ -36,7 +36,7 @@ const role = (label: string, handle: number) => row({ label, handle });
 const tall = Array.from({ length: 40 }, (_, index) => text(`Line ${index}`));
 
 test("a press is told by its handle, and one that is off says why and does nothing", async () => {
-  const page = await drawn([press("Go", 7), press("Buy", 0, { price: "$9", offReason: "No cash." })]);
+  const page = await drawn([press("Go", 7), press("Buy", 0, { price: make.money("$9"), offReason: "No cash." })]);
   await page.click("text=Go");
   await page.click("text=Buy", { force: true });
   assert.deepEqual(await done(page), [["press", 7]]);
@@ -63,8 +63,8 @@ test("the tabs stand in their order, and whoever plays by the keyboard can go st
   const page = await drawn([press("On the way", 1), ...tall], { tabs: make.tabs(0) });
   await button(page, "Skip to the tabs").press("Enter");
   await page.keyboard.press("Tab");
-  assert.match(await focused(page), /Career/);
-  assert.match((await page.getByRole("navigation").textContent())!, /Career.*Casting.*Social.*Energy.*Wealth/u);
+  assert.match(await focused(page), /Home/);
+  assert.match((await page.getByRole("navigation").textContent())!, /Home.*Work.*Social.*Life.*Wealth/u);
 });
 
 test("what is still being typed is handed over before a press, which takes the handle of the page after it", async () => {
@@ -236,8 +236,8 @@ test("a passing line shows itself, is said, covers no press and goes; the same w
 
 test("a button is called by what it is about, its price in words, and says before a press why it would refuse", async () => {
   const page = await drawn([
-    press("Train to 2", 1, { name: "Train Charisma to 2", price: "⚡️ 2" }),
-    press("Submit", 2, { name: "Submit for Iris", price: "⚡️ 20", refusal: "Union members only" }),
+    press("Train to 2", 1, { name: "Train Charisma to 2", price: make.energy("2") }),
+    press("Submit", 2, { name: "Submit for Iris", price: make.energy("20"), refusal: "Union members only" }),
   ]);
   await button(page, "Train Charisma to 2, 2 energy").waitFor();
   const refusing = button(page, "Submit for Iris, 20 energy");

@@ -2,7 +2,7 @@
 // policy.
 
 import assert from "node:assert/strict";
-import { mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { copyFileSync, mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
 import { after, afterEach, before } from "node:test";
 import { build } from "esbuild";
@@ -36,7 +36,9 @@ async function buildGallery(): Promise<void> {
     jsx: "automatic",
     jsxImportSource: "preact",
     logLevel: "warning",
+    define: { FACES: JSON.stringify([{ file: "latin.woff2", range: "U+0-2FF, U+2000-2FFF" }]) },
   });
+  copyFileSync("src/face/latin.woff2", join(galleryFolder, "latin.woff2"));
 }
 
 export interface Looks {

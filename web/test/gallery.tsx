@@ -5,6 +5,7 @@ import { render } from "preact";
 import { pictureArt } from "../src/art/picture_art";
 import { loadArt } from "../src/draw/drawn_pictures";
 import { PageView } from "../src/draw/page_view";
+import { loadFace } from "../src/runtime/face";
 import "../src/style/index.css";
 import type { Page } from "../src/view_types";
 import { pages } from "./gallery_pages";
@@ -46,6 +47,6 @@ declare global {
 window.gallery = { pages, pictureArt, show, done, afterTyping: show };
 
 const showNamed = (): void => show(pages[location.hash.slice(1)] ?? pages["hub"]!);
-await loadArt();
+await Promise.all([loadArt(), loadFace()]);
 window.addEventListener("hashchange", showNamed);
 showNamed();

@@ -16,7 +16,7 @@ const node =
     ({ kind, content: { ...usual, ...rest } }) as View.Node;
 
 const usualButton: View.Button = {
-  label: "", price: "", offReason: "", refusal: "", name: "", weight: "normal", handle: 1,
+  label: "", price: { amount: "", icon: "none" }, offReason: "", refusal: "", name: "", weight: "normal", handle: 1,
 };
 const usualField: View.Field = { label: "", value: "", hint: "", maximumLength: 80, severalLines: false, handle: 1 };
 const usualSlider: View.Slider = { label: "", value: 50, minimum: 0, maximum: 100, step: 1, text: "", handle: 1 };
@@ -30,15 +30,15 @@ const emptyPage: View.Page = {
 export const page = part<View.Page>(emptyPage);
 export const plainButton = part(usualButton);
 export const plainCard = part(usualCard);
-export const tile = part<View.StatTile>({ label: "", value: "", detail: "", tone: "plain" });
+export const tile = part<View.StatTile>({ label: "", value: "", detail: "", tone: "plain", band: "none", icon: "none" });
 export const option = part<View.ChoiceOption>({ label: "", chosen: false, picture: [], handle: 1 });
 
 export const button = node("button", usualButton);
 export const card = node("card", usualCard);
 export const row = node("row", {
-  label: "", value: "", detail: "", picture: [], tone: "plain", step: "none", action: [], handle: 0,
+  label: "", value: "", detail: "", picture: [], tone: "plain", step: "none", band: "none", action: [], handle: 0,
 });
-export const meter = node("meter", { label: "", value: 0, maximum: 100, text: "", isScore: false });
+export const meter = node("meter", { label: "", value: 0, maximum: 100, text: "", band: "none" });
 export const chart = node("chart", { kind: "line", title: "", points: [], scale: [], summary: "" });
 export const field = node("field", usualField);
 export const slider = node("slider", usualSlider);
@@ -81,15 +81,16 @@ export const listPage = (nodes: readonly View.Node[], position = "", turns: read
   node("listPage", { nodes, position, turns })();
 
 export const dialog = (title: string, message: string, ...answers: View.Button[]) => [{ title, message, answers }];
-export const tab = (label: string, icon: string, current = false): View.Tab => ({ label, icon, current, isOff: false, handle: 1 });
+export const tab = (label: string, icon: View.Icon, current = false): View.Tab => ({ label, icon, current, isOff: false, handle: 1 });
 
 // The hub's tabs and icons, and the back button.
 export const tabs = (current: number) =>
-  ["Career 🎬", "Casting 🎭", "Social 💬", "Energy ⚡️", "Wealth 💰"].map((words, index) => {
-    const [label, icon] = words.split(" ");
-    return tab(label!, icon!, index === current);
-  });
-export const icons = [tab("Inbox", "✉️"), tab("The Backstage", "B")];
+  (["home", "work", "social", "life", "wealth"] as const).map((icon, index) =>
+    tab(icon[0]!.toUpperCase() + icon.slice(1), icon, index === current),
+  );
+export const energy = (amount: string): View.Price => ({ amount, icon: "energy" });
+export const money = (amount: string): View.Price => ({ amount, icon: "none" });
+export const icons = [tab("The Backstage", "backstage"), tab("Settings", "settings")];
 export const back = (label = "Back") => [plainButton({ label })];
 
 // A chart's points and ticks.

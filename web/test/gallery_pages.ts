@@ -19,18 +19,19 @@ const styles: readonly View.TextStyle[] = ["body", "large", "caption", "quotatio
 const weights: readonly View.ButtonWeight[] = ["normal", "primary", "quiet", "destructive", "done"];
 const figures = [
   tile({ label: "Cash", value: "$1,250" }),
-  tile({ label: "Energy", value: "⚡️ 72", detail: "of 100" }),
+  tile({ label: "Energy", value: "72", detail: "of 100", icon: "energy" }),
 ];
 const endWeek = [plainButton({ label: "End Week", weight: "primary" })];
 const pictureKinds: readonly View.PictureKind[] = [
   "avatar", "poster", "logo", "house", "vehicle", "card", "photo", "icon",
 ];
+const bands: readonly View.Band[] = ["none", "poor", "fair", "good", "great"];
 const poster = [picture("poster", "Night Train")];
 
 const hub = page({
   title: "Dana Wells",
   subtitle: "JANUARY\n16, 2026",
-  heading: "Career",
+  heading: "Home",
   icons,
   figures,
   main: endWeek,
@@ -43,7 +44,7 @@ const hub = page({
         detail: "Cold Harbor Radio • Support\nReady 41 of 100",
         picture: poster,
         handle: 1,
-        action: [plainButton({ label: "Rehearse", name: "Rehearse for Iris", price: "⚡️ 4", weight: "primary" })],
+        action: [plainButton({ label: "Rehearse", name: "Rehearse for Iris", price: make.energy("4"), weight: "primary" })],
       }),
       row({ label: "Find work", step: "taken", tone: "quiet", handle: 1 }),
       row({ label: "Send showreels", detail: "20 energy each", step: "open", handle: 1 }),
@@ -59,7 +60,7 @@ const hub = page({
         subtitle: "Feature Film • Thriller\nWeek 3 in theaters",
         picture: poster,
         handle: 1,
-        nodes: [make.stars("Audience", 3.5), make.buttons(plainButton({ label: "Promote", price: "$2,500" }))],
+        nodes: [make.stars("Audience", 3.5), make.buttons(plainButton({ label: "Promote", price: make.money("$2,500") }))],
       }),
       card({ title: "The Lake House", subtitle: "TV-Series • Drama", picture: poster, handle: 1 }),
     ),
@@ -71,7 +72,7 @@ const hub = page({
           nodes: [
             text("A retired stuntwoman is asked for one last fall."),
             row({ label: "Pay", value: "$450" }),
-            button({ label: "Submit", price: "⚡️ 12", weight: "primary" }),
+            button({ label: "Submit", price: make.energy("12"), weight: "primary" }),
           ],
         }),
         card({ title: "Ghost Light", subtitle: "Short Film • Principal" }),
@@ -106,10 +107,10 @@ const board = page({
   tabs: tabs(1),
   passing: [{ text: "Showreel sent to The Salt Wives", number: 1 }],
   nodes: [
-    { label: "Submit", price: "⚡️ 20", weight: "primary" as const },
+    { label: "Submit", price: make.energy("20"), weight: "primary" as const },
     { label: "Submitted", weight: "done" as const },
-    { label: "Submit", price: "⚡️ 20", weight: "primary" as const, refusal: "Union members only" },
-    { label: "Submit", price: "⚡️ 20", offReason: "No energy", handle: 0 },
+    { label: "Submit", price: make.energy("20"), weight: "primary" as const, refusal: "Union members only" },
+    { label: "Submit", price: make.energy("20"), offReason: "No energy", handle: 0 },
   ].map((action, index) =>
     row({
       label: index === 1 ? longWord : `The Salt Wives ${index}`,
@@ -132,9 +133,9 @@ const film = page({
     make.tiles(tile({ label: "Total gross", value: "$48.9M" })),
     section(
       "Scores",
-      ...[0, 24, 25, 49, 50, 79, 80, 100].map((value) =>
-        make.meter({ label: `Score of ${value}`, value, text: `${value}%`, isScore: true }),
-      ),
+      ...bands.map((band, index) => make.meter({ label: band, value: 10 + 25 * index, text: `${index}`, band })),
+      make.tiles(...bands.map((band) => tile({ label: band, value: "50", band }))),
+      ...bands.map((band) => row({ label: `Scene ${band}`, value: "50", band })),
     ),
     section(
       "Cast",
@@ -145,10 +146,10 @@ const film = page({
       section("Reviews", row({ label: "The Daily Reel", value: "★ 4.0", detail: "“Rarely this warm.”", picture: poster })),
     ),
     make.buttons(...weights.map((weight) => plainButton({ label: `Now ${weight}`, weight }))),
-    make.buttons(...weights.map((weight) => plainButton({ label: `For money ${weight}`, weight, price: "⚡️ 12" }))),
+    make.buttons(...weights.map((weight) => plainButton({ label: `For money ${weight}`, weight, price: make.energy("12") }))),
     make.buttons(
       ...weights.map((weight) =>
-        plainButton({ label: `Not ${weight}`, weight, price: "$9", offReason: "No cash.", handle: 0 }),
+        plainButton({ label: `Not ${weight}`, weight, price: make.money("$9"), offReason: "No cash.", handle: 0 }),
       ),
     ),
   ],
@@ -192,8 +193,8 @@ const latch = page({
         picture: [picture("avatar", "woman (31).png", "Robin")],
         nodes: [text("Fluent in sarcasm and subtitles."), make.meter({ label: "Match", value: 81, text: "81%" })],
       }),
-      plainButton({ label: "Pass", price: "⚡️ 3" }),
-      plainButton({ label: "Like", price: "⚡️ 3", weight: "primary" }),
+      plainButton({ label: "Pass", price: make.energy("3") }),
+      plainButton({ label: "Like", price: make.energy("3"), weight: "primary" }),
     ),
     section(
       "Messages",
@@ -273,7 +274,7 @@ const pictures = page({
         title: `A card with a ${kind}`,
         picture: [picture(kind, "jet")],
         handle: 1,
-        nodes: [make.buttons(plainButton({ label: "Buy", price: "$240K" }), plainButton({ label: "Offer less" }))],
+        nodes: [make.buttons(plainButton({ label: "Buy", price: make.money("$240K") }), plainButton({ label: "Offer less" }))],
       }),
     ),
   ),
@@ -297,9 +298,9 @@ const extreme = page({
     make.meter({ label: longWord, value: 1e12, text: "1,000,000,000,000 of 100" }),
     make.meter({ label: "Nothing", maximum: 0, text: "0 of 0" }),
     make.stars(longWord, 7.3, 10),
-    button({ label: longWord, price: "$123,456,789,012", offReason: longText, handle: 0 }),
+    button({ label: longWord, price: make.money("$123,456,789,012"), offReason: longText, handle: 0 }),
     make.buttons(
-      plainButton({ label: longWord, price: "$1" }),
+      plainButton({ label: longWord, price: make.money("$1") }),
       plainButton({ label: "OK" }),
       plainButton({ label: "A button with quite a few words on it", weight: "quiet" }),
     ),
@@ -325,7 +326,7 @@ const extreme = page({
 const large = page({
   title: "Chirp",
   tabs: tabs(2),
-  icons: [make.tab("Inbox", "✉️", true)],
+  icons: [make.tab("Settings", "settings", true)],
   nodes: [
     make.tiles(tile({ label: "Followers", value: "1.2M" }), tile({ label: "Posts", value: "312" })),
     ...Array.from({ length: 8 }, (_, day) =>

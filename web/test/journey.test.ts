@@ -9,6 +9,7 @@ import { inspect } from "./inspect";
 import {
   choose, finds, heading, liveAWeek, nameField, openSaves, play, press, stage, startCareer, visit, workingActor,
 } from "./runtime_site";
+import { keepsWordsWhole } from "./whole_words";
 
 const setting = stage();
 
@@ -33,6 +34,7 @@ async function inspectOnTheWay(page: Page, walks: readonly Walk[]): Promise<void
       await pressed.click();
     }
     await inspect(page, name);
+    await keepsWordsWhole(page, name);
   }
 }
 

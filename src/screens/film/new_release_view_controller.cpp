@@ -30,7 +30,7 @@ std::string kindOf(const Film& film, const MetReview& card) {
 
 Tiles figuresOf(const Game& game, const Film& film) {
   Tiles tiles{{{.label = "Imbd", .value = tb::format("{:.1f}", film.imbdRating), .detail = "of 10"},
-               {.label = "Metascore", .value = std::to_string(film.imbdMetascore), .detail = "of 100"}}};
+               scoreTile("Metascore", film.imbdMetascore, "of 100")}};
   if (const auto gross = grossOf(game.world, film.filmId)) {
     tiles.tiles.push_back({.label = "Opening weekend", .value = shortMoney(game.locale, *gross)});
   }

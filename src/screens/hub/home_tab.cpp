@@ -6,6 +6,7 @@
 #include "screens/headshot.h"
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
+#include "screens/parts.h"
 
 namespace tb {
 
@@ -14,8 +15,8 @@ namespace {
 using namespace view;
 
 Tiles careerTiles(const WorldState& world) {
-  return {{{.label = "Fans", .value = shortCount(world.totalFans)},
-           {.label = "Talent", .value = std::to_string(overallTalent(world))}}};
+  return {
+      {{.label = "Fans", .value = shortCount(world.totalFans)}, scoreTile("Talent", overallTalent(world))}};
 }
 
 Card profile(const WorldState& world) {

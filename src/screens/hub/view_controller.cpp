@@ -44,15 +44,16 @@ void ViewController::goBack(Stage& stage) {
   if (current_ != Tab::home) show(stage, Tab::home);
 }
 
-view::Tab ViewController::tab(Tab which, const char* label, const char* icon) {
+view::Tab ViewController::tab(Tab which, const char* label, view::Icon icon) {
   return {.label = label, .icon = icon, .current = current_ == which, .press = [this, which](Stage& stage) {
             stage.leaveToFirst([this, which](Stage& hub) { show(hub, which); });
           }};
 }
 
 std::vector<view::Tab> ViewController::tabs() {
-  return {tab(Tab::home, "Home", "🏠"), tab(Tab::work, "Work", "🎬"), tab(Tab::social, "Social", "💬"),
-          tab(Tab::life, "Life", "⚡️"), tab(Tab::wealth, "Wealth", "💰")};
+  using enum view::Icon;
+  return {tab(Tab::home, "Home", home), tab(Tab::work, "Work", work), tab(Tab::social, "Social", social),
+          tab(Tab::life, "Life", life), tab(Tab::wealth, "Wealth", wealth)};
 }
 
 void ViewController::addFrame(const Game& game, TabsHere here, view::Page& page) {
@@ -72,9 +73,11 @@ view::Page ViewController::view(const Game& game) {
                   .head = current_ == Tab::home ? view::Page::Head::full : view::Page::Head::line};
   page.icons = {
       {.label = "The Backstage",
-       .icon = "B",
+       .icon = view::Icon::backstage,
        .press = [](Stage& stage) { stage.open<BackstageViewController>(); }},
-      {.label = "Settings", .icon = "⚙️", .press = [](Stage& stage) { stage.open<SettingsViewController>(); }},
+      {.label = "Settings",
+       .icon = view::Icon::settings,
+       .press = [](Stage& stage) { stage.open<SettingsViewController>(); }},
   };
   addFrame(game, TabsHere::inReach, page);
   page.heading = std::ranges::find(page.tabs, true, &view::Tab::current)->label;

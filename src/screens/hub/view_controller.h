@@ -24,7 +24,7 @@ class ViewController : public Screen {
  private:
   void show(Stage& stage, Tab tab);
   [[nodiscard]] std::vector<view::Tab> tabs();
-  [[nodiscard]] view::Tab tab(Tab which, const char* label, const char* icon);
+  [[nodiscard]] view::Tab tab(Tab which, const char* label, view::Icon icon);
 
   Tab current_ = Tab::home;
 };

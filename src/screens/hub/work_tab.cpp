@@ -52,10 +52,10 @@ std::vector<view::Node> workTab(const Game& game) {
   std::vector<view::Node> nodes = nextAtWork(game);
   nodes.append_range(std::vector<view::Node>{
       view::Tiles{{
-          {.label = "Talent", .value = std::to_string(overallTalent(world))},
+          scoreTile("Talent", overallTalent(world)),
           {.label = "Experience",
            .value = plainCount(game.locale, static_cast<std::int64_t>(world.experience))},
-          {.label = "Showreel", .value = std::to_string(world.showreelScore)},
+          scoreTile("Showreel", world.showreelScore),
       }},
       view::Section{
           .heading = "WORK",

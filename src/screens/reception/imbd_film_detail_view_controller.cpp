@@ -41,10 +41,9 @@ Tiles scores(const Game& game, const Film& film, std::optional<std::size_t> plac
       {{.label = "Imbd",
         .value = tb::format("{:.1f}", film.imbdRating),
         .detail = plainCount(game.locale, shownRatings(film)) + " " + plural(shownRatings(film), "rating")},
-       {.label = "Metascore",
-        .value = std::to_string(film.imbdMetascore),
-        .detail = plainCount(game.locale, film.numMetascoreRatings) + " " +
-                  plural(film.numMetascoreRatings, "critic")},
+       scoreTile("Metascore", film.imbdMetascore,
+                 plainCount(game.locale, film.numMetascoreRatings) + " " +
+                     plural(film.numMetascoreRatings, "critic")),
        {.label = "Top 250", .value = place ? tb::format("#{}", *place) : "Unranked"}}};
 }
 

@@ -33,10 +33,12 @@ constexpr std::array<Badge, 6> badges = {{
 
 Card scoreCard(const std::string& who, double score, std::string_view badge, const std::string& count) {
   const auto known = std::ranges::find(badges, badge, &Badge::image);
-  return {
-      .title = std::string(known->name),
-      .picture = {{.kind = PictureKind::icon, .name = std::string(badge)}},
-      .nodes = {Tiles{{{.label = who, .value = tb::format("{}%", wholePercent(score)), .detail = count}}}}};
+  return {.title = std::string(known->name),
+          .picture = {{.kind = PictureKind::icon, .name = std::string(badge)}},
+          .nodes = {Tiles{{{.label = who,
+                            .value = tb::format("{}%", wholePercent(score)),
+                            .detail = count,
+                            .band = scoreBand(score)}}}}};
 }
 
 std::string dated(const DateLabel& date) { return date.month + " " + date.dayAndYear; }

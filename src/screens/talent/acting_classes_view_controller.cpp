@@ -1,7 +1,6 @@
 #include "screens/talent/acting_classes_view_controller.h"
 
 #include "core/format.h"
-#include "core/number_style.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -58,7 +57,7 @@ Button ActingClassesViewController::signUpButton(const Game& game, const ClassOp
     button.weight = Button::Weight::done;
     return button;
   }
-  button.price = currency(game.locale, option.cost, 0);
+  button.price = moneyPrice(game.locale, option.cost);
   button.refusal = briefOf(classRefusal(game.world, option));
   return button;
 }

@@ -44,7 +44,7 @@ Section wayIn(const Game& game, std::int64_t eligibility) {
                                          rolesForEligibility)},
                 Button{.label = "Join",
                        .press = join,
-                       .price = currency(game.locale, guildInitiationFee, 0),
+                       .price = moneyPrice(game.locale, guildInitiationFee),
                        .refusal = briefOf(guildRefusal(game.world)),
                        .name = "Join the Actor's Guild",
                        .weight = Button::Weight::primary}}};

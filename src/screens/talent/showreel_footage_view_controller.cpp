@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "career/showreel.h"
-#include "core/number_style.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
 
@@ -31,6 +30,7 @@ Row ShowreelFootageViewController::footageRow(const WorldState& world, const Aud
           .detail = (chosen ? "✓ In the reel • " : "") + work.role,
           .picture = {posterOf(world, work)},
           .tone = chosen ? Tone::accent : Tone::plain,
+          .band = scoreBand(work.performanceRating),
           .press = [this, id = work.filmId](Stage& stage) { choose(stage, id); }};
 }
 
@@ -49,7 +49,7 @@ Page ShowreelFootageViewController::view(const Game& game) {
                 .whenEmpty = "There is no footage of you yet. It comes with your first wrap."});
   page.main = {{.label = "Cut this reel",
                 .press = [this](Stage& stage) { build(stage); },
-                .price = currency(game.locale, footageReelCost, 0),
+                .price = moneyPrice(game.locale, footageReelCost),
                 .refusal = briefOf(reelRefusal(game.world, footageReelCost)),
                 .weight = Button::Weight::primary}};
   return page;

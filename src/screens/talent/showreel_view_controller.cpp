@@ -17,7 +17,8 @@ Section reelScenes(const WorldState& world) {
   Section section{.heading = "SCENES OF YOUR REEL"};
   for (std::size_t index = 0; index < world.newSceneDescriptions.size(); ++index) {
     section.nodes.push_back(Row{.label = world.newSceneDescriptions[index],
-                                .value = std::to_string(world.newScenesProduced[index])});
+                                .value = std::to_string(world.newScenesProduced[index]),
+                                .band = scoreBand(static_cast<double>(world.newScenesProduced[index]))});
   }
   return section;
 }
@@ -83,7 +84,7 @@ Section ShowreelViewController::newScenes(const Game& game) {
   }
   section.nodes.push_back(Button{.label = "Hire the production company",
                                  .press = [this](Stage& stage) { produce(stage); },
-                                 .price = currency(game.locale, scenePackages[package_].cost, 0),
+                                 .price = moneyPrice(game.locale, scenePackages[package_].cost),
                                  .refusal = briefOf(reelRefusal(game.world, scenePackages[package_].cost)),
                                  .weight = Button::Weight::primary});
   return section;

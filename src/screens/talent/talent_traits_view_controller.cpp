@@ -24,7 +24,7 @@ Card traitCard(const WorldState& world, std::size_t index) {
 Page TalentTraitsViewController::view(const Game& game) {
   const WorldState& world = game.world;
   Page page{.title = "Talent", .subtitle = "A weak trait weighs twice: keep them even"};
-  page.nodes = {Tiles{{{.label = "Level", .value = std::to_string(overallTalent(world))}}}};
+  page.nodes = {Tiles{{scoreTile("Level", overallTalent(world))}}};
   for (std::size_t index = 0; index < traits.size(); ++index) page.nodes.push_back(traitCard(world, index));
   return page;
 }

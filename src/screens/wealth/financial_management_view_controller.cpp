@@ -48,7 +48,7 @@ Section job(const Game& game) {
           .nodes = {Text{.text = world.weeklyJobTitle, .style = Text::Style::large},
                     Row{.label = "Pay per week", .value = cash(game.locale, world.weeklyJobIncome)},
                     Row{.label = "Weeks left", .value = std::to_string(world.weeklyJobContractRemaining)},
-                    Row{.label = "Energy per week", .value = energyPrice(world.weeklyEnergyCost)}}};
+                    Row{.label = "Energy per week", .value = std::to_string(world.weeklyEnergyCost)}}};
 }
 
 Chart netIncome(const Game& game) {

@@ -8,6 +8,7 @@
 
 #include "core/text.h"
 #include "shells/console/chart.h"
+#include "shells/console/icons.h"
 #include "shells/console/text.h"
 
 namespace tb::console {
@@ -29,8 +30,10 @@ constexpr bool standsApart =
     std::is_same_v<Kind, Tiles> || std::is_same_v<Kind, Chart> || std::is_same_v<Kind, Bubble> ||
     std::is_same_v<Kind, Section> || std::is_same_v<Kind, Card> || std::is_same_v<Kind, SwipeCard>;
 
-Ink inkOf(Band band) {
+Ink inkOf(Band band, Ink otherwise) {
   switch (band) {
+    case Band::none:
+      return otherwise;
     case Band::poor:
       return Ink::warning;
     case Band::fair:
@@ -41,10 +44,6 @@ Ink inkOf(Band band) {
       return Ink::good;
   }
   std::unreachable();
-}
-
-Band bandOf(double score) {
-  return score < 25 ? Band::poor : score < 50 ? Band::fair : score < 80 ? Band::good : Band::great;
 }
 
 std::string_view nameOf(PictureKind kind) {
@@ -143,8 +142,8 @@ void NodePainter::kind(const Text& text) {
 void NodePainter::kind(const Tiles& tiles) {
   std::vector<Runs> stacks;
   for (const StatTile& tile : tiles.tiles) {
-    Runs stack{{tile.label, Ink::quiet},
-               {tile.value, tile.tone == Tone::plain ? Ink::strong : inkOf(tile.tone)}};
+    const Ink ink = inkOf(tile.band, tile.tone == Tone::plain ? Ink::strong : inkOf(tile.tone));
+    Runs stack{{tile.label, Ink::quiet}, {withGlyph(tile.icon, tile.value), ink}};
     if (!tile.detail.empty()) stack.push_back({tile.detail, Ink::quiet});
     stacks.push_back(std::move(stack));
   }
@@ -181,8 +180,7 @@ void NodePainter::gauge(const std::string& label, double share, const std::strin
 }
 
 void NodePainter::kind(const Meter& meter) {
-  gauge(meter.label, shareOf(meter.value, meter.maximum), meter.text,
-        meter.isScore ? inkOf(bandOf(meter.value)) : Ink::accent, "");
+  gauge(meter.label, shareOf(meter.value, meter.maximum), meter.text, inkOf(meter.band, Ink::accent), "");
 }
 
 void NodePainter::kind(const Stars& stars) {
@@ -274,7 +272,7 @@ void NodePainter::kind(const Buttons& buttons) {
 void NodePainter::kind(const Row& row) {
   const std::string mark = targets_.add(row.handle, {.label = row.label});
   canvas_.leader(stepMark(row.step) + row.label, row.value, row.tone == Tone::quiet ? Ink::quiet : Ink::plain,
-                 inkOf(row.tone), mark);
+                 inkOf(row.band, inkOf(row.tone)), mark);
   canvas_.nested("  ", [&] {
     if (!row.detail.empty()) canvas_.text(row.detail, Ink::quiet);
     if (const std::string words = inWords(row.picture); !words.empty()) canvas_.text(words, Ink::quiet);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <format>
 
+#include "shells/console/icons.h"
 #include "shells/console/node_painter.h"
 #include "shells/console/text.h"
 
@@ -45,7 +46,8 @@ std::vector<Line> head(const Page& page, const Surface& surface, Targets& target
   }
   std::vector<Runs> figures;
   for (const StatTile& figure : page.figures)
-    figures.push_back({{figure.label + " ", Ink::quiet}, {figure.value, Ink::strong}});
+    figures.push_back(
+        {{figure.label + " ", Ink::quiet}, {withGlyph(figure.icon, figure.value), Ink::strong}});
   for (Runs& row : rowsOf(figures, wayGap, surface.columns)) canvas.flush(std::move(row));
   canvas.rule();
   return canvas.take();
@@ -76,7 +78,7 @@ std::vector<Line> foot(const Page& page, const Surface& surface, Targets& target
     std::vector<Runs> items;
     for (Tab tab : page.tabs) {
       if (tab.isOff) continue;
-      if (!icons) tab.icon.clear();
+      if (!icons) tab.icon = Icon::none;
       items.push_back(tabRuns(targets, tab));
     }
     return rowsOf(items, flowGap, surface.columns);

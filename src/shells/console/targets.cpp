@@ -3,6 +3,8 @@
 #include <format>
 #include <utility>
 
+#include "shells/console/icons.h"
+
 namespace tb::console {
 
 using namespace view;
@@ -30,6 +32,10 @@ std::string labelOf(const Button& button) {
   return button.weight == Button::Weight::done ? button.label + " (done)" : button.label;
 }
 
+std::string priceOf(const Button& button) {
+  return button.price.amount.empty() ? "" : withGlyph(button.price.icon, button.price.amount);
+}
+
 // Why the button is off, or why the rule would refuse.
 const std::string& reasonOf(const Button& button) {
   return button.offReason.empty() ? button.refusal : button.offReason;
@@ -47,7 +53,7 @@ Runs tabRuns(Targets& targets, const Tab& tab) {
   const std::string mark = targets.add(tab.handle, {.label = tab.label});
   Runs runs;
   if (!mark.empty()) runs.push_back({mark + " ", Ink::accent});
-  const std::string words = tab.icon.empty() ? tab.label : tab.icon + " " + tab.label;
+  const std::string words = withGlyph(tab.icon, tab.label);
   runs.push_back(tab.current ? Run{"<" + words + ">", Ink::strong} : Run{words});
   return runs;
 }
@@ -58,7 +64,7 @@ Runs buttonRuns(Targets& targets, const Button& button) {
   Runs runs;
   if (!mark.empty()) runs.push_back({mark + " ", Ink::accent});
   runs.push_back({labelOf(button), button.offReason.empty() ? inkOf(button.weight) : Ink::quiet});
-  if (!button.price.empty()) runs.push_back({" " + button.price, Ink::strong});
+  if (const std::string price = priceOf(button); !price.empty()) runs.push_back({" " + price, Ink::strong});
   if (const std::string& reason = reasonOf(button); !reason.empty())
     runs.push_back({" (" + reason + ")", Ink::quiet});
   return runs;
@@ -67,7 +73,7 @@ Runs buttonRuns(Targets& targets, const Button& button) {
 void drawButton(Canvas& canvas, Targets& targets, const Button& button) {
   const bool off = !button.offReason.empty();
   const std::string mark = off ? std::string(offMark) : targets.add(button.handle, {.label = button.label});
-  canvas.leader(labelOf(button), button.price, off ? Ink::quiet : inkOf(button.weight), Ink::strong, mark);
+  canvas.leader(labelOf(button), priceOf(button), off ? Ink::quiet : inkOf(button.weight), Ink::strong, mark);
   if (const std::string& reason = reasonOf(button); !reason.empty())
     canvas.nested("  ", [&] { canvas.text(reason, Ink::quiet); });
 }

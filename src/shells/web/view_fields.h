@@ -67,6 +67,8 @@ inline constexpr bool isVector<std::vector<T>> = true;
 namespace tb {
 
 VIEW_ENUM(Tone, plain, quiet, good, warning, accent);
+VIEW_ENUM(Band, none, poor, fair, good, great);
+VIEW_ENUM(Icon, none, home, work, social, life, wealth, backstage, settings, energy);
 VIEW_ENUM(PictureKind, avatar, poster, logo, house, vehicle, card, photo, icon);
 VIEW_ENUM(PosterFormat, feature, series, commercial, student, shortFilm);
 VIEW_ENUM(Text::Style, body, large, caption, quotation, heading);
@@ -78,14 +80,15 @@ VIEW_ENUM(Page::Head, full, line);
 
 VIEW_STRUCT(Picture, kind, name, description, title, genre, format, season, billed, age);
 VIEW_STRUCT(Text, text, style, tone);
-VIEW_STRUCT(StatTile, label, value, detail, tone);
+VIEW_STRUCT(StatTile, label, value, detail, tone, band, icon);
 VIEW_STRUCT(Tiles, tiles);
 VIEW_STRUCT(Balance, label, net, tone, income, expenses);
-VIEW_STRUCT(Meter, label, value, maximum, text, isScore);
+VIEW_STRUCT(Meter, label, value, maximum, text, band);
 VIEW_STRUCT(Stars, label, value, outOf);
+VIEW_STRUCT(Price, amount, icon);
 VIEW_STRUCT(Button, label, press, price, offReason, refusal, name, weight, handle);
 VIEW_STRUCT(Buttons, buttons);
-VIEW_STRUCT(Row, label, value, detail, picture, tone, step, press, action, handle);
+VIEW_STRUCT(Row, label, value, detail, picture, tone, step, band, press, action, handle);
 VIEW_STRUCT(Headline, stamp, text, detail, value, picture, tone, isLead, press, handle);
 VIEW_STRUCT(Field, label, value, type, hint, maximumLength, severalLines, handle);
 VIEW_STRUCT(Slider, label, value, minimum, maximum, step, text, slide, handle);

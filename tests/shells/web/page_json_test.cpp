@@ -24,7 +24,8 @@ TEST(PageJson, EscapesAnyText) {
 TEST(PageJson, WritesEveryFieldInOrder) {
   view::Page page;
   page.title = "T";
-  page.icons.push_back({.label = "Backstage", .icon = "B", .press = [](Stage&) {}, .handle = 1});
+  page.icons.push_back(
+      {.label = "Backstage", .icon = view::Icon::backstage, .press = [](Stage&) {}, .handle = 1});
   page.nodes.push_back(view::Meter{.label = "Energy", .value = 72.5, .text = "72 of 100"});
   page.nodes.push_back(view::Section{
       .heading = "Feed",
@@ -35,13 +36,13 @@ TEST(PageJson, WritesEveryFieldInOrder) {
   EXPECT_EQ(
       pageJson(page),
       R"({"title":"T","subtitle":"","heading":"","head":"full",)"
-      R"("icons":[{"label":"Backstage","icon":"B","current":false,"isOff":false,"handle":1}],"figures":[],)"
+      R"("icons":[{"label":"Backstage","icon":"backstage","current":false,"isOff":false,"handle":1}],"figures":[],)"
       R"("nodes":[{"kind":"meter","content":{"label":"Energy","value":72.5,"maximum":100,)"
-      R"("text":"72 of 100","isScore":false}},)"
+      R"("text":"72 of 100","band":"none"}},)"
       R"({"kind":"section","content":{"heading":"Feed","nodes":[)"
       R"({"kind":"text","content":{"text":"Nothing yet","style":"body","tone":"quiet"}}]}}],)"
       R"("main":[],"tabs":[],"close":[],"dialog":[{"title":"Q","message":"M","answers":[)"
-      R"({"label":"OK","price":"","offReason":"","refusal":"","name":"","weight":"normal","handle":3}]}],)"
+      R"({"label":"OK","price":{"amount":"","icon":"none"},"offReason":"","refusal":"","name":"","weight":"normal","handle":3}]}],)"
       R"("moment":[],"passing":[],"offersSaves":false,"screen":2})");
 }
 

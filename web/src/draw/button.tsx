@@ -6,17 +6,14 @@ import { useId } from "preact/hooks";
 import type * as View from "../view_types";
 import { numbered } from "./keys";
 import { usePress } from "./pressing";
-import { Check } from "./signs";
+import { Check, Icon, spokenIcon } from "./signs";
 import { Words } from "./words";
 
-// A price in energy for screen readers, which would read the emoji as "high voltage".
-const spokenPrice = (price: string): string => price.replace(/⚡\ufe0f?\s*([\d.,]+)/u, "$1 energy");
-
 // The button's accessible name; empty when its text is enough.
-function spokenName({ label, name, price }: View.Button): string {
-  if (name === "" && spokenPrice(price) === price) return "";
+function spokenName({ label, name, price: { amount, icon } }: View.Button): string {
+  if (name === "" && icon === "none") return "";
   const called = name === "" ? label : name;
-  return price === "" ? called : `${called}, ${spokenPrice(price)}`;
+  return amount === "" ? called : `${called}, ${amount}${spokenIcon(icon)}`;
 }
 
 export function PressButton(button: View.Button) {
@@ -31,7 +28,7 @@ export function PressButton(button: View.Button) {
     <div class={`button-place weight-${weight}${off ? " is-off" : why === "" ? "" : " is-refusing"}`}>
       <button
         type="button"
-        class={`button${price === "" ? "" : " button-ticket"}`}
+        class={`button${price.amount === "" ? "" : " button-ticket"}`}
         data-handle={handle}
         aria-disabled={off ? "true" : undefined}
         aria-describedby={why === "" ? undefined : reason}
@@ -44,11 +41,12 @@ export function PressButton(button: View.Button) {
             <Words text={label} />
           </span>
         </span>
-        {price !== "" && (
+        {price.amount !== "" && (
           <span class="button-price" aria-hidden={shownOnly}>
             <span>
               <span class="unseen">, </span>
-              <Words text={price} />
+              <Icon name={price.icon} />
+              {price.amount}
             </span>
           </span>
         )}

@@ -58,7 +58,7 @@ export function useCounting(figure: RefObject<HTMLElement | null>, key: string, 
   useLayoutEffect(() => {
     const before = lastSeen.get(key);
     lastSeen.set(key, text);
-    const node = figure.current?.firstChild;
+    const node = figure.current?.lastChild; // an icon may stand before it
     if (before === undefined || before === text || !(node instanceof Text) || stillness()) return;
     const from = parseFigure(before);
     const to = parseFigure(text);

@@ -4,7 +4,7 @@ import type * as View from "../view_types";
 import { PressButton } from "./button";
 import { numbered } from "./keys";
 import { usePress } from "./pressing";
-import { Back } from "./signs";
+import { Back, Icon } from "./signs";
 import { Words } from "./words";
 import { wordmark } from "../art/wordmark";
 
@@ -13,10 +13,11 @@ function Figures({ figures }: Pick<View.Page, "figures">) {
   if (figures.length === 0) return null;
   return (
     <dl class="head-figures">
-      {figures.map(({ label, value, detail, tone }) => (
+      {figures.map(({ label, value, detail, tone, icon }) => (
         <div key={label} class={`head-figure tone-${tone}`}>
           <dt class="unseen">{label}</dt>
           <dd>
+            <Icon name={icon} />
             <Words text={value} />
             {detail !== "" && <span class="unseen"> {detail}</span>}
           </dd>
@@ -87,7 +88,7 @@ export function Bar({ page }: { readonly page: View.Page }) {
                 data-handle={icon.handle}
                 onClick={press}
               >
-                <Words text={icon.icon} />
+                <Icon name={icon.icon} />
               </button>
             ))}
           </div>
@@ -146,7 +147,7 @@ function Tabs({ tabs }: { readonly tabs: readonly View.Tab[] }) {
               onClick={press}
             >
               <span class="tab-icon" aria-hidden="true">
-                <Words text={tab.icon} />
+                <Icon name={tab.icon} />
               </span>
               <span class="tab-label">
                 <Words text={tab.label} />

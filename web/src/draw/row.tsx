@@ -28,7 +28,7 @@ function StepMark({ step }: Pick<View.Row, "step">) {
   );
 }
 
-function RowContent({ label, value, detail, picture, step }: View.Row) {
+function RowContent({ label, value, detail, picture, step, band }: View.Row) {
   return (
     <>
       <StepMark step={step} />
@@ -46,7 +46,7 @@ function RowContent({ label, value, detail, picture, step }: View.Row) {
         )}
       </span>
       {value !== "" && (
-        <span class="row-value">
+        <span class={`row-value band-${band}`}>
           <Words text={value} />
         </span>
       )}

@@ -1,4 +1,6 @@
-// The page's own icons.
+// The page's own icons: lines of one width with round ends, in the color of the text beside them.
+
+import type * as View from "../view_types";
 
 interface SignProps {
   readonly path: string;
@@ -17,3 +19,24 @@ export const Chevron = () => <Sign name="on" path="M9 5l7 7-7 7" />;
 export const Back = () => <Sign name="back" path="M15 5l-7 7 7 7" />;
 export const Turn = () => <Sign name="turn" path="M5 9l7 7 7-7" />;
 export const Check = () => <Sign name="check" path="M5 12.5l4.5 4.5L19 7.5" />;
+
+const bolt = "M13.5 2.5L5 13.5h6L10 21.5l9-11.5h-6.2z";
+
+// In a field of 24 by 24.
+const icons: Readonly<Record<Exclude<View.Icon, "none">, string>> = {
+  home: "M4 11L12 4l8 7M6 9.5V20h12V9.5M10 20v-5.5h4V20",
+  work: "M4 10.5h16V19.5H4zM4 10.5L3.3 7 18.6 4l.7 3.4L4 10.5M8.2 6l2.5 3.2M13 5.1l2.5 3.2",
+  social: "M3.5 4.5h12v8.5H9L5.5 16v-3h-2zM18.5 8.5h2V17h-2v3L15 17h-4.5",
+  life: bolt,
+  wealth: "M4 8h14.5a1.5 1.5 0 0 1 1.5 1.5v9a1.5 1.5 0 0 1-1.5 1.5H5.5A1.5 1.5 0 0 1 4 18.5zV7L15.5 4v4M20 12h-4a2 2 0 0 0 0 4h4",
+  backstage: "M8 4.5h4.8a3.6 3.6 0 0 1 0 7.2H8zM8 11.7h5.6a3.9 3.9 0 0 1 0 7.8H8z",
+  settings: "M10.3 5.2L10.7 2.7L13.3 2.7L13.7 5.2L15.6 6L17.6 4.5L19.5 6.4L18 8.4L18.8 10.3L21.3 10.7L21.3 13.3L18.8 13.7L18 15.6L19.5 17.6L17.6 19.5L15.6 18L13.7 18.8L13.3 21.3L10.7 21.3L10.3 18.8L8.4 18L6.4 19.5L4.5 17.6L6 15.6L5.2 13.7L2.7 13.3L2.7 10.7L5.2 10.3L6 8.4L4.5 6.4L6.4 4.5L8.4 6ZM15 12a3 3 0 1 1-6 0a3 3 0 1 1 6 0z",
+  energy: bolt,
+};
+
+export function Icon({ name }: { readonly name: View.Icon }) {
+  return name === "none" ? null : <Sign name={name} path={icons[name]} />;
+}
+
+// What a screen reader is told in place of the icon, after the figure that it stands before.
+export const spokenIcon = (name: View.Icon): string => (name === "energy" ? " energy" : "");

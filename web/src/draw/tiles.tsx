@@ -6,6 +6,7 @@ import type * as View from "../view_types";
 import { useCounting } from "./counting";
 import { numbered } from "./keys";
 import { useScreen } from "./screen_context";
+import { Icon } from "./signs";
 import { Words } from "./words";
 
 // Characters of a figure that fit at full size, by the number of tiles across a phone.
@@ -37,7 +38,7 @@ function sizeOf(tiles: readonly View.StatTile[], layout: string): string {
   return longest > (layout === "three" ? fitsThird : fitsHalf) ? " figure-long" : "";
 }
 
-function Tile({ label, value, detail, tone, size }: View.StatTile & { readonly size: string }) {
+function Tile({ label, value, detail, tone, band, icon, size }: View.StatTile & { readonly size: string }) {
   const { title } = useScreen();
   const figure = useRef<HTMLElement>(null);
   useCounting(figure, `${title}|${label}`, value);
@@ -46,7 +47,8 @@ function Tile({ label, value, detail, tone, size }: View.StatTile & { readonly s
       <dt class="tile-label">
         <Words text={label} />
       </dt>
-      <dd class={`figure${size}`} ref={figure}>
+      <dd class={`figure band-${band}${size}`} ref={figure}>
+        <Icon name={icon} />
         <Words text={value} />
       </dd>
       {detail !== "" && (

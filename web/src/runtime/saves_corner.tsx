@@ -3,7 +3,7 @@
 import { type JSX } from "preact";
 import { useRef, useState } from "preact/hooks";
 
-import { artCredit } from "../art/credits";
+import { credits } from "../art/credits";
 import type { Career, ReadSave } from "./saves";
 import type { Shell } from "./shell";
 
@@ -106,9 +106,11 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
         <button type="button" class="shell-button" onClick={() => dialog.current?.close()}>
           Close
         </button>
-        <p>
-          <a href={artCredit.work}>{artCredit.text}</a>, <a href={artCredit.licence}>{artCredit.licenceName}</a>.
-        </p>
+        {credits.map(({ text, work, licenseName, license }) => (
+          <p key={text}>
+            <a href={work}>{text}</a>, <a href={license}>{licenseName}</a>.
+          </p>
+        ))}
       </dialog>
     </div>
   );

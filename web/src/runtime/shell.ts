@@ -5,6 +5,7 @@ import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
+import { isFaceKept, loadFace } from "./face";
 import { Game, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
@@ -80,6 +81,7 @@ export class Shell {
     // The program is loaded even while another tab plays, because this version may be gone from the server
     // later.
     program.get().catch(() => undefined);
+    if (isFaceKept()) loadFace().catch(() => undefined);
     await this.lock.acquire();
   }
 
@@ -180,7 +182,7 @@ export class Shell {
     if (this.fetchesRest) return;
     this.fetchesRest = true;
     await new Promise((painted) => requestAnimationFrame(() => setTimeout(painted)));
-    await Promise.allSettled([this.setTexts(), loadArt()]);
+    await Promise.allSettled([this.setTexts(), loadArt(), loadFace()]);
     await this.updates.start();
   }
 
