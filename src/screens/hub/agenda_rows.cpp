@@ -6,6 +6,7 @@
 #include "career/traits.h"
 #include "core/format.h"
 #include "core/number_style.h"
+#include "core/text.h"
 #include "screens/backstage/casting_network_view_controller.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
