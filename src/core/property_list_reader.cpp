@@ -116,19 +116,19 @@ const Value* Value::find(std::string_view key) const {
 std::string_view describe(ReadError error) {
   switch (error) {
     case ReadError::notAPropertyList:
-      return "The file is no binary property list.";
+      return "The file is not a binary property list.";
     case ReadError::badTrailer:
       return "The sizes, counts or offsets at the end of the file do not fit the file.";
     case ReadError::badObject:
       return "The file holds an object that is cut off or of no known kind.";
     case ReadError::badReference:
-      return "The file refers to an object that it does not have, or goes in a circle.";
+      return "The file refers to a missing object, or to itself in a cycle.";
     case ReadError::badText:
-      return "The file holds text that is no text.";
+      return "The file holds invalid text.";
     case ReadError::tooDeep:
       return "The file is nested too deeply.";
     case ReadError::tooMuchWork:
-      return "The file repeats its objects until they outgrow it.";
+      return "The file repeats its objects too often.";
   }
   std::unreachable();
 }

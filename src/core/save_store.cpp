@@ -145,7 +145,7 @@ void SaveStore::dropPiece(std::string_view key, Entry& entry, std::int64_t piece
 
 void SaveStore::dropKey(std::string_view key, Entry& entry) {
   entry.pieces.clear();
-  waitingFor(key) = {.drops_key = true, .pieces = {}};
+  waitingFor(key) = {.dropsKey = true, .pieces = {}};
 }
 
 // The same piece is found unreadable at every load until it is written over: it waits once.
@@ -163,7 +163,7 @@ std::vector<StoreChange> SaveStore::uncommitted() const {
   for (const StoredPiece& piece : aside_) changes.push_back({keepAside, piece});
   if (drops_all_) changes.push_back({.kind = dropAll, .stored = {}});
   for (const auto& [key, waiting] : waiting_) {
-    if (waiting.drops_key) changes.push_back({dropKey, {.key = key, .bytes = {}}});
+    if (waiting.dropsKey) changes.push_back({dropKey, {.key = key, .bytes = {}}});
     const Entry* const stored = entry(key);
     for (const std::int64_t piece : waiting.pieces) {
       if (stored != nullptr && stored->pieces.contains(piece)) {

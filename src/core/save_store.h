@@ -120,7 +120,7 @@ class SaveStore {
  private:
   // What the port does not know yet of a key. The bytes themselves stand in entries_.
   struct Waiting {
-    bool drops_key = false;
+    bool dropsKey = false;
     std::set<std::int64_t> pieces;  // written or gone
   };
 

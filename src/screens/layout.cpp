@@ -27,7 +27,7 @@ ListPage cutList(const PagedList& list, const Stage& stage) {
   const auto turnTo = [&](const char* label, bool possible, std::size_t target) {
     return Button{.label = label,
                   .press = [key = list.key, target](Stage& turned) { turned.turnList(key, target); },
-                  .offReason = possible ? "" : "There is no more.",
+                  .offReason = possible ? "" : "No more pages.",
                   .weight = Button::Weight::quiet};
   };
   shown.position = tb::format("{}–{} of {}", first + 1, end, list.size);

@@ -145,8 +145,8 @@ Chart barChart(std::string title, std::span<const double> values,
   }
   const auto [lowest, highest] = std::ranges::minmax(values);
   chart.scale = roundScale(std::min(lowest, 0.0), highest, textOf);
-  chart.summary = tb::format("From {} at first to {} at last; highest {}.", textOf(values.front()),
-                             textOf(values.back()), textOf(highest));
+  chart.summary = tb::format("First {}, last {}; highest {}.", textOf(values.front()), textOf(values.back()),
+                             textOf(highest));
   return chart;
 }
 

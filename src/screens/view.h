@@ -37,7 +37,8 @@ enum class Tone : std::uint8_t {
   accent,
 };
 
-// Bands of a score from 0 to 100, for its tint: below 25, 25 to 49, 50 to 79, 80 and above. None for other figures.
+// Bands of a score from 0 to 100, for its tint: below 25, 25 to 49, 50 to 79, 80 and above. None for other
+// figures.
 enum class Band : std::uint8_t { none, poor, fair, good, great };
 
 // A small icon beside a text or a figure. Each shell draws it in its own way.

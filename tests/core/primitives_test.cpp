@@ -123,10 +123,13 @@ TEST(DateLabel, NamesTheFridayOfAWeekThatBeginsOnSunday) {
     std::int64_t week, year;
     const char *month, *day;
   } cases[] = {
-      {1, 2026, "January", "2, 2026"},   {52, 2026, "December", "25, 2026"}, {1, 2027, "January", "1, 2027"},
+      {1, 2026, "January", "2, 2026"},
+      {52, 2026, "December", "25, 2026"},
+      {1, 2027, "January", "1, 2027"},
       {1, 2028, "December", "31, 2027"},  // January 1 is a Saturday, so the week's Friday is in the previous
                                           // year
-      {10, 2028, "March", "3, 2028"},    {53, 2027, "December", "31, 2027"},
+      {10, 2028, "March", "3, 2028"},
+      {53, 2027, "December", "31, 2027"},
   };
   for (const auto& [week, year, month, day] : cases) {
     const auto label = dateLabel({}, week, year);

@@ -173,7 +173,7 @@ TEST_F(FirstWeeksJourney, ButtonsShowRefusalsAndCompletion) {
 
 TEST_F(FirstWeeksJourney, TabsAndEndWeekAreOnEveryScreen) {
   player().follow({"Work", "Talent", "Life"});
-  player().expectSees({"EVERY WEEK TAKES"});
+  player().expectSees({"WEEKLY ENERGY COSTS"});
   player().follow({"Work", "Acting Classes", "End Week"});
   EXPECT_EQ(player().title(), "REVIEW");
   for (const test::Player::Usable& usable : player().usable()) EXPECT_NE(usable.label, "Home");

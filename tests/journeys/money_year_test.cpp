@@ -101,7 +101,7 @@ TEST(MoneyYearJourney, SummariesRecordsAndCashAgree) {
   readWealth(device, "Balance Sheet", {cash({}, world.totalCashAvailable)});
   readWealth(device, "Weekly Expenses", {"Basic Needs", "AG Monthly Dues", "$3,640"});
   device.player().follow({"Wealth", "Payments"});
-  device.player().expectSees({"No such payment in this year."});
+  device.player().expectSees({"No payments of this kind this year."});
   device.player().press("Earlier");
   device.player().expectSees({"Salt Road", "Own Goal"});
   device.player().press("Residuals");

@@ -245,7 +245,7 @@ const letters = (...labels: string[]) => labels.map((label, index) => make.optio
 const form = page({
   title: "New career",
   nodes: [
-    make.field({ label: "Stage name", value: "Dana", hint: "As it will stand on the poster.", maximumLength: 30 }),
+    make.field({ label: "Stage name", value: "Dana", hint: "As it appears on posters.", maximumLength: 30 }),
     make.field({ label: "Biography", value: "Grew up backstage.\nNever quite left.", severalLines: true }),
     make.slider({ label: "Age", value: 24, text: "24 years", minimum: 18, maximum: 60 }),
     make.choice("Side by side", letters("Female", "Male")),

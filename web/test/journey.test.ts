@@ -152,7 +152,7 @@ test("every screen of a working actor can be read by everybody", async () => {
     ["Wealth", [/^Payments/], "actor-payments"],
     ["Life", [], "actor-life"],
   ]);
-  const taken = await figuresUnder(page, "EVERY WEEK TAKES");
+  const taken = await figuresUnder(page, "WEEKLY ENERGY COSTS");
   const inAll = taken.pop()!;
   assert(inAll <= 0, "a week gives no energy");
   assert.equal(taken.reduce((sum, energy) => sum + energy, 0), inAll);

@@ -1,6 +1,5 @@
 #include "screens/backstage/backstage_view_controller.h"
 
-
 #include "screens/backstage/casting_network_view_controller.h"
 #include "screens/parts.h"
 #include "screens/talent/actors_guild_view_controller.h"
@@ -12,8 +11,7 @@ view::Page BackstageViewController::view(const Game& game) {
   const WorldState& world = game.world;
   return {.title = "The Backstage",
           .subtitle = "What casting knows about you",
-          .nodes = {leadingTo<CastingNetworkViewController>("Casting Network",
-                                                            "Today's roles, and yours to submit for"),
+          .nodes = {leadingTo<CastingNetworkViewController>("Casting Network", "Today's roles to submit for"),
                     leadingTo<ShowreelViewController>("Showreel", "The first thing that casting sees",
                                                       std::to_string(world.showreelScore)),
                     leadingTo<ActorsGuildViewController>(

@@ -84,7 +84,7 @@ Page EnterPlayerDetailsViewController::view(const Game& game) {
                   Field{.label = "Stage name",
                         .value = form_.myName,
                         .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
-                        .hint = "As it will stand on the poster",
+                        .hint = "As it appears on posters",
                         .maximumLength = 40},
                   ageSlider(game),
                   genders(),

@@ -15,12 +15,12 @@ void restart(Stage& stage) {
 }
 
 void askForRestart(Stage& stage) {
-  stage.ask({.title = "Restart?",
-             .message =
-                 "Your career ends here and a new one begins. Everything you have built is gone, but for the "
-                 "money in your vault and what you have earned for good."},
-            {{.label = "Keep playing", .weight = Button::Weight::primary},
-             {.label = "Restart", .press = restart, .weight = Button::Weight::destructive}});
+  stage.ask(
+      {.title = "Restart?",
+       .message = "Your career ends here and a new one begins. Everything you have built is gone, except "
+                  "the money in your vault and your permanent upgrades."},
+      {{.label = "Keep playing", .weight = Button::Weight::primary},
+       {.label = "Restart", .press = restart, .weight = Button::Weight::destructive}});
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ view::Row drain(const char* label, std::int64_t energy) {
 // Job and classes are always listed, other costs only when they are not 0. The last row is the total.
 view::Section everyWeek(const WorldState& world) {
   view::Section section{
-      .heading = "EVERY WEEK TAKES",
+      .heading = "WEEKLY ENERGY COSTS",
       .nodes = {drain("Your job", world.weeklyEnergyCost), drain("Acting classes", classEnergy(world))}};
   const auto felt = [&](const char* label, std::int64_t energy) {
     if (energy != 0) section.nodes.push_back(drain(label, energy));
@@ -41,7 +41,7 @@ std::vector<view::Node> lifeTab(const Game& game) {
       everyWeek(world),
       view::Section{
           .heading = "ENERGY",
-          .nodes = {view::Row{.label = "Weekly ceiling", .value = std::to_string(world.totalEnergyMax)},
+          .nodes = {view::Row{.label = "Weekly maximum", .value = std::to_string(world.totalEnergyMax)},
                     view::Row{.label = "Lost to age", .value = std::to_string(world.saveAgeLoss)}}}});
   return nodes;
 }

@@ -24,7 +24,7 @@ Section books(const Game& game) {
       .nodes = {
           leadingTo<FinancialManagementViewController>("Finances", "Job, pay and income"),
           leadingTo<BalanceSheetViewController>("Balance Sheet", "What you own, at today's prices"),
-          leadingTo<WeeklyExpenseListViewController>("Weekly Expenses", "What every week takes",
+          leadingTo<WeeklyExpenseListViewController>("Weekly Expenses", "Your regular expenses",
                                                      shownMoney(game.locale, standingExpenses(game.world))),
           leadingTo<PaymentTransactionsViewController>("Payments", "What your titles have paid you")}};
 }

@@ -102,7 +102,7 @@ Chart starChart(const StarHistogram& histogram) {
   }
   chart.scale = roundScale(0, highest, [](double mark) { return tb::format("{:.0f}%", mark); });
   const auto most = std::ranges::max_element(histogram);
-  chart.summary = tb::format("The rating given most is {} of 10.", most - histogram.begin() + 1);
+  chart.summary = tb::format("The most common rating is {} of 10.", most - histogram.begin() + 1);
   return chart;
 }
 

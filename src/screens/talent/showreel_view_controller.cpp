@@ -68,10 +68,9 @@ Choice ShowreelViewController::packages(const Game& game) {
 Section ShowreelViewController::newScenes(const Game& game) {
   Section section{.heading = "NEW SCENES", .nodes = {packages(game)}};
   for (std::size_t index = 0; index < scenes_.size(); ++index) {
-    section.nodes.push_back(
-        Row{.label = scenes_[index], .detail = "Strike it", .press = [this, index](Stage&) {
-              scenes_.erase(scenes_.begin() + static_cast<std::ptrdiff_t>(index));
-            }});
+    section.nodes.push_back(Row{.label = scenes_[index], .detail = "Remove", .press = [this, index](Stage&) {
+                                  scenes_.erase(scenes_.begin() + static_cast<std::ptrdiff_t>(index));
+                                }});
   }
   section.nodes.push_back(
       Field{.label = "A scene where ...",

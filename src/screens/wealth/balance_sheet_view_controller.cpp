@@ -61,10 +61,10 @@ void BalanceSheetViewController::appear(Stage& stage) { updateNetWorth(stage.gam
 Page BalanceSheetViewController::view(const Game& game) {
   const NetWorth worth = netWorth(game.world);
   Page page{.title = "Balance Sheet", .subtitle = "At today's prices"};
-  page.nodes = {Tiles{{moneyTile(game, "Net worth", worth.total())}},
-                moneyPie(game, "What your wealth is made of", partsOf(worth),
-                         "There is nothing on the bright side of the books yet."),
-                parts(game, worth)};
+  page.nodes = {
+      Tiles{{moneyTile(game, "Net worth", worth.total())}},
+      moneyPie(game, "What your wealth is made of", partsOf(worth), "You own nothing of value yet."),
+      parts(game, worth)};
   if (!game.world.saveAllPropertyList.empty()) {
     page.nodes.push_back(Section{.heading = "PROPERTY", .nodes = {homes(game)}});
   }

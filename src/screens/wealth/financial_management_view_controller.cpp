@@ -73,7 +73,7 @@ Section FinancialManagementViewController::income(const Game& game) const {
   return {.heading = "INCOME",
           .nodes = {netIncome(game),
                     moneyPie(game, tb::format("What your work paid in {}", game.world.yearNumber), kinds,
-                             "No work has paid anything this year yet."),
+                             "Your work has not paid anything this year."),
                     yearBars(game, "Paid by your titles, year by year", years_, &YearOfPayments::total)}};
 }
 

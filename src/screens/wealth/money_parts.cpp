@@ -60,7 +60,7 @@ Chart moneyPie(const Game& game, std::string title, const std::vector<MoneyPart>
   }
   if (chart.points.empty()) return chart;
   const MoneyPart& largest = largestOf(parts);
-  chart.summary = tb::format("{} in all. Most of it: {}, {:.0f}%.", shownMoney(game.locale, whole),
+  chart.summary = tb::format("{} in total. Largest part: {}, {:.0f}%.", shownMoney(game.locale, whole),
                              largest.label, largest.amount / whole * 100);
   return chart;
 }

@@ -62,7 +62,7 @@ Section PaymentTransactionsViewController::yearSection(const Game& game) {
                         .size = rows.size(),
                         .nodeAt = [this, &game, rows](
                                       std::size_t index) { return paymentRow(game, history_[rows[index]]); },
-                        .whenEmpty = "No such payment in this year."}}};
+                        .whenEmpty = "No payments of this kind this year."}}};
 }
 
 Page PaymentTransactionsViewController::view(const Game& game) {

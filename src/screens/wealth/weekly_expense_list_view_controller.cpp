@@ -55,7 +55,7 @@ Chart shares(const Game& game, const std::vector<std::size_t>& expenses) {
     MoneyPart& last = parts.back();
     last = {"Everything else", last.amount + smallItems};
   }
-  return moneyPie(game, "Where it goes", parts, "Nothing is taken.");
+  return moneyPie(game, "Where it goes", parts, "There are no weekly expenses.");
 }
 
 }  // namespace
@@ -65,7 +65,7 @@ Page WeeklyExpenseListViewController::view(const Game& game) {
   const double expenses = standingExpenses(world);
   const std::vector<std::size_t> paid = itemsOf(world, true);
   const std::vector<std::size_t> received = itemsOf(world, false);
-  Page page{.title = "Weekly Expenses", .subtitle = "Taken every week, whatever it brings"};
+  Page page{.title = "Weekly Expenses", .subtitle = "Paid every week"};
   page.nodes = {Tiles{
       {moneyTile(game, "Every week", expenses), moneyTile(game, "Every year", expenses * weeksPerYear)}}};
   if (paid.size() > 1) page.nodes.push_back(shares(game, paid));

@@ -30,10 +30,10 @@ constexpr std::array<FunnelList, 5> funnelLists = {{
     {.title = "All Applications",
      .whenEmpty = "You have not applied for anything yet. Roles to submit for are behind the B at the "
                   "top right."},
-    {.title = "Upcoming Auditions", .whenEmpty = "Nobody has asked you in yet."},
+    {.title = "Upcoming Auditions", .whenEmpty = "You have no invitations yet."},
     {.title = "Bookings", .whenEmpty = "You are not booked for anything."},
-    {.title = "Releases", .whenEmpty = "Nothing of yours has wrapped yet."},
-    {.title = "Not Selected", .whenEmpty = "No role of yours has gone to somebody else."},
+    {.title = "Releases", .whenEmpty = "None of your projects has wrapped yet."},
+    {.title = "Not Selected", .whenEmpty = "You have not lost any roles."},
 }};
 
 const FunnelList& funnelList(Listed list) { return funnelLists[static_cast<std::size_t>(list)]; }

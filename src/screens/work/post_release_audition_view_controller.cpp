@@ -28,7 +28,7 @@ Section reception(const WorldState& world, const Audition& project) {
     if (!review.empty()) section.nodes.push_back(Text{.text = review, .style = Text::Style::quotation});
   }
   section.nodes.push_back(Row{.label = "Imbd page",
-                              .detail = "Ratings, reviews and all that is known of it",
+                              .detail = "Ratings, reviews and details",
                               .press = [id = film.filmId](Stage& stage) { openTitlePage(stage, id); }});
   return section;
 }

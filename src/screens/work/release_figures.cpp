@@ -60,7 +60,7 @@ Tiles figureTiles(const Game& game, const Audition& project, const ReleaseFigure
 }
 
 Chart figureChart(const Game& game, const Audition& project, const ReleaseFigures& figures) {
-  if (!isSeries(project)) return takingsChart(game, "Takings by week", figures.weeks);
+  if (!isSeries(project)) return takingsChart(game, "Gross by week", figures.weeks);
   return barChart(
       "Viewers by episode", figures.weeks,
       [](std::size_t episode) { return tb::format("Episode {}", episode + 1); },

@@ -115,7 +115,7 @@ bool Console::obey(const Input& input) {
   } else if (command.words == "?") {
     hint_ = help;
   } else {
-    hint_ = "That is none of it. " + std::string(firstHint);
+    hint_ = "That is not an option. " + std::string(firstHint);
   }
   return true;
 }
@@ -174,7 +174,7 @@ void Console::goBack() {
     hint_ = "This has to be answered first.";
   } else if (const view::Page& page = app_.view();
              page.close.empty() && (page.tabs.empty() || page.tabs.front().current)) {
-    hint_ = "There is no way back from here.";
+    hint_ = "You can't go back from here.";
   } else {
     app_.back();
   }
@@ -223,7 +223,7 @@ void Console::letTimePass(double seconds) {
 bool Console::stillThere(view::Handle handle, const Target& target) {
   const auto now = page_.targets.find(handle);
   const bool same = now != page_.targets.end() && now->second == target;
-  if (!same) hint_ = "The page has moved on meanwhile. Choose again.";
+  if (!same) hint_ = "The page has changed. Choose again.";
   return same;
 }
 

@@ -8,12 +8,12 @@ Bytes exportedSave(const SaveStore& store) { return plist::write(plist::Value{st
 
 std::string importSave(SaveStore& store, std::span<const std::byte> file) {
   const auto read = plist::read(file);
-  if (!read) return "This file is damaged, or it is no save of Top Billing.";
+  if (!read) return "This file is damaged, or it is not a save of Top Billing.";
 
   // Recognizes a career by this key; any property-list dictionary could be stored.
   const auto* values = read->as<plist::Dictionary>();
   const plist::Value* started = values ? read->find("enterPlayerDetails") : nullptr;
-  if (!started || !started->as<std::int64_t>()) return "This file holds no career.";
+  if (!started || !started->as<std::int64_t>()) return "There is no career in this file.";
 
   store.replace(*values);
   return {};
