@@ -157,9 +157,9 @@ TEST_F(ConsoleLoop, ExplainsInvalidInput) {
   EXPECT_TRUE(shows(pageAfter(2), "[1] takes no text"));
   for (const std::size_t page : {3u, 4u, 5u})
     EXPECT_TRUE(shows(pageAfter(page), "Age takes a number: 18 to 60"));
-  EXPECT_TRUE(shows(pageAfter(6), "no way back"));
-  EXPECT_TRUE(shows(pageAfter(7), "That is none of it."));
-  EXPECT_TRUE(shows(pageAfter(8), "That is none of it."));
+  EXPECT_TRUE(shows(pageAfter(6), "You can't go back from here."));
+  EXPECT_TRUE(shows(pageAfter(7), "That is not an option."));
+  EXPECT_TRUE(shows(pageAfter(8), "That is not an option."));
   EXPECT_EQ(seen.presses, 0);
   EXPECT_TRUE(seen.slid.empty());
 }
@@ -204,7 +204,7 @@ TEST_F(ConsoleLoop, ANumberDoesNotUseAnItemThatReplacedIt) {
   play();
   EXPECT_EQ(seen.presses, 0);
   EXPECT_TRUE(shows(port.last(), "Bid more"));
-  EXPECT_TRUE(shows(port.last(), "moved on"));
+  EXPECT_TRUE(shows(port.last(), "The page has changed."));
 }
 
 TEST_F(ConsoleLoop, ScrollsLongPagesWithVisibleTabs) {
