@@ -14,6 +14,9 @@ namespace {
 
 using namespace view;
 
+// About two weeks: in a terminal the page ends here, and what it begins with is still to be seen.
+constexpr std::size_t storyLines = 10;
+
 Tiles careerTiles(const WorldState& world) {
   return {
       {{.label = "Fans", .value = shortCount(world.totalFans)}, scoreTile("Talent", overallTalent(world))}};
@@ -48,7 +51,8 @@ PagedList activityLog(const Game& game) {
   return {.key = "activity",
           .size = game.world.activityTracker.size(),
           .nodeAt = [&game](std::size_t index) { return activityNode(game, index); },
-          .whenEmpty = "Your story starts here. This log keeps what your career brings, week by week."};
+          .whenEmpty = "Your story starts here. This log keeps what your career brings, week by week.",
+          .pageLength = storyLines};
 }
 
 }  // namespace
