@@ -20,13 +20,6 @@ template <class Record, class Field, class Value>
   return std::nullopt;
 }
 
-// Where an integer field stands in a record, in bytes.
-template <class Record>
-[[nodiscard]] std::size_t offsetOf(const Record& record, std::int64_t Record::* field) {
-  return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(record.*field)) -
-                                  reinterpret_cast<const std::byte*>(&record));
-}
-
 // The same by an id, which never changes while its record is in the list. Long lists have an index of ids
 // that are small counts: a career has thousands of titles, and tens of thousands of market records.
 template <class Record>

@@ -26,12 +26,13 @@ double changeOfWeek(Game& game, const Film& film) {
   return (film.imbdRating - RandomUnit(game.random, lowestBar, highestBar)) * pointsOfDifference;
 }
 
-void drift(Game& game, Film& film) {
-  const double before = film.currentPopularity;
-  const double change = changeOfWeek(game, film);
-  film.currentPopularity =
+void drift(Game& game, List<Film>& films, std::size_t index) {
+  const double before = films[index].currentPopularity;
+  const double change = changeOfWeek(game, films[index]);
+  const double now =
       change > 0 ? std::min(before + change, highestPopularity) : std::max(before + change, 0.0);
-  film.lastWeekPopularity = before;
+  films.set(index, &Film::currentPopularity, now);
+  films.set(index, &Film::lastWeekPopularity, before);
 }
 
 }  // namespace
@@ -39,7 +40,7 @@ void drift(Game& game, Film& film) {
 void driftPopularity(Game& game) {
   List<Film>& films = game.world.saveAllFilmList;
   for (std::size_t index = 0; index < films.size(); ++index) {
-    if (drifts(game.world, films[index])) drift(game, films.edit(index));
+    if (drifts(game.world, films[index])) drift(game, films, index);
   }
 }
 

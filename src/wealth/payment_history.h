@@ -39,8 +39,7 @@ struct YearOfPayments {
   [[nodiscard]] double total() const;
 };
 
-// Their sums, one entry for every year with a payment and for `thisYear`, the oldest first.
-[[nodiscard]] std::vector<YearOfPayments> paymentsByYear(const std::vector<Payment>& history,
-                                                         std::int64_t thisYear);
+// The sums of all payments, one entry for every year with a payment and for the running one, the oldest first.
+[[nodiscard]] std::vector<YearOfPayments> paymentsByYear(const WorldState& world);
 
 }  // namespace tb

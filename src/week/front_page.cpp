@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/audition_list.h"
+#include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "film/box_office.h"
@@ -16,9 +18,8 @@ constexpr std::ptrdiff_t fewestToFold = 2;
 
 Story storyOf(const WorldState& world, const News& about, std::string text) {
   Story story{.about = about, .text = std::move(text)};
-  const auto& projects = world.saveAllAuditionList;
-  const auto project = std::ranges::find(projects, about.filmId, &Audition::filmId);
-  if (project != projects.end()) story.project.push_back(*project);
+  const auto project = auditionIndex(world, about.filmId);
+  if (project) story.project.push_back(world.saveAllAuditionList[*project]);
   return story;
 }
 
@@ -33,9 +34,9 @@ std::string openingWords(const Game& game, const Film& film) {
 
 std::string premiereWords(const WorldState& world, const Film& film) {
   const std::string season = film.seasonNumber >= 2 ? tb::format(" Season {}", film.seasonNumber) : "";
-  const auto counted = std::ranges::find(world.saveAllRatings, film.filmId, &Ratings::filmId);
-  if (counted == world.saveAllRatings.end()) return tb::format("{}{} premiered.", film.title, season);
-  const auto viewers = static_cast<std::int64_t>(counted->premiereViews.front());
+  const auto counted = find(world.saveAllRatings, &Ratings::filmId, film.filmId);
+  if (!counted) return tb::format("{}{} premiered.", film.title, season);
+  const auto viewers = static_cast<std::int64_t>(world.saveAllRatings[*counted].premiereViews.front());
   return tb::format("{}{} premiered to {} viewers.", film.title, season, shortCount(viewers));
 }
 

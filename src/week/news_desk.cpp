@@ -4,6 +4,8 @@
 #include <array>
 #include <tuple>
 
+#include "core/audition_list.h"
+
 namespace tb {
 
 namespace {
@@ -55,9 +57,8 @@ constexpr bool everyKindHasARule() {
 static_assert(everyKindHasARule());
 
 const Audition* projectOf(const WorldState& world, std::int64_t filmId) {
-  const auto& projects = world.saveAllAuditionList;
-  const auto found = std::ranges::find(projects, filmId, &Audition::filmId);
-  return found == projects.end() ? nullptr : &*found;
+  const auto found = auditionIndex(world, filmId);
+  return found ? &world.saveAllAuditionList[*found] : nullptr;
 }
 
 // An extra's ten thousandth premiere is an ordinary week.

@@ -61,8 +61,7 @@ Chart netIncome(const Game& game) {
 
 void FinancialManagementViewController::appear(Stage& stage) {
   keepNetWorth(stage.game());
-  const WorldState& world = stage.game().world;
-  years_ = paymentsByYear(paymentHistory(world), world.yearNumber);
+  years_ = paymentsByYear(stage.game().world);
 }
 
 // By kind in the running year, and by year of late.
