@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/columns.h"
 #include "core/save.h"
 #include "core/save_store.h"
 #include "tests/core/typed_variables.h"
@@ -282,7 +283,7 @@ class StoredWorld {
 
   void expectSameAs(const WorldState& world, const std::string& used) {
     for (const Variable& variable : variables()) {
-      if (variable.load == Load::atStart && isChanged(variable.key)) loadVariable(stored_, variable);
+      if (variable.load == Load::atStart && isChanged(variable)) loadVariable(stored_, variable);
     }
     forEachVariable([&]<auto Member>(std::string_view key, const auto&, const auto&, Load when) {
       if (when != Load::atStart) return;
@@ -292,7 +293,14 @@ class StoredWorld {
 
  private:
   // True when the store's value changed since the last comparison.
-  bool isChanged(std::string_view key) {
+  bool isChanged(const Variable& variable) {
+    bool changed = isChanged(std::string(variable.key));
+    for (const FieldType& field : variable.type->fields) {
+      if (field.isColumn && isChanged(columnKey(variable.key, field.name))) changed = true;
+    }
+    return changed;
+  }
+  bool isChanged(const std::string& key) {
     static const SaveStore::Entry none;
     const SaveStore::Entry* const entry = stored_.store.entry(key);
     const SaveStore::Entry& now = entry != nullptr ? *entry : none;
@@ -303,7 +311,7 @@ class StoredWorld {
   }
 
   Game stored_;
-  std::map<std::string_view, SaveStore::Entry> seen_;
+  std::map<std::string, SaveStore::Entry> seen_;
 };
 
 Player::Player(App& app) : app_(app), stored_(std::make_shared<StoredWorld>(app.game())) {}

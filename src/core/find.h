@@ -20,13 +20,6 @@ template <class Record, class Field, class Value>
   return std::nullopt;
 }
 
-// The offset of an integer field in a record, in bytes.
-template <class Record>
-[[nodiscard]] std::size_t offsetOf(const Record& record, std::int64_t Record::* field) {
-  return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(record.*field)) -
-                                  reinterpret_cast<const std::byte*>(&record));
-}
-
 // The same for an id field, which must not change while its record is in the list. Long lists keep a table of
 // small ids, because a career has thousands of titles and tens of thousands of market records.
 template <class Record>

@@ -43,6 +43,14 @@ void* ListBase::editSlot(std::size_t index) {
   return slot.element;
 }
 
+void* ListBase::setField(std::size_t index, std::size_t field) {
+  const Slot& slot = slots_[index];
+  pieceOf(slot.piece).fieldsSet = true;
+  if (!std::ranges::contains(fields_set_, field)) fields_set_.push_back(field);
+  changed_ = true;
+  return slot.element;
+}
+
 void ListBase::pushBack(void* element) {
   if (pieces_.empty()) {
     pieces_.push_back({.number = 0});
@@ -107,9 +115,9 @@ void ListBase::takeElements(ListBase& other) {
 namespace {
 
 // A table is worth its memory when ids are not much more than there are elements, and a walk is as good as a
-// table in a list of a few pieces.
+// table in a short list.
 constexpr std::size_t maxIdsPerElement = 16;
-constexpr std::size_t shortList = 2 * ListBase::pieceLength;
+constexpr std::size_t shortList = 64;
 
 }  // namespace
 
@@ -163,21 +171,22 @@ std::optional<std::size_t> ListBase::nextWithId(std::size_t field, std::size_t i
 
 // --- For saving and loading ---
 
-std::vector<ListBase::Change> ListBase::changes() const {
-  std::vector<Change> changed;
+std::vector<ListBase::PieceState> ListBase::pieces() const {
+  std::vector<PieceState> states;
   std::size_t first = 0;
   for (const Piece& piece : pieces_) {
-    if (piece.changed) changed.push_back({piece.number, first, piece.count});
+    states.push_back({piece.number, first, piece.count, piece.changed, piece.fieldsSet});
     first += piece.count;
   }
-  return changed;
+  return states;
 }
 
 void ListBase::changesSaved() {
   replaces_stored_ = false;
   changed_ = false;
+  fields_set_.clear();
   std::erase_if(pieces_, [](const Piece& piece) { return piece.count == 0; });
-  for (Piece& piece : pieces_) piece.changed = false;
+  for (Piece& piece : pieces_) piece.changed = piece.fieldsSet = false;
 }
 
 void ListBase::replaceStored() {

@@ -3,9 +3,9 @@
 // A persisted list: a sequence that knows which of its parts changed since it was last saved.
 //
 // A career's lists grow for decades while a week touches a handful of their elements. The elements are
-// therefore grouped into pieces of up to pieceLength neighbours; the save file keeps each piece on its own
+// therefore grouped into pieces of up to pieceLength neighbors; the save file keeps each piece on its own
 // and a write stores the changed pieces only. Reading is that of any sequence; writing goes through edit(),
-// the push and erase functions and assign(), so that no change is ever missed.
+// set(), the push and erase functions and assign(), so that no change is ever missed.
 //
 // Piece numbers rise from front to back, with gaps where a piece lost its last element. The number of a piece
 // never changes: a list grows at its two ends only.
@@ -20,10 +20,18 @@
 #include <initializer_list>
 #include <iterator>
 #include <optional>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 namespace tb {
+
+// Where a field stands in a record, in bytes.
+template <class Record, class Field>
+[[nodiscard]] std::size_t offsetOf(const Record& record, Field Record::* field) {
+  return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(record.*field)) -
+                                  reinterpret_cast<const std::byte*>(&record));
+}
 
 // Where the elements with an id stand. Made for ids that are small counts, such as the ids of films: it is a
 // table by id. It grows as elements are added at the end; anything else that moves elements clears it.
@@ -40,13 +48,15 @@ struct IdIndex {
 // quarter of its program.
 class ListBase {
  public:
-  static constexpr std::size_t pieceLength = 32;
+  static constexpr std::size_t pieceLength = 8;
 
-  // One changed piece: where its elements stand now. A count of 0 says that the piece is gone.
-  struct Change {
+  // A piece, and where its elements stand now. A count of 0 says that the piece is gone.
+  struct PieceState {
     std::int64_t piece;
     std::size_t first;
     std::size_t count;
+    bool changed;    // edited, or it has other elements
+    bool fieldsSet;  // changed by set()
   };
 
   // How elements of the list's type are made and disposed of.
@@ -90,9 +100,10 @@ class ListBase {
   // False when nothing was done to the list since it was loaded or last saved.
   [[nodiscard]] bool changed() const { return changed_; }
 
-  // The pieces that changed since changesSaved(), front to back. An empty list that replaces the stored one
-  // has no changes.
-  [[nodiscard]] std::vector<Change> changes() const;
+  // All pieces, front to back, and what happened to them since changesSaved().
+  [[nodiscard]] std::vector<PieceState> pieces() const;
+  // The fields that set() changed since then, each by where it stands in an element, in bytes.
+  [[nodiscard]] const std::vector<std::size_t>& fieldsSet() const { return fields_set_; }
   void changesSaved();
 
   // Cuts the list into fresh pieces, which replace whatever the store holds.
@@ -100,6 +111,9 @@ class ListBase {
 
   // A new element at the end, in piece `piece` of what the store holds; pieces must come in rising order.
   void* addLoaded(std::int64_t piece);
+
+  // The element at `index`, for a load that is not finished: no change.
+  [[nodiscard]] void* loadedElement(std::size_t index) { return slots_[index].element; }
 
   // Takes over the elements and pieces of a list that was filled by addLoaded(), as the store holds them.
   void takeLoaded(ListBase& loaded);
@@ -113,6 +127,7 @@ class ListBase {
 
   [[nodiscard]] const Slots& slots() const { return slots_; }
   void* editSlot(std::size_t index);
+  void* setField(std::size_t index, std::size_t field);
   void pushBack(void* element);
   void pushFront(void* element);
   void takeElements(ListBase& other);
@@ -128,6 +143,7 @@ class ListBase {
     std::int64_t number = 0;
     std::size_t count = 0;
     bool changed = false;
+    bool fieldsSet = false;
   };
 
   Piece& pieceOf(std::int64_t number);
@@ -142,6 +158,7 @@ class ListBase {
   Slots slots_;
   std::deque<Piece> pieces_;  // by rising number
   mutable IdIndex ids_;
+  std::vector<std::size_t> fields_set_;
   bool changed_ = false;
   bool replaces_stored_ = true;
 };
@@ -213,6 +230,14 @@ class List : public ListBase {
 
   // The element at `index`, to be changed. Its piece will be saved again.
   T& edit(std::size_t index) { return *static_cast<T*>(editSlot(index)); }
+
+  // Sets one field of the element at `index`. It is saved as any change is; if the field is one of the
+  // record's columns (core/columns.h), that column alone is saved again and not the element's piece.
+  template <class Record, class Field>
+  void set(std::size_t index, Field Record::* field, const std::type_identity_t<Field>& value) {
+    const std::size_t offset = offsetOf((*this)[index], field);
+    static_cast<Record*>(setField(index, offset))->*field = value;
+  }
 
   void push_back(T value) { pushBack(new T(std::move(value))); }
   void push_front(T value) { pushFront(new T(std::move(value))); }

@@ -30,6 +30,10 @@ struct RecordField {
 template <class Record>
 inline constexpr auto fieldsOf = nullptr;
 
+// Specialised by RECORD_COLUMNS, the same way.
+template <class Record>
+inline constexpr auto columnsOf = std::tuple{};
+
 template <class T>
 concept RecordType = !std::is_same_v<decltype(fieldsOf<T>), const std::nullptr_t>;
 
@@ -98,3 +102,11 @@ consteval bool describesWholeRecord() {
   static_assert(describesWholeRecord<Record>(), #Record                                    \
                 " has a field that RECORD_FIELDS misses or "                               \
                 "misplaces")
+
+// Stands right after RECORD_FIELDS: the numbers that change every week in records that are years old. They
+// are saved in columns of their own (core/columns.h).
+#define RECORD_COLUMNS(Record, ...)                      \
+  template <>                                            \
+  inline constexpr auto columnsOf<Record> = std::tuple { \
+    TB_FIELD_LIST(Record, __VA_ARGS__)                   \
+  }

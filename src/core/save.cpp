@@ -3,11 +3,13 @@
 #include <cstddef>
 #include <expected>
 #include <optional>
+#include <set>
 #include <string>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "core/columns.h"
 #include "core/debug_log.h"
 #include "core/record_codec.h"
 #include "core/save_store.h"
@@ -31,6 +33,54 @@ Bytes encodePiece(const ValueType& type, const ListBase& list, std::size_t first
   return encoder.finish();
 }
 
+bool isColumn(const ValueType& type, std::size_t offset) {
+  const auto field = std::ranges::find(type.fields, offset, &FieldType::offset);
+  return field != type.fields.end() && field->isColumn;
+}
+
+std::vector<SaveStore::PieceWrite> changedPieces(const ValueType& type, const ListBase& list) {
+  // An empty list is one empty piece, so that the key is there.
+  if (list.empty()) return {{.piece = 0, .bytes = encodePiece(type, list, 0, 0)}};
+  const bool columnsSuffice =
+      std::ranges::all_of(list.fieldsSet(), [&](std::size_t offset) { return isColumn(type, offset); });
+  std::vector<SaveStore::PieceWrite> writes;
+  for (const auto& piece : list.pieces()) {
+    if (!piece.changed && (columnsSuffice || !piece.fieldsSet)) continue;
+    writes.push_back({.piece = piece.piece, .bytes = std::nullopt});
+    if (piece.count > 0) writes.back().bytes = encodePiece(type, list, piece.first, piece.count);
+  }
+  return writes;
+}
+
+Bytes encodeStretch(const FieldType& column, const ListBase& list, const ListPart& part) {
+  ListEncoder encoder;
+  for (std::size_t index = part.first; index < part.first + part.count; ++index) {
+    encoder.add(*column.type, static_cast<const std::byte*>(list.element(index)) + column.offset);
+  }
+  return encoder.finish();
+}
+
+// The stretches of the columns in which anything changed.
+void saveColumns(SaveStore& store, const Variable& variable, const ListBase& list) {
+  Stretches stretches;
+  std::set<std::int64_t> changed;
+  for (const auto& piece : list.pieces()) {
+    if (piece.count > 0) addPiece(stretches, piece.piece, piece.first, piece.count);
+    if (piece.changed || piece.fieldsSet) changed.insert(stretchOf(piece.piece));
+  }
+  for (const FieldType& field : variable.type->fields) {
+    if (!field.isColumn) continue;
+    std::vector<SaveStore::PieceWrite> writes;
+    for (const std::int64_t stretch : changed) {
+      writes.push_back({.piece = stretch, .bytes = std::nullopt});
+      const auto part = stretches.find(stretch);
+      if (part != stretches.end()) writes.back().bytes = encodeStretch(field, list, part->second);
+    }
+    store.putPieces(columnKey(variable.key, field.name), Shape::column, list.replacesStored(),
+                    std::move(writes));
+  }
+}
+
 // Says whether the list had changed.
 bool saveList(SaveStore& store, const Variable& variable, ListBase& list) {
   if (!list.changed()) return false;
@@ -38,20 +88,9 @@ bool saveList(SaveStore& store, const Variable& variable, ListBase& list) {
   const Shape shape = shapeOf(variable);
   const SaveStore::Entry* const stored = store.entry(variable.key);
   if (stored == nullptr || stored->shape != shape) list.replaceStored();
-  const auto changes = list.changes();
-  std::vector<SaveStore::PieceWrite> writes;
-  if (list.empty()) {
-    // An empty list is one empty piece, so that the key is there.
-    writes.push_back({.piece = 0, .bytes = encodePiece(*variable.type, list, 0, 0)});
-    store.putPieces(variable.key, shape, true, std::move(writes));
-  } else {
-    for (const auto& change : changes) {
-      writes.push_back({.piece = change.piece, .bytes = std::nullopt});
-      if (change.count == 0) continue;
-      writes.back().bytes = encodePiece(*variable.type, list, change.first, change.count);
-    }
-    store.putPieces(variable.key, shape, list.replacesStored(), std::move(writes));
-  }
+  store.putPieces(variable.key, shape, list.empty() || list.replacesStored(),
+                  changedPieces(*variable.type, list));
+  saveColumns(store, variable, list);
   list.changesSaved();
   return true;
 }
@@ -110,6 +149,44 @@ LoadFailure loadPieces(const Variable& variable, const SaveStore::Entry& stored,
   return std::nullopt;
 }
 
+// Lays a column over the records that were loaded. Says whether all of it fits.
+bool layColumn(const SaveStore::Entry& stored, const FieldType& column, const Stretches& stretches,
+               ListBase& list) {
+  if (stored.shape != Shape::column) return false;
+  bool fits = true;
+  for (const auto& [number, bytes] : stored.pieces) {
+    const auto part = stretches.find(number);
+    const auto values = part == stretches.end() ? std::nullopt : readStretch(bytes, part->second);
+    if (!values) {
+      fits = false;
+      continue;
+    }
+    for (std::size_t index = 0; index < values->size(); ++index) {
+      auto* const record = static_cast<std::byte*>(list.loadedElement(part->second.first + index));
+      visitPlain(column.type->form, record + column.offset, [&]<class T>(T& field) {
+        const auto value = valueAs<T>((*values)[index]);
+        if (value) field = *value;
+        fits = fits && value;
+      });
+    }
+  }
+  return fits;
+}
+
+// What is damaged costs the values since the records' pieces were written, and no more.
+void loadColumns(SaveStore& store, const Variable& variable, ListBase& list) {
+  Stretches stretches;
+  for (const auto& piece : list.pieces()) addPiece(stretches, piece.piece, piece.first, piece.count);
+  for (const FieldType& field : variable.type->fields) {
+    const std::string key = columnKey(variable.key, field.name);
+    const SaveStore::Entry* const stored = field.isColumn ? store.entry(key) : nullptr;
+    if (stored == nullptr || layColumn(*stored, field, stretches, list)) continue;
+    store.keepAside(key);
+    debugLog(key + ": damaged");
+    list.replaceStored();  // its next save mends it
+  }
+}
+
 // A list as an import leaves it, in one plain value: records in a Data, plain values in an array. It has no
 // pieces yet, so its next save writes all of it.
 LoadFailure loadImported(const Variable& variable, const Bytes& stored, ListBase& list) {
@@ -130,9 +207,13 @@ LoadFailure loadImported(const Variable& variable, const Bytes& stored, ListBase
   return std::nullopt;
 }
 
-LoadFailure loadList(const Variable& variable, const SaveStore::Entry& stored, ListBase& list) {
+LoadFailure loadList(SaveStore& store, const Variable& variable, const SaveStore::Entry& stored,
+                     ListBase& list) {
   LoadFailure failure = otherKind;
-  if (stored.shape == shapeOf(variable)) failure = loadPieces(variable, stored, list);
+  if (stored.shape == shapeOf(variable)) {
+    failure = loadPieces(variable, stored, list);
+    if (!failure) loadColumns(store, variable, list);
+  }
   if (stored.shape == Shape::plain) failure = loadImported(variable, stored.pieces.begin()->second, list);
   if (failure) list.replaceStored();  // its next save can't add to what can't be read
   return failure;
@@ -158,8 +239,9 @@ LoadFailure loadPlain(Game& game, const Variable& variable, const SaveStore::Ent
 void loadVariable(Game& game, const Variable& variable) {
   const SaveStore::Entry* const stored = game.store.entry(variable.key);
   if (stored == nullptr) return;
-  const LoadFailure failure = variable.isList ? loadList(variable, *stored, listOf(game.world, variable))
-                                              : loadPlain(game, variable, *stored);
+  const LoadFailure failure = variable.isList
+                                  ? loadList(game.store, variable, *stored, listOf(game.world, variable))
+                                  : loadPlain(game, variable, *stored);
   if (!failure) return;
   game.store.keepAside(variable.key);
   debugLog(std::string(variable.key) + ": " + *failure);

@@ -9,16 +9,31 @@ namespace tb {
 
 namespace {
 
+struct JoinedList {
+  plist::Array elements;
+  Stretches stretches;
+};
+
 // The pieces of a list as one array; nothing when one of them does not decode.
-std::optional<plist::Array> joined(const SaveStore::Entry& entry) {
-  plist::Array all;
-  for (const Bytes& bytes : entry.pieces | std::views::values) {
+std::optional<JoinedList> joined(const SaveStore::Entry& entry) {
+  JoinedList all;
+  for (const auto& [number, bytes] : entry.pieces) {
     auto piece = plist::read(bytes);
     auto* elements = piece ? std::get_if<plist::Array>(&piece->held) : nullptr;
     if (elements == nullptr) return std::nullopt;
-    std::ranges::move(*elements, std::back_inserter(all));
+    addPiece(all.stretches, number, all.elements.size(), elements->size());
+    std::ranges::move(*elements, std::back_inserter(all.elements));
   }
   return all;
+}
+
+// Sets the field of a record, if it holds a value of that kind.
+void setField(plist::Value& record, std::string_view field, plist::Value value) {
+  auto* const fields = std::get_if<plist::Dictionary>(&record.held);
+  if (fields == nullptr) return;
+  const auto at = std::ranges::find(*fields, field, &std::pair<std::string, plist::Value>::first);
+  if (at == fields->end() || at->second.held.index() != value.held.index()) return;
+  at->second = std::move(value);
 }
 
 }  // namespace
@@ -50,11 +65,37 @@ std::optional<plist::Value> SaveStore::value(std::string_view key) const {
     if (!plain) return std::nullopt;
     return *std::move(plain);
   }
-  auto elements = joined(*stored);
-  if (!elements) return std::nullopt;
-  plist::Value list{*std::move(elements)};
+  if (stored->shape == Shape::column) return std::nullopt;
+  auto all = joined(*stored);
+  if (!all) return std::nullopt;
+  if (stored->shape == Shape::recordList) layColumns(key, all->elements, all->stretches);
+  plist::Value list{std::move(all->elements)};
   if (stored->shape == Shape::plainList) return list;
   return plist::Value{plist::Data{plist::write(list)}};
+}
+
+std::vector<std::string> SaveStore::columnsOf(std::string_view list) const {
+  const std::string start = columnKey(list, "");
+  std::vector<std::string> keys;
+  for (auto at = entries_.lower_bound(start); at != entries_.end() && at->first.starts_with(start); ++at) {
+    if (at->second.shape == Shape::column) keys.push_back(at->first);
+  }
+  return keys;
+}
+
+void SaveStore::layColumns(std::string_view key, plist::Array& records, const Stretches& stretches) const {
+  for (const std::string& column : columnsOf(key)) {
+    const std::string_view field = std::string_view(column).substr(columnKey(key, "").size());
+    for (const auto& [number, bytes] : entry(column)->pieces) {
+      const auto part = stretches.find(number);
+      if (part == stretches.end()) continue;
+      auto values = readStretch(bytes, part->second);
+      if (!values) continue;
+      for (std::size_t index = 0; index < values->size(); ++index) {
+        setField(records[part->second.first + index], field, std::move((*values)[index]));
+      }
+    }
+  }
 }
 
 const SaveStore::Entry* SaveStore::entry(std::string_view key) const {
@@ -102,6 +143,7 @@ void SaveStore::keepAside(std::string_view key) {
   const Entry* const stored = entry(key);
   if (stored == nullptr) return;
   for (const auto& [piece, bytes] : stored->pieces) addAside({std::string(key), stored->shape, piece, bytes});
+  for (const std::string& column : columnsOf(key)) keepAside(column);
 }
 
 plist::Dictionary SaveStore::dictionary() const {
@@ -113,8 +155,8 @@ plist::Dictionary SaveStore::dictionary() const {
 }
 
 void SaveStore::replace(const plist::Dictionary& values) {
-  for (const std::string& key : entries_ | std::views::keys) {
-    if (!value(key)) keepAside(key);
+  for (const auto& [key, entry] : entries_) {
+    if (entry.shape != Shape::column && !value(key)) keepAside(key);
   }
   entries_.clear();
   waiting_.clear();
@@ -146,6 +188,7 @@ void SaveStore::dropPiece(std::string_view key, Entry& entry, std::int64_t piece
 void SaveStore::dropKey(std::string_view key, Entry& entry) {
   entry.pieces.clear();
   waitingFor(key) = {.dropsKey = true, .pieces = {}};
+  for (const std::string& column : columnsOf(key)) remove(column);
 }
 
 // The same piece is found unreadable at every load until it is written over: it waits once.

@@ -5,7 +5,7 @@
 // A value is a property-list value under a key. A list (of records, or of plain values) may be stored in
 // pieces, so that a write costs what changed; asked for its value, the store joins the pieces, and nobody
 // outside sees the difference: a record list is one Data holding a binary property list, a plain list one
-// array.
+// array. Columns are a part of their list's value, and no values themselves.
 //
 // Nothing is durable until commit(): all that one player action wrote then becomes durable together. A
 // process killed at any instant leaves the state before or after an action, never between.
@@ -21,6 +21,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/columns.h"
 #include "core/property_list.h"
 
 namespace tb {
@@ -29,6 +30,7 @@ enum class Shape : std::uint8_t {
   plain = 0,       // one value, in piece 0
   recordList = 1,  // pieces are arrays of records; the joined value is a Data that holds their one array
   plainList = 2,   // pieces are arrays of plain values; the joined value is their one array
+  column = 3,      // pieces are stretches of a column of a record list (core/columns.h)
 };
 
 // One piece as the port keeps it: `bytes` is a complete binary property list.
@@ -78,7 +80,8 @@ class SaveStore {
   [[nodiscard]] bool isEmpty() const { return entries_.empty(); }
   [[nodiscard]] bool contains(std::string_view key) const;
 
-  // The value under the key, its pieces joined; nothing when there is none or when a piece does not decode.
+  // The value under the key, its pieces joined and its columns laid over them; nothing when there is none or
+  // when a piece does not decode. A column that does not decode is passed over.
   [[nodiscard]] std::optional<plist::Value> value(std::string_view key) const;
 
   // The stored pieces of a key, by piece number; empty when there is none. Good until the next write.
@@ -93,14 +96,15 @@ class SaveStore {
 
   // A list in pieces. `bytes` empty: the piece is gone. With `replace`, every stored piece that is not
   // written goes. A key of another shape is always replaced. A key whose last piece goes is no longer there.
+  // Where a record list goes as a whole, its columns go along; otherwise they are written like other keys.
   struct PieceWrite {
     std::int64_t piece = 0;
     std::optional<Bytes> bytes;
   };
   void putPieces(std::string_view key, Shape shape, bool replace, std::vector<PieceWrite> writes);
 
-  // Sets aside what is stored under the key, as it is, when it can't be understood; the value itself stays
-  // until it is written over. Does nothing for a key that is not there.
+  // Sets aside what is stored under the key, as it is and with its columns, when it can't be understood; the
+  // value itself stays until it is written over. Does nothing for a key that is not there.
   void keepAside(std::string_view key);
 
   // The whole store as one dictionary, keys in alphabetical order, and the way back. replace() takes any
@@ -127,6 +131,8 @@ class SaveStore {
   void setPiece(std::string_view key, Entry& entry, std::int64_t piece, Bytes bytes);
   void dropPiece(std::string_view key, Entry& entry, std::int64_t piece);
   void dropKey(std::string_view key, Entry& entry);
+  [[nodiscard]] std::vector<std::string> columnsOf(std::string_view list) const;
+  void layColumns(std::string_view key, plist::Array& records, const Stretches& stretches) const;
   void addAside(StoredPiece piece);
   Waiting& waitingFor(std::string_view key);
   [[nodiscard]] std::vector<StoreChange> uncommitted() const;

@@ -25,6 +25,7 @@ struct FieldType {
   std::string_view name;
   std::size_t offset;  // in the record, in bytes
   const ValueType* type;
+  bool isColumn;  // core/columns.h
 };
 
 // Access to the elements of a vector or of an optional (none or one).
@@ -62,12 +63,25 @@ inline constexpr ValueType typeOf = detail::describeType<T>();
 
 namespace detail {
 
+// Whether the field is one of the record's columns, which hold whole numbers and doubles.
 template <class Record>
-inline constexpr auto fieldTypes = std::apply(
-    []<class... T>(const RecordField<Record, T>&... field) {
-      return std::array{FieldType{field.name, field.offset, &typeOf<T>}...};
-    },
-    fieldsOf<Record>);
+consteval bool isColumn(std::size_t offset) {
+  return std::apply(
+      [offset]<class... T>(const RecordField<Record, T>&... column) {
+        static_assert(((std::is_same_v<T, std::int64_t> || std::is_same_v<T, double>) && ...));
+        return ((column.offset == offset) || ...);
+      },
+      columnsOf<Record>);
+}
+
+template <class Record>
+inline constexpr auto fieldTypes = [] {
+  return std::apply(
+      []<class... T>(const RecordField<Record, T>&... field) {
+        return std::array{FieldType{field.name, field.offset, &typeOf<T>, isColumn<Record>(field.offset)}...};
+      },
+      fieldsOf<Record>);
+}();
 
 template <class T>
 inline constexpr Elements vectorElements{

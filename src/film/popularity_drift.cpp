@@ -27,12 +27,12 @@ double changeOfWeek(Game& game, const Film& film) {
   return (film.imbdRating - RandomUnit(game.random, minThreshold, maxThreshold)) * popularityPerRating;
 }
 
-void drift(Game& game, Film& film) {
-  const double before = film.currentPopularity;
-  const double change = changeOfWeek(game, film);
-  film.currentPopularity =
-      change > 0 ? std::min(before + change, maxPopularity) : std::max(before + change, 0.0);
-  film.lastWeekPopularity = before;
+void drift(Game& game, List<Film>& films, std::size_t index) {
+  const double before = films[index].currentPopularity;
+  const double change = changeOfWeek(game, films[index]);
+  const double now = change > 0 ? std::min(before + change, maxPopularity) : std::max(before + change, 0.0);
+  films.set(index, &Film::currentPopularity, now);
+  films.set(index, &Film::lastWeekPopularity, before);
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ void drift(Game& game, Film& film) {
 void driftPopularity(Game& game) {
   List<Film>& films = game.world.saveAllFilmList;
   for (std::size_t index = 0; index < films.size(); ++index) {
-    if (drifts(game.world, films[index])) drift(game, films.edit(index));
+    if (drifts(game.world, films[index])) drift(game, films, index);
   }
 }
 

@@ -112,11 +112,13 @@ void showReruns(Game& game, const Syndication& title) {
   counted.weeksTracked.push_back(endedTrackingWeek(world));
 }
 
-void runWeek(Game& game, Syndication& title) {
-  if (title.weeksRemaining < 1) return end(title);
-  if (title.weeksRemaining % weeksBetweenResiduals == 0) paySyndicationResidual(game, title);
-  showReruns(game, title);
-  title.weeksRemaining -= 1;
+void runWeek(Game& game, std::size_t index) {
+  List<Syndication>& titles = game.world.saveAllSyndication;
+  const std::int64_t weeksLeft = titles[index].weeksRemaining;
+  if (weeksLeft < 1) return end(titles.edit(index));
+  if (weeksLeft % weeksBetweenResiduals == 0) paySyndicationResidual(game, titles[index]);
+  showReruns(game, titles[index]);
+  titles.set(index, &Syndication::weeksRemaining, weeksLeft - 1);
 }
 
 }  // namespace
@@ -125,7 +127,7 @@ void advanceSyndicationDeals(Game& game) {
   List<Syndication>& titles = game.world.saveAllSyndication;
   for (std::size_t index = 0; index < titles.size(); ++index) {
     if (isReadyToSign(game.world, titles[index])) sign(game, titles.edit(index));
-    if (titles[index].didAcceptOffer) runWeek(game, titles.edit(index));
+    if (titles[index].didAcceptOffer) runWeek(game, index);
   }
 }
 

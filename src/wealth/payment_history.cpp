@@ -46,52 +46,55 @@ class History {
   std::vector<Dated> payments_;
 };
 
-std::string_view sourceOf(std::int64_t typeOfPayment) {
-  return typeOfPayment == payoutSource::syndication ? "syndication" : "box office";
+// The title and the source of the money in each kind of record.
+std::string titleOf(const WorldState&, const WeeklyEarnings& line) { return line.filmTitle; }
+std::string titleOf(const WorldState&, const RoyaltyPayout& line) { return line.title; }
+std::string titleOf(const WorldState& world, const EquityPayout& line) {
+  const auto index = find(world.saveAllFilmList, &Film::filmId, line.filmId);
+  return index ? world.saveAllFilmList[*index].title : "An investment";
 }
 
-std::string titleOf(const WorldState& world, std::int64_t filmId) {
-  const auto index = find(world.saveAllFilmList, &Film::filmId, filmId);
-  return index ? world.saveAllFilmList[*index].title : "An investment";
+std::string_view sourceOf(const WeeklyEarnings&) { return {}; }
+std::string_view sourceOf(const auto& payout) {
+  return payout.typeOfPayment == payoutSource::syndication ? "syndication" : "box office";
+}
+
+// Calls visit(kind, record, amount) for every payment.
+template <class Visit>
+void forEachPayment(const WorldState& world, Visit visit) {
+  using enum PaymentKind;
+  for (const WeeklyEarnings& line : world.saveAllWeeklyEarnings) {
+    // A record is one kind of pay, or a fee with a buyout. Unpaid work is listed with 0.
+    if (line.sessionEarned != 0 || (line.buyoutEarned == 0 && line.residualsEarned == 0)) {
+      visit(session, line, line.sessionEarned);
+    }
+    if (line.buyoutEarned != 0) visit(buyout, line, line.buyoutEarned);
+    if (line.residualsEarned != 0) visit(residual, line, line.residualsEarned);
+  }
+  for (const RoyaltyPayout& line : world.saveAllRoyaltyPayouts) visit(royalty, line, line.payout);
+  for (const EquityPayout& line : world.saveAllEquityPayouts) visit(equity, line, line.payOut);
 }
 
 }  // namespace
 
 std::vector<Payment> paymentHistory(const WorldState& world) {
-  using enum PaymentKind;
   History history;
-  for (const WeeklyEarnings& line : world.saveAllWeeklyEarnings) {
-    const std::int64_t week = line.weekNumberForTracking;
-    const auto add = [&](PaymentKind kind, double amount) {
-      history.add(kind, line.filmTitle, line.yearNumber, week, amount);
-    };
-    // A record is one kind of pay, or a fee with a buyout. Unpaid work is listed with 0.
-    if (line.sessionEarned != 0 || (line.buyoutEarned == 0 && line.residualsEarned == 0)) {
-      add(session, line.sessionEarned);
-    }
-    if (line.buyoutEarned != 0) add(buyout, line.buyoutEarned);
-    if (line.residualsEarned != 0) add(residual, line.residualsEarned);
-  }
-  for (const RoyaltyPayout& line : world.saveAllRoyaltyPayouts) {
-    history.add(royalty, line.title, line.yearNumber, line.weekNumberForTracking, line.payout,
-                sourceOf(line.typeOfPayment));
-  }
-  for (const EquityPayout& line : world.saveAllEquityPayouts) {
-    history.add(equity, titleOf(world, line.filmId), line.yearNumber, line.weekNumberForTracking, line.payOut,
-                sourceOf(line.typeOfPayment));
-  }
+  forEachPayment(world, [&](PaymentKind kind, const auto& line, double amount) {
+    history.add(kind, titleOf(world, line), line.yearNumber, line.weekNumberForTracking, amount,
+                sourceOf(line));
+  });
   return std::move(history).newestFirst();
 }
 
 double YearOfPayments::total() const { return std::accumulate(byKind.begin(), byKind.end(), 0.0); }
 
-std::vector<YearOfPayments> paymentsByYear(const std::vector<Payment>& history, std::int64_t thisYear) {
-  std::map<std::int64_t, YearOfPayments> years = {{thisYear, {.year = thisYear}}};
-  for (const Payment& payment : history) {
-    YearOfPayments& sums = years[payment.year];
-    sums.year = payment.year;
-    sums.byKind[static_cast<std::size_t>(payment.kind)] += payment.amount;
-  }
+std::vector<YearOfPayments> paymentsByYear(const WorldState& world) {
+  std::map<std::int64_t, YearOfPayments> years = {{world.yearNumber, {.year = world.yearNumber}}};
+  forEachPayment(world, [&](PaymentKind kind, const auto& line, double amount) {
+    YearOfPayments& sums = years[line.yearNumber];
+    sums.year = line.yearNumber;
+    sums.byKind[static_cast<std::size_t>(kind)] += amount;
+  });
   std::vector<YearOfPayments> oldestFirst;
   for (const auto& [year, sums] : years) oldestFirst.push_back(sums);
   return oldestFirst;

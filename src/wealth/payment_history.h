@@ -39,8 +39,7 @@ struct YearOfPayments {
   [[nodiscard]] double total() const;
 };
 
-// Sums per year, oldest first, for every year with a payment and for `thisYear`.
-[[nodiscard]] std::vector<YearOfPayments> paymentsByYear(const std::vector<Payment>& history,
-                                                         std::int64_t thisYear);
+// Sums per year, oldest first, for every year with a payment and for the current year.
+[[nodiscard]] std::vector<YearOfPayments> paymentsByYear(const WorldState& world);
 
 }  // namespace tb

@@ -44,7 +44,9 @@ TEST(PaymentHistory, ListsPaymentsNewestFirst) {
 }
 
 TEST(PaymentHistory, SumsByYear) {
-  const std::vector<YearOfPayments> years = paymentsByYear(paymentHistory(paidWorld()), 2030);
+  WorldState world = paidWorld();
+  world.yearNumber = 2030;
+  const std::vector<YearOfPayments> years = paymentsByYear(world);
   ASSERT_EQ(years.size(), 3U);
   EXPECT_EQ(years[0].total(), 970);
   EXPECT_EQ(years[0].of(PaymentKind::equity), -30);

@@ -33,7 +33,8 @@ test("a tab that is closed right after a press finds the career", async () => {
 });
 
 const refused = /does not let the game save/;
-const unreadable = /nothing of it is saved/;
+const unreadable = /Loading the page again may help/;
+const newer = /saved by a newer version of the game/;
 const refusals: readonly (readonly [how: string, says: RegExp, script: () => void])[] = [
   ["is not there", refused, withoutStorage],
   [
@@ -62,7 +63,49 @@ const refusals: readonly (readonly [how: string, says: RegExp, script: () => voi
       };
     },
   ],
+  [
+    "belongs to a newer version",
+    newer,
+    () => {
+      const open = IDBFactory.prototype.open;
+      IDBFactory.prototype.open = function ofNewerVersion(name, version) {
+        const newer = open.call(this, name, Number(version) + 1);
+        newer.addEventListener("success", () => newer.result.close());
+        return open.call(this, name, version);
+      };
+    },
+  ],
 ];
+
+// In a page that does not play: the stored career as version 1 of the database had it.
+async function makeOld(): Promise<void> {
+  const done = <T,>(request: IDBRequest<T>) =>
+    new Promise<T>((resolve, reject) => {
+      request.onsuccess = () => resolve(request.result);
+      request.onerror = () => reject(request.error);
+    });
+  const now = await done(indexedDB.open("top-billing"));
+  const pieces = await done(now.transaction("pieces").objectStore("pieces").getAll());
+  now.close();
+  await done(indexedDB.deleteDatabase("top-billing"));
+  const opening = indexedDB.open("top-billing", 1);
+  opening.onupgradeneeded = () => {
+    const store = opening.result.createObjectStore("pieces", { keyPath: ["key", "piece"] });
+    opening.result.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
+    for (const piece of pieces) store.put(piece);
+  };
+  (await done(opening)).close();
+}
+
+test("a career of an older version is opened and belongs to this one from then on", async () => {
+  const { player, page } = await play(setting, "Ada Older");
+  await page.goto(`${setting.site.address}manifest.webmanifest`);
+  await page.evaluate(makeOld);
+  await page.goto(setting.site.address);
+  await finds(page, "Ada Older");
+  assert.deepEqual(await page.evaluate(() => indexedDB.databases()), [{ name: "top-billing", version: 2 }]);
+  await player.end();
+});
 
 for (const [how, words, script] of refusals) {
   test(`where storage ${how}, the game plays and says that it can't save`, async () => {

@@ -15,6 +15,7 @@ RECORD_FIELDS(Syndication, filmId, filmName, filmType, filmReleased, networkName
               networkYears, networkImages, didAcceptOffer, networkIndexWon, weekOfFirstOffer, weekStarted,
               weeksRemaining, totalEarnings, networkNameSigned, networkOfferSigned, networkYearSigned,
               payment, residualRate, royaltyRate, sourceId);
+RECORD_COLUMNS(Syndication, weeksRemaining);
 
 RECORD_FIELDS(Award, id, awardOptionId, filmId, filmType, filmTitle, seasonNumber, nameOfAward, awardShow,
               yearAwarded, name, isWinner, otherNomineeNames, otherNomineeFilm, description);

@@ -14,6 +14,7 @@ RECORD_FIELDS(Film, filmId, imageString, typeOfFilm, role, isPrincipal, title, m
               currentPopularity, lastWeekPopularity, payment, residualRate, royaltyRate, sourceId, parentId,
               seasonNumber, sequelNumber, myRating, didAct, equityPercentage, equityDollarsInvested,
               numOfTheatres, franchise, franchiseId, debutNetwork, debutImageString, customPosterData);
+RECORD_COLUMNS(Film, currentPopularity, lastWeekPopularity);
 
 RECORD_FIELDS(BoxOffice, filmId, countryId, countryName, title, year, weekNumberForTracking, openingWeekend,
               totalGross, boxOfficeWeeklyEarnings, weeksTracked, numOfTheatres);

@@ -61,8 +61,7 @@ Chart netIncome(const Game& game) {
 
 void FinancialManagementViewController::appear(Stage& stage) {
   updateNetWorth(stage.game());
-  const WorldState& world = stage.game().world;
-  years_ = paymentsByYear(paymentHistory(world), world.yearNumber);
+  years_ = paymentsByYear(stage.game().world);
 }
 
 // Income by kind in the current year, and by year.

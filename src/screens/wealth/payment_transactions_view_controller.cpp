@@ -25,7 +25,7 @@ Row paymentRow(const Game& game, const Payment& payment) {
 void PaymentTransactionsViewController::load(Stage& stage) {
   const WorldState& world = stage.game().world;
   history_ = paymentHistory(world);
-  years_ = paymentsByYear(history_, world.yearNumber);
+  years_ = paymentsByYear(world);
   year_ = years_.size() - 1;
 }
 

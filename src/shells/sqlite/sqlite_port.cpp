@@ -17,12 +17,14 @@ using sqlite::Result;
 using sqlite::Statement;
 
 constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a career of this game
-constexpr std::int64_t schemaVersion = 1;           // increment with every schema change
+// Increment with every change of what is stored, here and in web/src/runtime/storage.ts. Version 2 added
+// columns, which version 1 takes for damaged rows.
+constexpr std::int64_t schemaVersion = 2;
 
 // Rows that no version of the game writes.
 constexpr std::string_view damagedRows =
     "(typeof(key) <> 'text' OR typeof(piece) <> 'integer' OR typeof(value) <> 'blob' "
-    "OR typeof(shape) <> 'integer' OR shape NOT BETWEEN 0 AND 2)";
+    "OR typeof(shape) <> 'integer' OR shape NOT BETWEEN 0 AND 3)";
 
 // The PRAGMA values that identify the file.
 struct FileMarks {
@@ -48,6 +50,8 @@ Result<FileMarks> readMarks(const Database& database) {
   return FileMarks{*id, *version, *tables};
 }
 
+std::string setVersion() { return tb::format("PRAGMA user_version = {}", schemaVersion); }
+
 // The marks are set in the transaction that creates the tables, so neither exists without the other.
 Result<> createTables(const Database& database) {
   const std::string statements[] = {
@@ -56,7 +60,7 @@ Result<> createTables(const Database& database) {
       "WITHOUT ROWID",
       "CREATE TABLE kept_aside (key TEXT, piece INTEGER, shape INTEGER, value BLOB)",
       tb::format("PRAGMA application_id = {}", applicationId),
-      tb::format("PRAGMA user_version = {}", schemaVersion),
+      setVersion(),
       "COMMIT",
   };
   for (const std::string& statement : statements) {
@@ -205,6 +209,8 @@ Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& f
   if (auto done = setDurability(*database); !done) return std::unexpected(done.error());
   if (marks->isNew()) {
     if (auto done = createTables(*database); !done) return std::unexpected(done.error());
+  } else if (marks->version < schemaVersion) {
+    if (auto done = database->run(setVersion()); !done) return std::unexpected(done.error());
   }
   auto career = prepareCareer(*std::move(database));
   if (!career) return career;

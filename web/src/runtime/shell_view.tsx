@@ -96,6 +96,9 @@ const refusals: Record<Refusal, string> = {
   unreadable:
     "The save in this browser could not be read, so this is a new career, and nothing of it is saved. Loading the " +
     "page again may help.",
+  newer:
+    "The career in this browser was saved by a newer version of the game. Load the page again to get that version: " +
+    "until then this is a new career, and nothing of it is saved.",
 };
 
 // The update restarts the game at the hub, so it is offered on the hub only, and only if the career is saved.

@@ -18,11 +18,12 @@ interface Schema extends DBSchema {
 }
 
 const databaseName = "top-billing";
+const schemaVersion = 2; // raise it with every change of what is stored; src/shells/sqlite has the same
 const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
 const openingPatience = 5000; // milliseconds; some browsers never report a result
 
 // Why nothing can be saved here.
-export type Refusal = "refused" | "unreadable";
+export type Refusal = "refused" | "unreadable" | "newer";
 
 export interface StorageWatcher {
   failed(why: string): void; // a save failed; called once until a save succeeds
@@ -48,8 +49,8 @@ export class Storage {
     let database: IDBPDatabase<Schema>;
     try {
       database = await withPatience(openDatabase(() => storage?.lost()));
-    } catch {
-      return new Storage(undefined, new Pieces(), "refused", watcher);
+    } catch (error) {
+      return new Storage(undefined, new Pieces(), isOfLaterSchema(error) ? "newer" : "refused", watcher);
     }
     try {
       const stored = await database.getAll("pieces");
@@ -161,14 +162,18 @@ export class Storage {
 }
 
 function openDatabase(whenClosed: () => void): Promise<IDBPDatabase<Schema>> {
-  return openDB<Schema>(databaseName, 1, {
-    upgrade(database) {
+  return openDB<Schema>(databaseName, schemaVersion, {
+    // Version 2 has columns among the pieces. A build that knows none would lose what is in them.
+    upgrade(database, before) {
+      if (before >= 1) return;
       database.createObjectStore("pieces", { keyPath: ["key", "piece"] });
       database.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
     },
     terminated: whenClosed,
   });
 }
+
+const isOfLaterSchema = (error: unknown) => error instanceof DOMException && error.name === "VersionError";
 
 const closed = () => new DOMException("The database was closed.", "InvalidStateError");
 

@@ -1,0 +1,72 @@
+// The fiftieth year of a busy career, on a device that is a quarter as fast as this one. BUSY_CAREER names the
+// save that bench/career_bench wrote; `./check figures` makes it. Without one there is nothing to measure.
+
+import assert from "node:assert/strict";
+import { readFileSync } from "node:fs";
+import { test } from "node:test";
+import type { Page } from "playwright-core";
+
+import { choose, finds, liveAWeek, openSaves, play, press, stage, waitForGame } from "./runtime_site";
+
+const setting = stage();
+
+const save = process.env["BUSY_CAREER"];
+const slowness = 4;
+const weeks = 15;
+const weekPatience = 120; // milliseconds from a press to what it leads to, the median
+const startPatience = 1200; // milliseconds from the reload until a week can be ended
+
+// Presses the button and answers when the frame in which the other one stands has been painted: milliseconds.
+function timeToPaint(page: Page, name: string, leadsTo: string): Promise<number> {
+  return page.evaluate(
+    async ([name, leadsTo]) => {
+      const button = (label = "") =>
+        [...document.querySelectorAll("button")].find(({ innerText }) => innerText.trim() === label);
+      const frame = () => new Promise((drawn) => requestAnimationFrame(drawn));
+      const start = performance.now();
+      button(name)!.click();
+      while (!button(leadsTo)) await frame();
+      await frame();
+      return performance.now() - start;
+    },
+    [name, leadsTo] as const,
+  );
+}
+
+function median(times: number[]): number {
+  return [...times].sort((a, b) => a - b)[Math.floor(times.length / 2)] ?? Infinity;
+}
+
+test("a week of a busy fiftieth year is soon there, and so is its career", { skip: save === undefined }, async () => {
+  const { player, page } = await play(setting, "Somebody Else");
+  await openSaves(page);
+  await choose(page, readFileSync(save!));
+  await press(page, "Replace my career");
+  await finds(page, "Ada Vale");
+  await liveAWeek(page); // what came in whole is cut into pieces by the first week that changes it
+  await liveAWeek(page);
+
+  const session = await player.context.newCDPSession(page);
+  await session.send("Emulation.setCPUThrottlingRate", { rate: slowness });
+  const ends: number[] = [];
+  const closes: number[] = [];
+  for (let week = 0; week < weeks; week += 1) {
+    await page.waitForTimeout(400); // a press right after another at the same spot would not count
+    ends.push(await timeToPaint(page, "End Week", "Carry on"));
+    await page.waitForTimeout(400);
+    closes.push(await timeToPaint(page, "Carry on", "End Week"));
+  }
+  await page.reload();
+  await waitForGame(page);
+  const start = await page.evaluate(() => performance.now());
+  await session.send("Emulation.setCPUThrottlingRate", { rate: 1 });
+
+  console.log(
+    `busy career, slowed ${slowness} times: End Week ${median(ends).toFixed(0)} ms, Carry on ` +
+      `${median(closes).toFixed(0)} ms (slowest ${Math.max(...ends, ...closes).toFixed(0)}), start ${start.toFixed(0)} ms`,
+  );
+  assert(median(ends) <= weekPatience, `End Week: ${median(ends)} ms`);
+  assert(median(closes) <= weekPatience, `Carry on: ${median(closes)} ms`);
+  assert(start <= startPatience, `start: ${start} ms`);
+  await player.end();
+});
