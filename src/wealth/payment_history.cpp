@@ -46,7 +46,7 @@ class History {
   std::vector<Dated> payments_;
 };
 
-// What the three kinds of records call the title and where its money came from.
+// The title and the source of the money in each kind of record.
 std::string titleOf(const WorldState&, const WeeklyEarnings& line) { return line.filmTitle; }
 std::string titleOf(const WorldState&, const RoyaltyPayout& line) { return line.title; }
 std::string titleOf(const WorldState& world, const EquityPayout& line) {

@@ -241,7 +241,6 @@ TEST_F(SqliteCareer, RejectsNewerVersions) {
   EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1.sqlite"));
 }
 
-// Builds of version 1 know no columns, so from its first opening on the career is one of version 2.
 TEST_F(SqliteCareer, UpgradesOlderVersions) {
   const Dictionary first = beginCareer();
   alter("PRAGMA user_version = 1");

@@ -17,9 +17,8 @@ using sqlite::Result;
 using sqlite::Statement;
 
 constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a career of this game
-// Increment with every change of what is stored; the page's storage has the same
-// (web/src/runtime/storage.ts). 1: pieces. 2: columns among them, which a build of version 1 would take for
-// damage.
+// Increment with every change of what is stored, here and in web/src/runtime/storage.ts. Version 2 added
+// columns, which version 1 takes for damaged rows.
 constexpr std::int64_t schemaVersion = 2;
 
 // Rows that no version of the game writes.
