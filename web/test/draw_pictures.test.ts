@@ -10,8 +10,8 @@ import { pages } from "./gallery_pages";
 
 const gallery = setGallery();
 
-// Milliseconds of processor time: two frames.
-const slowestOpening = 32;
+// Milliseconds of processor time: a frame and a half.
+const slowestOpening = 24;
 
 // A filmography of 44 rows with different posters, as another screen.
 const filmography = (from: number) =>
@@ -51,9 +51,14 @@ test("a list of 44 posters opens at once, costs one node a picture, and holds it
       }
     }, pagesToOpen.slice(from, to));
   await openAll(0, 10); // warm-up for the JIT compiler
-  const before = await milliseconds();
-  await openAll(10, 30);
-  const each = ((await milliseconds()) - before) / 20;
+  // The fastest of several rounds, so that other work on the machine does not count.
+  const rounds: number[] = [];
+  for (let from = 10; from < pagesToOpen.length; from += 4) {
+    const before = await milliseconds();
+    await openAll(from, from + 4);
+    rounds.push(((await milliseconds()) - before) / 4);
+  }
+  const each = Math.min(...rounds);
   const height = await open(filmography(9000));
   const nodes = await page.evaluate(() => document.querySelectorAll("#app *").length);
   console.log(`opening 44 posters: ${each.toFixed(1)} ms, ${nodes} elements`);
