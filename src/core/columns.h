@@ -1,16 +1,16 @@
 #pragma once
 
-// Columns: fields that change every week in records that are years old, such as the popularity of each film.
+// Columns: fields that change weekly even in old records, such as the popularity of each film.
 //
-// If only records were saved, such a field would make every week write all of its list anew. It is named
-// beside its record's fields (RECORD_COLUMNS) and stored once more in a column: the values of 64 neighboring
-// pieces of the list in one array, under a key of its own. A piece keeps the values of the day on which it
-// was last written; the column is laid over them, by the load and whenever the store is asked for the list,
-// so that a list is one property list with today's values for everybody else.
+// If such a field were saved in its record only, every week would rewrite the whole list. So it is listed in
+// RECORD_COLUMNS and also stored in a column: an array of the values of 64 adjacent pieces of the list, with
+// its own key. A piece keeps the values from when it was last written; the column replaces them when the list
+// is loaded and in SaveStore::value(), so that a list looks like one property list with the current values
+// from the outside.
 //
-// A stretch of a column is written with every change of its part of the list, in the same commit, and is
-// therefore as long as that part. One that is not is damaged and is passed over: the values of the pieces
-// stand.
+// A stretch of a column is written with every change of its part of the list, in the same commit, so it has
+// the same length. A stretch of another length is damaged and is ignored; then the values in the pieces are
+// used.
 
 #include <cstddef>
 #include <cstdint>
@@ -24,24 +24,24 @@
 
 namespace tb {
 
-// The key that a list's column is stored under.
+// The key of a list's column in the store.
 [[nodiscard]] std::string columnKey(std::string_view list, std::string_view field);
 
-// Which stretch of the columns a piece is in: 64 pieces, so up to 512 elements. Saves are stored by it, so
-// another length is another schema.
+// The stretch of a column that contains a piece: 64 pieces, so up to 512 elements. Part of the save format,
+// so changing it needs a new schema version.
 [[nodiscard]] constexpr std::int64_t stretchOf(std::int64_t piece) { return piece >> 6; }
 
-// The part of a list that a stretch covers, by its number.
+// The part of a list that a stretch covers.
 struct ListPart {
   std::size_t first = 0;
   std::size_t count = 0;
 };
 using Stretches = std::map<std::int64_t, ListPart>;
 
-// Adds a piece of `count` elements behind those that were added before; pieces come in rising order.
+// Adds a piece of `count` elements. Pieces must be added in ascending order.
 void addPiece(Stretches& stretches, std::int64_t piece, std::size_t first, std::size_t count);
 
-// The values of a stored stretch, one for each element of its part of the list; nothing when it is damaged.
+// The values of a stored stretch, one per element of its part; nothing when it is damaged.
 [[nodiscard]] std::optional<plist::Array> readStretch(std::span<const std::byte> stored,
                                                       const ListPart& part);
 

@@ -2,7 +2,7 @@
 
 // How a record names its fields for the save file.
 //
-// A record is a plain struct. Beside it stands one line,
+// A record is a plain struct. Its fields are listed by a line
 //
 //   RECORD_FIELDS(Child, id, name, gender, ...)
 //
@@ -26,11 +26,11 @@ struct RecordField {
   std::size_t offset;  // in the struct, in bytes
 };
 
-// Specialised by RECORD_FIELDS: a tuple of RecordField, in the order of the struct.
+// Specialized by RECORD_FIELDS: a tuple of RecordField, in the order of the struct.
 template <class Record>
 inline constexpr auto fieldsOf = nullptr;
 
-// Specialised by RECORD_COLUMNS, the same way.
+// Specialized by RECORD_COLUMNS in the same way.
 template <class Record>
 inline constexpr auto columnsOf = std::tuple{};
 
@@ -103,8 +103,8 @@ consteval bool describesWholeRecord() {
                 " has a field that RECORD_FIELDS misses or "                               \
                 "misplaces")
 
-// Stands right after RECORD_FIELDS: the numbers that change every week in records that are years old. They
-// are saved in columns of their own (core/columns.h).
+// Follows RECORD_FIELDS: the numbers that change weekly even in old records. They are saved in separate
+// columns (core/columns.h).
 #define RECORD_COLUMNS(Record, ...)                      \
   template <>                                            \
   inline constexpr auto columnsOf<Record> = std::tuple { \
