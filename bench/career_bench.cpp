@@ -33,15 +33,15 @@ namespace {
 constexpr int lastYear = 50;
 constexpr int weeksOfAYear = 52;
 
-// The promises.
-constexpr std::size_t filmsOfBusyCareer = 1'700;  // or it was not busy
-constexpr double busyWeek = 5;                    // ms of the processor, the median of year 50
-constexpr double busyWeekBytes = 150'000;         // handed to the store, the mean of year 50
-constexpr double busyGrowth = 4;                  // year 50 over year 2
+// The limits.
+constexpr std::size_t filmsOfBusyCareer = 1'700;  // minimum
+constexpr double busyWeek = 5;                    // ms of processor time, median of year 50
+constexpr double busyWeekBytes = 150'000;         // per week, mean of year 50
+constexpr double busyGrowth = 4;                  // year 50 relative to year 2
 constexpr double quietGrowth = 1.3;
-constexpr double opening = 300;  // ms of the processor, to the first page of year 50
+constexpr double opening = 300;  // ms of processor time to the first page of year 50
 
-// The same career in every run, at the cost of the system's chance.
+// Deterministic, with the cost of the system's generator.
 class PricedRandom : public RandomSource {
  public:
   std::uint64_t next() override {
@@ -54,7 +54,7 @@ class PricedRandom : public RandomSource {
   test::SeededRandom seeded_{1};
 };
 
-// Counts what is handed to the port.
+// Counts the bytes passed to the port.
 class CountingPort : public StorePort {
  public:
   explicit CountingPort(StorePort& port) : port_(port) {}
@@ -77,7 +77,7 @@ class CountingPort : public StorePort {
   StorePort& port_;
 };
 
-// In milliseconds. That of the processor leaves out what else the machine does, and what the disk takes.
+// In milliseconds. Processor time excludes other processes and the disk.
 struct Time {
   double processor = 0;
   double wall = 0;
@@ -93,7 +93,7 @@ Time timeOf(Work work) {
           .wall = Milliseconds(std::chrono::steady_clock::now() - started).count()};
 }
 
-// A member with every talent, so that there is a career to speak of, who never runs out of energy.
+// A guild member with maximum talent and unlimited energy.
 void makeStar(StorePort& port, RandomSource& random) {
   SaveStore store(port);
   Game game{.store = store, .random = random};
@@ -112,7 +112,7 @@ class Star {
  public:
   explicit Star(App& app) : app_(app), player_(app) {}
 
-  // Asks for that many roles, each by its listing's own button, or for as many as there are.
+  // Submits for up to that many roles with the listings' buttons.
   void submit(std::size_t roles) {
     press("The Backstage");
     press("Casting Network");
@@ -130,7 +130,7 @@ class Star {
  private:
   [[nodiscard]] std::size_t asked() const { return app_.game().world.saveAllAuditionList.size(); }
 
-  // Presses the first listing's button that was not tried yet; false when all were.
+  // Presses the first listing button that was not tried yet; false when there is none.
   bool pressListing(std::set<std::string>& tried) {
     for (const auto& usable : player_.usable()) {
       if (usable.label != "Submit" || !tried.insert(usable.name).second) continue;
@@ -140,7 +140,7 @@ class Star {
     return false;
   }
 
-  // Does nothing when there is no such thing to press.
+  // Does nothing when there is no such label.
   void press(const std::string& label) {
     for (const auto& usable : player_.usable()) {
       if (usable.label == label) return app_.press(usable.handle);
@@ -151,7 +151,7 @@ class Star {
   test::Player player_;
 };
 
-// --- A career and its figures ---
+// --- Measuring a career ---
 
 struct Career {
   std::string_view name;
@@ -217,7 +217,7 @@ void print(int number, const Year& year, const WorldState& world) {
       mean(year, &Week::rows), slowest(year, &Week::rows));
 }
 
-// What the last year wrote the most of, in bytes a week.
+// The keys with the most bytes written per week of the last year.
 void printLargest(const std::map<std::string, std::size_t>& bytesOfKeys) {
   constexpr std::size_t most = 6;
   std::vector<std::pair<std::size_t, std::string>> largest;
@@ -272,7 +272,7 @@ void writeSave(const std::filesystem::path& folder, const char* file) {
       .write(reinterpret_cast<const char*>(save.data()), static_cast<std::streamsize>(save.size()));
 }
 
-// Begins the career in a folder of its own and plays it to its end.
+// Plays a career in a temporary folder.
 Outcome bench(const Career& career, const char* saveAs) {
   const auto folder = std::filesystem::temp_directory_path() / "top-billing-career-bench";
   std::filesystem::remove_all(folder);
@@ -296,7 +296,7 @@ Outcome bench(const Career& career, const char* saveAs) {
   return outcome;
 }
 
-// --- The promises ---
+// --- Limits ---
 
 bool holds(std::string_view what, double figure, double bound) {
   const bool kept = figure <= bound;

@@ -1,6 +1,5 @@
-// Encodes and decodes a box-office list of a long career, and lets CPython's plistlib do the same with the
-// same list. Ends with 1 when a promise of encoding does not hold: 20 times the speed of plistlib, and in
-// proportion to the list's length.
+// Encodes and decodes the box office list of a long career, and compares with CPython's plistlib. Exits with
+// 1 when encoding is not 20 times as fast as plistlib, or not linear in the list's length.
 
 #include <algorithm>
 #include <cstdio>
@@ -25,9 +24,9 @@ namespace {
 constexpr double timesPlistlib = 20;
 constexpr std::size_t shortList = 10'000;
 constexpr std::size_t longList = 52'000;
-constexpr double longOverShort = 6;  // 5.2 times the records, and some room for a cache that is too small
+constexpr double longOverShort = 6;  // 5.2 times the records, with a margin for cache effects
 
-// Films that opened in 52 markets and ran for seven weeks, every amount another.
+// Films in 52 markets with seven weeks each and different amounts.
 std::vector<BoxOffice> boxOffices(std::size_t count) {
   constexpr std::int64_t markets = 52;
   std::vector<BoxOffice> list(count);
@@ -53,7 +52,7 @@ std::vector<BoxOffice> boxOffices(std::size_t count) {
   return list;
 }
 
-// Of the processor, so that what else the machine does is not counted.
+// Processor time, which excludes other processes.
 template <class Work>
 double milliseconds(Work work) {
   const std::clock_t start = std::clock();
@@ -61,7 +60,7 @@ double milliseconds(Work work) {
   return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-// Of one list. Times are the shortest of several runs, in milliseconds.
+// Measurements of a list. Times are the minimum of several runs, in milliseconds.
 struct Figures {
   std::vector<BoxOffice> list;
   Bytes encoded;
@@ -84,7 +83,7 @@ void measureOurs(Figures& figures) {
   std::exit(1);
 }
 
-// The encoded list goes through a file to plistlib, which answers with its two figures.
+// Passes the encoded list to plistlib in a file and reads its two times.
 void measurePlistlib(Figures& figures) {
   const Bytes& encoded = figures.encoded;
   const auto path = std::filesystem::temp_directory_path() / "property_list_bench.plist";
@@ -110,7 +109,7 @@ void print(const Figures& figures) {
 }
 
 int run() {
-  // Turn by turn, so that both lists find the machine alike.
+  // Alternating, so that both lists have the same conditions.
   constexpr int runs = 25;
   Figures shortFigures{.list = boxOffices(shortList)};
   Figures longFigures{.list = boxOffices(longList)};

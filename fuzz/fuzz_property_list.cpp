@@ -1,6 +1,6 @@
-// Any bytes at all, taken for a property list: as a value, as records with a field of every kind, and as
-// plain lists. What reads is written and read again, and has to be the same. Files are compared, not values,
-// so that a NaN is equal to itself.
+// Parses arbitrary bytes as a property list: as a value, as records with fields of every kind, and as plain
+// lists. Successful results are written and read again and must be equal. Compares files instead of values,
+// so that NaN is equal to itself.
 
 #include <cstddef>
 #include <cstdint>
@@ -17,8 +17,8 @@ void expect(bool holds) {
   if (!holds) std::abort();
 }
 
-// A file of ours can be so much smaller than the one that was read (shorter references) that its repetitions
-// outgrow it. That takes a value of more than 16 MiB.
+// The written file can be smaller than the input (shorter references), so that its repetitions exceed the
+// reader's limit. That requires a value of more than 16 MiB.
 void fuzzValue(std::span<const std::byte> file) {
   const auto value = plist::read(file);
   if (!value) {

@@ -29,7 +29,7 @@ namespace tb {
 // number needs a new schema version.
 [[nodiscard]] constexpr std::int64_t stretchOf(std::int64_t piece) { return piece >> 6; }
 
-// The part of a list that a stretch covers, by its number.
+// The part of a list that a stretch covers.
 struct ListPart {
   std::size_t first = 0;
   std::size_t count = 0;

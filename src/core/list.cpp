@@ -114,8 +114,8 @@ void ListBase::takeElements(ListBase& other) {
 
 namespace {
 
-// A table is worth its memory when ids are not much more than there are elements, and a walk is as good as a
-// table in a short list.
+// A table of ids is used only when the ids are not much larger than the number of elements; a short list is
+// searched linearly.
 constexpr std::size_t maxIdsPerElement = 16;
 constexpr std::size_t shortList = 64;
 
@@ -127,7 +127,7 @@ std::int64_t ListBase::idAt(std::size_t field, std::size_t index) const {
   return id;
 }
 
-// Brings the index up to the list's end. False when the ids do not suit a table.
+// Extends the index to the end of the list. False when the ids are not suitable for a table.
 bool ListBase::indexIds(std::size_t field) const {
   if (ids_.field != field) ids_ = {.field = field, .first = {}, .last = {}, .next = {}};
   for (std::size_t index = ids_.next.size(); index < size(); ++index) {

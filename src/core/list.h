@@ -1,16 +1,16 @@
 #pragma once
 
-// A persisted list: a sequence that knows which of its parts changed since it was last saved.
+// A persisted list: a sequence that records which of its parts changed since it was last saved.
 //
-// A career's lists grow for decades while a week touches a handful of their elements. The elements are
-// therefore grouped into pieces of up to pieceLength neighbors; the save file keeps each piece on its own
-// and a write stores the changed pieces only. Reading is that of any sequence; writing goes through edit(),
-// set(), the push and erase functions and assign(), so that no change is ever missed.
+// A career's lists grow for decades while a week changes few elements. So the elements are grouped into
+// pieces of up to pieceLength; the store has one entry per piece, and saving writes only changed pieces.
+// Elements can be read like those of any sequence, but are changed through edit(), set(), the push and erase
+// functions and assign() only, so that every change is recorded.
 //
-// Piece numbers rise from front to back, with gaps where a piece lost its last element. The number of a piece
-// never changes: a list grows at its two ends only.
+// Piece numbers ascend from front to back, with gaps for emptied pieces. A piece's number never changes,
+// because a list grows only at its ends.
 //
-// An element stays where it is in memory until it is erased, whatever else happens to the list.
+// An element keeps its address until it is erased.
 
 #include <algorithm>
 #include <compare>
@@ -26,40 +26,40 @@
 
 namespace tb {
 
-// Where a field stands in a record, in bytes.
+// The offset of a field in a record, in bytes.
 template <class Record, class Field>
 [[nodiscard]] std::size_t offsetOf(const Record& record, Field Record::* field) {
   return static_cast<std::size_t>(reinterpret_cast<const std::byte*>(&(record.*field)) -
                                   reinterpret_cast<const std::byte*>(&record));
 }
 
-// Where the elements with an id stand. Made for ids that are small counts, such as the ids of films: it is a
-// table by id. It grows as elements are added at the end; anything else that moves elements clears it.
+// An index from ids to elements, as a table by id, for small ids such as those of films. It is extended when
+// elements are added at the end, and cleared by anything else that moves elements.
 struct IdIndex {
   static constexpr std::uint32_t none = ~std::uint32_t{0};
 
-  std::size_t field = 0;             // where the id stands in an element, in bytes
-  std::vector<std::uint32_t> first;  // by id: the first element that has it, or `none`
+  std::size_t field = 0;             // offset of the id in an element, in bytes
+  std::vector<std::uint32_t> first;  // by id: the first element with it, or `none`
   std::vector<std::uint32_t> last;   // by id: the last one so far
   std::vector<std::uint32_t> next;   // by element: the next one with the same id, or `none`
 };
 
-// What lists of all types share: everything but the type. It is compiled once, which spares the page a
-// quarter of its program.
+// The part of a list that does not depend on the element type. Compiling it once saves a quarter of the
+// page's program.
 class ListBase {
  public:
   static constexpr std::size_t pieceLength = 8;
 
-  // A piece, and where its elements stand now. A count of 0 says that the piece is gone.
+  // A piece and the range of its elements. A count of 0 means that the piece was removed.
   struct PieceState {
     std::int64_t piece;
     std::size_t first;
     std::size_t count;
-    bool changed;    // edited, or it has other elements
-    bool fieldsSet;  // changed by set()
+    bool changed;    // by edit(), or elements were added or removed
+    bool fieldsSet;  // by set()
   };
 
-  // How elements of the list's type are made and disposed of.
+  // Creates and destroys elements of the list's type.
   struct ElementOperations {
     void* (*make)();
     void* (*copy)(const void* element);
@@ -67,9 +67,8 @@ class ListBase {
   };
 
   explicit ListBase(const ElementOperations& operations) : operations_(&operations) {}
-  // A copy is new to the store, wherever it came from: it is saved whole, in the pieces of the list that it
-  // is a copy of. So is a list that is moved into, which is why there is no move of its own: pieces belong to
-  // the key that they are stored under.
+  // A copy counts as changed and is saved completely, with the same pieces as its source. The same holds for
+  // a moved list, so there is no separate move: pieces belong to the key they are stored under.
   ListBase(const ListBase& other);
   ListBase& operator=(const ListBase& other);
   ~ListBase();
@@ -82,40 +81,40 @@ class ListBase {
   void pop_back() { erase_at(size() - 1); }
   void clear();
 
-  // Where the first element stands whose integer at `field` bytes is `id`, and the next such one behind
-  // `index`; nothing when there is none. Fast in long lists. An id never changes while its element is in a
-  // list. For find() in core/find.h.
+  // The index of the first element whose integer at offset `field` is `id`, and of the next one after
+  // `index`; nothing when there is none. Fast in long lists. An id must not change while its element is in
+  // the list. Used by core/find.h.
   [[nodiscard]] std::optional<std::size_t> firstWithId(std::size_t field, std::int64_t id) const;
   [[nodiscard]] std::optional<std::size_t> nextWithId(std::size_t field, std::size_t index) const;
 
-  // --- For saving and loading (core/save.h); rules have no use for what follows. ---
+  // --- For saving and loading (core/save.h) only ---
 
   [[nodiscard]] const void* element(std::size_t index) const { return slots_[index].element; }
   [[nodiscard]] const ElementOperations& operations() const { return *operations_; }
 
-  // True when every stored piece of this list has to be forgotten before the changes are stored: the list
-  // was replaced as a whole, or what the store holds could not be read.
+  // True when all stored pieces must be removed before the changes are stored, because the whole list was
+  // replaced or the stored data could not be read.
   [[nodiscard]] bool replacesStored() const { return replaces_stored_; }
 
-  // False when nothing was done to the list since it was loaded or last saved.
+  // Whether the list changed since it was loaded or last saved.
   [[nodiscard]] bool changed() const { return changed_; }
 
-  // All pieces, front to back, and what happened to them since changesSaved().
+  // All pieces, front to back, with their changes since changesSaved().
   [[nodiscard]] std::vector<PieceState> pieces() const;
-  // The fields that set() changed since then, each by where it stands in an element, in bytes.
+  // The fields that set() changed since then, by offset in an element in bytes.
   [[nodiscard]] const std::vector<std::size_t>& fieldsSet() const { return fields_set_; }
   void changesSaved();
 
-  // Cuts the list into fresh pieces, which replace whatever the store holds.
+  // Splits the list into new pieces, which replace the stored ones.
   void replaceStored();
 
-  // A new element at the end, in piece `piece` of what the store holds; pieces must come in rising order.
+  // Adds an element at the end, in the stored piece `piece`. Pieces must be added in ascending order.
   void* addLoaded(std::int64_t piece);
 
-  // The element at `index`, for a load that is not finished: no change.
+  // The element at `index`, for loading. Does not mark it as changed.
   [[nodiscard]] void* loadedElement(std::size_t index) { return slots_[index].element; }
 
-  // Takes over the elements and pieces of a list that was filled by addLoaded(), as the store holds them.
+  // Moves the elements and pieces of a list that was filled by addLoaded(), as unchanged.
   void takeLoaded(ListBase& loaded);
 
  protected:
@@ -132,8 +131,8 @@ class ListBase {
   void pushFront(void* element);
   void takeElements(ListBase& other);
 
-  // For erase_if(): leaves out the element at `from`, or moves it to `to`, at or before `from`; cut() then
-  // ends the list.
+  // For erase_if(): removes the element at `from`, or moves it to `to` (not after `from`); cut() then
+  // truncates the list.
   void leaveOut(std::size_t from);
   void moveSlot(std::size_t from, std::size_t to) { slots_[to] = slots_[from]; }
   void cut(std::size_t length);
@@ -156,7 +155,7 @@ class ListBase {
 
   const ElementOperations* operations_;
   Slots slots_;
-  std::deque<Piece> pieces_;  // by rising number
+  std::deque<Piece> pieces_;  // by ascending number
   mutable IdIndex ids_;
   std::vector<std::size_t> fields_set_;
   bool changed_ = false;
@@ -228,11 +227,11 @@ class List : public ListBase {
   [[nodiscard]] const_iterator end() const { return const_iterator(slots().end()); }
   bool operator==(const List& other) const { return std::equal(begin(), end(), other.begin(), other.end()); }
 
-  // The element at `index`, to be changed. Its piece will be saved again.
+  // The element at `index` for modification. Marks its piece as changed.
   T& edit(std::size_t index) { return *static_cast<T*>(editSlot(index)); }
 
-  // Sets one field of the element at `index`. It is saved as any change is; if the field is one of the
-  // record's columns (core/columns.h), that column alone is saved again and not the element's piece.
+  // Sets a field of the element at `index`. If the field is a column (core/columns.h), only that column is
+  // saved, not the element's piece.
   template <class Record, class Field>
   void set(std::size_t index, Field Record::* field, const std::type_identity_t<Field>& value) {
     const std::size_t offset = offsetOf((*this)[index], field);
@@ -242,7 +241,7 @@ class List : public ListBase {
   void push_back(T value) { pushBack(new T(std::move(value))); }
   void push_front(T value) { pushFront(new T(std::move(value))); }
 
-  // Removes every element of which `condition` holds; says how many.
+  // Removes all elements that satisfy `condition` and returns their number.
   template <class Condition>
   std::size_t erase_if(Condition condition) {
     const std::size_t before = size();
@@ -259,7 +258,7 @@ class List : public ListBase {
     return before - kept;
   }
 
-  // Takes over the elements of any range, a part or a view of this very list included.
+  // Replaces the elements by those of a range, which may be a view of this list.
   template <class Range>
   void assign(Range&& values) {
     List taken;

@@ -35,7 +35,7 @@ const T& as(const void* value) {
   return *static_cast<const T*>(value);
 }
 
-// A field that holds something: its type and value, those inside of an optional; else no value.
+// The type and value of a field, or of the content of an optional; no value for an empty optional.
 struct Content {
   const ValueType* type;
   const void* value;
@@ -70,7 +70,7 @@ ListEncoder::Reference ListEncoder::write(const ValueType& type, const void* val
     case Form::record:
       return writeRecord(type, static_cast<const std::byte*>(value));
     case Form::optional:
-      break;  // only a field is optional, and contentOf() looks inside
+      break;  // contentOf() has unwrapped it
   }
   std::unreachable();
 }
@@ -114,26 +114,26 @@ class ListDecoder {
  public:
   ListDecoder(const plist::Objects& objects, std::size_t fileSize) : objects_(objects), budget_(fileSize) {}
 
-  // The list as a whole, into what append(list) makes.
+  // Reads the list into the elements that append(list) creates.
   bool readElements(plist::Reference reference, const ValueType& type, void* (*append)(void* list),
                     void* list);
 
   [[nodiscard]] const DecodeError& error() const { return error_; }
 
  private:
-  // Which entry of a dictionary each field of a record is: the same for nearly every record of a list, so it
-  // is found once and then known by the dictionary's key references.
+  // The dictionary entry of each field. It is the same for nearly all records of a list, so it is cached by
+  // the dictionary's key references.
   struct Layout {
     const ValueType* type;
     std::span<const std::byte> keys;
-    std::vector<std::size_t> entries;  // by field; absent where there is no such key
+    std::vector<std::size_t> entries;  // by field; `absent` without such a key
   };
   static constexpr std::size_t absent = ~std::size_t{0};
 
-  // In the place of a reference: the dictionary has no such key.
+  // Instead of a reference: the dictionary does not have the key.
   static constexpr plist::Reference missing = ~plist::Reference{0};
 
-  // Each of these sets what it is given and answers true, or leaves why it could not in error_.
+  // These set their argument and return true, or set error_ and return false.
 
   bool read(plist::Reference reference, const ValueType& type, void* value);
   template <NumberType T>
@@ -151,7 +151,7 @@ class ListDecoder {
   const Layout* layoutOf(const Object& dictionary, const ValueType& type);
   bool findFields(const Object& dictionary, std::span<const FieldType> fields, Layout& layout);
 
-  // These say why, and answer false.
+  // These set error_ and return false.
   bool unreadable(ReadError error);
   bool wrongKind();
   bool missingField(std::string_view name);
@@ -161,8 +161,7 @@ class ListDecoder {
   plist::Budget budget_;
   std::size_t depth_ = 0;
   std::vector<Layout> layouts_;
-  std::vector<plist::Reference>
-      values_;  // of the fields of the record that is being read, and of those around it
+  std::vector<plist::Reference> values_;  // of the fields of the current record and its enclosing records
   DecodeError error_;
 };
 
@@ -181,7 +180,7 @@ bool ListDecoder::missingField(std::string_view name) {
   return false;
 }
 
-// Names the field that could not be read, the innermost of nested ones.
+// Adds the name of the unreadable field to the error, if it has none yet.
 bool ListDecoder::inField(std::string_view name) {
   if (error_.kind == DecodeError::Kind::wrongKind && error_.field.empty()) error_.field = name;
   return false;
@@ -252,7 +251,7 @@ bool ListDecoder::readData(const Object& object, plist::Data& data) {
   return true;
 }
 
-// A container of the given kind, whose entries take `entrySize` bytes of memory each.
+// Enters a container of the given kind, whose entries take `entrySize` bytes of memory each.
 bool ListDecoder::enter(plist::Reference reference, ObjectKind kind, std::size_t entrySize, Object& object) {
   if (!take(reference, object)) return false;
   if (object.kind != kind) return wrongKind();
@@ -288,8 +287,8 @@ bool ListDecoder::readRecord(plist::Reference reference, const ValueType& type, 
   return leave();
 }
 
-// Adds the value's reference for each field, in their order, or `missing`. The record's own memory is paid
-// for by the list that it is in; here the entries are, since those that no field has cost time as well.
+// Appends each field's value reference, in order, or `missing`. The record's memory is charged to its list;
+// its entries are charged here, because unknown keys also cost time.
 bool ListDecoder::enterRecord(plist::Reference reference, const ValueType& type) {
   Object dictionary;
   if (!enter(reference, ObjectKind::dictionary, sizeof(plist::Value), dictionary)) return false;
@@ -332,7 +331,8 @@ bool ListDecoder::findFields(const Object& dictionary, std::span<const FieldType
     const auto field = std::ranges::find(fields, *text, &FieldType::name);
     if (field == fields.end()) continue;
     std::size_t& found = layout.entries[static_cast<std::size_t>(field - fields.begin())];
-    if (found != absent) return unreadable(ReadError::badObject);  // twice, as plist::read refuses it
+    if (found != absent)
+      return unreadable(ReadError::badObject);  // a duplicate key, rejected as by plist::read
     found = entry;
   }
   return true;

@@ -1,12 +1,12 @@
 #pragma once
 
-// Lists of records and of plain values to and from binary property lists, straight between the structs and
-// the file: a list of a whole career is written in milliseconds.
+// Encodes lists of records and of plain values as binary property lists and decodes them, without
+// intermediate values: the longest list of a career takes milliseconds.
 //
-// A list of records is an array of dictionaries, keyed by the names of the fields in their order. An optional
-// field that is empty is left out; a nested record is a dictionary; a vector is an array. Reading, a key that
-// no field has is passed over, and an optional field that is missing is empty. A list that lacks anything
-// else, or holds a value of the wrong kind (value_conversion.h), is refused as a whole.
+// A list of records is an array of dictionaries with the field names as keys, in order. An empty optional
+// field is omitted; a nested record is a dictionary; a vector is an array. When decoding, unknown keys are
+// ignored and a missing optional field is empty. A list with any other missing field, or a value of the wrong
+// type (value_conversion.h), is rejected as a whole.
 
 #include <cstddef>
 #include <expected>
@@ -29,7 +29,7 @@ struct DecodeError {
   enum class Kind : std::uint8_t {
     unreadable,    // `readError` says why
     missingField,  // a record without `field`
-    wrongKind,     // `field` is of another kind; with no field, the list or one of its elements is
+    wrongKind,     // `field` has another type; without a field, the list or an element has
   };
   Kind kind = Kind::unreadable;
   plist::ReadError readError = plist::ReadError::notAPropertyList;
@@ -38,7 +38,7 @@ struct DecodeError {
   bool operator==(const DecodeError&) const = default;
 };
 
-// A plain sentence for the debug log.
+// A sentence for the debug log.
 [[nodiscard]] std::string describe(const DecodeError& error);
 
 // Encodes a list element by element.
@@ -47,7 +47,7 @@ class ListEncoder {
   // `element` is of the described type.
   void add(const ValueType& type, const void* element) { writer_.putAside(write(type, element)); }
 
-  // The binary property list: one array. The encoder is good for nothing more.
+  // Returns the binary property list, an array. The encoder must not be used afterwards.
   [[nodiscard]] Bytes finish() { return writer_.finish(writer_.array(0)); }
 
  private:
@@ -57,7 +57,7 @@ class ListEncoder {
   Reference writeList(const ValueType& type, const void* list);
   Reference writeRecord(const ValueType& type, const std::byte* record);
 
-  // The objects of a record's keys; good until the next call.
+  // The objects of a record's keys; valid until the next call.
   [[nodiscard]] std::span<const Reference> keysOf(const ValueType& type);
 
   struct Keys {
@@ -69,8 +69,8 @@ class ListEncoder {
   std::vector<Keys> keys_;
 };
 
-// Decodes the elements of a list, each into what `append(list)` makes for it: a new element of the described
-// type. What was appended before an error stays.
+// Decodes the elements of a list. `append(list)` adds a new element of the described type for each. Elements
+// appended before an error stay.
 [[nodiscard]] std::expected<void, DecodeError> decodeList(std::span<const std::byte> file,
                                                           const ValueType& type, void* (*append)(void* list),
                                                           void* list);

@@ -2,7 +2,7 @@
 
 // How a record names its fields for the save file.
 //
-// A record is a plain struct. Beside it stands one line,
+// A record is a plain struct. Its fields are listed by a line
 //
 //   RECORD_FIELDS(Child, id, name, gender, ...)
 //
@@ -26,11 +26,11 @@ struct RecordField {
   std::size_t offset;  // in the struct, in bytes
 };
 
-// Specialised by RECORD_FIELDS: a tuple of RecordField, in the order of the struct.
+// Specialized by RECORD_FIELDS: a tuple of RecordField, in the order of the struct.
 template <class Record>
 inline constexpr auto fieldsOf = nullptr;
 
-// Specialised by RECORD_COLUMNS, the same way.
+// Specialized by RECORD_COLUMNS in the same way.
 template <class Record>
 inline constexpr auto columnsOf = std::tuple{};
 

@@ -39,7 +39,7 @@ bool isColumn(const ValueType& type, std::size_t offset) {
 }
 
 std::vector<SaveStore::PieceWrite> changedPieces(const ValueType& type, const ListBase& list) {
-  // An empty list is one empty piece, so that the key is there.
+  // An empty list is stored as one empty piece, so that its key exists.
   if (list.empty()) return {{.piece = 0, .bytes = encodePiece(type, list, 0, 0)}};
   const bool columnsSuffice =
       std::ranges::all_of(list.fieldsSet(), [&](std::size_t offset) { return isColumn(type, offset); });
@@ -60,7 +60,7 @@ Bytes encodeStretch(const FieldType& column, const ListBase& list, const ListPar
   return encoder.finish();
 }
 
-// The stretches of the columns in which anything changed.
+// Saves the changed stretches of the columns.
 void saveColumns(SaveStore& store, const Variable& variable, const ListBase& list) {
   Stretches stretches;
   std::set<std::int64_t> changed;
@@ -81,10 +81,10 @@ void saveColumns(SaveStore& store, const Variable& variable, const ListBase& lis
   }
 }
 
-// Says whether the list had changed.
+// Returns whether the list had changed.
 bool saveList(SaveStore& store, const Variable& variable, ListBase& list) {
   if (!list.changed()) return false;
-  // Changes can only be added to pieces that are there.
+  // Changes can only be added to stored pieces.
   const Shape shape = shapeOf(variable);
   const SaveStore::Entry* const stored = store.entry(variable.key);
   if (stored == nullptr || stored->shape != shape) list.replaceStored();
@@ -95,7 +95,7 @@ bool saveList(SaveStore& store, const Variable& variable, ListBase& list) {
   return true;
 }
 
-// Says whether the variable had changed.
+// Returns whether the variable had changed.
 bool savePlain(Game& game, const Variable& variable) {
   return visitPlain(variable.type->form, memberOf(game.world, variable), [&]<class T>(const T& value) {
     T& stored = *static_cast<T*>(memberOf(game.stored, variable));
@@ -106,8 +106,8 @@ bool savePlain(Game& game, const Variable& variable) {
   });
 }
 
-// A career's first save holds every plain variable, start values too: other programs find them there, and a
-// build whose start values differ opens the career as it was.
+// The first save of a career contains all plain variables, including start values, so that other programs
+// find them and later builds with other start values load the career unchanged.
 void saveStartValues(Game& game) {
   for (const Variable& variable : variables()) {
     if (variable.isList || game.store.contains(variable.key)) continue;
@@ -118,12 +118,12 @@ void saveStartValues(Game& game) {
 
 // --- Loading ---
 
-// What a load answers: nothing, or why the variable stays as it was, for the debug log.
+// The result of loading: nothing, or why the variable was not loaded, for the debug log.
 using LoadFailure = std::optional<std::string>;
 
 constexpr const char* otherKind = "The stored value is of another kind.";
 
-// Adds the elements that `bytes` hold to the list, as piece `number`.
+// Adds the elements in `bytes` to the list as piece `number`.
 LoadFailure addPiece(const Variable& variable, ListBase& list, std::int64_t number,
                      std::span<const std::byte> bytes) {
   struct Target {
@@ -139,7 +139,7 @@ LoadFailure addPiece(const Variable& variable, ListBase& list, std::int64_t numb
   return decoded ? std::nullopt : LoadFailure(describe(decoded.error()));
 }
 
-// Takes the pieces over as they are stored, all or none.
+// Loads the stored pieces, all or none.
 LoadFailure loadPieces(const Variable& variable, const SaveStore::Entry& stored, ListBase& list) {
   ListBase loaded(list.operations());
   for (const auto& [number, bytes] : stored.pieces) {
@@ -187,8 +187,8 @@ void loadColumns(SaveStore& store, const Variable& variable, ListBase& list) {
   }
 }
 
-// A list as an import leaves it, in one plain value: records in a Data, plain values in an array. It has no
-// pieces yet, so its next save writes all of it.
+// Loads an imported list, which is one plain value: records in a Data, plain values in an array. It has no
+// pieces, so its next save writes all of it.
 LoadFailure loadImported(const Variable& variable, const Bytes& stored, ListBase& list) {
   ListBase loaded(list.operations());
   LoadFailure failure;
@@ -215,7 +215,7 @@ LoadFailure loadList(SaveStore& store, const Variable& variable, const SaveStore
     if (!failure) loadColumns(store, variable, list);
   }
   if (stored.shape == Shape::plain) failure = loadImported(variable, stored.pieces.begin()->second, list);
-  if (failure) list.replaceStored();  // its next save can't add to what can't be read
+  if (failure) list.replaceStored();  // the next save must replace the unreadable data
   return failure;
 }
 
@@ -235,7 +235,7 @@ LoadFailure loadPlain(Game& game, const Variable& variable, const SaveStore::Ent
 
 }  // namespace
 
-// Nothing that a player wrote is lost because this build can't read it.
+// Unreadable data is set aside, not lost.
 void loadVariable(Game& game, const Variable& variable) {
   const SaveStore::Entry* const stored = game.store.entry(variable.key);
   if (stored == nullptr) return;

@@ -1,25 +1,22 @@
 #pragma once
 
-// Saving. A rule changes the state and saves nothing: when the player's action ends, whatever differs from
-// what the store holds is written. So no rule can forget a variable, and what an action changes ten times is
-// encoded once.
+// Saving and loading. Rules do not save: when the player's action ends, all differences from the store are
+// written. So no rule can forget a variable, and a value that changes ten times in an action is encoded once.
 //
-// Encoding can't fail: every type of the state has its form in the property list, text that is no UTF-8
-// included. What is written is therefore always stored, and the previous value never has to stand in for it.
+// Encoding can't fail: every value of the state can be represented in a property list, including ill-formed
+// UTF-8.
 
 #include "core/game.h"
 #include "core/variables.h"
 
 namespace tb {
 
-// Writes every variable that changed since it was loaded or last saved to the store; of a list, the pieces
-// that changed. Durable at the end of the player's action (SaveStore::commit). True when anything was
-// written.
+// Writes all variables (for lists, pieces) that changed since they were loaded or last saved to the store.
+// Returns true when anything was written. Durable after SaveStore::commit.
 bool saveChanges(Game& game);
 
-// Reads a variable back. A key that is missing, a value of another type and data that does not decode leave
-// the variable as it is; what is there and is not understood is kept aside in the store, so that nothing is
-// lost when the variable is written again.
+// Loads a variable. A missing key, a value of another type, or data that can't be decoded does not change the
+// variable; unreadable data is set aside in the store, so that it is not lost when the variable is saved.
 void loadVariable(Game& game, const Variable& variable);
 
 }  // namespace tb

@@ -14,7 +14,7 @@ struct JoinedList {
   Stretches stretches;
 };
 
-// The pieces of a list as one array; nothing when one of them does not decode.
+// The pieces of a list as one array; nothing when a piece can't be decoded.
 std::optional<JoinedList> joined(const SaveStore::Entry& entry) {
   JoinedList all;
   for (const auto& [number, bytes] : entry.pieces) {
@@ -27,7 +27,7 @@ std::optional<JoinedList> joined(const SaveStore::Entry& entry) {
   return all;
 }
 
-// Sets the field of a record, if it holds a value of that kind.
+// Sets the field of a record if its value has the same kind.
 void setField(plist::Value& record, std::string_view field, plist::Value value) {
   auto* const fields = std::get_if<plist::Dictionary>(&record.held);
   if (fields == nullptr) return;
@@ -173,7 +173,7 @@ std::expected<void, std::string> SaveStore::commit() {
   return {};
 }
 
-// A piece that already holds these bytes costs nothing.
+// Does nothing when the piece already has these bytes.
 void SaveStore::setPiece(std::string_view key, Entry& entry, std::int64_t piece, Bytes bytes) {
   const auto [at, added] = entry.pieces.try_emplace(piece);
   if (!added && at->second == bytes) return;
@@ -191,7 +191,7 @@ void SaveStore::dropKey(std::string_view key, Entry& entry) {
   for (const std::string& column : columnsOf(key)) remove(column);
 }
 
-// The same piece is found unreadable at every load until it is written over: it waits once.
+// A piece is added only once, although every load finds it unreadable until it is overwritten.
 void SaveStore::addAside(StoredPiece piece) {
   if (!std::ranges::contains(aside_, piece)) aside_.push_back(std::move(piece));
 }

@@ -63,7 +63,7 @@ inline constexpr ValueType typeOf = detail::describeType<T>();
 
 namespace detail {
 
-// Whether the field is one of the record's columns, which hold whole numbers and doubles.
+// Whether the field is one of the record's columns, which are integers or doubles.
 template <class Record>
 consteval bool isColumn(std::size_t offset) {
   return std::apply(

@@ -34,7 +34,7 @@ void overwrite(const fs::path& file, const std::string& content) {
 class FullDisk {
  public:
   explicit FullDisk(int room) {
-    room_ = room;
+    writesLeft = room;
     for (const char* const call : calls) set(call, &write);
   }
   ~FullDisk() {
@@ -50,15 +50,15 @@ class FullDisk {
     system->xSetSystemCall(system, call, reinterpret_cast<sqlite3_syscall_ptr>(function));
   }
   static ssize_t write(int file, const void* bytes, size_t count, off_t offset) {
-    if (room_ > 0) {
-      room_ -= 1;
+    if (writesLeft > 0) {
+      writesLeft -= 1;
       return pwrite(file, bytes, count, offset);
     }
     errno = ENOSPC;
     return -1;
   }
 
-  static inline int room_ = 0;
+  static inline int writesLeft = 0;
 };
 
 class SqliteCareer : public testing::Test {
