@@ -1,9 +1,9 @@
-// Plays fifty years through the same screens as a player, and tells what a week costs as the career grows,
-// and what it costs to open the game on the last day. A busy actor asks for three or four roles a week, a
-// quiet one for one now and then. Ends with 1 when a promise does not hold.
+// Plays fifty years through the screens and measures the weeks as the career grows, and the start of the game
+// after the last one. A busy actor submits for up to four roles a week, a quiet one for one role in eight
+// weeks. Exits with 1 if a limit is exceeded.
 //
-//   career_bench          both careers
-//   career_bench FILE     the same, and writes the store of the busy career to the file, as a save
+//   career_bench          measures both careers
+//   career_bench FILE     also exports the busy career to the file
 
 #include <algorithm>
 #include <chrono>

@@ -1,16 +1,14 @@
 #pragma once
 
-// Columns: fields that change every week in records that are years old, such as the popularity of each film.
+// Columns: number fields that change every week in old records, such as the popularity of each film.
 //
-// If only records were saved, such a field would make every week write all of its list anew. It is named
-// beside its record's fields (RECORD_COLUMNS) and stored once more in a column: the values of 64 neighboring
-// pieces of the list in one array, under a key of its own. A piece keeps the values of the day on which it
-// was last written; the column is laid over them, by the load and whenever the store is asked for the list,
-// so that a list is one property list with today's values for everybody else.
+// Without columns, each week would store all records of such a list again. A column field is named beside the
+// fields of its record (RECORD_COLUMNS) and is also stored separately: one array holds the values for 64
+// neighboring pieces of the list (a stretch), under a key of its own. A stored piece keeps the values from
+// when it was last written; loading the list and SaveStore::value() replace them with those of the column.
 //
-// A stretch of a column is written with every change of its part of the list, in the same commit, and is
-// therefore as long as that part. One that is not is damaged and is passed over: the values of the pieces
-// stand.
+// A stretch is stored in the same commit as every change in its part of the list, so it has one value for
+// each element of that part. A stretch of another length is damaged and is ignored.
 
 #include <cstddef>
 #include <cstdint>
@@ -24,11 +22,11 @@
 
 namespace tb {
 
-// The key that a list's column is stored under.
+// The key of a list's column in the store.
 [[nodiscard]] std::string columnKey(std::string_view list, std::string_view field);
 
-// Which stretch of the columns a piece is in: 64 pieces, so up to 512 elements. Saves are stored by it, so
-// another length is another schema.
+// The stretch that a piece belongs to. A stretch has 64 pieces, so up to 512 elements. A change of this
+// number needs a new schema version.
 [[nodiscard]] constexpr std::int64_t stretchOf(std::int64_t piece) { return piece >> 6; }
 
 // The part of a list that a stretch covers, by its number.
@@ -38,10 +36,10 @@ struct ListPart {
 };
 using Stretches = std::map<std::int64_t, ListPart>;
 
-// Adds a piece of `count` elements behind those that were added before; pieces come in rising order.
+// Adds a piece of `count` elements that starts at element `first`. Call in ascending order of pieces.
 void addPiece(Stretches& stretches, std::int64_t piece, std::size_t first, std::size_t count);
 
-// The values of a stored stretch, one for each element of its part of the list; nothing when it is damaged.
+// The values of a stored stretch, one for each element of `part`; nothing if the stretch is damaged.
 [[nodiscard]] std::optional<plist::Array> readStretch(std::span<const std::byte> stored,
                                                       const ListPart& part);
 

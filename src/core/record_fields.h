@@ -103,8 +103,8 @@ consteval bool describesWholeRecord() {
                 " has a field that RECORD_FIELDS misses or "                               \
                 "misplaces")
 
-// Stands right after RECORD_FIELDS: the numbers that change every week in records that are years old. They
-// are saved in columns of their own (core/columns.h).
+// Follows RECORD_FIELDS: the number fields that change every week in old records. They are stored in columns
+// (core/columns.h).
 #define RECORD_COLUMNS(Record, ...)                      \
   template <>                                            \
   inline constexpr auto columnsOf<Record> = std::tuple { \

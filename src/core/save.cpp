@@ -149,7 +149,7 @@ LoadFailure loadPieces(const Variable& variable, const SaveStore::Entry& stored,
   return std::nullopt;
 }
 
-// Lays a column over the records that were loaded. Says whether all of it fits.
+// Sets a column's values in the loaded records. False if part of the column is damaged.
 bool layColumn(const SaveStore::Entry& stored, const FieldType& column, const Stretches& stretches,
                ListBase& list) {
   if (stored.shape != Shape::column) return false;
@@ -173,7 +173,7 @@ bool layColumn(const SaveStore::Entry& stored, const FieldType& column, const St
   return fits;
 }
 
-// What is damaged costs the values since the records' pieces were written, and no more.
+// A damaged column loses the values set since the records' pieces were stored, and nothing else.
 void loadColumns(SaveStore& store, const Variable& variable, ListBase& list) {
   Stretches stretches;
   for (const auto& piece : list.pieces()) addPiece(stretches, piece.piece, piece.first, piece.count);
@@ -183,7 +183,7 @@ void loadColumns(SaveStore& store, const Variable& variable, ListBase& list) {
     if (stored == nullptr || layColumn(*stored, field, stretches, list)) continue;
     store.keepAside(key);
     debugLog(key + ": damaged");
-    list.replaceStored();  // its next save mends it
+    list.replaceStored();  // the next save repairs it
   }
 }
 

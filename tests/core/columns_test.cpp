@@ -86,7 +86,7 @@ bool same(const std::vector<Film>& stored, const List<Film>& list) {
   return std::ranges::equal(stored, list);
 }
 
-TEST(Columns, AWeekThatSetsColumnsOnlyWritesNoRecords) {
+TEST(Columns, SetStoresColumnsWithoutRecords) {
   MemoryPort port;
   const List<Film> now = storeCareer(port).second;
   EXPECT_EQ(port.lastCommit.size(), 4u);
@@ -104,8 +104,8 @@ TEST(Columns, AWeekThatSetsColumnsOnlyWritesNoRecords) {
   EXPECT_EQ(Launch(port).list(), next.list());
 }
 
-// For slots, files and whoever else asks there are no columns: a list is one property list of today.
-TEST(Columns, AListsValueHasTheValuesOfItsColumnsAndNobodySeesThem) {
+// Exports contain no columns: a list is one property list with the current values.
+TEST(Columns, ValueMergesColumns) {
   MemoryPort port;
   const List<Film> now = storeCareer(port).second;
   const SaveStore store(port);
@@ -115,7 +115,7 @@ TEST(Columns, AListsValueHasTheValuesOfItsColumnsAndNobodySeesThem) {
   EXPECT_TRUE(std::ranges::contains(all, films, &std::pair<std::string, Value>::first));
   EXPECT_FALSE(std::ranges::contains(all, popularity, &std::pair<std::string, Value>::first));
 
-  // The way back: no column of the career before is left to be laid over the next one.
+  // After an import, no column of the previous career remains.
   MemoryPort other;
   Launch play(other);
   for (std::int64_t id = 0; id < 600; ++id) play.list().push_back(film(1000 + id));
@@ -129,7 +129,7 @@ TEST(Columns, AListsValueHasTheValuesOfItsColumnsAndNobodySeesThem) {
   EXPECT_EQ(Launch(other).list(), next.list());
 }
 
-TEST(Columns, AStoreWithoutColumnsHasTheValuesOfItsPieces) {
+TEST(Columns, LoadsStoresWithoutColumns) {
   MemoryPort port;
   const List<Film> first = storeCareer(port).first;
   std::erase_if(port.pieces, [](const auto& entry) { return entry.second.shape == Shape::column; });
@@ -138,7 +138,7 @@ TEST(Columns, AStoreWithoutColumnsHasTheValuesOfItsPieces) {
   EXPECT_EQ(next.log, "");
 }
 
-TEST(Columns, AListThatGoesTakesItsColumnsAlong) {
+TEST(Columns, RemovedWithTheirList) {
   const std::pair<const char*, std::function<void(Launch&)>> ways[] = {
       {"cleared", [](Launch& play) { play.list().clear(); }},
       {"emptied", [](Launch& play) { play.list().erase_if([](const Film&) { return true; }); }},
@@ -155,9 +155,8 @@ TEST(Columns, AListThatGoesTakesItsColumnsAlong) {
   }
 }
 
-// Damage costs the values since the records were last written, of its own stretch or of its column, and the
-// next save mends it.
-TEST(Columns, ADamagedColumnNeverCostsTheList) {
+// Damage loses the values of its stretch or column since the records were stored. The next save repairs it.
+TEST(Columns, DamageKeepsTheList) {
   using Damage = std::function<void(StoredPiece&)>;
   const auto holding = [](Value value) {
     return [value](StoredPiece& piece) { piece.bytes = plist::write(value); };
@@ -194,9 +193,9 @@ TEST(Columns, ADamagedColumnNeverCostsTheList) {
   }
 }
 
-// Any sequence of weeks: titles come at the front, some go, some change, all drift; commits fail and games
-// are launched again. What is durable is always the films of the last commit that got through.
-TEST(Columns, WhatIsLoadedIsWhatWasCommitted) {
+// Random weeks: titles are added and removed, records change, popularities drift, commits fail and the game
+// restarts. The store always holds the films of the last successful commit.
+TEST(Columns, LoadsWhatWasCommitted) {
   for (unsigned seed = 0; seed < 3; ++seed) {
     std::mt19937 chance(seed);
     const auto oneIn = [&](unsigned n) { return chance() % n == 0; };

@@ -1,5 +1,5 @@
-// The fiftieth year of a busy career, on a device that is a quarter as fast as this one. BUSY_CAREER names the
-// save that bench/career_bench wrote; `./check figures` makes it. Without one there is nothing to measure.
+// The fiftieth year of a busy career, with the processor slowed four times. BUSY_CAREER names the save that
+// bench/career_bench exported (see `./check figures`). Without it the test is skipped.
 
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
@@ -16,7 +16,7 @@ const weeks = 15;
 const weekPatience = 120; // milliseconds from a press to what it leads to, the median
 const startPatience = 1200; // milliseconds from the reload until a week can be ended
 
-// Presses the button and answers when the frame in which the other one stands has been painted: milliseconds.
+// Presses a button and returns the milliseconds until the frame with the other button has been painted.
 function timeToPaint(page: Page, name: string, leadsTo: string): Promise<number> {
   return page.evaluate(
     async ([name, leadsTo]) => {
@@ -43,7 +43,7 @@ test("a week of a busy fiftieth year is soon there, and so is its career", { ski
   await choose(page, readFileSync(save!));
   await press(page, "Replace my career");
   await finds(page, "Ada Vale");
-  await liveAWeek(page); // what came in whole is cut into pieces by the first week that changes it
+  await liveAWeek(page); // the first save after an import stores whole lists
   await liveAWeek(page);
 
   const session = await player.context.newCDPSession(page);
