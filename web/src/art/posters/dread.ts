@@ -1,7 +1,7 @@
 // Scenes of thrillers, horror films, crime stories and mysteries.
 
 import { circle, ellipse, group, many, mix, n, path, rect, stroke } from "../svg";
-import { at, burst, fill, firs, hills, moon, peaks, person, poses, rain, round, shadow, sky, skyline, stars } from "./stage";
+import { at, burst, fill, firs, hills, moon, peaks, person, poses, round, shadow, sky, skyline, stars } from "./stage";
 import type { Scene } from "./stage";
 
 const crosshair: Scene = ({ p, chance, y }) => {
