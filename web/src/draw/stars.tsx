@@ -6,6 +6,22 @@ const star = "M12 1.8l3.1 6.5 7.1 1-5.2 4.9 1.3 7.1L12 17.9l-6.3 3.4 1.3-7.1L1.8
 
 const figure = new Intl.NumberFormat(undefined, { maximumFractionDigits: 1 });
 
+// A viewer's name is often two words in one. With large text a line may end between them.
+function Name({ text }: { readonly text: string }) {
+  const [first, ...others] = text.replace(/(\p{Ll})(\p{Lu})/gu, "$1\n$2").split("\n");
+  return (
+    <>
+      <Words text={first!} />
+      {others.map((part) => (
+        <>
+          <wbr />
+          <Words text={part} />
+        </>
+      ))}
+    </>
+  );
+}
+
 // Stars out of `outOf`, rounded to halves.
 export function Stars({ label, value, outOf }: View.Stars) {
   const filled = Math.round(Math.min(Math.max(value, 0), outOf) * 2) / 2;
@@ -14,7 +30,7 @@ export function Stars({ label, value, outOf }: View.Stars) {
     <div class="stars">
       {label !== "" && (
         <span class="stars-label">
-          <Words text={label} />
+          <Name text={label} />
         </span>
       )}
       <span class={`stars-row${outOf > 5 ? " stars-many" : ""}`} role="img" aria-label={words}>
