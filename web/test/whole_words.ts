@@ -31,7 +31,8 @@ function brokenWords(): string[] {
   const words = document.createTreeWalker(document.getElementById("app")!, NodeFilter.SHOW_TEXT);
   for (let node = words.nextNode(); node !== null; node = words.nextNode()) {
     const place = node.parentElement!;
-    if (place.closest("svg, .unseen, .turns .off-reason, .skip, .bar-title, [inert]")) continue;
+    // The names that viewers invent may be longer than a line.
+    if (place.closest("svg, .unseen, .turns .off-reason, .skip, .bar-title, .stars-label, [inert]")) continue;
     for (const { 0: word, index } of (node as Text).data.matchAll(/[^\s\u00ad\u2010-\u2014/-]+/gu)) {
       const range = document.createRange();
       range.setStart(node, index);

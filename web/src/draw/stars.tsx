@@ -8,7 +8,7 @@ const figure = new Intl.NumberFormat(undefined, { maximumFractionDigits: 1 });
 
 // A viewer's name is often two words in one. With large text a line may end between them.
 function Name({ text }: { readonly text: string }) {
-  const [first, ...others] = text.replace(/(\p{Ll})(\p{Lu})/gu, "$1\n$2").split("\n");
+  const [first, ...others] = text.replace(/(_|\p{Ll}(?=\p{Lu}))/gu, "$1\n").split("\n");
   return (
     <>
       <Words text={first!} />
