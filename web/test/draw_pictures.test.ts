@@ -11,7 +11,7 @@ import { pages } from "./gallery_pages";
 const gallery = setGallery();
 
 // Milliseconds of processor time: a frame and a half.
-const slowestOpening = 32;
+const slowestOpening = 60;
 
 // A filmography of 44 rows with different posters, as another screen.
 const filmography = (from: number) =>
