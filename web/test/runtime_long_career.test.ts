@@ -1,5 +1,5 @@
-// The fiftieth year of a busy career, with the processor slowed four times. BUSY_CAREER names the save that
-// bench/career_bench exported (see `./check figures`). Without it the test is skipped.
+// The fiftieth year of a busy career, with the processor slowed four times. Run by hand: BUSY_CAREER names the save
+// that `career_bench FILE` exports. Without it the test is skipped.
 
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";

@@ -3,10 +3,12 @@
 import { hands } from "../lettering";
 import type { Hand } from "../lettering";
 import type { Palette } from "../palettes";
-import { drama, family, romance } from "./drama";
+import { drama } from "./drama";
 import { crime, horror, mystery, thriller } from "./dread";
+import { family } from "./family";
 import { action, adventure, history, war, western } from "./far";
 import { comedy, music, sport } from "./mirth";
+import { romance } from "./romance";
 import type { Scene } from "./stage";
 import { fantasy, sciFi } from "./wonder";
 
