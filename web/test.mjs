@@ -15,8 +15,11 @@ const { values: options, positionals: wanted } = parseArgs({
   allowPositionals: true,
 });
 
+const longestRun = 20 * 60_000; // milliseconds; a promise in a page that never settles would hold the run for ever
+
 function run(command, ...parts) {
-  const { status } = spawnSync(command, parts, { cwd: here, stdio: "inherit" });
+  const { status, error } = spawnSync(command, parts, { cwd: here, stdio: "inherit", timeout: longestRun });
+  if (error) console.error(`${command} was stopped: ${error.message}`);
   if (status !== 0) process.exit(status ?? 1);
 }
 
