@@ -18,6 +18,7 @@ const types = {
   ".webmanifest": "application/manifest+json",
   ".woff2": "font/woff2",
 };
+export const serverName = "Top Billing";
 const alreadySmall = new Set([".png", ".woff2"]);
 
 const encoders = {
@@ -52,6 +53,7 @@ class Site {
       "Content-Type": types[ending] ?? "application/octet-stream",
       "Cache-Control": cacheControl(file),
       "X-Content-Type-Options": "nosniff",
+      Server: serverName,
       Vary: "Accept-Encoding",
     };
     const encoding = alreadySmall.has(ending) ? undefined : wantedEncoding(request);
@@ -109,18 +111,16 @@ function refuse(response, status) {
   response.end(status === 404 ? "Not found\n" : "Not allowed\n");
 }
 
-// Serves the folder on the port or the next free one; 0 means any port. Resolves to the address and a
-// function to stop, once it is listening. `sent` is called with the size of each response body in bytes.
+// Serves the folder on the port; 0 means any free port. Resolves to the address and a function to stop, once it
+// is listening. Rejects with EADDRINUSE when the port is taken: on another port browsers keep another career.
+// `sent` is called with the size of each response body in bytes.
 export function serve(folder, port, sent = () => undefined) {
   const site = new Site(normalize(folder), sent);
   const server = createServer((request, response) => {
     site.answer(request, response).catch(() => refuse(response, 500));
   });
   return new Promise((resolve, reject) => {
-    server.on("error", (error) => {
-      if (error.code === "EADDRINUSE" && port !== 0) server.listen((port += 1), "127.0.0.1");
-      else reject(error);
-    });
+    server.on("error", reject);
     server.on("listening", () => {
       resolve({
         address: `http://localhost:${server.address().port}/`,

@@ -75,14 +75,14 @@ void App::back() {
 }
 
 void App::savingFailed(const std::string& why) {
-  if (!told_of_failure_) {
+  if (unsaved_because_.empty()) {
     stage_.show(
         Notice{.title = "💾 Not Saved 💾",
                .message = "The game can't save right now: " + why +
                           "\n\nYou can play on. Nothing is lost while the game stays open, and it tries "
                           "again after each thing you do."});
   }
-  told_of_failure_ = true;
+  unsaved_because_ = why;
   laid_out_.reset();
 }
 
@@ -106,7 +106,7 @@ void App::endAction() {
   laid_out_.reset();
   if (!game_.store.hasUncommitted()) return;
   if (const auto saved = game_.store.commit(); saved) {
-    told_of_failure_ = false;
+    unsaved_because_.clear();
   } else {
     savingFailed(saved.error());
   }

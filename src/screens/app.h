@@ -39,6 +39,9 @@ class App {
   // The platform could not save a commit. Shows a notice, once until saving works again.
   void savingFailed(const std::string& why);
 
+  // Why the last commit failed; empty when everything is saved.
+  [[nodiscard]] const std::string& unsavedBecause() const { return unsaved_because_; }
+
   // Shows a notice from the platform, such as that a damaged career was moved.
   void tell(Notice notice);
 
@@ -54,7 +57,7 @@ class App {
   Game game_;
   Stage stage_;
   std::optional<LaidOutPage> laid_out_;
-  bool told_of_failure_ = false;
+  std::string unsaved_because_;
 };
 
 }  // namespace tb

@@ -99,6 +99,8 @@ class ConsoleLoop : public testing::Test {
  protected:
   void play() {
     test::ScratchGame scratch;
+    scratch.port.failAll(diskIsFull);
+    scratch.store.put("weekNumber", plist::Value{std::int64_t{3}});
     App app(scratch.store, scratch.random, {}, std::make_unique<DeskScreen>(seen));
     Console(app, port).play();
   }
@@ -107,7 +109,19 @@ class ConsoleLoop : public testing::Test {
 
   Seen seen;
   ScriptedPort port;
+  bool diskIsFull = false;
 };
+
+TEST_F(ConsoleLoop, WarnsOnEachPageAndBeforeLeavingWhileNothingCanBeSaved) {
+  diskIsFull = true;
+  port.types("q").types("?").types("q").types("q").types("?");
+  play();
+  EXPECT_EQ(port.unread(), 1u);
+  for (const std::string& page : port.pages)
+    EXPECT_TRUE(page.contains("Not saved: The disk is full.")) << page;
+  EXPECT_TRUE(pageAfter(1).contains("q again leaves without it."));
+  EXPECT_FALSE(pageAfter(2).contains("q again"));
+}
 
 bool shows(const std::string& page, std::string_view text) { return page.contains(text); }
 

@@ -30,35 +30,56 @@ void overwrite(const fs::path& file, const std::string& content) {
   std::ofstream(file, std::ios::binary | std::ios::trunc) << content;
 }
 
-// Makes SQLite's writes fail with a full disk after a number of writes.
-class FullDisk {
+// Makes SQLite's reads or writes fail after a number of them: for good, or once.
+class FaultyDisk {
  public:
-  explicit FullDisk(int room) {
-    writesLeft = room;
-    for (const char* const call : calls) set(call, &write);
+  enum class Fault : std::uint8_t { fullDisk, badSector, passingReadError };
+
+  FaultyDisk(Fault fault, int callsBefore) : reads_(fault != Fault::fullDisk) {
+    callsLeft = callsBefore;
+    passes = fault == Fault::passingReadError;
+    failed = 0;
+    for (const char* const call : reads_ ? readCalls : writeCalls) set(call, replacement());
   }
-  ~FullDisk() {
-    for (const char* const call : calls) set(call, nullptr);  // restores the system call
+  ~FaultyDisk() {
+    for (const char* const call : reads_ ? readCalls : writeCalls)
+      set(call, nullptr);  // restores the system call
   }
+
+  [[nodiscard]] static int failures() { return failed; }
 
  private:
-  // SQLite uses one of them, depending on its build.
-  static constexpr const char* calls[] = {"pwrite", "pwrite64"};
+  using Call = sqlite3_syscall_ptr;
 
-  static void set(const char* call, ssize_t (*function)(int, const void*, size_t, off_t)) {
+  // SQLite uses one of each, depending on its build.
+  static constexpr const char* writeCalls[] = {"pwrite", "pwrite64"};
+  static constexpr const char* readCalls[] = {"pread", "pread64"};
+
+  [[nodiscard]] Call replacement() const {
+    return reads_ ? reinterpret_cast<Call>(&read) : reinterpret_cast<Call>(&write);
+  }
+  static void set(const char* name, Call call) {
     sqlite3_vfs* const system = sqlite3_vfs_find(nullptr);
-    system->xSetSystemCall(system, call, reinterpret_cast<sqlite3_syscall_ptr>(function));
+    system->xSetSystemCall(system, name, call);
+  }
+  static bool fails(int reason) {
+    callsLeft -= 1;
+    if (callsLeft >= 0 || (passes && failed > 0)) return false;
+    failed += 1;
+    errno = reason;
+    return true;
   }
   static ssize_t write(int file, const void* bytes, size_t count, off_t offset) {
-    if (writesLeft > 0) {
-      writesLeft -= 1;
-      return pwrite(file, bytes, count, offset);
-    }
-    errno = ENOSPC;
-    return -1;
+    return fails(ENOSPC) ? -1 : pwrite(file, bytes, count, offset);
+  }
+  static ssize_t read(int file, void* bytes, size_t count, off_t offset) {
+    return fails(EIO) ? -1 : pread(file, bytes, count, offset);
   }
 
-  static inline int writesLeft = 0;
+  bool reads_;
+  static inline int callsLeft = 0;
+  static inline int failed = 0;
+  static inline bool passes = false;
 };
 
 class SqliteCareer : public testing::Test {
@@ -183,7 +204,7 @@ TEST_F(SqliteCareer, DoesNotTouchLockedFiles) {
   EXPECT_EQ(stored().size(), 3u);
 }
 
-TEST_F(SqliteCareer, RenamesDamagedCareers) {
+TEST_F(SqliteCareer, MovesDamagedCareersAside) {
   beginCareer();
   const std::string sound = contentOf(file_);
   std::string scratched = sound;
@@ -201,28 +222,108 @@ TEST_F(SqliteCareer, RenamesDamagedCareers) {
     number += 1;
     overwrite(file_, damage);
     overwrite(file_.string() + "-wal", "left over");
-    const fs::path aside = folder_ / ("career.damaged-" + std::to_string(number) + ".sqlite");
+    const fs::path aside = folder_ / ("career.damaged-" + std::to_string(number));
     const auto port = open();
     ASSERT_NE(port, nullptr);
     ASSERT_TRUE(port->notice()) << "damage " << number << " went unseen";
     EXPECT_TRUE(port->notice()->message.contains(aside.string()));
-    EXPECT_EQ(contentOf(aside), damage);
-    EXPECT_EQ(contentOf(aside.string() + "-wal"), "left over");
+    EXPECT_EQ(contentOf(aside / "career.sqlite"), damage);
+    EXPECT_EQ(contentOf(aside / "career.sqlite-wal"), "left over");
     SaveStore store(*port);
     EXPECT_TRUE(store.dictionary().empty());
     store.put("weekNumber", integer(1));
     EXPECT_TRUE(store.commit());
   }
   EXPECT_EQ(stored().size(), 1u);
+  // The notice comes back until the player has moved the folders.
+  EXPECT_TRUE(open()->notice());
+  for (int folder = 1; folder <= number; ++folder) {
+    fs::remove_all(folder_ / ("career.damaged-" + std::to_string(folder)));
+  }
+  EXPECT_FALSE(open()->notice());
 }
 
-TEST_F(SqliteCareer, RenamesOtherDatabases) {
+TEST_F(SqliteCareer, MovesOtherDatabasesAside) {
   alter("CREATE TABLE recipes (name TEXT)");
   EXPECT_TRUE(open()->notice());
-  EXPECT_TRUE(fs::exists(folder_ / "career.damaged-1.sqlite"));
+  EXPECT_TRUE(fs::exists(folder_ / "career.damaged-1"));
   alter("DROP TABLE kept_aside");
   EXPECT_TRUE(open()->notice());
-  EXPECT_TRUE(fs::exists(folder_ / "career.damaged-2.sqlite"));
+  EXPECT_TRUE(fs::exists(folder_ / "career.damaged-2"));
+}
+
+TEST_F(SqliteCareer, KeepsALogWithoutItsFile) {
+  for (const bool missing : {false, true}) {
+    overwrite(file_, "");
+    if (missing) fs::remove(file_);
+    overwrite(file_.string() + "-wal", "forty weeks");
+    EXPECT_TRUE(open()->notice());
+    EXPECT_EQ(contentOf(folder_ / "career.damaged-1" / "career.sqlite-wal"), "forty weeks");
+    fs::remove_all(folder_ / "career.damaged-1");
+  }
+}
+
+TEST_F(SqliteCareer, TakesNoFailedReadForDamage) {
+  using enum FaultyDisk::Fault;
+  beginCareer();
+  {
+    const auto port = open();
+    SaveStore store(*port);
+    for (std::int64_t piece = 0; piece < 8; ++piece) writePiece(store, piece, 2000);
+    ASSERT_TRUE(store.commit());
+  }
+  const Dictionary begun = stored();
+  const std::string file = contentOf(file_);
+  for (const auto fault : {passingReadError, badSector}) {
+    bool finished = false;
+    for (int before = 0; !finished; ++before) {
+      ASSERT_LT(before, 200);
+      {
+        const FaultyDisk disk(fault, before);
+        const auto port = SqlitePort::open(folder_);
+        finished = FaultyDisk::failures() == 0;
+        if (!port) {
+          EXPECT_EQ(port.error().kind, OpenFailure::Kind::diskError) << port.error().message;
+          EXPECT_TRUE(port.error().message.contains("The disk reported an error")) << port.error().message;
+        }
+        if (finished) EXPECT_TRUE(port && before > 5);
+      }
+      EXPECT_TRUE(contentOf(file_) == file);
+      EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1"));
+      ASSERT_EQ(stored(), begun) << "after " << before << " reads";
+    }
+  }
+}
+
+TEST_F(SqliteCareer, NoticesThatItsFileWasMoved) {
+  const Dictionary begun = beginCareer();
+  const auto port = open();
+  SaveStore store(*port);
+  store.put("weekNumber", integer(13));
+  const fs::path away = folder_ / "away";
+  fs::create_directory(away);
+  fs::rename(file_, away / "career.sqlite");
+  ASSERT_FALSE(store.commit());
+  overwrite(file_, "another file");
+  const auto refused = store.commit();
+  ASSERT_FALSE(refused);
+  EXPECT_TRUE(refused.error().contains("was moved or deleted")) << refused.error();
+  fs::rename(away / "career.sqlite", file_);
+  EXPECT_TRUE(store.commit());
+}
+
+TEST_F(SqliteCareer, EmptiesItsLogWhilePlaying) {
+  beginCareer();
+  const auto port = open();
+  SaveStore store(*port);
+  std::uintmax_t longest = 0;
+  for (int week = 0; week < 60; ++week) {
+    writePiece(store, week % 8, 3000 + static_cast<std::size_t>(week));
+    ASSERT_TRUE(store.commit());
+    longest = std::max(longest, fs::file_size(file_.string() + "-wal"));
+  }
+  EXPECT_GT(fs::file_size(file_), 40'000u);
+  EXPECT_LT(longest, 600'000u);
 }
 
 TEST_F(SqliteCareer, TreatsAnEmptyFileAsNew) {
@@ -238,7 +339,7 @@ TEST_F(SqliteCareer, RejectsNewerVersions) {
   const std::string before = contentOf(file_);
   EXPECT_EQ(refusal().kind, OpenFailure::Kind::newerVersion);
   EXPECT_EQ(contentOf(file_), before);
-  EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1.sqlite"));
+  EXPECT_FALSE(fs::exists(folder_ / "career.damaged-1"));
 }
 
 TEST_F(SqliteCareer, UpgradesOlderVersions) {
@@ -281,7 +382,7 @@ TEST_F(SqliteCareer, SurvivesAFullDiskAtAnyWrite) {
       ASSERT_EQ(store.dictionary(), begun);
       store.put("weekNumber", integer(1000 + room));
       for (std::int64_t piece = 0; piece < 8; ++piece) writePiece(store, piece, 2000);
-      FullDisk disk(room);
+      FaultyDisk disk(FaultyDisk::Fault::fullDisk, room);
       const auto done = store.commit();
       fitted = done.has_value();
       if (!done) EXPECT_EQ(done.error(), "The disk is full.");
@@ -305,7 +406,7 @@ TEST_F(SqliteCareer, ContinuesWhenTheDiskHasRoom) {
       store.put("weekNumber", integer(1000 + room));
       writePiece(store, room % 8, 3000);
       {
-        FullDisk disk(room);
+        FaultyDisk disk(FaultyDisk::Fault::fullDisk, room);
         (void)store.commit();
       }
       if (room % 3 == 0) ASSERT_TRUE(store.commit());
@@ -321,7 +422,7 @@ TEST_F(SqliteCareer, ReportsAFullDiskAtCreation) {
   for (int room = 0; !fitted; ++room) {
     ASSERT_LT(room, 100);
     {
-      FullDisk disk(room);
+      FaultyDisk disk(FaultyDisk::Fault::fullDisk, room);
       const auto port = SqlitePort::open(folder_);
       fitted = port.has_value();
       if (!port) {

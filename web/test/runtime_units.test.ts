@@ -1,6 +1,9 @@
 // Unit tests of the runtime without a browser.
 
 import assert from "node:assert/strict";
+import { spawn } from "node:child_process";
+import { createServer } from "node:http";
+import type { AddressInfo } from "node:net";
 import { test } from "node:test";
 
 import { localeFields } from "../src/runtime/locale";
@@ -8,6 +11,7 @@ import { MessageReader, MessageWriter } from "../src/runtime/message";
 import { type Change, joined, Pieces, readChanges } from "../src/runtime/pieces";
 import { Ticker } from "../src/runtime/ticker";
 import { wasiImports } from "../src/runtime/wasi";
+import { serve } from "../server.mjs";
 import * as make from "./gallery_nodes";
 
 const bytes = (...values: number[]) => new Uint8Array(values);
@@ -162,4 +166,26 @@ test("what the game logs comes line by line, emoji whole, even when it is writte
   assert.equal(write(text.subarray(22)), 0);
   assert.deepEqual(lines, ["rating save failed: 🎬"]);
   assert.equal((fd_write as (...values: number[]) => number)(5, 0, 0, 8), 8);
+});
+
+test("a taken port opens the game that is served there, and no other", async () => {
+  const start = (port: string) =>
+    new Promise<{ code: number | null; said: string }>((resolve) => {
+      const child = spawn("node", ["serve.mjs", "--port", port], { stdio: ["ignore", "pipe", "pipe"] });
+      let said = "";
+      for (const stream of [child.stdout, child.stderr]) stream.on("data", (part) => (said += String(part)));
+      child.on("close", (code) => resolve({ code, said }));
+    });
+  const game = await serve("dist", 0);
+  const found = await start(new URL(game.address).port);
+  await game.stop();
+  assert.deepEqual(found, { code: 0, said: `Top Billing is already served at ${game.address}\n` });
+
+  const other = createServer((_, response) => response.end()).listen(0, "127.0.0.1");
+  await new Promise((listening) => other.once("listening", listening));
+  const refused = await start(String((other.address() as AddressInfo).port));
+  other.close();
+  assert.equal(refused.code, 1);
+  assert.match(refused.said, /used by another program/);
+  assert.match((await start("cinema")).said, /is not a port/);
 });

@@ -97,6 +97,7 @@ bool Console::obey(const Input& input) {
   if (input.what == Input::What::nothing) return true;
 
   hint_.clear();
+  const bool warned = std::exchange(warned_, false);
   const Command command = commandIn(trimmed(cleaned(input.line)));
   if (command.number) {
     const auto target = seen.find(*command.number);
@@ -107,7 +108,7 @@ bool Console::obey(const Input& input) {
     if (!stillThere(target->first, target->second)) return true;
     return use(target->first, command.words);
   }
-  if (command.words == "q" || command.words == "Q") return false;
+  if (command.words == "q" || command.words == "Q") return !leave(warned);
   if (command.words.empty()) {
     scrollOn();
   } else if (command.words == "b" || command.words == "B") {
@@ -118,6 +119,14 @@ bool Console::obey(const Input& input) {
     hint_ = "That is not an option. " + std::string(firstHint);
   }
   return true;
+}
+
+// Asks once when leaving loses something. Returns whether the player leaves.
+bool Console::leave(bool warned) {
+  if (warned || app_.unsavedBecause().empty()) return true;
+  warned_ = true;
+  hint_ = "What you did last is not saved. q again leaves without it.";
+  return false;
 }
 
 bool Console::use(view::Handle handle, const std::string& words) {
@@ -247,13 +256,20 @@ void Console::show() {
   if (!page_.dialog.empty()) text += "\n" + joined(page_.dialog, shape.colours);
   text += joined(end.take(), shape.colours);
   if (page_.dialog.empty()) text += joined(page_.foot, shape.colours);
-  port_.show(text + joined(flushLines(hint_, shape.columns), shape.colours));
+  port_.show(text + joined(hintLines(shape.columns), shape.colours));
+}
+
+// The hint, after a warning for as long as nothing can be saved.
+std::vector<Line> Console::hintLines(int columns) const {
+  if (app_.unsavedBecause().empty()) return flushLines(hint_, columns);
+  const std::string warning = "Not saved: " + app_.unsavedBecause();
+  return flushLines(hint_.empty() ? warning : warning + "\n" + hint_, columns);
 }
 
 // The visible part of the page, with the title and the tabs always visible. A dialog covers the end of the
 // body, or all of it if it is long.
 std::string Console::window(const ConsolePort::Shape& shape) {
-  const std::vector<Line> hint = flushLines(hint_, shape.columns);
+  const std::vector<Line> hint = hintLines(shape.columns);
   const std::vector<Line> foot = page_.dialog.empty() ? page_.foot : std::vector<Line>{};
   constexpr int ruleAndPrompt = 2;
   const int fixed = static_cast<int>(page_.head.size() + foot.size() + hint.size()) + ruleAndPrompt;

@@ -57,6 +57,7 @@ class Console {
 
  private:
   bool obey(const Input& input);  // false when the player leaves
+  bool leave(bool warned);
   bool use(view::Handle handle, const std::string& words);
   bool type(view::Handle handle, const Target& field, std::string words);
   bool slide(view::Handle handle, const Target& slider, std::string words);
@@ -69,12 +70,14 @@ class Console {
   [[nodiscard]] bool stillThere(view::Handle handle, const Target& target);
   void paintAgain();
   void show();
+  [[nodiscard]] std::vector<Line> hintLines(int columns) const;
   [[nodiscard]] std::string window(const ConsolePort::Shape& shape);
 
   App& app_;
   ConsolePort& port_;
   PaintedPage page_;
   std::string hint_;       // about the last input
+  bool warned_ = false;    // the last input was q, and leaving loses something
   int passed_ = 0;         // number of the last shown passing line
   std::string place_;      // identifies the scrolled content
   std::size_t first_ = 0;  // first visible line of a long page

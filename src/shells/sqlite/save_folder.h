@@ -15,6 +15,7 @@ struct OpenFailure {
     alreadyOpen,   // another process has the file
     newerVersion,  // written by a later version of the game
     cannotWrite,   // missing folder or permission, or a full disk
+    diskError,     // a failed read, which says nothing about the file
   };
   Kind kind;
   std::string message;  // for the player

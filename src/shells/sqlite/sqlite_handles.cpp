@@ -106,6 +106,14 @@ Result<std::string> Database::text(std::string_view sql) const {
   return firstRow(sql).transform([](const Statement& row) { return row.text(0); });
 }
 
+bool Database::isWriteProtected() const { return sqlite3_db_readonly(database_.get(), "main") == 1; }
+
+bool Database::hasMoved() const {
+  int moved = 0;
+  sqlite3_file_control(database_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+  return moved != 0;
+}
+
 void Database::tidyWhenClosed(bool tidy) const {
   sqlite3_db_config(database_.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, tidy ? 0 : 1, nullptr);
 }

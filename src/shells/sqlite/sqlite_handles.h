@@ -65,6 +65,11 @@ class Database {
   [[nodiscard]] Result<std::int64_t> number(std::string_view sql) const;
   [[nodiscard]] Result<std::string> text(std::string_view sql) const;
 
+  [[nodiscard]] bool isWriteProtected() const;
+
+  // Whether the file was deleted, moved or replaced since it was opened. What is written then is lost.
+  [[nodiscard]] bool hasMoved() const;
+
   // Whether closing runs a checkpoint. If not, closing does not change the file.
   void tidyWhenClosed(bool tidy) const;
 

@@ -1,11 +1,13 @@
 #include "shells/sqlite/sqlite_port.h"
 
+#include <set>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "core/debug_log.h"
 #include "core/format.h"
+#include "shells/sqlite/failed_reads.h"
 
 namespace tb {
 
@@ -20,6 +22,12 @@ constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a 
 // Increment with every change of what is stored, here and in web/src/runtime/storage.ts. Version 2 added
 // columns, which version 1 takes for damaged rows.
 constexpr std::int64_t schemaVersion = 2;
+
+// Pages of the write-ahead log before it is copied into the file: two weeks of a busy career, ten of a quiet
+// one. Whoever copies only the file loses no more than these.
+constexpr int longestLog = 100;
+
+constexpr std::string_view logSuffix = "-wal";
 
 // Rows that no version of the game writes.
 constexpr std::string_view damagedRows =
@@ -96,6 +104,7 @@ Result<> setDurability(const Database& database) {
   if (!mode) return std::unexpected(mode.error());
   if (*mode != "wal")
     return std::unexpected(Error{SQLITE_IOERR, "the disk does not support a write-ahead log"});
+  if (auto done = database.run(tb::format("PRAGMA wal_autocheckpoint = {}", longestLog)); !done) return done;
   return database.run("PRAGMA synchronous = FULL");
 }
 
@@ -128,28 +137,74 @@ OpenFailure failureOf(const Error& error, const std::filesystem::path& file) {
           newerVersion,
           "This career was saved by a newer version of Top Billing. Update the game to play it; nothing was "
           "changed."};
+    case SQLITE_IOERR:
+      return {diskError, tb::format("Top Billing did not open the saves in {}, and changed nothing. {}",
+                                    file.parent_path().string(), sentence(error))};
     default:
       return {cannotWrite, tb::format("Top Billing cannot keep its saves in {}. {}",
                                       file.parent_path().string(), sentence(error))};
   }
 }
 
-// Renames the career file and SQLite's files beside it. Returns the new name.
-std::expected<std::filesystem::path, OpenFailure> moveAside(const std::filesystem::path& file) {
-  std::filesystem::path aside;
+constexpr std::string_view damagedName = "career.damaged-";
+
+std::filesystem::path damagedFolder(const std::filesystem::path& folder, int number) {
+  return folder / tb::format("{}{}", damagedName, number);
+}
+
+// Links a file to a second name, or copies it where the file system has no links.
+void duplicate(const std::filesystem::path& from, const std::filesystem::path& to, std::error_code& error) {
+  std::filesystem::create_hard_link(from, to, error);
+  if (error) std::filesystem::copy_file(from, to, error);
+}
+
+// Moves the career file and SQLite's files beside it to a folder of their own, together or not at all: the
+// folder gets its name when it is complete, and only then the files are removed here.
+std::expected<void, OpenFailure> moveAside(const std::filesystem::path& file) {
+  const std::filesystem::path folder = file.parent_path();
   std::error_code error;
-  int number = 0;
-  do {
-    number += 1;
-    aside = file.parent_path() / tb::format("career.damaged-{}.sqlite", number);
-  } while (std::filesystem::exists(aside, error));
-  for (const std::string_view companion : {"-wal", "-journal", "-shm", ""}) {
-    const std::filesystem::path from = file.string() + std::string(companion);
-    if (!std::filesystem::exists(from, error)) continue;
-    std::filesystem::rename(from, aside.string() + std::string(companion), error);
-    if (error) return std::unexpected(failureOf({SQLITE_READONLY, error.message()}, file));
+  int number = 1;
+  while (std::filesystem::exists(damagedFolder(folder, number), error)) number += 1;
+  const std::filesystem::path unfinished = folder / "career.damaged";
+  std::filesystem::remove_all(unfinished, error);
+  std::filesystem::create_directory(unfinished, error);
+  std::vector<std::filesystem::path> moved;
+  for (const std::string_view suffix : {std::string_view(), logSuffix, std::string_view("-journal")}) {
+    const std::filesystem::path from = file.string() + std::string(suffix);
+    if (error || !std::filesystem::exists(from, error)) continue;
+    duplicate(from, unfinished / from.filename(), error);
+    moved.push_back(from);
   }
-  return aside;
+  if (!error) std::filesystem::rename(unfinished, damagedFolder(folder, number), error);
+  for (const std::filesystem::path& from : moved) {
+    if (!error) std::filesystem::remove(from, error);
+  }
+  if (error) return std::unexpected(failureOf({SQLITE_CANTOPEN, error.message()}, file));
+  return {};
+}
+
+// About the damaged careers in the folder, if there are any.
+std::optional<Notice> noticeAboutDamage(const std::filesystem::path& folder) {
+  std::set<std::string> places;
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+    if (entry.path().filename().string().starts_with(damagedName)) places.insert(entry.path().string());
+  }
+  if (places.empty()) return std::nullopt;
+  std::string message = "A career could not be read. Its files were kept:\n";
+  for (const std::string& place : places) message += "\n" + place;
+  return Notice{"⚠️ Career File Damaged ⚠️",
+                message + "\n\nThis notice is shown at every start until they are moved or deleted."};
+}
+
+// SQLite deletes a log beside an empty file, and with it the weeks that are only in the log.
+bool hasLogWithoutFile(const std::filesystem::path& file) {
+  const auto size = [](const std::filesystem::path& path) {
+    std::error_code error;
+    const auto bytes = std::filesystem::file_size(path, error);
+    return error ? std::uintmax_t{0} : bytes;
+  };
+  return size(file) == 0 && size(file.string() + std::string(logSuffix)) > 0;
 }
 
 }  // namespace
@@ -159,21 +214,15 @@ std::expected<std::unique_ptr<SqlitePort>, OpenFailure> SqlitePort::open(
   auto lock = FolderLock::take(folder);
   if (!lock) return std::unexpected(lock.error());
   const std::filesystem::path file = folder / "career.sqlite";
-  std::optional<Notice> notice;
   auto career = openCareer(file);
   if (!career && isDamage(career.error())) {
     debugLog("career.sqlite: " + career.error().message);
-    const auto aside = moveAside(file);
-    if (!aside) return std::unexpected(aside.error());
-    notice =
-        Notice{"⚠️ Career File Damaged ⚠️",
-               tb::format("Your career could not be read. The damaged file was kept as {}, and a new career "
-                          "begins.",
-                          aside->string())};
+    if (auto aside = moveAside(file); !aside) return std::unexpected(aside.error());
     career = openCareer(file);
   }
   if (!career) return std::unexpected(failureOf(career.error(), file));
-  return std::unique_ptr<SqlitePort>(new SqlitePort(*std::move(lock), *std::move(career), std::move(notice)));
+  return std::unique_ptr<SqlitePort>(
+      new SqlitePort(*std::move(lock), *std::move(career), noticeAboutDamage(folder)));
 }
 
 SqlitePort::SqlitePort(FolderLock lock, Career career, std::optional<Notice> notice)
@@ -182,6 +231,11 @@ SqlitePort::SqlitePort(FolderLock lock, Career career, std::optional<Notice> not
 std::vector<StoredPiece> SqlitePort::load() { return std::exchange(career_.pieces, {}); }
 
 std::expected<void, std::string> SqlitePort::commit(std::span<const StoreChange> changes) {
+  if (career_.database.hasMoved()) {
+    return std::unexpected(
+        "The career file or its folder was moved or deleted. Put it back, or close the game and start it "
+        "again.");
+  }
   auto done = career_.database.run("BEGIN IMMEDIATE");
   if (done) done = applyAll(changes);
   if (done) done = career_.database.run("COMMIT");
@@ -190,8 +244,19 @@ std::expected<void, std::string> SqlitePort::commit(std::span<const StoreChange>
   return std::unexpected(sentence(done.error()));
 }
 
-// Writes nothing, not even on closing, until the file is known to be an intact career of this game.
+// A read that the disk refused can look like damage to SQLite.
 Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& file) {
+  if (hasLogWithoutFile(file)) return damaged("there is a log without its file");
+  const sqlite::FailedReads reads;
+  auto career = openSoundCareer(file);
+  if (!career && isDamage(career.error()) && !reads.reason().empty()) {
+    return std::unexpected(Error{SQLITE_IOERR, reads.reason()});
+  }
+  return career;
+}
+
+// Writes nothing, not even on closing, until the file is known to be an intact career of this game.
+Result<SqlitePort::Career> SqlitePort::openSoundCareer(const std::filesystem::path& file) {
   auto database = Database::open(file);
   if (!database) return std::unexpected(database.error());
   database->tidyWhenClosed(false);
@@ -206,6 +271,7 @@ Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& f
     if (!check) return std::unexpected(check.error());
     if (*check != "ok") return damaged(*check);
   }
+  if (database->isWriteProtected()) return std::unexpected(Error{SQLITE_READONLY, ""});
   if (auto done = setDurability(*database); !done) return std::unexpected(done.error());
   if (marks->isNew()) {
     if (auto done = createTables(*database); !done) return std::unexpected(done.error());
@@ -228,7 +294,10 @@ Result<SqlitePort::Career> SqlitePort::prepareCareer(Database database) {
       "INSERT INTO kept_aside (key, piece, shape, value) SELECT ?1, ?2, ?3, ?4 WHERE NOT EXISTS "
       "(SELECT 1 FROM kept_aside WHERE key = ?1 AND piece = ?2 AND shape = ?3 AND value = ?4)");
   for (const auto* const statement : {&put, &drop, &dropKey, &dropAll, &keepAside}) {
-    if (!*statement) return damaged(statement->error().message);  // has our mark but not our tables
+    if (*statement) continue;
+    // A statement that does not fit the tables: the file has our mark but not our tables.
+    if (statement->error().code == SQLITE_ERROR) return damaged(statement->error().message);
+    return std::unexpected(statement->error());
   }
   return Career{std::move(database),
                 *std::move(put),

@@ -8,9 +8,10 @@
 //   pieces       the pieces of the save store, one per row
 //   kept_aside   unreadable pieces, for manual recovery; the game does not read them
 //
-// A damaged file, or one that is not a career, is renamed to career.damaged-<n>.sqlite, never deleted. If
-// single rows are damaged, all rows of their keys are moved to kept_aside and the rest of the career is
-// loaded.
+// A damaged file, or one that is not a career, is moved with its log to the folder career.damaged-<n>, never
+// deleted. Every start tells where it is until that folder is gone. A file that the disk cannot read is not
+// damaged: the game does not start and changes nothing. If single rows are damaged, all rows of their keys
+// are moved to kept_aside and the rest of the career is loaded.
 
 #include <expected>
 #include <filesystem>
@@ -34,7 +35,7 @@ class SqlitePort : public StorePort {
   [[nodiscard]] static std::expected<std::unique_ptr<SqlitePort>, OpenFailure> open(
       const std::filesystem::path& folder);
 
-  // A notice about where a damaged career was moved, if any.
+  // A notice about where damaged careers are, if any.
   [[nodiscard]] const std::optional<Notice>& notice() const { return notice_; }
 
   std::vector<StoredPiece> load() override;
@@ -54,6 +55,7 @@ class SqlitePort : public StorePort {
 
   SqlitePort(FolderLock lock, Career career, std::optional<Notice> notice);
   static sqlite::Result<Career> openCareer(const std::filesystem::path& file);
+  static sqlite::Result<Career> openSoundCareer(const std::filesystem::path& file);
   static sqlite::Result<Career> prepareCareer(sqlite::Database database);
   static sqlite::Result<> readPieces(Career& career);
   sqlite::Result<> apply(const StoreChange& change);
