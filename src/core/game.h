@@ -10,6 +10,7 @@
 
 namespace tb {
 
+class Documents;
 class SaveStore;
 
 struct Game {
@@ -20,6 +21,9 @@ struct Game {
   WorldState stored = {};  // the plain variables as the store holds them (core/save.h); its lists stay empty
   RecentRows recentRows = {};
   Clock clock = stoppedClock;
+  Documents* documents = nullptr;  // null where the shell keeps none: there are no slots and no backups then
+  // A rule replaced the content of the store: the App loads it when the action ends, instead of saving.
+  bool loadsStore = false;
 };
 
 }  // namespace tb

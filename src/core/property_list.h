@@ -60,6 +60,11 @@ inline constexpr std::size_t maximumDepth = 64;
 
 [[nodiscard]] std::expected<Value, ReadError> read(std::span<const std::byte> file);
 
+// The entries of the root dictionary with these keys, in the file's order. Decodes nothing else, so damage
+// elsewhere in the file goes unnoticed.
+[[nodiscard]] std::expected<Dictionary, ReadError> readEntries(std::span<const std::byte> file,
+                                                               std::span<const std::string_view> keys);
+
 // Always succeeds; text must be UTF-8 (ill-formed bytes are written as U+FFFD).
 [[nodiscard]] Bytes write(const Value& root);
 

@@ -45,6 +45,29 @@ class ValueReader {
     std::unreachable();
   }
 
+  // The entries of a dictionary; only those with these keys if `keys` is not null.
+  std::expected<Dictionary, ReadError> entries(const Object& object,
+                                               const std::span<const std::string_view>* keys) {
+    if (!budget_.spend(object.entries, sizeof(Dictionary::value_type))) {
+      return std::unexpected(ReadError::tooMuchWork);
+    }
+    Dictionary dictionary;
+    dictionary.reserve(keys == nullptr ? object.entries : keys->size());
+    for (std::size_t index = 0; index < object.entries; ++index) {
+      auto key =
+          objects_.object(objects_.referenceAt(object.content, index)).and_then([&](const Object& name) {
+            return textOf(name, budget_);
+          });
+      if (!key) return std::unexpected(key.error());
+      if (keys != nullptr && !std::ranges::contains(*keys, *key)) continue;
+      auto held = value(objects_.referenceAt(object.content, object.entries + index));
+      if (!held) return std::unexpected(held.error());
+      dictionary.emplace_back(*std::move(key), *std::move(held));
+    }
+    if (namesAKeyTwice(dictionary)) return std::unexpected(ReadError::badObject);
+    return dictionary;
+  }
+
  private:
   std::expected<Value, ReadError> data(const Object& object) {
     if (!budget_.spend(object.entries)) return std::unexpected(ReadError::tooMuchWork);
@@ -79,23 +102,7 @@ class ValueReader {
   }
 
   std::expected<Value, ReadError> dictionary(const Object& object) {
-    if (!budget_.spend(object.entries, sizeof(Dictionary::value_type))) {
-      return std::unexpected(ReadError::tooMuchWork);
-    }
-    Dictionary dictionary;
-    dictionary.reserve(object.entries);
-    for (std::size_t index = 0; index < object.entries; ++index) {
-      auto key =
-          objects_.object(objects_.referenceAt(object.content, index)).and_then([&](const Object& name) {
-            return textOf(name, budget_);
-          });
-      if (!key) return std::unexpected(key.error());
-      auto held = value(objects_.referenceAt(object.content, object.entries + index));
-      if (!held) return held;
-      dictionary.emplace_back(*std::move(key), *std::move(held));
-    }
-    if (namesAKeyTwice(dictionary)) return std::unexpected(ReadError::badObject);
-    return Value{std::move(dictionary)};
+    return entries(object, nullptr).transform([](Dictionary&& all) { return Value{std::move(all)}; });
   }
 
   const Objects& objects_;
@@ -136,6 +143,16 @@ std::string_view describe(ReadError error) {
 std::expected<Value, ReadError> read(std::span<const std::byte> file) {
   return Objects::open(file).and_then(
       [&](const Objects& objects) { return ValueReader(objects, file.size()).value(objects.root()); });
+}
+
+std::expected<Dictionary, ReadError> readEntries(std::span<const std::byte> file,
+                                                 std::span<const std::string_view> keys) {
+  const auto objects = Objects::open(file);
+  if (!objects) return std::unexpected(objects.error());
+  const auto root = objects->object(objects->root());
+  if (!root) return std::unexpected(root.error());
+  if (root->kind != ObjectKind::dictionary) return std::unexpected(ReadError::badObject);
+  return ValueReader(*objects, file.size()).entries(*root, &keys);
 }
 
 }  // namespace tb::plist

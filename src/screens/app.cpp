@@ -5,19 +5,32 @@
 
 #include "core/load_world.h"
 #include "core/save.h"
+#include "core/save_backups.h"
 #include "core/save_store.h"
 #include "screens/hub/view_controller.h"
 #include "week/end_week.h"
 
 namespace tb {
 
-App::App(SaveStore& store, RandomSource& random, Locale locale, Clock clock)
-    : App(store, random, std::move(locale), std::make_unique<ViewController>(), clock) {}
+namespace {
 
-App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first, Clock clock)
-    : game_{.store = store, .random = random, .locale = std::move(locale), .clock = clock}, stage_(game_) {
-  loadWorld(game_);
-  stage_.open(std::move(first));
+constexpr Int schemaVersion = 1;  // of the variables; the stores have their own
+
+}  // namespace
+
+App::App(SaveStore& store, RandomSource& random, Locale locale, Clock clock, Documents* documents)
+    : App(store, random, std::move(locale), std::make_unique<ViewController>(), clock, documents) {}
+
+App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first, Clock clock,
+         Documents* documents)
+    : game_{.store = store,
+            .random = random,
+            .locale = std::move(locale),
+            .clock = clock,
+            .documents = documents},
+      stage_(game_) {
+  loadStore();
+  stage_.beginWith(std::move(first));
   saveChanges(game_);
   endAction();
 }
@@ -74,6 +87,12 @@ void App::back() {
   endAction();
 }
 
+void App::goOn(const std::function<void()>& rest) {
+  stage_.begin();
+  rest();
+  endAction();
+}
+
 void App::savingFailed(const std::string& why) {
   if (unsaved_because_.empty()) {
     stage_.show(
@@ -91,18 +110,35 @@ void App::tell(Notice notice) {
   laid_out_.reset();
 }
 
+void App::loadStore() {
+  game_.recentRows = {};
+  loadWorld(game_);
+  game_.world.saveSchemaVersion = schemaVersion;
+  backed_up_year_ = game_.world.yearNumber;
+}
+
 void App::saveAndRefresh() {
   if (!saveChanges(game_)) return;
   refreshHub(game_, HubRefresh::worldChanged);
   saveChanges(game_);
 }
 
+void App::backUpAtNewYear() {
+  if (std::exchange(backed_up_year_, game_.world.yearNumber) == game_.world.yearNumber) return;
+  SaveBackupManager::backUp(game_);
+}
+
 // Refreshes the hub, which can end a year, both before opened screens appear and after, because appear() can
 // change the state.
 void App::endAction() {
+  if (std::exchange(game_.loadsStore, false)) {
+    loadStore();
+    stage_.beginWith(std::make_unique<ViewController>());
+  }
   saveAndRefresh();
   stage_.settle();
   saveAndRefresh();
+  backUpAtNewYear();
   laid_out_.reset();
   if (!game_.store.hasUncommitted()) return;
   if (const auto saved = game_.store.commit(); saved) {

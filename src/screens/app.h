@@ -2,6 +2,7 @@
 
 // The game's interface to a shell: the page to show, and the player's input.
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,12 +15,14 @@ namespace tb {
 
 class App {
  public:
-  // Loads the career from the store, or opens the new-career form.
-  App(SaveStore& store, RandomSource& random, Locale locale = {}, Clock clock = stoppedClock);
+  // Loads the career from the store, or opens the new-career form. Without `documents` there are no slots and
+  // backups.
+  App(SaveStore& store, RandomSource& random, Locale locale = {}, Clock clock = stoppedClock,
+      Documents* documents = nullptr);
 
   // The same with another first screen, for tests of a single screen or shell.
   App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<Screen> first,
-      Clock clock = stoppedClock);
+      Clock clock = stoppedClock, Documents* documents = nullptr);
 
   // The current page. Valid until the next call of another function.
   [[nodiscard]] const view::Page& view();
@@ -32,6 +35,9 @@ class App {
 
   // `seconds` (0 and up) have passed.
   void tick(double seconds);
+
+  // Runs the rest of an action whose document has been read by now.
+  void goOn(const std::function<void()>& rest);
 
   // Leaves the top screen if it can be left; on a tab of the hub, goes to the first tab.
   void back();
@@ -51,13 +57,16 @@ class App {
   template <class Kind, class... Values>
   void use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&... values);
   void addFrame(view::Page& page);
+  void loadStore();
   void saveAndRefresh();
+  void backUpAtNewYear();
   void endAction();
 
   Game game_;
   Stage stage_;
   std::optional<LaidOutPage> laid_out_;
   std::string unsaved_because_;
+  Int backed_up_year_ = 0;  // or the year in which the career was loaded
 };
 
 }  // namespace tb

@@ -39,6 +39,12 @@ void Stage::leaveTo(std::size_t depth, const Operation& then) {
   if (then) then(*this);
 }
 
+void Stage::beginWith(std::unique_ptr<Screen> first) {
+  for (Standing& standing : screens_) left_.push_back(std::move(standing.screen));
+  screens_.clear();
+  open(std::move(first));
+}
+
 void Stage::renewFirst() {
   screens_.front().number = ++opened_;
   screens_.front().listPages.clear();

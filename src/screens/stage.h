@@ -81,6 +81,9 @@ class Stage {
   // Leaves all screens but the first in the same way, then runs `then`.
   void leaveToFirst(Operation then);
 
+  // Closes all screens and opens a new first one, for another career. Notices stay.
+  void beginWith(std::unique_ptr<Screen> first);
+
   // Gives the first screen a new number: its lists go to their first page, and a shell scrolls to its top.
   void renewFirst();
 

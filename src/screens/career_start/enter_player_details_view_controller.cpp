@@ -4,7 +4,9 @@
 
 #include "core/format.h"
 #include "core/text.h"
+#include "screens/career_start/slot_picker_view_controller.h"
 #include "screens/headshot.h"
+#include "screens/parts.h"
 
 namespace tb {
 
@@ -77,30 +79,33 @@ void EnterPlayerDetailsViewController::confirm(Stage& stage) {
 }
 
 Page EnterPlayerDetailsViewController::view(const Game& game) {
-  return {.title = "A star is cast",
-          .subtitle = tb::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
-          .nodes =
-              {
-                  Field{.label = "Stage name",
-                        .value = form_.myName,
-                        .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
-                        .hint = "As it appears on posters",
-                        .maximumLength = 40},
-                  ageSlider(game),
-                  genders(),
-                  headshots(game),
-                  Field{.label = "Biography",
-                        .value = form_.aboutDescription,
-                        .type = [this](Stage&,
-                                       const std::string& about) { form_.aboutDescription = trimmed(about); },
-                        .hint = "A line or two about who you are",
-                        .maximumLength = 280,
-                        .severalLines = true},
-              },
-          .main = {{.label = "Start my career",
-                    .press = [this](Stage& stage) { confirm(stage); },
-                    .weight = Button::Weight::primary}},
-          .offersSaves = true};
+  Page page{
+      .title = "A star is cast",
+      .subtitle = tb::format("Hollywood, {}. Nobody knows your name yet.", firstYear),
+      .nodes =
+          {
+              Field{.label = "Stage name",
+                    .value = form_.myName,
+                    .type = [this](Stage&, const std::string& name) { form_.myName = trimmed(name); },
+                    .hint = "As it appears on posters",
+                    .maximumLength = 40},
+              ageSlider(game),
+              genders(),
+              headshots(game),
+              Field{.label = "Biography",
+                    .value = form_.aboutDescription,
+                    .type = [this](Stage&,
+                                   const std::string& about) { form_.aboutDescription = trimmed(about); },
+                    .hint = "A line or two about who you are",
+                    .maximumLength = 280,
+                    .severalLines = true},
+          },
+      .main = {{.label = "Start my career",
+                .press = [this](Stage& stage) { confirm(stage); },
+                .weight = Button::Weight::primary}},
+      .offersSaves = true};
+  if (hasOtherCareers(game)) page.nodes.push_back(leadingTo<SlotPickerViewController>("Choose a save"));
+  return page;
 }
 
 }  // namespace tb

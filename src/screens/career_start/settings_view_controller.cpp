@@ -1,6 +1,11 @@
 #include "screens/career_start/settings_view_controller.h"
 
+#include <utility>
+
 #include "core/career_start.h"
+#include "core/save_backups.h"
+#include "screens/career_start/backups_view_controller.h"
+#include "screens/career_start/slot_picker_view_controller.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -10,6 +15,7 @@ using namespace view;
 namespace {
 
 void restart(Stage& stage) {
+  SaveBackupManager::backUp(stage.game());
   restartCareer(stage.game());
   stage.close();
 }
@@ -26,13 +32,16 @@ void askForRestart(Stage& stage) {
 }  // namespace
 
 Page SettingsViewController::view(const Game& game) {
-  return {.title = "Settings",
-          .nodes = {Section{.heading = "CAREER",
-                            .nodes = {Text{.text = game.world.myName + ", and everything that came of it."},
-                                      Button{.label = "Restart?",
-                                             .press = askForRestart,
-                                             .weight = Button::Weight::destructive}}}},
-          .offersSaves = true};
+  Section career{.heading = "CAREER",
+                 .nodes = {Text{.text = game.world.myName + ", and everything that came of it."}}};
+  if (game.documents != nullptr) {
+    career.nodes.push_back(
+        leadingTo<SlotPickerViewController>("Choose a save", "Three careers side by side, and their bank"));
+    career.nodes.push_back(leadingTo<BackupsViewController>("Backups", "Go back to an earlier year"));
+  }
+  career.nodes.push_back(
+      Button{.label = "Restart?", .press = askForRestart, .weight = Button::Weight::destructive});
+  return {.title = "Settings", .nodes = {std::move(career)}, .offersSaves = true};
 }
 
 }  // namespace tb

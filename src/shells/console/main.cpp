@@ -12,6 +12,7 @@
 #include "screens/app.h"
 #include "shells/console/console.h"
 #include "shells/console/terminal.h"
+#include "shells/native/document_folder.h"
 #include "shells/native/system_locale.h"
 #include "shells/native/system_random.h"
 #include "shells/sqlite/save_folder.h"
@@ -80,10 +81,11 @@ std::expected<std::filesystem::path, tb::OpenFailure> folderFor(const Options& o
   return *options.folder;
 }
 
-int play(tb::SqlitePort& port) {
+int play(tb::SqlitePort& port, const std::filesystem::path& folder) {
   tb::SaveStore store(port);
   tb::SystemRandom random;
-  tb::App app(store, random, tb::systemLocale(), tb::systemClock);
+  tb::DocumentFolder documents(folder);
+  tb::App app(store, random, tb::systemLocale(), tb::systemClock, &documents);
   if (port.notice()) app.tell(*port.notice());
   {
     tb::console::Terminal terminal;
@@ -100,10 +102,11 @@ int play(tb::SqlitePort& port) {
 int main(int count, char** words) {
   const Options options = readOptions(count, words);
   if (options.exitCode) return *options.exitCode;
-  const auto port = folderFor(options).and_then(tb::SqlitePort::open);
+  const auto folder = folderFor(options);
+  const auto port = folder.and_then(tb::SqlitePort::open);
   if (!port) {
     std::println(stderr, "{}", port.error().message);
     return failure;
   }
-  return play(**port);
+  return play(**port, *folder);
 }

@@ -1,0 +1,143 @@
+#include "core/save_backups.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "core/debug_log.h"
+#include "core/format.h"
+#include "core/save_slots.h"
+#include "core/save_store.h"
+#include "core/stored_value.h"
+
+namespace tb {
+
+namespace {
+
+using Manager = SaveBackupManager;
+
+constexpr std::string_view namePrefix = "save-";
+
+std::string twoDigits(std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+// Such as "save-2026-11-22-093000.plist". In UTC: the order of names is the order of time wherever the player
+// travels.
+std::string backupName(plist::Date date) {
+  using namespace std::chrono;
+  const sys_seconds time =
+      sys_days{2001y / January / 1} + seconds(static_cast<std::int64_t>(std::floor(date.seconds)));
+  const year_month_day day{floor<days>(time)};
+  const hh_mm_ss clock{time - floor<days>(time)};
+  return tb::format("{}{}-{}-{}-{}{}{}.{}", namePrefix, static_cast<int>(day.year()),
+                    twoDigits(static_cast<unsigned>(day.month())),
+                    twoDigits(static_cast<unsigned>(day.day())), twoDigits(clock.hours().count()),
+                    twoDigits(clock.minutes().count()), twoDigits(clock.seconds().count()),
+                    Manager::fileExtension);
+}
+
+// Oldest first.
+std::vector<DocumentSummary> backups(const Game& game) {
+  if (game.documents == nullptr) return {};
+  auto all = game.documents->list(Manager::backupFolderName);
+  std::erase_if(all, [](const DocumentSummary& document) {
+    return !document.name.starts_with(namePrefix) || !document.name.ends_with(Manager::fileExtension);
+  });
+  return all;
+}
+
+// Two backups can be made within a second: the later one gets the next free name.
+std::string freeName(const std::vector<DocumentSummary>& taken, plist::Date date) {
+  std::string name = backupName(date);
+  while (std::ranges::contains(taken, name, &DocumentSummary::name)) {
+    date.seconds += 1;
+    name = backupName(date);
+  }
+  return name;
+}
+
+Manager::BackupInfo infoOf(const DocumentSummary& document) {
+  const plist::Dictionary head = document.head.value_or(plist::Dictionary{});
+  return {.url = document.name,
+          .createdAt = document.changed,
+          .playerName = storedValue<std::string>(head, "myName"),
+          .week = storedValue<Int>(head, "weekNumberForTracking"),
+          .year = storedValue<Int>(head, "yearNumber"),
+          .cash = storedValue<Real>(head, "totalCashAvailable"),
+          .sizeBytes = document.size,
+          .isReadable = document.head.has_value()};
+}
+
+std::optional<plist::Dictionary> careerIn(const std::optional<Bytes>& content) {
+  if (!content) return std::nullopt;
+  const auto value = plist::read(*content);
+  if (!value) {
+    debugLog("SaveBackupManager: restore failed: " + std::string(plist::describe(value.error())));
+    return std::nullopt;
+  }
+  const auto* const values = value->as<plist::Dictionary>();
+  if (values == nullptr || !hasBegun(*values)) return std::nullopt;
+  return *values;
+}
+
+// The restored career continues in the slot that it was in.
+void replaceStore(Game& game, plist::Dictionary values) {
+  for (auto& [key, value] : SlotManager::sharedValues(game.world)) {
+    if (!std::ranges::contains(values, key, &plist::Dictionary::value_type::first)) {
+      values.emplace_back(key, std::move(value));
+    }
+  }
+  game.store.replace(values);
+  game.loadsStore = true;
+}
+
+}  // namespace
+
+bool SaveBackupManager::backUp(Game& game) { return backUp(game, game.store.dictionary()); }
+
+bool SaveBackupManager::backUp(Game& game, const plist::Dictionary& values) {
+  if (game.documents == nullptr || !hasBegun(values)) return false;
+  const auto done = game.documents->write(backupFolderName, freeName(backups(game), game.clock()),
+                                          plist::write(plist::Value{values}));
+  if (!done) {
+    debugLog(std::string(done.error().isFolder ? "SaveBackupManager: could not create backup directory: "
+                                               : "SaveBackupManager: backup write failed: ") +
+             done.error().reason);
+    return false;
+  }
+  const auto all = backups(game);
+  for (std::size_t oldest = 0; oldest + maxBackups < all.size(); ++oldest) remove(game, all[oldest].name);
+  return true;
+}
+
+std::vector<SaveBackupManager::BackupInfo> SaveBackupManager::list(const Game& game) {
+  std::vector<BackupInfo> infos;
+  for (const DocumentSummary& document : backups(game)) infos.push_back(infoOf(document));
+  std::ranges::reverse(infos);
+  return infos;
+}
+
+void SaveBackupManager::restore(Game& game, const std::string& url, std::function<void(bool)> then) {
+  if (game.documents == nullptr) return then(false);
+  game.documents->read(backupFolderName, url,
+                       [&game, then = std::move(then)](const std::optional<Bytes>& content) {
+                         auto values = careerIn(content);
+                         const bool restores = values && SlotManager::saveCurrent(game);
+                         if (restores) {
+                           backUp(game);
+                           replaceStore(game, *std::move(values));
+                         }
+                         then(restores);
+                       });
+}
+
+void SaveBackupManager::remove(Game& game, const std::string& url) {
+  if (game.documents == nullptr) return;
+  if (const auto done = game.documents->remove(backupFolderName, url); !done) {
+    debugLog("SaveBackupManager: backup write failed: " + done.error());
+  }
+}
+
+}  // namespace tb

@@ -1,0 +1,51 @@
+#pragma once
+
+// Backups: dated copies of the whole store. The game makes one by itself at each new year and before a
+// restore, a switch or deletion of a slot, or a restart.
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/documents.h"
+#include "core/game.h"
+
+namespace tb {
+
+class SaveBackupManager {
+ public:
+  static constexpr std::size_t maxBackups = 8;
+  static constexpr std::string_view backupFolderName = "SaveBackups";
+  static constexpr std::string_view fileExtension = "plist";
+
+  struct BackupInfo {
+    std::string url;  // the document's name in the folder
+    plist::Date createdAt;
+    std::string playerName;
+    Int week = 0;
+    Int year = 0;
+    Real cash = 0;
+    Int sizeBytes = 0;
+    bool isReadable = true;
+  };
+
+  // Backs up the store and removes the oldest backups beyond maxBackups. Returns false when nothing was
+  // written: without documents, before the new-career form is done, or after a failure, which is logged.
+  static bool backUp(Game& game);
+
+  // The same with the content of a slot.
+  static bool backUp(Game& game, const plist::Dictionary& values);
+
+  // Newest first.
+  [[nodiscard]] static std::vector<BackupInfo> list(const Game& game);
+
+  // Replaces the store with a backup, after backing the store up. A backup of another slot continues that
+  // slot, and the career in play is saved to its own. A backup without the keys that belong to no slot leaves
+  // them as they are. `then` gets false when the backup can't be read, and nothing was changed.
+  static void restore(Game& game, const std::string& url, std::function<void(bool)> then);
+
+  static void remove(Game& game, const std::string& url);
+};
+
+}  // namespace tb

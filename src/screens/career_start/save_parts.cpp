@@ -1,0 +1,37 @@
+#include "screens/career_start/save_parts.h"
+
+#include <algorithm>
+
+#include "core/format.h"
+#include "core/number_style.h"
+#include "core/text.h"
+
+namespace tb {
+
+std::string timeAgo(plist::Date then, plist::Date now) {
+  constexpr double minute = 60;
+  constexpr double hour = 60 * minute;
+  constexpr double day = 24 * hour;
+  const double seconds = now.seconds - then.seconds;
+  if (!(seconds >= minute)) return "just now";
+  const auto times = [seconds](double unit, const char* name) {
+    return counted(static_cast<std::int64_t>(std::min(seconds / unit, 1e9)), name) + " ago";
+  };
+  if (seconds < hour) return times(minute, "minute");
+  return seconds < day ? times(hour, "hour") : times(day, "day");
+}
+
+std::string fileSize(const Locale& locale, std::int64_t bytes) {
+  constexpr std::int64_t kilobyte = 1000;
+  constexpr std::int64_t megabyte = 1000 * kilobyte;
+  if (bytes < megabyte) return tb::format("{} KB", std::max<std::int64_t>(bytes / kilobyte, 1));
+  const std::int64_t tenths = bytes / (megabyte / 10);
+  return tb::format("{}{}{} MB", plainCount(locale, tenths / 10), locale.decimalPoint, tenths % 10);
+}
+
+std::string shownCount(const Locale& locale, std::int64_t count) {
+  const std::string brief = shortCount(count);
+  return brief.empty() ? plainCount(locale, count) : brief;
+}
+
+}  // namespace tb

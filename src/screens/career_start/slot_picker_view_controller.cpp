@@ -1,0 +1,151 @@
+#include "screens/career_start/slot_picker_view_controller.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/format.h"
+#include "core/number_style.h"
+#include "core/save_slots.h"
+#include "core/text.h"
+#include "screens/career_start/save_parts.h"
+#include "screens/parts.h"
+
+namespace tb {
+
+using namespace view;
+
+namespace {
+
+using Summary = SlotManager::SlotSummary;
+
+Operation plays(Int index) {
+  return [index](Stage& stage) {
+    SlotManager::switchTo(stage.game(), index, [&stage](bool done) {
+      if (!done) stage.say("That save could not be opened. Your career is as it was.");
+    });
+  };
+}
+
+void askToDelete(Stage& stage, const Summary& slot) {
+  const std::string name = slot.isReadable ? slot.name : "This save";
+  stage.ask({.title = tb::format("Delete {}?", slot.isReadable ? slot.name : "this save"),
+             .message = slot.isReadable ? name + " leaves this slot. A last backup of the career is kept."
+                                        : name + " is damaged and can't be opened. No backup is made."},
+            {{.label = "Keep it", .weight = Button::Weight::primary},
+             {.label = "Delete",
+              .press = [index = slot.index](Stage& above) { SlotManager::remove(above.game(), index); },
+              .weight = Button::Weight::destructive}});
+}
+
+Button deletion(const Summary& slot) {
+  return {.label = "Delete",
+          .press = [slot](Stage& stage) { askToDelete(stage, slot); },
+          .name = "Delete " + slot.name,
+          .weight = Button::Weight::quiet};
+}
+
+Text figures(const Game& game, const Summary& slot) {
+  return {.text = tb::format("{} fans   ·   🎬 {} box office", shownCount(game.locale, slot.fans),
+                             shownMoney(game.locale, static_cast<Real>(slot.boxOffice)))};
+}
+
+// When a career was last played; an active one is being played.
+std::string whenPlayed(const Game& game, const Summary& slot) {
+  if (!slot.lastPlayed) return "In play";
+  return "Last played " + timeAgo(*slot.lastPlayed, game.clock());
+}
+
+Card fullSlot(const Game& game, const Summary& slot) {
+  Card card{.title = slot.name,
+            .subtitle = tb::format("{} · {}", slot.year, whenPlayed(game, slot)),
+            .nodes = {figures(game, slot), caption("Net worth " + shownMoney(game.locale, slot.netWorth))}};
+  if (!slot.lastPlayed) return card;
+  card.nodes.push_back(Buttons{{{.label = "Play",
+                                 .press = plays(slot.index),
+                                 .name = "Play " + slot.name,
+                                 .weight = Button::Weight::primary},
+                                deletion(slot)}});
+  return card;
+}
+
+Card damagedSlot(const Summary& slot) {
+  return {.title = "A damaged save", .subtitle = "It can't be opened.", .nodes = {Buttons{{deletion(slot)}}}};
+}
+
+Node slotNode(const Game& game, const Summary& slot) {
+  if (!slot.isReadable) return damagedSlot(slot);
+  if (!slot.isEmpty) return fullSlot(game, slot);
+  Row row{.label = "Empty — start a new career"};
+  if (slot.index == SlotManager::activeSlot(game.world)) {
+    row.detail = "In play";
+  } else {
+    row.press = plays(slot.index);
+  }
+  return row;
+}
+
+// A whole amount, with group separators or without; 0 for other text.
+Real amountIn(const Locale& locale, const std::string& typed) {
+  constexpr std::size_t maximumDigits = 15;
+  std::string digits;
+  for (std::size_t at = 0; at < typed.size();) {
+    if (!locale.groupSeparator.empty() &&
+        typed.compare(at, locale.groupSeparator.size(), locale.groupSeparator) == 0) {
+      at += locale.groupSeparator.size();
+    } else if (typed[at] >= '0' && typed[at] <= '9') {
+      digits += typed[at++];
+    } else {
+      return 0;
+    }
+  }
+  return digits.empty() || digits.size() > maximumDigits ? 0 : static_cast<Real>(std::stoll(digits));
+}
+
+std::string whyNot(Real amount, Real source, const char* lack) {
+  if (!(amount > 0)) return "Enter an amount first";
+  return amount > source ? lack : "";
+}
+
+}  // namespace
+
+bool hasOtherCareers(const Game& game) {
+  const auto slots = SlotManager::summaries(game);
+  return std::ranges::any_of(slots, [&game](const Summary& slot) {
+    return !slot.isEmpty && slot.index != SlotManager::activeSlot(game.world);
+  });
+}
+
+Section SlotPickerViewController::bank(const Game& game) {
+  const Real amount = amountIn(game.locale, amount_);
+  const WorldState& world = game.world;
+  const auto moving = [this, amount](bool (*move)(WorldState&, Real)) {
+    return [this, amount, move](Stage& stage) {
+      if (move(stage.game().world, amount)) amount_.clear();
+    };
+  };
+  return {
+      .heading = "THE BANK",
+      .nodes = {Text{.text = "Shared across all your saves — move cash between this save and the bank."},
+                Tiles{{{.label = "In the bank", .value = shownMoney(game.locale, world.crossSaveVault)},
+                       {.label = "Your cash", .value = cash(game.locale, world.totalCashAvailable)}}},
+                Field{.label = "Amount",
+                      .value = amount_,
+                      .type = [this](Stage&, const std::string& typed) { amount_ = trimmed(typed); },
+                      .hint = "Whole units of money",
+                      .maximumLength = 20},
+                Buttons{{{.label = "DEPOSIT",
+                          .press = moving(depositInBank),
+                          .offReason = whyNot(amount, world.totalCashAvailable, "More than your cash")},
+                         {.label = "WITHDRAW",
+                          .press = moving(withdrawFromBank),
+                          .offReason = whyNot(amount, world.crossSaveVault, "More than the bank has")}}}}};
+}
+
+Page SlotPickerViewController::view(const Game& game) {
+  Page page{.title = "CHOOSE A SAVE"};
+  for (const Summary& slot : SlotManager::summaries(game)) page.nodes.push_back(slotNode(game, slot));
+  if (game.world.enterPlayerDetails != 0) page.nodes.push_back(bank(game));
+  return page;
+}
+
+}  // namespace tb
