@@ -248,7 +248,7 @@ void loadVariable(Game& game, const Variable& variable) {
 }
 
 bool saveChanges(Game& game) {
-  const bool isFirst = game.store.isEmpty();
+  const bool isFirst = !game.store.contains("enterPlayerDetails");  // no career, whatever the bank has
   bool any = false;
   for (const Variable& variable : variables()) {
     const bool saved = variable.isList ? saveList(game.store, variable, listOf(game.world, variable))

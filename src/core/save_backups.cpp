@@ -48,14 +48,16 @@ std::vector<DocumentSummary> backups(const Game& game) {
   return all;
 }
 
-// Two backups can be made within a second: the later one gets the next free name.
+// Two backups can be made within a second: the later one gets a later name, or it would be the next to go.
 std::string freeName(const std::vector<DocumentSummary>& taken, plist::Date date) {
-  std::string name = backupName(date);
-  while (std::ranges::contains(taken, name, &DocumentSummary::name)) {
-    date.seconds += 1;
-    name = backupName(date);
-  }
-  return name;
+  const auto isNewest = [&taken](const std::string& name) {
+    return taken.empty() || taken.back().name < name;
+  };
+  const plist::Date latest{date.seconds + static_cast<double>(Manager::maxBackups)};
+  while (date.seconds <= latest.seconds && !isNewest(backupName(date))) date.seconds += 1;
+  // The clock was set back: any name will do.
+  while (std::ranges::contains(taken, backupName(date), &DocumentSummary::name)) date.seconds += 1;
+  return backupName(date);
 }
 
 Manager::BackupInfo infoOf(const DocumentSummary& document) {

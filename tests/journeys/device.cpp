@@ -55,7 +55,7 @@ void Device::begin(const std::function<void(WorldState&)>& prepare) {
 
 void Device::launch() {
   running_.reset();
-  running_ = std::make_unique<Running>(port, random_);
+  running_ = std::make_unique<Running>(*this);
 }
 
 const Film& Device::film(std::int64_t id) const {

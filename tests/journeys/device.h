@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "tests/memory_documents.h"
 #include "tests/memory_port.h"
 #include "tests/player.h"
 #include "tests/scripted_random.h"
@@ -44,11 +45,16 @@ class Device {
   // Ends weeks and closes their summaries; returns the words of the last one.
   std::vector<std::string> playWeeks(int weeks = 1);
 
+  // How often something was written.
+  [[nodiscard]] int writes() const { return port.commits + documents.changes; }
+
   MemoryPort port;
+  MemoryDocuments documents;
 
  private:
   struct Running {
-    Running(StorePort& port, RandomSource& random) : store(port), app(store, random) {}
+    Running(Device& device)
+        : store(device.port), app(store, device.random_, {}, stoppedClock, &device.documents) {}
     SaveStore store;
     App app;
     Player player{app};

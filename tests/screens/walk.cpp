@@ -82,7 +82,7 @@ std::vector<std::size_t> worthAPress(const std::vector<Usable>& usable, const Pa
 class Explorer {
  public:
   Explorer(Device& device, SeededRandom& random)
-      : device_(device), random_(random), stored_(device.port.pieces) {}
+      : device_(device), random_(random), stored_(device.port.pieces), documents_(device.documents.files) {}
 
   std::string explore() {
     waiting_.push_back({});
@@ -101,33 +101,34 @@ class Explorer {
   }
   void launch() {
     device_.port.pieces = stored_;
+    device_.documents.files = documents_;
     random_.seed(seed);
     device_.launch();
-    launched_ = device_.port.commits;
+    launched_ = device_.writes();
     if (home_.empty()) home_ = words();
   }
   // Goes back to the hub; false if something was written since the launch.
   bool goHome() {
-    if (device_.port.commits != launched_ || !device_.app().view().dialog.empty()) return false;
+    if (device_.writes() != launched_ || !device_.app().view().dialog.empty()) return false;
     while (!device_.app().view().close.empty()) device_.app().back();
     device_.player().press("Home");
-    return device_.port.commits == launched_ && words() == home_;
+    return device_.writes() == launched_ && words() == home_;
   }
   void goTo(const Path& path) {
     if (home_.empty() || !goHome()) launch();
     for (const Path::Press& step : path.presses) press(step.place);
-    commits_ = device_.port.commits;
+    commits_ = device_.writes();
   }
   // Returns to the path's page after a press. A press without writes is undone by answering its notice or
   // with Back; otherwise the game is launched again.
   void returnTo(const Path& path, int page, const Lines& words) {
-    if (device_.port.commits == commits_) {
+    if (device_.writes() == commits_) {
       const auto& dialog = device_.app().view().dialog;
       if (!dialog.empty() && dialog.front().answers.size() == 1) {
         device_.app().press(dialog.front().answers.front().handle);
       }
       if (screen() > page) device_.app().back();
-      if (device_.port.commits == commits_ && screen() == page && this->words() == words) return;
+      if (device_.writes() == commits_ && screen() == page && this->words() == words) return;
     }
     goTo(path);
   }
@@ -162,7 +163,7 @@ class Explorer {
     if (now.screen < page) return "goes back to " + now.title;
     // Tabs are views of the hub, even if they write. Elsewhere a press that writes is an action, not a change
     // of view.
-    const bool isSameScreen = path.presses.empty() || device_.port.commits == commits_;
+    const bool isSameScreen = path.presses.empty() || device_.writes() == commits_;
     const Lines lines = added(before, words());
     if (lines.empty()) return "changes nothing here";
     if (isSameScreen && !path.isTurned) {
@@ -175,9 +176,10 @@ class Explorer {
   Device& device_;
   SeededRandom& random_;
   const decltype(MemoryPort::pieces) stored_;
+  const decltype(MemoryDocuments::files) documents_;
   Lines home_;        // words of the hub at launch
-  int launched_ = 0;  // number of commits at launch
-  int commits_ = 0;   // number of commits on the current page
+  int launched_ = 0;  // number of writes at launch
+  int commits_ = 0;   // number of writes on the current page
   std::deque<Path> waiting_;
   std::set<std::string> seen_;                          // pages
   std::map<std::string, std::set<std::string>> tried_;  // pressed items by screen
