@@ -19,9 +19,9 @@ Bytes save(const std::string& name, std::size_t length = 0) {
 
 class Folder : public testing::Test {
  protected:
-  Folder() {
+  static fs::path newFolder() {
     std::string name = (fs::temp_directory_path() / "billing-documents-XXXXXX").string();
-    base = mkdtemp(name.data());
+    return mkdtemp(name.data());
   }
   ~Folder() override { fs::remove_all(base); }
 
@@ -31,7 +31,7 @@ class Folder : public testing::Test {
     return found;
   }
 
-  fs::path base;
+  fs::path base = newFolder();
   DocumentFolder documents{base};
 };
 

@@ -75,9 +75,9 @@ Card damagedSlot(const Summary& slot) {
 Node slotNode(const Game& game, const Summary& slot) {
   if (!slot.isReadable) return damagedSlot(slot);
   if (!slot.isEmpty) return fullSlot(game, slot);
-  Row row{.label = "Empty — start a new career"};
+  Row row{.label = "Empty — start a new career", .detail = tb::format("Slot {}", slot.index + 1)};
   if (slot.index == SlotManager::activeSlot(game.world)) {
-    row.detail = "In play";
+    row.detail += " · In play";
   } else {
     row.press = plays(slot.index);
   }

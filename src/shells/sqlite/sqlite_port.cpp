@@ -19,7 +19,7 @@ using sqlite::Result;
 using sqlite::Statement;
 
 constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a career of this game
-// Increment with every change of what is stored, here and in web/src/runtime/storage.ts. Version 2 added
+// Increment with every change of what is stored; web/src/runtime/storage.ts has its own. Version 2 added
 // columns, which version 1 takes for damaged rows.
 constexpr std::int64_t schemaVersion = 2;
 

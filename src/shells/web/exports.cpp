@@ -13,6 +13,8 @@
 #include <string>
 
 #include "banks/texts.h"
+#include "core/game.h"
+#include "core/save_backups.h"
 #include "screens/app.h"
 #include "shells/system_clock.h"
 #include "shells/web/host.h"
@@ -29,6 +31,7 @@ struct OpenGame {
 
   tb::HostPort port;
   tb::SaveStore store;
+  std::optional<tb::HostDocuments> documents;
   tb::HostRandom random;
   std::optional<tb::App> app;
 };
@@ -58,12 +61,16 @@ EXPORT(answer) const std::byte* answerAddress() { return answer.data(); }
 // Incoming: the stored pieces. Must be called first.
 EXPORT(open_store) void openStore() { game.emplace(tb::readPieces(incoming)); }
 
+// Incoming: the summaries of the slots and backups. Without this call there are none.
+EXPORT(open_documents) void openDocuments() { game->documents.emplace(tb::readDocuments(incoming)); }
+
 // Incoming: the texts. Called once; only the new-career form works without them.
 EXPORT(set_texts) void setTexts() { tb::setTexts(incomingText()); }
 
 // Incoming: the locale. Loads the career, or opens the new-career form.
 EXPORT(start) void start() {
-  game->app.emplace(game->store, game->random, tb::readLocale(incoming), tb::systemClock);
+  game->app.emplace(game->store, game->random, tb::readLocale(incoming), tb::systemClock,
+                    game->documents ? &*game->documents : nullptr);
 }
 
 // The current page as JSON.
@@ -74,9 +81,23 @@ EXPORT(type) void type(std::int32_t handle) { game->app->type(handle, incomingTe
 EXPORT(slide) void slide(std::int32_t handle, double value) { game->app->slide(handle, value); }
 EXPORT(tick) void tick(double seconds) { game->app->tick(seconds); }
 EXPORT(back) void back() { game->app->back(); }
+
+// Incoming: the content of a document that the game reads, or nothing if it was not found.
+EXPORT(document_read) void documentRead(std::uint32_t number, std::int32_t found) {
+  const tb::Documents::Then reader = game->documents->takeReader(number);
+  game->app->goOn([&] { reader(found != 0 ? std::optional(std::move(incoming)) : std::nullopt); });
+}
+
 EXPORT(saving_failed) void savingFailed() { game->app->savingFailed(incomingText()); }
 
-// These two use only the store, so that they also work for a career that fails to start.
+// These use only the store, so that they also work for a career that fails to start.
+EXPORT(back_up_store) void backUpStore() {
+  tb::Game career{.store = game->store,
+                  .random = game->random,
+                  .clock = tb::systemClock,
+                  .documents = game->documents ? &*game->documents : nullptr};
+  tb::SaveBackupManager::backUp(career);
+}
 EXPORT(export_store) std::size_t exportStore() { return answerWith(tb::exportedSave(game->store)); }
 
 // Incoming: a file. Answer: why it was refused, or empty when it was imported and committed.

@@ -5,9 +5,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <utility>
 #include <vector>
 
+#include "core/documents.h"
 #include "core/random.h"
 #include "core/save_store.h"
 
@@ -25,6 +27,28 @@ class HostPort : public StorePort {
 
  private:
   std::vector<StoredPiece> pieces_;
+};
+
+// Slots and backups in the page's storage. Their summaries are here; a content is fetched when it is read,
+// and comes later. Writing succeeds here as a commit does: the page stores a document before the commits
+// after it, and repeats what the browser rejected together with them.
+class HostDocuments : public Documents {
+ public:
+  explicit HostDocuments(std::vector<std::pair<std::string, DocumentSummary>> known);
+
+  [[nodiscard]] std::vector<DocumentSummary> list(std::string_view folder) const override;
+  void read(std::string_view folder, const std::string& name, Then then) override;
+  std::expected<void, DocumentFailure> write(std::string_view folder, const std::string& name,
+                                             Bytes content) override;
+  std::expected<void, std::string> remove(std::string_view folder, const std::string& name) override;
+
+  // The continuation of a read, which runs once.
+  [[nodiscard]] Then takeReader(std::uint32_t number);
+
+ private:
+  std::map<std::pair<std::string, std::string>, DocumentSummary> known_;  // by folder and name
+  std::map<std::uint32_t, Then> readers_;
+  std::uint32_t reads_ = 0;
 };
 
 // Random words from the browser's secure generator. Fetches many words at a time, because a call to the page

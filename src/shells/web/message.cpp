@@ -5,6 +5,13 @@
 
 namespace tb {
 
+namespace {
+
+constexpr double epoch = 978'307'200;  // of property-list dates, in seconds since 1970
+constexpr double millisecondsPerSecond = 1000;
+
+}  // namespace
+
 static_assert(std::endian::native == std::endian::little,
               "numbers cross the boundary as they stand in memory");
 
@@ -77,6 +84,38 @@ Bytes writeChanges(std::span<const StoreChange> changes) {
     writer.bytes(change.stored.bytes);
   }
   return writer.message();
+}
+
+Bytes writeDocumentPlace(std::string_view folder, std::string_view name) {
+  MessageWriter writer;
+  writer.text(folder);
+  writer.text(name);
+  return writer.message();
+}
+
+Bytes writeDocument(std::string_view folder, const DocumentSummary& summary,
+                    std::span<const std::byte> content) {
+  MessageWriter writer;
+  writer.text(folder);
+  writer.text(summary.name);
+  writer.wideNumber(summary.size);
+  writer.wideNumber(static_cast<std::int64_t>((summary.changed.seconds + epoch) * millisecondsPerSecond));
+  writer.bytes(summary.head ? plist::write(plist::Value{*summary.head}) : Bytes{});
+  writer.bytes(content);
+  return writer.message();
+}
+
+std::vector<std::pair<std::string, DocumentSummary>> readDocuments(std::span<const std::byte> message) {
+  MessageReader reader(message);
+  std::vector<std::pair<std::string, DocumentSummary>> documents(reader.number());
+  for (auto& [folder, summary] : documents) {
+    folder = reader.text();
+    summary.name = reader.text();
+    summary.size = reader.wideNumber();
+    summary.changed.seconds = static_cast<double>(reader.wideNumber()) / millisecondsPerSecond - epoch;
+    summary.head = documentHead(reader.bytes());
+  }
+  return documents;
 }
 
 Locale readLocale(std::span<const std::byte> message) {

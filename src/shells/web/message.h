@@ -9,8 +9,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "core/documents.h"
 #include "core/locale.h"
 #include "core/save_store.h"
 
@@ -50,6 +52,18 @@ class MessageReader {
 
 // The number of changes, then for each: kind, key, shape, piece number, bytes.
 [[nodiscard]] Bytes writeChanges(std::span<const StoreChange> changes);
+
+// The folder and the name of a document.
+[[nodiscard]] Bytes writeDocumentPlace(std::string_view folder, std::string_view name);
+
+// A document's place, size, time of change (milliseconds since 1970), head (empty for a damaged document) and
+// content.
+[[nodiscard]] Bytes writeDocument(std::string_view folder, const DocumentSummary& summary,
+                                  std::span<const std::byte> content);
+
+// The number of documents, then for each: what writeDocument writes but the content. Each with its folder.
+[[nodiscard]] std::vector<std::pair<std::string, DocumentSummary>> readDocuments(
+    std::span<const std::byte> message);
 
 // The fields of Locale in order, all as texts; "1" if the symbol is before the amount.
 [[nodiscard]] Locale readLocale(std::span<const std::byte> message);

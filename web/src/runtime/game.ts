@@ -2,6 +2,7 @@
 // starts a new one from the saved data.
 
 import type { Page } from "../view_types";
+import { type DocumentPlace, type DocumentSummary, readDocument, readPlace, type StoredDocument, writeSummaries } from "./documents";
 import { type Change, type Piece, readChanges, writePieces } from "./pieces";
 import { wasiImports } from "./wasi";
 
@@ -11,6 +12,7 @@ interface Exports {
   incoming(size: number): number;
   answer(): number;
   open_store(): void;
+  open_documents(): void;
   set_texts(): void;
   start(): void;
   view(): number;
@@ -19,14 +21,16 @@ interface Exports {
   slide(handle: number, value: number): void;
   tick(seconds: number): void;
   back(): void;
+  document_read(number: number, found: number): void;
   saving_failed(): void;
+  back_up_store(): void;
   export_store(): number;
   import_store(): number;
 }
 
 const exportNames = [
-  "_initialize", "incoming", "answer", "open_store", "set_texts", "start", "view", "press", "type", "slide", "tick",
-  "back", "saving_failed", "export_store", "import_store",
+  "_initialize", "incoming", "answer", "open_store", "open_documents", "set_texts", "start", "view", "press", "type",
+  "slide", "tick", "back", "document_read", "saving_failed", "back_up_store", "export_store", "import_store",
 ] as const satisfies readonly Exclude<keyof Exports, "memory">[];
 
 // The game trapped. `cause` is the trap; the log has its last output.
@@ -39,6 +43,16 @@ export class GameStopped extends Error {
 export interface GameHost {
   // The changes of an action. Called during the action.
   commit(changes: Change[]): void;
+  // Slots and backups; without it the game has none.
+  readonly documents?: DocumentHost;
+}
+
+export interface DocumentHost {
+  summaries(): readonly DocumentSummary[];
+  put(document: StoredDocument): void;
+  remove(place: DocumentPlace): void;
+  // Answers with Game.documentRead.
+  read(number: number, place: DocumentPlace): void;
 }
 
 const linesKept = 20;
@@ -57,8 +71,15 @@ export class Game {
     const log: string[] = [];
     const memory = () => exports.memory;
     const wasi = wasiImports({ memory, line: (text) => note(log, text) });
-    const commit = (at: number, size: number) => host.commit(readChanges(new Uint8Array(memory().buffer, at, size)));
-    const instance = await WebAssembly.instantiate(module, { wasi_snapshot_preview1: wasi, game: { commit } });
+    const bytes = (at: number, size: number) => new Uint8Array(memory().buffer, at, size);
+    const imports = {
+      commit: (at: number, size: number) => host.commit(readChanges(bytes(at, size))),
+      put_document: (at: number, size: number) => host.documents?.put(readDocument(bytes(at, size))),
+      remove_document: (at: number, size: number) => host.documents?.remove(readPlace(bytes(at, size))),
+      read_document: (number: number, at: number, size: number) =>
+        host.documents?.read(number, readPlace(bytes(at, size))),
+    };
+    const instance = await WebAssembly.instantiate(module, { wasi_snapshot_preview1: wasi, game: imports });
     const exports = exportsOf(instance);
 
     const game = new Game(exports, log);
@@ -66,6 +87,9 @@ export class Game {
       exports._initialize();
       game.setIncoming(writePieces(pieces));
       exports.open_store();
+      if (!host.documents) return;
+      game.setIncoming(writeSummaries(host.documents.summaries()));
+      exports.open_documents();
     });
     return game;
   }
@@ -116,11 +140,24 @@ export class Game {
     this.guarded(() => this.exports.back());
   }
 
+  // The document that the game asked for; undefined when there is none.
+  documentRead(number: number, content: Uint8Array | undefined): void {
+    this.guarded(() => {
+      this.setIncoming(content ?? new Uint8Array());
+      this.exports.document_read(number, content ? 1 : 0);
+    });
+  }
+
   savingFailed(why: string): void {
     this.guarded(() => {
       this.setIncoming(new TextEncoder().encode(why));
       this.exports.saving_failed();
     });
+  }
+
+  // Puts a backup of the stored career among the documents.
+  backUpStore(): void {
+    this.guarded(() => this.exports.back_up_store());
   }
 
   exportStore(): Uint8Array<ArrayBuffer> {

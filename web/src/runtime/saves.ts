@@ -2,7 +2,7 @@
 // career does not start, and a bad file does no harm.
 
 import type { Page } from "../view_types";
-import { Game, GameStopped } from "./game";
+import { Game, type GameHost, GameStopped } from "./game";
 import { type Change, joined } from "./pieces";
 import type { Storage } from "./storage";
 
@@ -51,6 +51,15 @@ export async function storedCareer(
     return careerOn(game.page());
   } catch {
     return undefined;
+  }
+}
+
+// Puts a backup of the stored career among the documents. A career that can't be read has none.
+export async function backUpCareer(module: WebAssembly.Module, host: GameHost, storage: Storage): Promise<void> {
+  try {
+    (await Game.open(module, host, storage.all())).backUpStore();
+  } catch (error) {
+    if (!(error instanceof GameStopped)) throw error;
   }
 }
 

@@ -6,11 +6,11 @@ import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
 import { isFaceKept, loadFace } from "./face";
-import { Game, GameStopped } from "./game";
+import { Game, type GameHost, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
 import { program, texts } from "./parts";
-import { type Career, downloadSave, type ReadSave, readSave, storedCareer } from "./saves";
+import { backUpCareer, type Career, downloadSave, type ReadSave, readSave, storedCareer } from "./saves";
 import { type Refusal, Storage } from "./storage";
 import { TabLock } from "./tab_lock";
 import { Ticker } from "./ticker";
@@ -119,9 +119,30 @@ export class Shell {
   }
 
   // Replaces the current save and starts it. Rejects without changes when it can't be stored.
+  // The replaced career stays as a backup.
   async bringIn(save: ReadSave): Promise<void> {
-    await (await this.openStorage()).replace(save.changes);
+    const storage = await this.openStorage();
+    await backUpCareer(await program.get(), this.host(storage), storage);
+    await storage.replace(save.changes);
     await this.run();
+  }
+
+  // The storage as the game sees it.
+  private host(storage: Storage): GameHost {
+    return {
+      commit: (changes) => storage.save(changes),
+      documents: {
+        summaries: () => storage.documents(),
+        put: (document) => storage.changeDocument({ kind: "put", document }),
+        remove: (document) => storage.changeDocument({ kind: "remove", document }),
+        read: (number, place) => {
+          const { runs } = this;
+          void storage.readDocument(place).then((content) => {
+            if (runs === this.runs) this.act((game) => game.documentRead(number, content));
+          });
+        },
+      },
+    };
   }
 
   // Starts the game from the saved data.
@@ -137,7 +158,7 @@ export class Shell {
       const [module, rows] = await Promise.all([program.get(), isNew ? undefined : texts.get()]);
       if (thisRun !== this.runs) return;
       this.change({ refusal: storage.refusal });
-      const game = await Game.open(module, { commit: (changes) => storage.save(changes) }, storage.all());
+      const game = await Game.open(module, this.host(storage), storage.all());
       if (thisRun !== this.runs) return;
       if (rows) game.setTexts(rows);
       game.start(this.locale);

@@ -9,17 +9,22 @@
 
 import { type DBSchema, type IDBPDatabase, openDB } from "idb";
 
+import { type DocumentChange, type DocumentPlace, type DocumentSummary, isSamePlace } from "./documents";
 import { type Change, joined, type Piece, Pieces } from "./pieces";
 
 interface Schema extends DBSchema {
   pieces: { key: [string, number]; value: Piece };
   // Unreadable values, for manual recovery. The game does not read them.
   aside: { key: [string, number, Uint8Array<ArrayBuffer>]; value: Piece };
+  // Slots and backups; their contents are not read before they are asked for.
+  summaries: { key: [string, string]; value: DocumentSummary };
+  contents: { key: [string, string]; value: DocumentPlace & { content: Uint8Array<ArrayBuffer> } };
 }
 
 const databaseName = "top-billing";
-const schemaVersion = 2; // raise it with every change of what is stored; src/shells/sqlite has the same
+const schemaVersion = 3; // raise it with every change of what is stored; src/shells/sqlite has its own
 const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
+const backupFolder = "SaveBackups"; // as in src/core/save_backups.h
 const openingPatience = 5000; // milliseconds; some browsers never report a result
 
 // Why nothing can be saved here.
@@ -32,6 +37,7 @@ export interface StorageWatcher {
 
 export class Storage {
   private waiting: Change[] = [];
+  private waitingDocuments: DocumentChange[] = [];
   private latest = 0; // number of the last opened transaction
   private failing = false;
   private writes: Promise<unknown> = Promise.resolve();
@@ -39,6 +45,7 @@ export class Storage {
   private constructor(
     private database: IDBPDatabase<Schema> | undefined,
     private pieces: Pieces,
+    private summaries: readonly DocumentSummary[],
     readonly refusal: Refusal | undefined,
     private readonly watcher: StorageWatcher,
   ) {}
@@ -50,20 +57,49 @@ export class Storage {
     try {
       database = await withPatience(openDatabase(() => storage?.lost()));
     } catch (error) {
-      return new Storage(undefined, new Pieces(), isOfLaterSchema(error) ? "newer" : "refused", watcher);
+      return new Storage(undefined, new Pieces(), [], isOfLaterSchema(error) ? "newer" : "refused", watcher);
     }
     try {
-      const stored = await database.getAll("pieces");
-      storage = new Storage(database, new Pieces(stored), undefined, watcher);
+      const [stored, summaries] = await Promise.all([database.getAll("pieces"), database.getAll("summaries")]);
+      storage = new Storage(database, new Pieces(stored), summaries, undefined, watcher);
       return storage;
     } catch {
-      return new Storage(undefined, new Pieces(), "unreadable", watcher);
+      return new Storage(undefined, new Pieces(), [], "unreadable", watcher);
     }
   }
 
   // The save after the last action.
   all(): Piece[] {
     return this.pieces.all();
+  }
+
+  // The slots and backups, without their contents.
+  documents(): readonly DocumentSummary[] {
+    return this.summaries;
+  }
+
+  // Stored before the changes that are saved after it.
+  changeDocument(change: DocumentChange): void {
+    const others = (list: readonly DocumentSummary[]) => list.filter((old) => !isSamePlace(old, change.document));
+    this.summaries = others(this.summaries);
+    if (change.kind === "put") {
+      const { content: _, ...summary } = change.document;
+      this.summaries = [...this.summaries, summary];
+    }
+    this.waitingDocuments = this.waitingDocuments.filter((old) => !isSamePlace(old.document, change.document));
+    this.waitingDocuments.push(change);
+    this.write();
+  }
+
+  // The content of a document; undefined when there is none or it can't be read.
+  async readDocument(place: DocumentPlace): Promise<Uint8Array | undefined> {
+    const change = this.waitingDocuments.find(({ document }) => isSamePlace(document, place));
+    if (change) return change.kind === "put" ? change.document.content : undefined;
+    try {
+      return (await this.database?.get("contents", [place.folder, place.name]))?.content;
+    } catch {
+      return undefined;
+    }
   }
 
   save(changes: readonly Change[]): void {
@@ -77,9 +113,11 @@ export class Storage {
     const replaced = new Pieces();
     replaced.change(changes);
     const rewriting = replaced.rewriting();
-    if (!this.refusal) await this.transaction(rewriting);
+    const documents = this.waitingDocuments;
+    if (!this.refusal) await this.transaction(rewriting, documents);
     this.pieces = replaced;
     this.waiting = [];
+    if (!this.refusal) this.forget(documents);
   }
 
   // Resolves when all pending transactions have a result.
@@ -101,23 +139,40 @@ export class Storage {
     if (this.refusal) return;
     this.latest += 1;
     const upTo = this.latest;
-    this.writes = (this.database ? this.transaction(this.waiting) : this.reopen()).then(
+    const documents = this.waitingDocuments;
+    this.writes = (this.database ? this.transaction(this.waiting, documents) : this.reopen()).then(
       () => {
         // Later changes stay pending.
         if (upTo === this.latest) this.waiting = [];
+        this.forget(documents);
         if (this.failing) this.watcher.recovered();
         this.failing = false;
       },
       (error: unknown) => {
+        if (this.dropBackups()) return this.write();
         if (!this.failing) this.watcher.failed(inWords(error));
         this.failing = true;
       },
     );
   }
 
-  private async transaction(changes: readonly Change[]): Promise<void> {
+  // A backup that can't be stored is given up, so that the game itself can still be saved. False when none waits.
+  private dropBackups(): boolean {
+    const isBackup = ({ kind, document }: DocumentChange) => kind === "put" && document.folder === backupFolder;
+    const backups = this.waitingDocuments.filter(isBackup);
+    this.forget(backups);
+    this.summaries = this.summaries.filter((old) => !backups.some(({ document }) => isSamePlace(old, document)));
+    return backups.length > 0;
+  }
+
+  // These changes are stored.
+  private forget(documents: readonly DocumentChange[]): void {
+    this.waitingDocuments = this.waitingDocuments.filter((change) => !documents.includes(change));
+  }
+
+  private async transaction(changes: readonly Change[], documents: readonly DocumentChange[]): Promise<void> {
     if (!this.database) throw closed();
-    const transaction = this.database.transaction(["pieces", "aside"], "readwrite");
+    const transaction = this.database.transaction(["pieces", "aside", "summaries", "contents"], "readwrite");
     try {
       const pieces = transaction.objectStore("pieces");
       const aside = transaction.objectStore("aside");
@@ -128,8 +183,16 @@ export class Storage {
         if (kind === "dropAll") return pieces.clear();
         return aside.put(stored);
       });
+      const documentRequests = documents.flatMap<Promise<unknown>>((change) => {
+        const { folder, name } = change.document;
+        const summaries = transaction.objectStore("summaries");
+        const contents = transaction.objectStore("contents");
+        if (change.kind === "remove") return [summaries.delete([folder, name]), contents.delete([folder, name])];
+        const { content, ...summary } = change.document;
+        return [summaries.put(summary), contents.put({ folder, name, content })];
+      });
       // A failed request aborts the transaction, which reports the error.
-      for (const request of requests) request.catch(() => undefined);
+      for (const request of [...requests, ...documentRequests]) request.catch(() => undefined);
       transaction.commit();
     } catch (error) {
       transaction.done.catch(() => undefined);
@@ -151,7 +214,7 @@ export class Storage {
       await new Promise((over) => setTimeout(over, pause));
       try {
         this.database ??= await withPatience(openDatabase(() => this.lost()));
-        await this.transaction(this.pieces.rewriting());
+        await this.transaction(this.pieces.rewriting(), this.waitingDocuments);
         return;
       } catch {
         // Tries again, or reports the error below.
@@ -163,11 +226,14 @@ export class Storage {
 
 function openDatabase(whenClosed: () => void): Promise<IDBPDatabase<Schema>> {
   return openDB<Schema>(databaseName, schemaVersion, {
-    // Version 2 has columns among the pieces. A build that knows none would lose what is in them.
+    // Version 2 has columns among the pieces, which a build that knows none would lose. Version 3 has documents.
     upgrade(database, before) {
-      if (before >= 1) return;
-      database.createObjectStore("pieces", { keyPath: ["key", "piece"] });
-      database.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
+      if (before < 1) {
+        database.createObjectStore("pieces", { keyPath: ["key", "piece"] });
+        database.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
+      }
+      database.createObjectStore("summaries", { keyPath: ["folder", "name"] });
+      database.createObjectStore("contents", { keyPath: ["folder", "name"] });
     },
     terminated: whenClosed,
   });
