@@ -11,6 +11,7 @@
 #include "career/classes.h"
 #include "career/colleagues.h"
 #include "career/job_board.h"
+#include "career/job_contract.h"
 #include "career/preparation.h"
 #include "career/renewals.h"
 #include "career/royalty_stake.h"
@@ -130,7 +131,7 @@ TEST(GoldenCareer, SubmissionsAndTheirDifficulty) {
                  .imageString = "neonHorizon.png"};
   for (movie.type = filmType::feature; movie.type <= filmType::shortFilm; movie.type += 1) {
     for (const std::int64_t energy : {19, 20}) {
-      sheet.changes(
+      sheet.action(
           std::format("type {} energy {}", movie.type, energy),
           [&](WorldState& world) {
             world.isSAG = 1;
@@ -140,7 +141,7 @@ TEST(GoldenCareer, SubmissionsAndTheirDifficulty) {
             world.experience = 100;
             world.totalEnergyAvailable = energy;
           },
-          [&](Game& game) { static_cast<void>(submitToCastingListing(game, listingOf(movie))); });
+          [&](Game& game) { return submitToCastingListing(game, listingOf(movie)); });
     }
     for (const std::int64_t part : {0, 1, 2}) {
       for (const std::int64_t isUnion : {0, 1}) {
@@ -158,6 +159,38 @@ TEST(GoldenCareer, SubmissionsAndTheirDifficulty) {
         }
       }
     }
+  }
+}
+
+TEST(GoldenCareer, RefusalsOfSubmissionsAndJobs) {
+  Sheet sheet("career_refusals");
+  const Movie movie = {.title = "Neon Horizon", .type = filmType::series};
+  for (const auto& [isSAG, isUnion, sent] : {std::tuple{0, 1, 0}, {0, 0, 0}, {1, 0, 0}, {1, 0, 1}}) {
+    sheet.action(
+        std::format("member {}, union {}, sent {}", isSAG, isUnion, sent),
+        [&](WorldState& world) {
+          world.isSAG = isSAG;
+          world.totalEnergyAvailable = 19;
+          if (sent == 1) world.saveAllAuditionList.push_back({.filmId = 7});
+        },
+        [&](Game& game) {
+          return submitToCastingListing(game, {.filmId = 7, .movie = &movie, .isUnion = isUnion});
+        });
+  }
+  for (const std::int64_t weeksLeft : {0, 1, 4}) {
+    sheet.action(
+        std::format("a job with {} weeks of another left", weeksLeft),
+        [&](WorldState& world) {
+          world.totalEnergyAvailable = 0;  // is not checked
+          world.weeklyJobTitle = "Script Reader";
+          world.weeklyJobContractRemaining = weeksLeft;
+        },
+        [](Game& game) {
+          const Refusal refusal =
+              acceptJob(game, {{.jobTitle = "Set Runner", .energyCost = 20, .jobPay = 410}, 5});
+          advanceJobContract(game);
+          return refusal;
+        });
   }
 }
 
@@ -381,8 +414,8 @@ TEST(GoldenCareer, BoostsBribesAndWithdrawals) {
   };
   for (std::int64_t stage = funnel::submitted; stage <= funnel::wrapped; ++stage) {
     for (const std::int64_t energy : {3, 4, 16, 17, 24, 25}) {
-      sheet.changes(std::format("a boost at stage {} with {}", stage, energy), prepare(stage, energy),
-                    [](Game& game) { static_cast<void>(buyBoost(game, 2)); });
+      sheet.action(std::format("a boost at stage {} with {}", stage, energy), prepare(stage, energy),
+                   [](Game& game) { return buyBoost(game, 2); });
     }
     sheet.changes(std::format("withdrawn at stage {}", stage), prepare(stage, 0),
                   [](Game& game) { withdrawFromRole(game, 2); });
@@ -473,11 +506,15 @@ TEST(GoldenCareer, TalentClassesAndTheirPrices) {
         taken + 1);
   }
   for (int trait = 1; trait <= 5; ++trait) {
-    for (const std::int64_t energy : {1, 2, 3, 4, 100}) {
-      sheet.changes(
+    for (const std::int64_t energy : {1, 2, 3, 4, 130}) {
+      sheet.action(
           std::format("trait {} with {}", trait, energy),
-          [&](WorldState& world) { world.totalEnergyAvailable = energy; },
-          [&](Game& game) { static_cast<void>(buyTrait(game, trait)); }, static_cast<std::uint64_t>(energy));
+          [&](WorldState& world) {
+            world.totalEnergyAvailable = energy;
+            world.talentTrait3 = 100;
+            world.talentTraitCost4 = 130;  // above the highest value
+          },
+          [&](Game& game) { return buyTrait(game, trait); }, static_cast<std::uint64_t>(energy));
     }
   }
   for (const std::int64_t year : {1, 29, 30, 52}) {

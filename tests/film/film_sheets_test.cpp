@@ -495,7 +495,7 @@ TEST(GoldenFilm, BananasByLetterBadgeAndPercent) {
 TEST(GoldenFilm, UserReviewsAndReleaseCardsByScore) {
   Sheet sheet("film_audience");
   for (const double rating : {1.0, 2.0, 3.4, 5.5, 7.9, 9.9, 10.0}) {
-    for (const std::int64_t ratings : {0, 1, 7, 4'999}) {
+    for (const std::int64_t ratings : {0, 1, 7, 20, 4'999}) {
       Film film = reviewed("Salt Road", rating, static_cast<std::int64_t>(rating * 10), ratings);
       sheet.text(std::format("rated {} by {}", rating, ratings), ofNothing, [&](Game& game) {
         const StarHistogram stars = starHistogram(film);
