@@ -21,6 +21,7 @@
 #include "career/withdrawal.h"
 #include "core/talent_scores.h"
 #include "film/catalogue.h"
+#include "tests/core/unusual_values.h"
 #include "tests/record_text.h"
 #include "tests/sheet.h"
 
@@ -287,32 +288,19 @@ TEST(GoldenCareer, VerdictsOnSeriesAndSagas) {
         },
         seed);
   };
-  Audition series{.filmId = 7,
-                  .typeOfFilm = filmType::series,
-                  .isPrincipal = 1,
-                  .title = "Saltwater",
-                  .characterName = "Aaron Abbott",
-                  .numberOfEpisodesActed = 2,
-                  .numberOfEpisodesTotal = 9,
-                  .isContinued = 0,
-                  .seasonNumber = 1,
-                  .weekReleased = 50,
-                  .payment = 1000,
-                  .buyout = 300,
-                  .residual = 0.015,
-                  .royalty = 2,
-                  .budget = 400'000,
-                  .source = "The Agency",
-                  .sourceId = 77,
-                  .funnelStage = funnel::wrapped,
-                  .didBribe = 30,
-                  .rehearsalBoostCount = 4,
-                  .performanceBoostCount = 5,
-                  .promoteHypeCount = 1,
-                  .directorRating = 31,
-                  .didNegotiate = 1,
-                  .didAct = 0,
-                  .equityPercentage = 10};
+  Audition series;
+  test::Unusual().fill(series);
+  series.filmId = 7;
+  series.title = "Saltwater";
+  series.typeOfFilm = filmType::series;
+  series.isPrincipal = rolePart::principal;
+  series.isContinued = 0;
+  series.seasonNumber = 1;
+  series.parentSeriesFilmId = series.franchise = series.franchiseId = -1;
+  series.numberOfEpisodesTotal = 9;
+  series.weekReleased = 50;
+  series.budget = 400'000;
+  series.funnelStage = funnel::wrapped;
   for (std::uint64_t seed = 1; seed <= 12; ++seed) judge("a series", series, 8, 60, seed);
   for (const auto& [rating, metascore] : {std::pair{4.0, 19},
                                           {4.005, 19},

@@ -21,31 +21,6 @@ struct CareerStart : test::RuleTest {
   }
 };
 
-TEST_F(CareerStart, RejectsAnEmptyName) {
-  EXPECT_EQ(confirmNewCareer(game, {.aboutDescription = "Born in a trunk."})->title, "⚠️ Name Needed ⚠️");
-  EXPECT_EQ(world.enterPlayerDetails, 0);
-  EXPECT_TRUE(store.dictionary().empty());
-}
-
-TEST_F(CareerStart, SavesTheConfirmedForm) {
-  loadWorld(game);
-  world.yearNumber = 2031;  // from the previous career
-  chooseAge(game, 31);
-  EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada 🎭",
-                                       .aboutDescription = "Reads.",
-                                       .isMale = false,
-                                       .headshotImage = Image{Bytes(2, std::byte{7})}}));
-  const WorldState found = relaunched();
-  EXPECT_EQ(found.myName, "Ada 🎭");
-  EXPECT_EQ(found.aboutDescription, "Reads.");
-  EXPECT_FALSE(found.isMale);
-  EXPECT_EQ(found.enterPlayerDetails, 1);
-  EXPECT_EQ(found.yearNumber, 2026);
-  EXPECT_EQ(found.ageCount, 31);
-  EXPECT_EQ(found.birthYear, 1995);
-  EXPECT_EQ(found.headshotImage.bytes.size(), 2U);
-}
-
 TEST_F(CareerStart, FanBonusIsOneWithoutAnAgent) {
   EXPECT_EQ(world.agentFanBonus, 0.0);
   EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada"}));
