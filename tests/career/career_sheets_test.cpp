@@ -302,21 +302,9 @@ TEST(GoldenCareer, VerdictsOnSeriesAndSagas) {
   series.budget = 400'000;
   series.funnelStage = funnel::wrapped;
   for (std::uint64_t seed = 1; seed <= 12; ++seed) judge("a series", series, 8, 60, seed);
-  for (const auto& [rating, metascore] : {std::pair{4.0, 19},
-                                          {4.005, 19},
-                                          {4.1, 19},
-                                          {5.0, 19},
-                                          {5.015, 19},
-                                          {5.02, 19},
-                                          {8.0, 29},
-                                          {8.01, 29},
-                                          {8.02, 29},
-                                          {8.03, 60},
-                                          {8.0, 90},
-                                          {8.001, 90},
-                                          {9.0, 100},
-                                          {300.0, 100}}) {
-    judge("a series", series, rating, metascore, 4);
+  for (const double rating : {4.0, 4.005, 4.1, 5.0, 5.015, 5.02, 8.0, 8.001, 8.01, 8.02, 8.03, 300.0}) {
+    for (const std::int64_t metascore : {19, 29, 60, 90, 100})
+      judge("a series", series, rating, metascore, 4);
   }
   const auto changed = [&](const std::string& what, auto change) {
     Audition project = series;
