@@ -79,15 +79,25 @@ void Sheet::text(const std::string& what, const Prepare& prepare,
   line(what + ": " + read(game));
 }
 
-void Sheet::changes(const std::string& what, const Prepare& prepare, const Rule& rule, std::uint64_t seed) {
+void Sheet::action(const std::string& what, const Prepare& prepare, const Action& act, std::uint64_t seed) {
   text(
       "==== " + what, prepare,
       [&](Game& game) {
         const WorldState before = game.world;
-        rule(game);
-        return "\n" + changesOf(before, game.world);
+        const Refusal refusal = act(game);
+        const std::string notice =
+            refusal ? "  refuses: " + refusal->title + " " + refusal->message + "\n" : "";
+        return "\n" + notice + changesOf(before, game.world);
       },
       seed);
+}
+
+void Sheet::changes(const std::string& what, const Prepare& prepare, const Rule& rule, std::uint64_t seed) {
+  const auto act = [&](Game& game) -> Refusal {
+    rule(game);
+    return {};
+  };
+  action(what, prepare, act, seed);
 }
 
 }  // namespace tb::test

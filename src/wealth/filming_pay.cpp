@@ -64,7 +64,6 @@ void payResidual(WorldState& world, const Audition& project, std::int64_t weeks)
 
 void payFilming(Game& game) {
   WorldState& world = game.world;
-  const std::size_t before = world.saveAllWeeklyEarnings.size();
   for (const Audition& project : world.saveAllAuditionList) {
     if (project.funnelStage != funnel::wrapped) continue;
     if (project.weekToWork + 1 == world.weekNumberForTracking) {
@@ -73,7 +72,6 @@ void payFilming(Game& game) {
       payResidual(world, project, weeks);
     }
   }
-  if (world.saveAllWeeklyEarnings.size() == before) return;
 }
 
 }  // namespace tb

@@ -164,70 +164,26 @@ TEST(InventedNames, AvoidWellKnownPeople) {
         "Rosendahl", "Jadhav", "Almeida", "Abbott"}) {
     EXPECT_FALSE(std::ranges::contains(rowsOf(bank::lastNameBank), surname)) << surname;
   }
-  constexpr std::pair<std::string_view, std::string_view> refused[] = {{"Simon", "Grayson"},
-                                                                       {"Yuki", "Hayashi"},
-                                                                       {"Julian", "Kang"},
-                                                                       {"Miguel", "Ibarra"},
-                                                                       {"José", "Manzanares"},
-                                                                       {"Diego", "Serna"},
-                                                                       {"Carlos", "Renteria"},
-                                                                       {"Kasper", "Nielsen"},
-                                                                       {"Ivan", "Petrov"},
-                                                                       {"Emmanuel", "Laurent"},
-                                                                       {"Sebastian", "Fontaine"},
-                                                                       {"Jordan", "Calloway"},
-                                                                       {"Mehmet", "Yilmaz"},
-                                                                       {"Zachary", "McKinstry"},
-                                                                       {"Simone", "Bevilacqua"},
-                                                                       {"Julian", "Carranza"},
-                                                                       {"Miguel", "Aguilar"},
-                                                                       {"Ethan", "Hawke"},
-                                                                       {"Finn", "Wolfhard"},
-                                                                       {"Hugo", "Weaving"},
-                                                                       {"Liam", "Neeson"},
-                                                                       {"Noah", "Centineo"},
-                                                                       {"Omar", "Sy"},
-                                                                       {"Owen", "Wilson"},
-                                                                       {"Theo", "James"},
-                                                                       {"Audrey", "Tautou"},
-                                                                       {"Emilia", "Clarke"},
-                                                                       {"Greta", "Gerwig"},
-                                                                       {"Naomi", "Watts"},
-                                                                       {"Olivia", "Colman"},
-                                                                       {"Rachel", "Weisz"},
-                                                                       {"Ruth", "Negga"},
-                                                                       {"Serena", "Williams"},
-                                                                       {"Sofia", "Coppola"},
-                                                                       {"Tessa", "Thompson"},
-                                                                       {"Lars", "Ulrich"},
-                                                                       {"Neil", "Gaiman"},
-                                                                       {"Henry", "Cavill"},
-                                                                       {"Caleb", "Landry Jones"},
-                                                                       {"Grace", "Gummer"},
-                                                                       {"Lucas", "Hedges"},
-                                                                       {"Simon", "Pegg"},
-                                                                       {"Julia", "Roberts"},
-                                                                       {"Jesse", "Eisenberg"},
-                                                                       {"Javier", "Bardem"},
-                                                                       {"Marcus", "Rashford"},
-                                                                       {"Gabriel", "Byrne"},
-                                                                       {"Diego", "Luna"},
-                                                                       {"Carlos", "Alcaraz"},
-                                                                       {"Omar", "Epps"},
-                                                                       {"Anthony", "Hopkins"},
-                                                                       {"Adrian", "Lyne"},
-                                                                       {"Fiona", "Shaw"},
-                                                                       {"Isabel", "Allende"},
-                                                                       {"Ivy", "George"},
-                                                                       {"Rosa", "Salazar"},
-                                                                       {"Stella", "McCartney"},
-                                                                       {"Willa", "Fitzgerald"}};
-  for (const auto& [first, last] : refused) {
+  constexpr std::string_view refused[] = {
+      "Simon Grayson",      "Yuki Hayashi",     "Julian Kang",     "Miguel Ibarra",      "José Manzanares",
+      "Diego Serna",        "Carlos Renteria",  "Kasper Nielsen",  "Ivan Petrov",        "Emmanuel Laurent",
+      "Sebastian Fontaine", "Jordan Calloway",  "Mehmet Yilmaz",   "Zachary McKinstry",  "Simone Bevilacqua",
+      "Julian Carranza",    "Miguel Aguilar",   "Ethan Hawke",     "Finn Wolfhard",      "Hugo Weaving",
+      "Liam Neeson",        "Noah Centineo",    "Omar Sy",         "Owen Wilson",        "Theo James",
+      "Audrey Tautou",      "Emilia Clarke",    "Greta Gerwig",    "Naomi Watts",        "Olivia Colman",
+      "Rachel Weisz",       "Ruth Negga",       "Serena Williams", "Sofia Coppola",      "Tessa Thompson",
+      "Lars Ulrich",        "Neil Gaiman",      "Henry Cavill",    "Caleb Landry Jones", "Grace Gummer",
+      "Lucas Hedges",       "Simon Pegg",       "Julia Roberts",   "Jesse Eisenberg",    "Javier Bardem",
+      "Marcus Rashford",    "Gabriel Byrne",    "Diego Luna",      "Carlos Alcaraz",     "Omar Epps",
+      "Anthony Hopkins",    "Adrian Lyne",      "Fiona Shaw",      "Isabel Allende",     "Ivy George",
+      "Rosa Salazar",       "Stella McCartney", "Willa Fitzgerald"};
+  for (const std::string_view name : refused) {
+    const std::string_view first = name.substr(0, name.find(' '));
+    const std::string_view last = name.substr(first.size() + 1);
     const bool isFirstName =
         std::ranges::any_of(std::array{bank::firstNames, bank::maleFirstNames, bank::femaleFirstNames},
                             [&](Bank bank) { return std::ranges::contains(rowsOf(bank), first); });
-    EXPECT_FALSE(isFirstName && std::ranges::contains(rowsOf(bank::lastNameBank), last))
-        << first << " " << last;
+    EXPECT_FALSE(isFirstName && std::ranges::contains(rowsOf(bank::lastNameBank), last)) << name;
   }
 }
 

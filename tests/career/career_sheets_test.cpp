@@ -11,6 +11,7 @@
 #include "career/classes.h"
 #include "career/colleagues.h"
 #include "career/job_board.h"
+#include "career/job_contract.h"
 #include "career/preparation.h"
 #include "career/renewals.h"
 #include "career/royalty_stake.h"
@@ -20,6 +21,7 @@
 #include "career/withdrawal.h"
 #include "core/talent_scores.h"
 #include "film/catalogue.h"
+#include "tests/core/unusual_values.h"
 #include "tests/record_text.h"
 #include "tests/sheet.h"
 
@@ -130,7 +132,7 @@ TEST(GoldenCareer, SubmissionsAndTheirDifficulty) {
                  .imageString = "neonHorizon.png"};
   for (movie.type = filmType::feature; movie.type <= filmType::shortFilm; movie.type += 1) {
     for (const std::int64_t energy : {19, 20}) {
-      sheet.changes(
+      sheet.action(
           std::format("type {} energy {}", movie.type, energy),
           [&](WorldState& world) {
             world.isSAG = 1;
@@ -140,7 +142,7 @@ TEST(GoldenCareer, SubmissionsAndTheirDifficulty) {
             world.experience = 100;
             world.totalEnergyAvailable = energy;
           },
-          [&](Game& game) { static_cast<void>(submitToCastingListing(game, listingOf(movie))); });
+          [&](Game& game) { return submitToCastingListing(game, listingOf(movie)); });
     }
     for (const std::int64_t part : {0, 1, 2}) {
       for (const std::int64_t isUnion : {0, 1}) {
@@ -158,6 +160,38 @@ TEST(GoldenCareer, SubmissionsAndTheirDifficulty) {
         }
       }
     }
+  }
+}
+
+TEST(GoldenCareer, RefusalsOfSubmissionsAndJobs) {
+  Sheet sheet("career_refusals");
+  const Movie movie = {.title = "Neon Horizon", .type = filmType::series};
+  for (const auto& [isSAG, isUnion, sent] : {std::tuple{0, 1, 0}, {0, 0, 0}, {1, 0, 0}, {1, 0, 1}}) {
+    sheet.action(
+        std::format("member {}, union {}, sent {}", isSAG, isUnion, sent),
+        [&](WorldState& world) {
+          world.isSAG = isSAG;
+          world.totalEnergyAvailable = 19;
+          if (sent == 1) world.saveAllAuditionList.push_back({.filmId = 7});
+        },
+        [&](Game& game) {
+          return submitToCastingListing(game, {.filmId = 7, .movie = &movie, .isUnion = isUnion});
+        });
+  }
+  for (const std::int64_t weeksLeft : {0, 1, 4}) {
+    sheet.action(
+        std::format("a job with {} weeks of another left", weeksLeft),
+        [&](WorldState& world) {
+          world.totalEnergyAvailable = 0;  // is not checked
+          world.weeklyJobTitle = "Script Reader";
+          world.weeklyJobContractRemaining = weeksLeft;
+        },
+        [](Game& game) {
+          const Refusal refusal =
+              acceptJob(game, {{.jobTitle = "Set Runner", .energyCost = 20, .jobPay = 410}, 5});
+          advanceJobContract(game);
+          return refusal;
+        });
   }
 }
 
@@ -254,48 +288,23 @@ TEST(GoldenCareer, VerdictsOnSeriesAndSagas) {
         },
         seed);
   };
-  Audition series{.filmId = 7,
-                  .typeOfFilm = filmType::series,
-                  .isPrincipal = 1,
-                  .title = "Saltwater",
-                  .characterName = "Aaron Abbott",
-                  .numberOfEpisodesActed = 2,
-                  .numberOfEpisodesTotal = 9,
-                  .isContinued = 0,
-                  .seasonNumber = 1,
-                  .weekReleased = 50,
-                  .payment = 1000,
-                  .buyout = 300,
-                  .residual = 0.015,
-                  .royalty = 2,
-                  .budget = 400'000,
-                  .source = "The Agency",
-                  .sourceId = 77,
-                  .funnelStage = funnel::wrapped,
-                  .didBribe = 30,
-                  .rehearsalBoostCount = 4,
-                  .performanceBoostCount = 5,
-                  .promoteHypeCount = 1,
-                  .directorRating = 31,
-                  .didNegotiate = 1,
-                  .didAct = 0,
-                  .equityPercentage = 10};
+  Audition series;
+  test::Unusual().fill(series);
+  series.filmId = 7;
+  series.title = "Saltwater";
+  series.typeOfFilm = filmType::series;
+  series.isPrincipal = rolePart::principal;
+  series.isContinued = 0;
+  series.seasonNumber = 1;
+  series.parentSeriesFilmId = series.franchise = series.franchiseId = -1;
+  series.numberOfEpisodesTotal = 9;
+  series.weekReleased = 50;
+  series.budget = 400'000;
+  series.funnelStage = funnel::wrapped;
   for (std::uint64_t seed = 1; seed <= 12; ++seed) judge("a series", series, 8, 60, seed);
-  for (const auto& [rating, metascore] : {std::pair{4.0, 19},
-                                          {4.005, 19},
-                                          {4.1, 19},
-                                          {5.0, 19},
-                                          {5.015, 19},
-                                          {5.02, 19},
-                                          {8.0, 29},
-                                          {8.01, 29},
-                                          {8.02, 29},
-                                          {8.03, 60},
-                                          {8.0, 90},
-                                          {8.001, 90},
-                                          {9.0, 100},
-                                          {300.0, 100}}) {
-    judge("a series", series, rating, metascore, 4);
+  for (const double rating : {4.0, 4.005, 4.1, 5.0, 5.015, 5.02, 8.0, 8.001, 8.01, 8.02, 8.03, 300.0}) {
+    for (const std::int64_t metascore : {19, 29, 60, 90, 100})
+      judge("a series", series, rating, metascore, 4);
   }
   const auto changed = [&](const std::string& what, auto change) {
     Audition project = series;
@@ -381,8 +390,8 @@ TEST(GoldenCareer, BoostsBribesAndWithdrawals) {
   };
   for (std::int64_t stage = funnel::submitted; stage <= funnel::wrapped; ++stage) {
     for (const std::int64_t energy : {3, 4, 16, 17, 24, 25}) {
-      sheet.changes(std::format("a boost at stage {} with {}", stage, energy), prepare(stage, energy),
-                    [](Game& game) { static_cast<void>(buyBoost(game, 2)); });
+      sheet.action(std::format("a boost at stage {} with {}", stage, energy), prepare(stage, energy),
+                   [](Game& game) { return buyBoost(game, 2); });
     }
     sheet.changes(std::format("withdrawn at stage {}", stage), prepare(stage, 0),
                   [](Game& game) { withdrawFromRole(game, 2); });
@@ -473,11 +482,15 @@ TEST(GoldenCareer, TalentClassesAndTheirPrices) {
         taken + 1);
   }
   for (int trait = 1; trait <= 5; ++trait) {
-    for (const std::int64_t energy : {1, 2, 3, 4, 100}) {
-      sheet.changes(
+    for (const std::int64_t energy : {1, 2, 3, 4, 130}) {
+      sheet.action(
           std::format("trait {} with {}", trait, energy),
-          [&](WorldState& world) { world.totalEnergyAvailable = energy; },
-          [&](Game& game) { static_cast<void>(buyTrait(game, trait)); }, static_cast<std::uint64_t>(energy));
+          [&](WorldState& world) {
+            world.totalEnergyAvailable = energy;
+            world.talentTrait3 = 100;
+            world.talentTraitCost4 = 130;  // above the highest value
+          },
+          [&](Game& game) { return buyTrait(game, trait); }, static_cast<std::uint64_t>(energy));
     }
   }
   for (const std::int64_t year : {1, 29, 30, 52}) {

@@ -1,161 +1,147 @@
+// Golden sheets of classes, showreels and the guild, on both sides of each limit.
+
+#include <format>
 #include <gtest/gtest.h>
 
 #include "career/classes.h"
 #include "career/guild.h"
 #include "career/showreel.h"
 #include "career/traits.h"
-#include "core/talent_scores.h"
 #include "tests/record_text.h"
-#include "tests/scratch_game.h"
+#include "tests/sheet.h"
 
 namespace tb {
 namespace {
 
-struct TalentRules : test::RuleTest {
-  void setTraits(std::int64_t points) {
-    for (const Trait& trait : traits) world.*trait.points = points;
+using test::Sheet;
+
+TEST(GoldenTalent, ClassesFromTheFirstWeekToTheLast) {
+  Sheet sheet("talent_classes");
+  const ActingClass half = {.classId = 2, .energyCost = 60, .weeksRemaining = 1};
+  const ActingClass done = {.classId = 41, .energyCost = 60};
+  const struct {
+    const char* what;
+    double cash;
+    std::int64_t energyOfTheJob;
+    List<ActingClass> taken;
+  } cases[] = {{"with the price", 11'475, 0, {}},
+               {"a dollar short", 11'474, 0, {}},
+               {"again", 20'000, 0, {done}},
+               {"when job and classes use all energy", 20'000, 40, {half}},
+               {"when they use more, without cash", 0, 41, {half}}};
+  for (const auto& [what, cash, energy, taken] : cases) {
+    sheet.action(
+        what,
+        [&](WorldState& world) {
+          world.totalCashAvailable = cash;
+          world.weeklyEnergyCost = energy;
+          world.yearNumber = 2031;
+          world.saveAllCompletedClasses = taken;
+        },
+        [](Game& game) {
+          return signUpForClass(game,
+                                {.offered = classWithId(41), .weeks = 2, .cost = 11'475, .energyCost = 29});
+        });
   }
-  void addWork(std::int64_t filmId, std::int64_t funnelStage, double performance, std::int64_t part = 1,
-               std::int64_t didAct = 1) {
-    world.saveAllAuditionList.push_back({.filmId = filmId,
-                                         .isPrincipal = part,
-                                         .funnelStage = funnelStage,
-                                         .performanceRating = performance,
-                                         .didAct = didAct});
+  for (const std::int64_t left : {0, 1, 2}) {
+    sheet.changes(
+        std::format("a week with {} left", left),
+        [&](WorldState& world) {
+          world.saveAllCompletedClasses = {{.classId = 41, .weeksRemaining = left, .experience = 100}};
+        },
+        advanceClasses);
   }
-};
-
-TEST_F(TalentRules, TraitsNeedEnergyAndStopAt100) {
-  world.talentTrait2 = 99;
-  world.talentTraitCost2 = 130;
-  world.totalEnergyAvailable = 129;
-  EXPECT_EQ(buyTrait(game, 2)->title, "⚡️ Not Enough Energy ⚡️");
-  EXPECT_EQ(world.talentTrait2, 99);
-  world.totalEnergyAvailable = 130;
-  random.range(10, 0);
-  EXPECT_FALSE(buyTrait(game, 2));
-  EXPECT_EQ(world.talentTrait2, 100);
-  EXPECT_EQ(world.totalEnergyAvailable, 0);
-  world.totalEnergyAvailable = 500;
-  EXPECT_FALSE(buyTrait(game, 2));  // at the maximum: no change and no notice
-  EXPECT_EQ(world.totalEnergyAvailable, 500);
-  EXPECT_EQ(world.talentTraitCost2, 131);
 }
 
-TEST_F(TalentRules, ClassesCostAndGiveExperience) {
-  world.totalCashAvailable = 12000;
-  world.yearNumber = 2031;
-  const ClassOption option = {.offered = classWithId(41), .weeks = 2, .cost = 11475, .energyCost = 29};
-  random.range(20, 0);
-  EXPECT_FALSE(signUpForClass(game, option));
-  EXPECT_EQ(world.totalCashAvailable, 525);
-  expectToldInTheLogAlone("You signed up for Scene Study IV at Julien.");
-  EXPECT_EQ(test::shown(world.saveAllCompletedClasses),
-            "(classId 41, energyCost 29, weeksTotal 2, weeksRemaining 2, experience 100, level 4, "
-            "cost 11475, yearStarted 2031)");
-  EXPECT_EQ(signUpForClass(game, option)->title, "🎭 Already Signed Up 🎭");
-
-  advanceClasses(game);
-  EXPECT_EQ(classEnergy(world), 29);
-  EXPECT_EQ(world.experience, 0);
-  advanceClasses(game);
-  EXPECT_EQ(classEnergy(world), 0);
-  expectToldInBothLists("You finished Drama 414");
-  advanceClasses(game);  // a finished class does not change
-  EXPECT_EQ(world.experience, 100);
-  EXPECT_EQ(world.WeekFeed.size(), 1u);
-}
-
-TEST_F(TalentRules, ClassesCheckEnergyBeforeCash) {
-  const ClassOption option = {.offered = classWithId(1), .weeks = 4, .cost = 2515, .energyCost = 14};
-  EXPECT_EQ(signUpForClass(game, option)->message, "You do not have enough cash for the is class.");
-  world.weeklyEnergyCost = 41;
-  world.saveAllCompletedClasses = {{.classId = 2, .energyCost = 60, .weeksRemaining = 1}};
-  EXPECT_TRUE(signUpForClass(game, option)->message.ends_with("losing -101 energy each week."));
-  world.weeklyEnergyCost = 40;  // running classes may use all energy
-  EXPECT_EQ(signUpForClass(game, option)->title, "💰 Not Enough Cash 💰");
-}
-
-TEST_F(TalentRules, BuysThePreviewedReel) {
-  setTraits(60);
-  world.totalCashAvailable = 399;
-  addWork(1, 3, 80.9);
-  addWork(2, 3, 70.5);
-  addWork(3, 3, 99, 1, 0);  // directed only
-  addWork(4, 2, 99);        // not wrapped yet
-  addWork(5, 3, 60);
-  addWork(6, 3, 50);
-  EXPECT_EQ(allPerformanceFootage(world), (std::vector<std::size_t>{0, 1, 4, 5}));
-
-  std::vector<std::int64_t> chosen;
-  EXPECT_EQ(buildShowreelFromFootage(game, chosen, 50)->title, "🎞️ No Footage Selected 🎞️");
-  for (const std::int64_t filmId : {1, 2, 5}) EXPECT_FALSE(chooseFootage(chosen, filmId));
-  EXPECT_EQ(chooseFootage(chosen, 6)->title, "⚡️ Limit Reached ⚡️");
-  EXPECT_FALSE(chooseFootage(chosen, 5));  // removed again
-  EXPECT_EQ(chosen, (std::vector<std::int64_t>{1, 2}));
-
-  random.unit(1);
-  EXPECT_EQ(previewFootageReel(game, chosen), 55);  // (80 + 70 + 60 + 25) / 425
-  EXPECT_FALSE(buildShowreelFromFootage(game, chosen, 55));
-  EXPECT_EQ(world.totalCashAvailable, 0);
-  expectToldInTheLogAlone("You updated your showreel using existing footage, and it’s now rated 55");
-  EXPECT_TRUE(buildShowreelFromFootage(game, chosen, 99));  // no cash
-  EXPECT_EQ(world.showreelScore, 55);
-}
-
-TEST_F(TalentRules, NewScenesReplaceTheReel) {
-  setTraits(40);
+// Four titles with footage, the first with the best; then one only directed and one that is not wrapped.
+void prepareFootage(WorldState& world) {
+  for (const Trait& trait : traits) world.*trait.points = 60;
   world.showreelScore = 90;
-  world.totalCashAvailable = 2000;
   world.newScenesProduced = {7};
-  const std::vector<std::string> scenes = {"a waiter quits", "a queen waits"};
-  EXPECT_TRUE(produceShowreelScenes(game, 0, scenes, {}));  // more scenes than the package holds
-  // x 15, a 40, b 30, E 0: top 21.25, low 0; v at the top (15 + 40 + 30 + 21.25) / 5 = 21.25
-  random.unit(0.5).unit(1).unit(0.5).unit(1).unit(0).range(20, 0);
-  EXPECT_FALSE(produceShowreelScenes(game, 1, scenes, {}));
-  EXPECT_EQ(world.newScenesProduced, (IntList{21, 21}));
-  EXPECT_EQ(world.newSceneDescriptions, (TextList{"a waiter quits", "a queen waits"}));
-  EXPECT_EQ(world.existingFootageScore, 42);
-  EXPECT_EQ(world.showreelScore, 19);  // (42 + 40 + 0) / 425: a new reel can be worse
-  EXPECT_EQ(world.totalCashAvailable, 2000 - 699);
-  expectToldInTheLogAlone(
-      "You hired a production company for $699 to add a scene where a waiter quits and a queen waits to your "
-      "showreel. Updated rating: 19");
-  // Chosen footage replaces the scenes in the score.
-  addWork(9, 3, 100);
-  const std::vector<std::int64_t> footage = {9};
-  random.unit(0.5).unit(1).unit(1).range(20, 1);
-  EXPECT_FALSE(produceShowreelScenes(game, 0, std::vector<std::string>{"a duel"}, footage));
-  EXPECT_EQ(world.existingFootageScore, 21);
-  EXPECT_EQ(world.showreelScore, 38);  // (100 + 40 + 25) / 425
+  for (const double rating : {80.9, 70.5, 60.0, 50.0}) {
+    world.saveAllAuditionList.push_back({.filmId = std::ssize(world.saveAllAuditionList) + 1,
+                                         .funnelStage = funnel::wrapped,
+                                         .performanceRating = rating});
+  }
+  world.saveAllAuditionList.push_back(
+      {.filmId = 5, .funnelStage = funnel::wrapped, .performanceRating = 99, .didAct = 0});
+  world.saveAllAuditionList.push_back({.filmId = 6, .funnelStage = funnel::booked, .performanceRating = 99});
 }
 
-TEST_F(TalentRules, RepairsScenesWithoutScores) {
-  world.newSceneDescriptions = {"a waiter quits", "a queen waits"};
-  world.newScenesProduced = {21};
-  openShowreel(game);
-  EXPECT_EQ(world.newSceneDescriptions, (TextList{"a waiter quits"}));
-  world.newSceneDescriptions.clear();
-  openShowreel(game);
-  EXPECT_TRUE(world.newScenesProduced.empty());
+TEST(GoldenTalent, ShowreelsOfFootageAndOfScenes) {
+  Sheet sheet("talent_showreel");
+  std::vector<std::int64_t> chosen;
+  for (const std::int64_t filmId : {1, 2, 3, 4, 3}) {
+    const Refusal refusal = chooseFootage(chosen, filmId);
+    sheet.line(std::format("clip {}: {} {}", filmId, refusal ? refusal->title : "", test::textOf(chosen)));
+  }
+  const std::vector<std::vector<std::int64_t>> reels = {{}, {1, 2}, {1, 2, 5, 6}};
+  for (const double cash : {398.99, 399.0}) {
+    for (const auto& clips : reels) {
+      sheet.action(
+          std::format("a reel of {} with {}", test::textOf(clips), cash),
+          [&](WorldState& world) {
+            prepareFootage(world);
+            world.totalCashAvailable = cash;
+          },
+          [&](Game& game) {
+            sheet.line(std::format("footage {}, likely {}", allPerformanceFootage(game.world).size(),
+                                   likelyFootageScore(game.world)));
+            return buildShowreelFromFootage(game, clips, previewFootageReel(game, clips));
+          });
+    }
+  }
+  const std::vector<std::string> scenes = {"a waiter quits", "a queen waits", "a duel", "a fall"};
+  for (const auto& [package, count, cash] : {std::tuple{0, 0, 499},
+                                             {0, 1, 498},
+                                             {0, 1, 499},
+                                             {0, 2, 499},
+                                             {1, 2, 699},
+                                             {2, 3, 999},
+                                             {2, 4, 999}}) {
+    for (const auto& clips : {reels[0], reels[1]}) {
+      sheet.action(
+          std::format("package {} with {} scenes and {} clips for {}", package, count, clips.size(), cash),
+          [&](WorldState& world) {
+            prepareFootage(world);
+            world.totalCashAvailable = cash;
+          },
+          [&](Game& game) {
+            return produceShowreelScenes(game, static_cast<std::size_t>(package),
+                                         std::span(scenes).first(static_cast<std::size_t>(count)), clips);
+          });
+    }
+  }
+  for (const auto& [written, scored] : {std::pair{TextList{"a duel", "a fall"}, IntList{21}}, {{}, {21}}}) {
+    sheet.changes(
+        std::format("{} scenes with {} scores", written.size(), scored.size()),
+        [&](WorldState& world) {
+          world.newSceneDescriptions = written;
+          world.newScenesProduced = scored;
+        },
+        openShowreel);
+  }
 }
 
-TEST_F(TalentRules, TheGuildNeedsRolesAndTheFee) {
-  world.totalCashAvailable = 2999;
-  world.yearNumber = 2028;
-  addWork(1, 2, 0);
-  addWork(2, 3, 0, 0);  // background
-  addWork(3, 1, 0);     // invited only
-  EXPECT_EQ(joinGuild(game)->message, "\nYou have not met the terms of eligibilty.");
-  addWork(4, 3, 0);
-  EXPECT_EQ(joinGuild(game)->message, "\nYou do not have cash to join.");
-  world.totalCashAvailable = 3500;
-  for (int attempt = 0; attempt < 2; ++attempt) EXPECT_FALSE(joinGuild(game));  // no change for a member
-  EXPECT_EQ(world.totalCashAvailable, 500);
-  EXPECT_EQ(world.isSAG, 1);
-  EXPECT_EQ(world.memberSince, 2028);
-  EXPECT_EQ(test::shown(world.saveAllWeeklyLineItems),
-            "(category 1, title AG Monthly Dues, amount 20, year 2028, typeOfExpense 1)");
+TEST(GoldenTalent, TheGuildNeedsTwoRolesAndTheFee) {
+  Sheet sheet("talent_guild");
+  for (const auto& [roles, cash, isSAG] :
+       {std::tuple{1, 3'000, 0}, {2, 2'999, 0}, {2, 3'000, 0}, {2, 9'000, 1}}) {
+    sheet.action(
+        std::format("{} roles and {}, member {}", roles, cash, isSAG),
+        [&](WorldState& world) {
+          world.totalCashAvailable = cash;
+          world.yearNumber = 2028;
+          world.isSAG = isSAG;
+          // Neither a background part nor an invitation counts.
+          world.saveAllAuditionList = {{.isPrincipal = 0, .funnelStage = funnel::wrapped},
+                                       {.isPrincipal = 1, .funnelStage = funnel::invited}};
+          for (int role = 0; role < roles; ++role) {
+            world.saveAllAuditionList.push_back({.isPrincipal = 1, .funnelStage = funnel::booked + role});
+          }
+        },
+        joinGuild);
+  }
 }
 
 }  // namespace

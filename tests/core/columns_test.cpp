@@ -11,9 +11,7 @@
 
 #include "core/fields/film.h"
 #include "core/record_codec.h"
-#include "core/save.h"
-#include "tests/memory_port.h"
-#include "tests/scripted_random.h"
+#include "tests/core/launch.h"
 
 namespace tb {
 namespace {
@@ -27,24 +25,9 @@ constexpr const char* films = "saveAllFilmList";
 const std::string popularity = columnKey(films, "currentPopularity");
 const std::string popularityBefore = columnKey(films, "lastWeekPopularity");
 
-// A launch of the game on what is stored.
-struct Launch {
-  explicit Launch(MemoryPort& port) : store(port) {
-    testing::internal::CaptureStderr();
-    for (const Variable& variable : variables()) loadVariable(game, variable);
-    log = testing::internal::GetCapturedStderr();
-  }
-
-  void save() {
-    saveChanges(game);
-    ASSERT_TRUE(store.commit());
-  }
-  List<Film>& list() { return game.world.saveAllFilmList; }
-
-  SaveStore store;
-  test::ScriptedRandom random;
-  Game game{.store = store, .random = random};
-  std::string log;
+struct Launch : test::Launch {
+  using test::Launch::Launch;
+  List<Film>& list() { return world.saveAllFilmList; }
 };
 
 Film film(std::int64_t id) {

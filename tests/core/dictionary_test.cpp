@@ -1,5 +1,4 @@
-// Every row of the table of variables: start value, restart, saving, loading, and loading a value of another
-// type.
+// Every row of the table of variables: restart, saving and loading, and loading a value of another type.
 
 #include <gtest/gtest.h>
 #include <set>
@@ -59,89 +58,6 @@ bool hasOwnRule(std::string_view key) {
                                                "totalEnergyMax",         "experience",
                                                "saveAllWeeklyLineItems", "agentFanBonus"};
   return keys.contains(key);
-}
-
-// --- Save file ---
-
-template <class T>
-void expectStoredForm(const Value& value, const T& variable) {
-  const auto* const held = value.as<T>();
-  ASSERT_NE(held, nullptr);
-  EXPECT_EQ(*held, variable);
-}
-
-template <class T>
-void expectStoredForm(const Value& value, const std::vector<T>& elements);
-
-template <RecordType Record>
-void expectStoredForm(const Value& value, const Record& record) {
-  const auto* const entries = value.as<Dictionary>();
-  ASSERT_NE(entries, nullptr);
-  std::size_t present = 0;
-  forEachField(record, [&](std::string_view name, const auto& field) {
-    SCOPED_TRACE(name);
-    const Value* const stored = value.find(name);
-    if constexpr (detail::isOptional<std::remove_cvref_t<decltype(field)>>) {
-      ASSERT_EQ(stored != nullptr, field.has_value());
-      if (field) expectStoredForm(*stored, *field);
-      present += field.has_value() ? 1 : 0;
-    } else {
-      ASSERT_NE(stored, nullptr);
-      expectStoredForm(*stored, field);
-      present += 1;
-    }
-  });
-  EXPECT_EQ(entries->size(), present);
-}
-
-template <class T>
-void expectStoredElements(const Value& value, const T& elements) {
-  const auto* const array = value.as<Array>();
-  ASSERT_NE(array, nullptr);
-  ASSERT_EQ(array->size(), elements.size());
-  for (std::size_t index = 0; index < elements.size(); ++index) {
-    SCOPED_TRACE(index);
-    expectStoredForm((*array)[index], elements[index]);
-  }
-}
-
-template <class T>
-void expectStoredForm(const Value& value, const std::vector<T>& elements) {
-  expectStoredElements(value, elements);
-}
-
-template <class T>
-void expectStoredForm(const Value& value, const List<T>& list) {
-  if constexpr (RecordType<T>) {
-    const auto* const data = value.as<Data>();
-    ASSERT_NE(data, nullptr);
-    const auto decoded = plist::read(data->bytes);
-    ASSERT_TRUE(decoded);
-    expectStoredElements(*decoded, list);
-  } else {
-    expectStoredElements(value, list);
-  }
-}
-
-// --- The rows ---
-
-TEST(Dictionary, NoTwoVariablesShareAKey) {
-  std::set<std::string_view> keys;
-  for (const Variable& variable : variables()) {
-    EXPECT_FALSE(variable.key.empty());
-    EXPECT_TRUE(keys.insert(variable.key).second) << variable.key;
-  }
-}
-
-TEST(Dictionary, StoresEveryVariableInItsForm) {
-  ScratchGame scratch;
-  store(scratch, unusualWorld());
-  forEachVariable([&]<auto Member>(std::string_view key, const auto&, const auto&, Load) {
-    SCOPED_TRACE(key);
-    const auto stored = scratch.store.value(key);
-    ASSERT_TRUE(stored);
-    expectStoredForm(*stored, scratch.game.world.*Member);
-  });
 }
 
 TEST(Dictionary, LoadsOnlyAtStartVariables) {
@@ -210,20 +126,6 @@ TEST(Dictionary, IgnoresValuesOfAnotherType) {
     }
     expectSameVariables(scratch.game.world, played);
   }
-}
-
-TEST(Dictionary, OneDamagedListAffectsNoOther) {
-  ScratchGame scratch;
-  WorldState played = unusualWorld();
-  store(scratch, played);
-  scratch.store.put("saveAllFilmList", Value{Data{Bytes(40, std::byte{0x62})}});
-
-  Game relaunched{.store = scratch.store, .random = scratch.random};
-  loadWorld(relaunched);
-  EXPECT_TRUE(relaunched.world.saveAllFilmList.empty());
-  EXPECT_EQ(relaunched.world.saveAllAuditionList, played.saveAllAuditionList);
-  EXPECT_EQ(relaunched.world.saveAllBoxOfficeList, played.saveAllBoxOfficeList);
-  EXPECT_EQ(relaunched.world.saveRivalHoldings, played.saveRivalHoldings);
 }
 
 }  // namespace

@@ -29,16 +29,6 @@ EVERYTHING = {
     "many": {f"key {index}": index for index in range(300)},
 }
 
-PART = {"role": "hero", "weeks": 12}
-RECORD = {
-    "filmId": -5, "gross": 1e9, "isReleased": True, "title": "Ça ira 🎬", "poster": b"\x03" * 40,
-    "premiere": datetime.datetime(2024, 1, 2, 3, 4, 5), "sequelOf": 4, "tagline": "", "lead": PART, "cameo": PART,
-    "weeks": [1, 2, 300], "earnings": [0.5, 1e12], "genres": ["Drama"], "cast": [PART, PART],
-}
-OPTIONAL = ("sequelOf", "tagline", "cameo")
-RECORDS = [RECORD, {key: value for key, value in RECORD.items() if key not in OPTIONAL}] * 40
-
-
 def listing(value, path=""):
     """The lines of `property_list_tool show`, from a value of plistlib."""
     if isinstance(value, bool):
@@ -111,13 +101,6 @@ class ForeignReaders(unittest.TestCase):
                 ours = self.file("ours.plist")
                 self.run_program(TOOL, "copy", path, ours)
                 self.assert_opens_everywhere(ours, EVERYTHING)
-
-    def test_records_go_both_ways(self):
-        for writer, path in self.theirs(RECORDS).items():
-            with self.subTest(writer):
-                ours = self.file("records.plist")
-                self.run_program(TOOL, "records", path, ours)
-                self.assert_opens_everywhere(ours, RECORDS)
 
     def test_a_whole_career_goes_both_ways(self):
         saved = self.file("career.plist")

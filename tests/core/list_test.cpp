@@ -77,39 +77,6 @@ TEST(PersistedList, WritesOnlyChangedPieces) {
   EXPECT_EQ(contents(stored.load()), contents(list));
 }
 
-TEST(PersistedList, DropsEmptyPieces) {
-  List<int> history;
-  StoredList<int> stored;
-  for (int week = 0; week < 1000; ++week) {
-    history.push_back(week);
-    if (history.size() > 104) history.pop_front();
-    stored.save(history);
-  }
-  EXPECT_LE(stored.pieces.size(), 15u);
-  EXPECT_EQ(history.front(), 896);
-  EXPECT_EQ(contents(stored.load()), contents(history));
-}
-
-TEST(PersistedList, AssignedListsAreSavedCompletely) {
-  List<int> list = numbers(100);
-  StoredList<int> stored;
-  stored.save(list);
-  List<int> saved = numbers(3);
-  StoredList<int> elsewhere;
-  elsewhere.save(saved);
-
-  list = saved;
-  EXPECT_TRUE(list.replacesStored());
-  stored.save(list);
-  EXPECT_EQ(contents(stored.load()), (std::vector{0, 1, 2}));
-
-  List<int> moved = std::move(saved);
-  EXPECT_TRUE(moved.replacesStored());
-  list.clear();
-  stored.save(list);
-  EXPECT_TRUE(stored.pieces.empty());
-}
-
 TEST(PersistedList, AListCanBeAssignedFromAViewOfItself) {
   List<int> list = numbers(100);
   list.assign(list | std::views::filter([](int value) { return value % 2 == 1; }));

@@ -1,3 +1,4 @@
+#include <format>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -7,6 +8,7 @@
 #include "core/random.h"
 #include "core/text.h"
 #include "tests/scripted_random.h"
+#include "tests/sheet.h"
 
 namespace tb {
 namespace {
@@ -68,39 +70,36 @@ TEST(Bands, FindsRowsAtBothEndsAndNoneInGaps) {
   }
 }
 
-TEST(ShortMoney, ChangesFormAtEachThreshold) {
-  const Locale us;
-  const std::pair<double, const char*> cases[] = {{0, "$0.00"},
-                                                  {99.5, "$99.50"},
-                                                  {99.999, "$100.00"},
-                                                  {100, "$100"},
-                                                  {999.4, "$999"},
-                                                  {1000, "$1.0K"},
-                                                  {1500, "$1.5K"},
-                                                  {9999, "$10.0K"},
-                                                  {10000, "$10K"},
-                                                  {999999, "$1,000K"},
-                                                  {1e6, "$1.0M"},
-                                                  {99.94e6, "$99.9M"},
-                                                  {100e6, "$100M"},
-                                                  {999999999, "$1,000M"},
-                                                  {1e9, "$1.0B"},
-                                                  {999.94e9, "$999.9B"},
-                                                  {1e12, ""},
-                                                  {-0.5, ""},
-                                                  {-1, ""},
-                                                  {-1e15, ""}};
-  for (const auto& [amount, text] : cases) EXPECT_EQ(shortMoney(us, amount), text) << amount;
-  EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::quiet_NaN()), "$0");
-  EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::infinity()), "$0");
-}
-
-TEST(ShortCount, ChangesFormAtEachThreshold) {
-  const std::pair<std::int64_t, const char*> cases[] = {
-      {0, "0"},          {999, "999"},         {1000, "1.0K"},           {999949, "999.9K"},
-      {1000000, "1.0M"}, {1550000000, "1.6B"}, {999940000000, "999.9B"}, {1000000000000, ""},
-      {-1, ""}};
-  for (const auto& [count, text] : cases) EXPECT_EQ(shortCount(count), text) << count;
+TEST(GoldenNumbers, FormsAtEachThreshold) {
+  test::Sheet sheet("core_numbers");
+  for (const double amount : {0.0,
+                              99.5,
+                              99.999,
+                              100.0,
+                              999.4,
+                              1e3,
+                              1500.0,
+                              9999.0,
+                              1e4,
+                              999'999.0,
+                              1e6,
+                              99.94e6,
+                              1e8,
+                              999'999'999.0,
+                              1e9,
+                              999.94e9,
+                              1e12,
+                              -0.5,
+                              -1.0,
+                              -1e15,
+                              std::numeric_limits<double>::quiet_NaN(),
+                              std::numeric_limits<double>::infinity()}) {
+    sheet.line(std::format("{:f} dollars: '{}'", amount, shortMoney({}, amount)));
+  }
+  for (const std::int64_t count : {0LL, 999LL, 1'000LL, 999'949LL, 1'000'000LL, 1'550'000'000LL,
+                                   999'940'000'000LL, 1'000'000'000'000LL, -1LL}) {
+    sheet.line(std::format("{}: '{}'", count, shortCount(count)));
+  }
 }
 
 TEST(Currency, FollowsTheLocale) {
@@ -119,24 +118,12 @@ TEST(Currency, FollowsTheLocale) {
 }
 
 TEST(DateLabel, NamesTheFridayOfAWeekThatBeginsOnSunday) {
-  const struct {
-    std::int64_t week, year;
-    const char *month, *day;
-  } cases[] = {
-      {1, 2026, "January", "2, 2026"},
-      {52, 2026, "December", "25, 2026"},
-      {1, 2027, "January", "1, 2027"},
-      {1, 2028, "December", "31, 2027"},  // January 1 is a Saturday, so the week's Friday is in the previous
-                                          // year
-      {10, 2028, "March", "3, 2028"},
-      {53, 2027, "December", "31, 2027"},
-  };
-  for (const auto& [week, year, month, day] : cases) {
-    const auto label = dateLabel({}, week, year);
-    ASSERT_TRUE(label);
-    EXPECT_EQ(label->month, month) << week << " of " << year;
-    EXPECT_EQ(label->dayAndYear, day);
-  }
+  EXPECT_EQ(dateHeading({}, 1, 2026, " "), "JANUARY 2, 2026");
+  EXPECT_EQ(dateHeading({}, 53, 2027, " "), "DECEMBER 31, 2027");
+  EXPECT_EQ(dateHeading({}, 10, 2028, " "), "MARCH 3, 2028");
+  // January 1 is a Saturday, so the Friday of its week is in the previous year.
+  EXPECT_EQ(dateHeading({}, 1, 2028, " "), "DECEMBER 31, 2027");
+  EXPECT_EQ(dateLabel({}, 1, 2027)->month, "January");
   EXPECT_FALSE(dateLabel({}, 0, 2026));
   EXPECT_FALSE(dateLabel({}, 54, 2026));
   Locale greek;

@@ -5,8 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "tests/memory_port.h"
-#include "tests/scripted_random.h"
+#include "tests/core/launch.h"
 
 namespace tb {
 namespace {
@@ -15,32 +14,18 @@ using plist::Array;
 using plist::Data;
 using plist::Dictionary;
 using plist::Value;
+using test::Launch;
 using test::MemoryPort;
-
-// A launch of the game on the stored data.
-struct Launch {
-  explicit Launch(MemoryPort& port) : store(port) {}
-
-  SaveStore store;
-  test::ScriptedRandom random;
-  Game game{.store = store, .random = random};
-};
 
 Child child(std::int64_t id) { return {.id = id, .name = "Child " + std::to_string(id)}; }
 
 // A stored career of five pieces of children and five of fans.
 void storeLists(MemoryPort& port) {
   Launch play(port);
-  for (std::int64_t id = 0; id < 40; ++id) play.game.world.saveAllChildList.push_back(child(id));
-  for (std::int64_t fans = 0; fans < 36; ++fans) play.game.world.trackFans.push_back(fans);
-  play.game.world.weekNumber = 9;
-  saveChanges(play.game);
-  EXPECT_TRUE(play.store.commit());
-}
-
-// Loads every variable, including those that a launch does not read.
-void loadThem(Game& game) {
-  for (const Variable& variable : variables()) loadVariable(game, variable);
+  for (std::int64_t id = 0; id < 40; ++id) play.world.saveAllChildList.push_back(child(id));
+  for (std::int64_t fans = 0; fans < 36; ++fans) play.world.trackFans.push_back(fans);
+  play.world.weekNumber = 9;
+  play.save();
 }
 
 std::ptrdiff_t listPieces(const MemoryPort& port) {
@@ -53,71 +38,58 @@ TEST(SaveAndLoad, WritesOnlyChangedPieces) {
   storeLists(port);
   EXPECT_EQ(listPieces(port), 10);
   Launch play(port);
-  loadThem(play.game);
   EXPECT_FALSE(saveChanges(play.game));
   EXPECT_FALSE(play.store.hasUncommitted());
 
-  WorldState& world = play.game.world;
-  world.saveAllChildList.edit(39).followers = 5;
-  world.trackFans.push_back(36);
-  world.trackFans.pop_front();
-  saveChanges(play.game);
-  ASSERT_TRUE(play.store.commit());
+  play.world.saveAllChildList.edit(39).followers = 5;
+  play.world.trackFans.push_back(36);
+  play.world.trackFans.pop_front();
+  play.save();
   EXPECT_EQ(port.lastCommit.size(), 3u);
 
   Launch next(port);
-  loadThem(next.game);
-  EXPECT_EQ(next.game.world.saveAllChildList, world.saveAllChildList);
-  EXPECT_EQ(next.game.world.trackFans, world.trackFans);
-  EXPECT_EQ(next.game.world.weekNumber, 9);
+  EXPECT_EQ(next.world.saveAllChildList, play.world.saveAllChildList);
+  EXPECT_EQ(next.world.trackFans, play.world.trackFans);
+  EXPECT_EQ(next.world.weekNumber, 9);
 }
 
 TEST(SaveAndLoad, SavesEmptiedLists) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
-  loadThem(play.game);
-  WorldState& world = play.game.world;
-  while (!world.saveAllChildList.empty()) world.saveAllChildList.pop_front();
-  world.trackFans.clear();
-  saveChanges(play.game);
-  ASSERT_TRUE(play.store.commit());
+  while (!play.world.saveAllChildList.empty()) play.world.saveAllChildList.pop_front();
+  play.world.trackFans.clear();
+  play.save();
   EXPECT_EQ(SaveStore(port).value("saveAllChildList"), Value{Data{plist::write(Value{Array{}})}});
   EXPECT_EQ(SaveStore(port).value("trackFans"), Value{Array{}});
 
   Launch next(port);
-  loadThem(next.game);
-  next.game.world.saveAllChildList.push_front(child(7));
-  next.game.world.trackFans.push_back(3);
-  saveChanges(next.game);
-  ASSERT_TRUE(next.store.commit());
+  next.world.saveAllChildList.push_front(child(7));
+  next.world.trackFans.push_back(3);
+  next.save();
   Launch last(port);
-  loadThem(last.game);
-  EXPECT_EQ(last.game.world.saveAllChildList, List<Child>{child(7)});
-  EXPECT_EQ(last.game.world.trackFans, IntList{3});
+  EXPECT_EQ(last.world.saveAllChildList, List<Child>{child(7)});
+  EXPECT_EQ(last.world.trackFans, IntList{3});
 }
 
 TEST(SaveAndLoad, LoadsImportedListsAndSavesPieces) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
-  loadThem(play.game);
-  const WorldState before = play.game.world;
+  const WorldState before = play.world;
 
   play.store.replace(play.store.dictionary());
-  loadThem(play.game);
-  ASSERT_EQ(play.game.world.saveAllChildList, before.saveAllChildList);
-  ASSERT_EQ(play.game.world.trackFans, before.trackFans);
+  play.load();
+  ASSERT_EQ(play.world.saveAllChildList, before.saveAllChildList);
+  ASSERT_EQ(play.world.trackFans, before.trackFans);
 
-  play.game.world.saveAllChildList.edit(0).name = "Zoe";
-  play.game.world.trackFans.push_back(99);
-  saveChanges(play.game);
-  ASSERT_TRUE(play.store.commit());
+  play.world.saveAllChildList.edit(0).name = "Zoe";
+  play.world.trackFans.push_back(99);
+  play.save();
   EXPECT_EQ(listPieces(port), 10);
   Launch next(port);
-  loadThem(next.game);
-  EXPECT_EQ(next.game.world.saveAllChildList, play.game.world.saveAllChildList);
-  EXPECT_EQ(next.game.world.trackFans, play.game.world.trackFans);
+  EXPECT_EQ(next.world.saveAllChildList, play.world.saveAllChildList);
+  EXPECT_EQ(next.world.trackFans, play.world.trackFans);
 }
 
 // If a slot lacks a key, the next save must write the whole list.
@@ -125,15 +97,12 @@ TEST(SaveAndLoad, RewritesListsWithoutTheirKey) {
   MemoryPort port;
   storeLists(port);
   Launch play(port);
-  loadThem(play.game);
   play.store.replace({});
-  loadThem(play.game);
-  play.game.world.trackFans.push_back(36);
-  saveChanges(play.game);
-  ASSERT_TRUE(play.store.commit());
+  play.load();
+  play.world.trackFans.push_back(36);
+  play.save();
   Launch next(port);
-  loadThem(next.game);
-  EXPECT_EQ(next.game.world.trackFans.size(), 37u);
+  EXPECT_EQ(next.world.trackFans.size(), 37u);
 }
 
 TEST(SaveAndLoad, SetsDamagedListsAside) {
@@ -141,21 +110,16 @@ TEST(SaveAndLoad, SetsDamagedListsAside) {
   storeLists(port);
   port.pieces.at({"saveAllChildList", 1}).bytes.resize(20);
   Launch play(port);
-  testing::internal::CaptureStderr();
-  loadThem(play.game);
-  const std::string log = testing::internal::GetCapturedStderr();
-  EXPECT_TRUE(log.starts_with("saveAllChildList: ")) << log;
-  EXPECT_EQ(std::ranges::count(log, '\n'), 1);
-  EXPECT_TRUE(play.game.world.saveAllChildList.empty());
-  EXPECT_EQ(play.game.world.trackFans.size(), 36u);
+  EXPECT_TRUE(play.log.starts_with("saveAllChildList: ")) << play.log;
+  EXPECT_EQ(std::ranges::count(play.log, '\n'), 1);
+  EXPECT_TRUE(play.world.saveAllChildList.empty());
+  EXPECT_EQ(play.world.trackFans.size(), 36u);
 
-  play.game.world.saveAllChildList.push_back(child(1));
-  saveChanges(play.game);
-  ASSERT_TRUE(play.store.commit());
+  play.world.saveAllChildList.push_back(child(1));
+  play.save();
   EXPECT_EQ(port.keptAside.size(), 5u);
   Launch next(port);
-  loadThem(next.game);
-  EXPECT_EQ(next.game.world.saveAllChildList, List<Child>{child(1)});
+  EXPECT_EQ(next.world.saveAllChildList, List<Child>{child(1)});
 }
 
 TEST(SaveAndLoad, SetsValuesOfAnotherKindAside) {
@@ -175,18 +139,14 @@ TEST(SaveAndLoad, SetsValuesOfAnotherKindAside) {
   ASSERT_TRUE(before.store.commit());
 
   Launch play(port);
-  testing::internal::CaptureStderr();
-  loadThem(play.game);
-  testing::internal::GetCapturedStderr();
   const WorldState start;
-  EXPECT_EQ(play.game.world.weekNumber, start.weekNumber);
-  EXPECT_EQ(play.game.world.myName, start.myName);
-  EXPECT_EQ(play.game.world.yearNumber, start.yearNumber);
-  EXPECT_TRUE(play.game.world.trackFans.empty());
-  play.game.world.weekNumber = 5;
-  play.game.world.trackFans.push_back(7);
-  saveChanges(play.game);
-  ASSERT_TRUE(play.store.commit());
+  EXPECT_EQ(play.world.weekNumber, start.weekNumber);
+  EXPECT_EQ(play.world.myName, start.myName);
+  EXPECT_EQ(play.world.yearNumber, start.yearNumber);
+  EXPECT_TRUE(play.world.trackFans.empty());
+  play.world.weekNumber = 5;
+  play.world.trackFans.push_back(7);
+  play.save();
   EXPECT_EQ(port.keptAside.size(), 7u);
   EXPECT_EQ(SaveStore(port).value("weekNumber"), Value{std::int64_t{5}});
   EXPECT_EQ(SaveStore(port).value("trackFans"), Value{Array{Value{std::int64_t{7}}}});

@@ -180,14 +180,8 @@ TEST(GoldenFilm, PremieresAndEpisodesByCrewAndScores) {
         std::format("crew {}", crew), [&](WorldState& world) { test::addReleased(world, project); },
         [](Game& game) { advanceReleasedProject(game, game.world.saveAllAuditionList[0]); });
   }
-  for (const auto& [rating, metascore] : {std::pair{2.0, 40},
-                                          {2.001, 40},
-                                          {6.0, 40},
-                                          {6.001, 40},
-                                          {8.0, 60},
-                                          {8.001, 60},
-                                          {9.0, 90},
-                                          {10.0, 90}}) {
+  for (const double rating : {2.0, 2.001, 6.0, 6.001, 8.0, 8.001, 9.0, 10.0}) {
+    const std::int64_t metascore = rating < 8 ? 40 : 90;
     Audition project = projectOf(filmType::series);
     project.numberOfEpisodesTotal = 3;
     for (const std::int64_t week : {1, 2, 3}) {
@@ -495,7 +489,7 @@ TEST(GoldenFilm, BananasByLetterBadgeAndPercent) {
 TEST(GoldenFilm, UserReviewsAndReleaseCardsByScore) {
   Sheet sheet("film_audience");
   for (const double rating : {1.0, 2.0, 3.4, 5.5, 7.9, 9.9, 10.0}) {
-    for (const std::int64_t ratings : {0, 1, 7, 4'999}) {
+    for (const std::int64_t ratings : {0, 1, 7, 20, 4'999}) {
       Film film = reviewed("Salt Road", rating, static_cast<std::int64_t>(rating * 10), ratings);
       sheet.text(std::format("rated {} by {}", rating, ratings), ofNothing, [&](Game& game) {
         const StarHistogram stars = starHistogram(film);

@@ -15,22 +15,6 @@ namespace {
 
 using MovieReviews = test::RuleTest;
 
-TEST_F(MovieReviews, RatesAFilmOnce) {
-  world.saveAllFilmList = {{.filmId = 1}, {.filmId = 2}};
-  rateFilm(game, 2, 9);
-  rateFilm(game, 2, 2);
-  EXPECT_EQ(world.saveAllFilmList, (List<Film>{{.filmId = 1}, {.filmId = 2, .myRating = 9}}));
-}
-
-TEST_F(MovieReviews, CostsEnergy) {
-  world.totalEnergyAvailable = 25;
-  EXPECT_FALSE(startReview(game));
-  EXPECT_EQ(world.totalEnergyAvailable, 0);
-  world.totalEnergyAvailable = 24;
-  EXPECT_EQ(startReview(game)->title, "⚡️ Not Enough Energy ⚡️");
-  EXPECT_EQ(world.totalEnergyAvailable, 24);
-}
-
 TEST_F(MovieReviews, DrawsAnyTitle) {
   random.range(210, 209);
   EXPECT_EQ(drawTitleToReview(random).title, rateMovieCatalogue().back().title);
@@ -59,19 +43,6 @@ TEST_F(MovieReviews, GeneratesReviewsByStars) {
     EXPECT_EQ(generatedReview(game, rating),
               text(bank::reviewFirstSentence, 29) + " " + text(middle, 0) + " " + text(last, 5));
   }
-}
-
-TEST_F(MovieReviews, AddsReviewsWithStarsAndText) {
-  world.weekNumber = 7;
-  world.yearNumber = 2031;
-  world.weekNumberForTracking = 267;
-  world.saveAllMovieReviews = {{.title = "Older"}};
-  EXPECT_EQ(submitReview(game, "Loud Cousins", 0, "Fine.")->title, "⭐️ Choose a Rating! ⭐️");
-  EXPECT_EQ(submitReview(game, "Loud Cousins", 4, " \n ")->title, "⭐️ Leave a Review! ⭐️");
-  EXPECT_FALSE(submitReview(game, "Loud Cousins", 1, " Fine.\n"));
-  EXPECT_EQ(test::shown(world.saveAllMovieReviews),
-            "(title Loud Cousins, review Fine., rating 1, weekNumber 7, yearNumber 2031, "
-            "weekNumberForTracking 267)(title Older)");
 }
 
 }  // namespace

@@ -1,53 +1,15 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <format>
 #include <gtest/gtest.h>
 
 #include "tests/memory_port.h"
-#include "tests/player.h"
-#include "tests/seeded_random.h"
+#include "tests/random_user.h"
 
 namespace tb {
 namespace {
 
 using test::Player;
-
-// A player who uses random items, with a generator separate from the game's.
-class Monkey {
- public:
-  explicit Monkey(std::uint64_t seed) : whim_(seed) {}
-
-  void act(Player& player) {
-    const std::vector<Player::Usable> all = player.usable();
-    ASSERT_FALSE(all.empty()) << "nothing can be done on " << player.title();
-    const Player::Usable& chosen = choose(all);
-    switch (chosen.kind) {
-      case Player::Usable::Kind::press:
-        return player.press(chosen);
-      case Player::Usable::Kind::type:
-        return player.type(chosen, std::format("words {}", RandomRange(whim_, 1000)));
-      case Player::Usable::Kind::slide:
-        return player.slide(chosen, RandomUnit(whim_, chosen.minimum, chosen.maximum));
-    }
-  }
-
- private:
-  // Prefers ending weeks and answering messages, so that the career advances, and rarely restarts it.
-  const Player::Usable& choose(const std::vector<Player::Usable>& all) {
-    constexpr std::int64_t favoured = 3;  // in 10
-    if (RandomRange(whim_, 10) < favoured) {
-      for (const char* label : {"Start my career", "OK", "End Week", "Close"}) {
-        const auto found = std::ranges::find(all, label, &Player::Usable::label);
-        if (found != all.end()) return *found;
-      }
-    }
-    const auto& any = all[static_cast<std::size_t>(RandomRange(whim_, std::ssize(all)))];
-    return any.label == "Restart" && RandomRange(whim_, 10) > 0 ? all.front() : any;
-  }
-
-  test::SeededRandom whim_;
-};
 
 // Whether the line has it as a whole word, as in "$nan" but not in "tenant".
 bool hasWord(const std::string& line, const std::string& word) {
@@ -105,12 +67,12 @@ TEST(Monkey, PlaysTwoThousandWeeksAtRandom) {
   test::SeededRandom chance(7);
   App app(store, chance);
   Player player(app);
-  Monkey monkey(11);
+  test::RandomUser monkey(11);
 
   std::int64_t weeks = 0;
   std::int64_t week = app.game().world.weekNumberForTracking;
   for (int action = 0; weeks < 2000 && !testing::Test::HasFailure(); ++action) {
-    monkey.act(player);
+    ASSERT_TRUE(monkey.act(player)) << "nothing can be done on " << player.title();
     expectSoundPage(player);
     expectSoundWorld(app.game().world);
     const std::int64_t now = app.game().world.weekNumberForTracking;

@@ -95,24 +95,6 @@ TEST(ReceptionScreens, SeasonsHaveTheirOwnScores) {
   EXPECT_EQ(reviews(12), 4U);
 }
 
-TEST_F(ReceptionJourney, ScoresStayAndPopularityDrifts) {
-  comeOut();
-  device.player().press("Close");
-  const Film released = device.film(1);
-  for (int week = 0; week < 52; ++week) {
-    const double before = device.film(1).currentPopularity;
-    device.playWeeks();
-    EXPECT_EQ(device.film(1).lastWeekPopularity, before);
-    EXPECT_LE(std::abs(device.film(1).currentPopularity - before), 6);  // half of 13 less 1
-  }
-  const Film after = device.film(1);
-  EXPECT_EQ(after.imbdRating, released.imbdRating);
-  EXPECT_EQ(after.numMetascoreRatings, released.numMetascoreRatings);
-  EXPECT_NE(after.currentPopularity, released.currentPopularity);
-  device.launch();  // everything is saved
-  EXPECT_EQ(device.film(1), after);
-}
-
 TEST_F(ReceptionJourney, AReviewCostsEnergyAndIsSaved) {
   device.begin([](WorldState&) {});
   test::Player& player = device.player();

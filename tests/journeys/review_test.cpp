@@ -98,26 +98,6 @@ TEST_F(WeekReviewJourney, FoldedRowsOpenAndClose) {
   EXPECT_FALSE(player.sees(line));
 }
 
-TEST_F(WeekReviewJourney, AQuietWeekShowsATip) {
-  begin({});
-  device.endWeek();
-  EXPECT_FALSE(device.player().sees("FEED"));
-  device.player().expectSees({"💡 ", "INCOME • EXPENSES"});
-  EXPECT_TRUE(all<view::Headline>().empty() && all<view::Fold>().empty());
-  EXPECT_TRUE(device.player().page().moment.empty());
-}
-
-TEST_F(WeekReviewJourney, TheFirstOpeningIsAMoment) {
-  Audition film = test::bookedLead(1, filmType::studentFilm, "Two Hats");
-  film.weekReleased = 2;
-  begin({film});
-  device.playWeeks();
-  device.endWeek();
-  ASSERT_EQ(device.player().page().moment.size(), 1u);
-  EXPECT_EQ(device.player().page().moment[0].title, "OPENS");
-  device.player().expectSees({"Two Hats had its first screening.", "New Release"});
-}
-
 TEST_F(WeekReviewJourney, JoiningTheGuildIsAMomentAndARefusalIsNot) {
   device.begin([](WorldState& world) { world.totalCashAvailable = 0; });
   device.player().follow({"The Backstage", "Actor's Guild", "Join"});

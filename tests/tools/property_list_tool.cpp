@@ -2,7 +2,6 @@
 //
 //   property_list_tool show FILE         prints every value with its path, kind and bits
 //   property_list_tool copy FILE NEW     reads the file and writes it again
-//   property_list_tool records FILE NEW  the same with a list of sample records, through the record codec
 //   property_list_tool career NEW        writes the store of a career after some weeks
 //   property_list_tool class FILE NEW    the store of FILE, brought into the game, after signing up for a
 //   class
@@ -17,8 +16,6 @@
 #include <string_view>
 
 #include "core/property_list.h"
-#include "core/record_codec.h"
-#include "tests/core/sample_record.h"
 #include "tests/memory_port.h"
 #include "tests/player.h"
 #include "tests/seeded_random.h"
@@ -87,13 +84,6 @@ int copy(const Bytes& file, const char* to) {
   return writeFile(to, plist::write(*value)) ? 0 : fail("The copy could not be written.");
 }
 
-int copyRecords(const Bytes& file, const char* to) {
-  const auto list = decodeRecords<SampleRecord>(file);
-  if (!list) return fail(describe(list.error()));
-  const Bytes encoded = encodeRecords<SampleRecord>(list->begin(), list->end());
-  return writeFile(to, encoded) ? 0 : fail("The records could not be written.");
-}
-
 // Plays the given steps on the store and writes it to the file.
 template <class Play>
 int playAndWrite(const plist::Dictionary& before, const char* to, Play play) {
@@ -133,11 +123,9 @@ int run(int count, char** arguments) {
   const std::string_view task = count > 1 ? arguments[1] : "";
   if (task == "show" && count == 3) return show(contentOf(arguments[2]));
   if (task == "copy" && count == 4) return copy(contentOf(arguments[2]), arguments[3]);
-  if (task == "records" && count == 4) return copyRecords(contentOf(arguments[2]), arguments[3]);
   if (task == "career" && count == 3) return career(arguments[2]);
   if (task == "class" && count == 4) return signUpForAClass(contentOf(arguments[2]), arguments[3]);
-  return fail(
-      "property_list_tool show FILE | copy FILE NEW | records FILE NEW | career NEW | class FILE NEW");
+  return fail("property_list_tool show FILE | copy FILE NEW | career NEW | class FILE NEW");
 }
 
 }  // namespace

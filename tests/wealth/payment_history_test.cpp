@@ -43,18 +43,5 @@ TEST(PaymentHistory, ListsPaymentsNewestFirst) {
                   }));
 }
 
-TEST(PaymentHistory, SumsByYear) {
-  WorldState world = paidWorld();
-  world.yearNumber = 2030;
-  const std::vector<YearOfPayments> years = paymentsByYear(world);
-  ASSERT_EQ(years.size(), 3U);
-  EXPECT_EQ(years[0].total(), 970);
-  EXPECT_EQ(years[0].of(PaymentKind::equity), -30);
-  EXPECT_EQ(years[1].year, 2028);
-  EXPECT_EQ(years[1].of(PaymentKind::royalty), 200);
-  EXPECT_EQ(years[2].year, 2030);
-  EXPECT_EQ(years[2].total(), 0);
-}
-
 }  // namespace
 }  // namespace tb

@@ -167,14 +167,5 @@ TEST_F(FrontPageLayout, WrapsShowTheirPay) {
   EXPECT_EQ(lay().headline[0].about.amount, 950);
 }
 
-TEST_F(FrontPageLayout, NewsMatchesItsLine) {
-  endWeek(game);
-  tell(NewsKind::wrap);
-  const WeekSummary summary = openSummary(game);
-  EXPECT_EQ(summary.feed, Texts{"line 1"});
-  EXPECT_EQ(textsOf(summary.frontPage.headline), Texts{"line 1"});
-  EXPECT_TRUE(world.WeekFeed.empty() && world.weekFeedNews.empty());
-}
-
 }  // namespace
 }  // namespace tb

