@@ -93,6 +93,11 @@ TEST(ShortMoney, ChangesFormAtEachThreshold) {
   for (const auto& [amount, text] : cases) EXPECT_EQ(shortMoney(us, amount), text) << amount;
   EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::quiet_NaN()), "$0");
   EXPECT_EQ(shortMoney(us, std::numeric_limits<double>::infinity()), "$0");
+  // bigMoney() has a text for any amount.
+  const std::vector<std::pair<double, const char*>> any = {
+      {-20'000, "-$20,000"}, {0, "$0"},        {0.004, "$0"},
+      {0.01, "$0.01"},       {1.5e6, "$1.5M"}, {2e12, "$2,000,000,000,000"}};
+  for (const auto& [amount, text] : any) EXPECT_EQ(bigMoney(us, amount), text) << amount;
 }
 
 TEST(ShortCount, ChangesFormAtEachThreshold) {
