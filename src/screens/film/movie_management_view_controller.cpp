@@ -41,7 +41,7 @@ Card productionCard(const Game& game, const Audition& project) {
       .picture = {posterOf(game.world, project)},
       .nodes = {caption(project.description),
                 Tiles{{{.label = "Budget", .value = bigMoney(game.locale, project.budget)},
-                       {.label = "Your money", .value = bigMoney(game.locale, project.equityDollarsInvested)},
+                       {.label = "Invested", .value = bigMoney(game.locale, project.equityDollarsInvested)},
                        {.label = "Your stake", .value = tb::format("{:.1f}%", project.equityPercentage)}}}}};
   if (const auto gross = grossOf(game.world, project.filmId)) {
     card.nodes.push_back(
