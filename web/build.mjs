@@ -95,8 +95,17 @@ const names = { "{script}": script, "{style}": style, "{wasm}": wasm };
 const index = readFileSync(join(here, "static/index.html"), "utf8").replace(/\{\w+\}/g, (name) => names[name] ?? name);
 put("index.html", index);
 
+// The licenses of the libraries in the page, which ask to be passed on with it.
+const { dependencies } = JSON.parse(readFileSync(join(here, "package.json"), "utf8"));
+const licenses = put(
+  "licenses.txt",
+  Object.keys(dependencies)
+    .map((name) => `${name}\n\n${readFileSync(join(here, "node_modules", name, "LICENSE"), "utf8").trim()}\n`)
+    .join("\n\n"),
+);
+
 // The files for offline play. Home screens keep their own copies of the PNG icons.
-const files = [script, style, wasm, texts, artScript, ...faces.map(({ file }) => file), ...staticFiles.filter((name) => !name.endsWith(".png"))];
+const files = [script, style, wasm, texts, artScript, ...faces.map(({ file }) => file), licenses, ...staticFiles.filter((name) => !name.endsWith(".png"))];
 
 // The version is a hash of all files.
 const version = hashOf([index, ...files.map((name) => name + hashOf(readFileSync(join(options.out, name))))].join("\n"));

@@ -156,10 +156,10 @@ Refusal produceShowreelScenes(Game& game, std::size_t packageIndex,
   if (!footageFilmIds.empty()) sum = footageSum(world, footageFilmIds);
 
   world.showreelScore = reelScore(game, sum, minSceneCut);
-  logActivity(world, fill(drawFreshRow(game, bank::showreelScene),
-                          {{"amount", currency(game.locale, package.cost, 0)},
-                           {"description", joinedWithAnd(sceneDescriptions)},
-                           {"n", std::to_string(world.showreelScore)}}));
+  logActivity(
+      world, fill(drawFreshRow(game, bank::showreelScene), {{"amount", wholeMoney(game.locale, package.cost)},
+                                                            {"description", joinedWithAnd(sceneDescriptions)},
+                                                            {"n", std::to_string(world.showreelScore)}}));
   return {};
 }
 

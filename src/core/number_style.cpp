@@ -86,6 +86,14 @@ std::string currency(const Locale& locale, double amount, int digits) {
   return amount < 0 ? locale.minusSign + text : text;
 }
 
+std::string wholeMoney(const Locale& locale, double amount) { return currency(locale, amount, 0); }
+
+std::string bigMoney(const Locale& locale, double amount) {
+  constexpr double leastCents = 0.005;
+  const std::string shortForm = std::abs(amount) < leastCents ? "" : shortMoney(locale, amount);
+  return shortForm.empty() ? wholeMoney(locale, amount) : shortForm;
+}
+
 std::string cash(const Locale& locale, double amount) {
   constexpr double wholeUnitsFrom = 1000;
   return currency(locale, amount, amount < wholeUnitsFrom ? 2 : 0);

@@ -1,6 +1,11 @@
 #pragma once
 
-// Number formats. Every number on a screen is formatted by one of these functions.
+// Number formats. Every number on a screen is formatted by one of these functions. For money:
+//
+//   cash()        what the player owns, pays or is paid: with cents while it is small
+//   wholeMoney()  prices and contract pay
+//   bigMoney()    budgets, grosses, fortunes and charts: short form
+//   shortMoney()  lines of the feed and the log, and the tiles of a week
 
 #include <cstdint>
 #include <string>
@@ -19,6 +24,13 @@ namespace tb {
 
 // An amount in full, with exactly `digits` digits after the decimal point: $1,234.50, -$3; "$0" as above.
 [[nodiscard]] std::string currency(const Locale& locale, double amount, int digits);
+
+// An amount in whole units: a price, a fee, a wage.
+[[nodiscard]] std::string wholeMoney(const Locale& locale, double amount);
+
+// shortMoney() for any amount: negative amounts and a trillion and more, which have no short form, are in
+// whole units. Less than half a cent is "$0".
+[[nodiscard]] std::string bigMoney(const Locale& locale, double amount);
 
 // Cash as the hub shows it: with cents below 1,000, in whole units from 1,000 on.
 [[nodiscard]] std::string cash(const Locale& locale, double amount);

@@ -15,11 +15,6 @@ Text caption(std::string text) {
   return {.text = std::move(text), .style = Text::Style::caption, .tone = Tone::quiet};
 }
 
-std::string shownMoney(const Locale& locale, double amount) {
-  const std::string shortForm = shortMoney(locale, amount);
-  return shortForm.empty() ? currency(locale, amount, 0) : shortForm;
-}
-
 Meter energyMeter(const WorldState& world) {
   return {.label = "Energy",
           .value = static_cast<double>(world.totalEnergyAvailable),
@@ -42,7 +37,7 @@ std::string briefOf(const Refusal& refusal) { return refusal ? refusal->brief : 
 
 Price energyPrice(std::int64_t energy) { return {.amount = std::to_string(energy), .icon = Icon::energy}; }
 
-Price moneyPrice(const Locale& locale, double price) { return {.amount = currency(locale, price, 0)}; }
+Price moneyPrice(const Locale& locale, double price) { return {.amount = wholeMoney(locale, price)}; }
 
 Band scoreBand(double score) {
   constexpr double fairFrom = 25;

@@ -32,9 +32,6 @@ template <class Opened>
 
 [[nodiscard]] view::Text caption(std::string text);
 
-// Money in short form, or in full for amounts without a short form (negative, or a trillion and more).
-[[nodiscard]] std::string shownMoney(const Locale& locale, double amount);
-
 // The energy left this week.
 [[nodiscard]] view::Meter energyMeter(const WorldState& world);
 

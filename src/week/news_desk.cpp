@@ -73,13 +73,14 @@ bool isInFeed(std::span<const News> week, NewsKind kind, std::int64_t filmId) {
                              [&](const News& item) { return item.kind == kind && item.filmId == filmId; });
 }
 
-// Whether news of this kind happened before this week.
+// Whether news of this kind happened before this week. A first series premieres even after films have opened.
 bool happenedBefore(const WorldState& world, NewsKind kind, std::span<const News> week) {
   return std::ranges::any_of(world.saveAllAuditionList, [&](const Audition& project) {
     if (project.didAct < 1 || isInFeed(week, kind, project.filmId)) return false;
     if (kind == NewsKind::offer) return project.funnelStage >= funnel::booked;
+    const bool isSeries = project.typeOfFilm == filmType::series;
     return project.funnelStage == funnel::wrapped && project.typeOfFilm != filmType::commercial &&
-           project.weekReleased < world.weekNumberForTracking;
+           isSeries == (kind == NewsKind::premiere) && project.weekReleased < world.weekNumberForTracking;
   });
 }
 

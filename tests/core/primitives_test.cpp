@@ -100,6 +100,9 @@ TEST(GoldenNumbers, FormsAtEachThreshold) {
                                    999'940'000'000LL, 1'000'000'000'000LL, -1LL}) {
     sheet.line(std::format("{}: '{}'", count, shortCount(count)));
   }
+  for (const double amount : {-20'000.0, 0.0, 0.004, 0.01, 1.5e6, 2e12}) {
+    sheet.line(std::format("{:f} dollars, at any size: '{}'", amount, bigMoney({}, amount)));
+  }
 }
 
 TEST(Currency, FollowsTheLocale) {

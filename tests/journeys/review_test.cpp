@@ -28,6 +28,14 @@ struct WeekReviewJourney : testing::Test {
       for (const Audition& project : projects) world.saveAllAuditionList.push_back(project);
     });
   }
+  // Ends the weeks up to the release of a booked lead.
+  void playARelease(std::int64_t typeOfFilm) {
+    Audition project = test::bookedLead(1, typeOfFilm, "Two Hats");
+    project.weekReleased = 2;
+    begin({project});
+    device.playWeeks();
+    device.endWeek();
+  }
 
   // All visible nodes of a kind.
   template <class Kind>
@@ -96,6 +104,21 @@ TEST_F(WeekReviewJourney, FoldedRowsOpenAndClose) {
   player.expectSees({line});  // unchanged
   player.press("2 never wrote back");
   EXPECT_FALSE(player.sees(line));
+}
+
+TEST_F(WeekReviewJourney, TheFirstOpeningIsAMoment) {
+  playARelease(filmType::studentFilm);
+  ASSERT_EQ(device.player().page().moment.size(), 1u);
+  EXPECT_EQ(device.player().page().moment[0].title, "OPENS");
+  device.player().expectSees({"Two Hats had its first screening.", "New Release"});
+}
+
+TEST_F(WeekReviewJourney, TheFirstPremiereIsAMoment) {
+  playARelease(filmType::series);
+  ASSERT_EQ(device.player().page().moment.size(), 1u);
+  EXPECT_EQ(device.player().page().moment[0].title, "PREMIERE");
+  EXPECT_EQ(device.player().page().moment[0].line, "Two Hats");
+  device.player().expectSees({"PREMIERE", "New Release"});
 }
 
 TEST_F(WeekReviewJourney, JoiningTheGuildIsAMomentAndARefusalIsNot) {

@@ -113,6 +113,19 @@ TEST_F(FrontPageLayout, FirstRolesAndLeadsAreMoments) {
   EXPECT_TRUE(isMoment(world, world.weekFeedNews[0], world.weekFeedNews));
 }
 
+TEST_F(FrontPageLayout, TheFirstOpeningAndTheFirstPremiereAreMoments) {
+  add(funnel::wrapped, 10).typeOfFilm = filmType::feature;
+  add(funnel::wrapped, 19).typeOfFilm = filmType::series;
+  const News opening{NewsKind::opening, 2};
+  const News premiere{NewsKind::premiere, 2};
+  EXPECT_FALSE(isMoment(world, opening, std::vector{opening}));
+  EXPECT_TRUE(isMoment(world, premiere, std::vector{premiere}));
+  add(funnel::wrapped, 11).typeOfFilm = filmType::series;
+  EXPECT_FALSE(isMoment(world, premiere, std::vector{premiere}));
+  world.saveAllAuditionList.edit(1).isPrincipal = rolePart::principal;
+  EXPECT_TRUE(isMoment(world, premiere, std::vector{premiere}));
+}
+
 TEST_F(FrontPageLayout, MomentsComeBeforeHigherRanks) {
   add(funnel::wrapped, 10);  // an earlier release, so that the next one is not the first
   add(funnel::booked).role = "Lead";

@@ -1,11 +1,12 @@
 // Export and import of saves; a bad file changes nothing.
 
 import assert from "node:assert/strict";
+import { readFileSync } from "node:fs";
 import { test } from "node:test";
 
 import { inspect } from "./inspect";
 import {
-  choose, download, fill, fillable, finds, openSaves, play, press, says, stage, visit, waitForGame, withoutStorage,
+  choose, download, fill, fillable, finds, heading, openSaves, play, press, says, stage, visit, waitForGame, withoutStorage,
   workingActor,
 } from "./runtime_site";
 
@@ -37,13 +38,32 @@ for (const [how, ...scripts] of [["saved"], ["played in memory alone", withoutSt
   });
 }
 
-test("a career can be brought in before any was started", async () => {
+test("a career can be brought in before any was started, and opens at the top", async () => {
   const page = await (await visit(setting)).open();
   await waitForGame(page);
   await openSaves(page);
+  assert((await page.evaluate(() => scrollY)) > 0, "the form is scrolled to its last button");
   await choose(page, workingActor());
   await press(page, "Replace my career");
   await finds(page, "Ada Vale");
+  assert.equal(await page.evaluate(() => scrollY), 0);
+});
+
+test("the credits name every work in the page, with its license", async () => {
+  const { page } = await play(setting, "Ada Credits");
+  await press(page, "Settings");
+  await press(page, "Credits");
+  await heading(page, "Credits");
+  await inspect(page, "credits");
+  for (const file of ["licenses.txt", "barlow-condensed-license.txt"]) {
+    assert((await page.locator(`dialog[open] a[href="${file}"]`).count()) > 0, `no link to ${file}`);
+    assert.match(await (await page.request.get(new URL(file, setting.site.address).href)).text(), /permission/i);
+  }
+  const names = (await page.getByRole("dialog").innerText()).toLowerCase();
+  const { dependencies } = JSON.parse(readFileSync("package.json", "utf8")) as { dependencies: object };
+  for (const name of Object.keys(dependencies)) {
+    assert(names.includes(name.replace(/^@.*\//, "").replace("core", "dicebear")), `no credit for ${name}`);
+  }
 });
 
 test("a career that was not agreed to be replaced stays", async () => {

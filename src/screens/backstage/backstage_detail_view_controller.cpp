@@ -28,7 +28,7 @@ Section projectSection(const Game& game, const CastingListing& listing) {
   return {.heading = "THE PROJECT",
           .nodes = {Row{.label = "Director", .value = listing.directorName},
                     Row{.label = "Genre", .value = joinedWithAnd(listing.movie->genre)},
-                    Row{.label = "Budget", .value = shortMoney(game.locale, listing.budget)},
+                    Row{.label = "Budget", .value = bigMoney(game.locale, listing.budget)},
                     Row{.label = "Pay", .value = listingPay(game, listing)},
                     Row{.label = "Audition", .value = whenIs(game.world, listing.weekAudition)},
                     Row{.label = "Wrap", .value = whenIs(game.world, listing.weekToWork)}}};

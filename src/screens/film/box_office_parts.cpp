@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/format.h"
+#include "core/number_style.h"
 #include "film/box_office_tables.h"
 #include "screens/parts.h"
 
@@ -16,7 +17,7 @@ view::Chart takingsChart(const Game& game, std::string title, const std::vector<
   return barChart(
       std::move(title), takings,
       [](std::size_t week) { return week == 0 ? "Opening" : tb::format("Week {}", week); },
-      [&game](double amount) { return shownMoney(game.locale, amount); });
+      [&game](double amount) { return bigMoney(game.locale, amount); });
 }
 
 }  // namespace tb

@@ -1,6 +1,7 @@
 #include "screens/film/box_office_view_controller.h"
 
 #include "core/format.h"
+#include "core/number_style.h"
 #include "screens/film/box_office_parts.h"
 #include "screens/film/imbd_box_office_detail_view_controller.h"
 #include "screens/parts.h"
@@ -16,16 +17,16 @@ Card theaterCard(const Game& game, const InTheaters& film) {
   return {.title = film.title,
           .subtitle = film.description,
           .picture = {posterOfFilm(game.world, film.filmId, film.imageString)},
-          .nodes = {Tiles{{{.label = "Weekend", .value = shownMoney(game.locale, film.weekendEarnings)},
-                           {.label = "Total", .value = shownMoney(game.locale, film.totalGross)}}}},
+          .nodes = {Tiles{{{.label = "Weekend", .value = bigMoney(game.locale, film.weekendEarnings)},
+                           {.label = "Total", .value = bigMoney(game.locale, film.totalGross)}}}},
           .press = [id = film.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }};
 }
 
 Row rankedRow(const Game& game, std::size_t place, const BoxOfficeWeekends& film) {
-  Row row{.label = tb::format("{}. {}", place, film.title),
-          .value = shownMoney(game.locale, film.totalGross),
-          .detail =
-              tb::format("{} • Domestic {}", film.yearReleased, shownMoney(game.locale, film.domesticGross))};
+  Row row{
+      .label = tb::format("{}. {}", place, film.title),
+      .value = bigMoney(game.locale, film.totalGross),
+      .detail = tb::format("{} • Domestic {}", film.yearReleased, bigMoney(game.locale, film.domesticGross))};
   if (film.filmId < 0) return row;
   const std::string gain = returnText(film.totalGross, film.budget);
   if (!gain.empty()) row.detail += " " + gain;

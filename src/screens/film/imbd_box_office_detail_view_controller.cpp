@@ -2,6 +2,7 @@
 
 #include "core/descending.h"
 #include "core/find.h"
+#include "core/number_style.h"
 #include "film/box_office_tables.h"
 #include "film/film_record.h"
 #include "screens/film/box_office_parts.h"
@@ -24,8 +25,8 @@ std::vector<std::size_t> marketsOf(const WorldState& world, std::int64_t filmId)
 
 Row marketRow(const Locale& locale, const BoxOffice& market) {
   return {.label = market.countryName,
-          .value = shownMoney(locale, market.totalGross),
-          .detail = "Opening weekend " + shownMoney(locale, market.openingWeekend)};
+          .value = bigMoney(locale, market.totalGross),
+          .detail = "Opening weekend " + bigMoney(locale, market.openingWeekend)};
 }
 
 }  // namespace
@@ -42,10 +43,10 @@ Page ImbdBoxOfficeDetailViewController::view(const Game& game) {
   double gross = 0;
   for (const double week : takings) gross += week;
   page.nodes = {Tiles{{{.label = "Worldwide",
-                        .value = shownMoney(game.locale, gross),
+                        .value = bigMoney(game.locale, gross),
                         .detail = returnText(gross, film.budget)},
-                       {.label = "Opening weekend", .value = shownMoney(game.locale, takings.front())},
-                       {.label = "Budget", .value = shownMoney(game.locale, film.budget)}}},
+                       {.label = "Opening weekend", .value = bigMoney(game.locale, takings.front())},
+                       {.label = "Budget", .value = bigMoney(game.locale, film.budget)}}},
                 takingsChart(game, "EIGHT WEEKS", takings),
                 caption("Eight-week box office performance is based on ticket sales.")};
   const std::vector<std::size_t> rows = marketsOf(world, film_id_);

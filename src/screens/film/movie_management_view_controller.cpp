@@ -39,15 +39,14 @@ Card productionCard(const Game& game, const Audition& project) {
       .subtitle = tb::format("{} • {}", own ? "Directed and produced by you" : "Financed by you",
                              progressOf(game.world, project)),
       .picture = {posterOf(game.world, project)},
-      .nodes = {
-          caption(project.description),
-          Tiles{{{.label = "Budget", .value = shownMoney(game.locale, project.budget)},
-                 {.label = "Your money", .value = shownMoney(game.locale, project.equityDollarsInvested)},
-                 {.label = "Your stake", .value = tb::format("{:.1f}%", project.equityPercentage)}}}}};
+      .nodes = {caption(project.description),
+                Tiles{{{.label = "Budget", .value = bigMoney(game.locale, project.budget)},
+                       {.label = "Invested", .value = bigMoney(game.locale, project.equityDollarsInvested)},
+                       {.label = "Your stake", .value = tb::format("{:.1f}%", project.equityPercentage)}}}}};
   if (const auto gross = grossOf(game.world, project.filmId)) {
     card.nodes.push_back(
         Row{.label = "Box office of " + project.title,
-            .value = shownMoney(game.locale, *gross),
+            .value = bigMoney(game.locale, *gross),
             .detail = returnText(*gross, project.budget),
             .press = [id = project.filmId](Stage& stage) { openBoxOfficeDetail(stage, id); }});
   }

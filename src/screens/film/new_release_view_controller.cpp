@@ -32,7 +32,7 @@ Tiles figuresOf(const Game& game, const Film& film) {
   Tiles tiles{{{.label = "Imbd", .value = tb::format("{:.1f}", film.imbdRating), .detail = "of 10"},
                scoreTile("Metascore", film.imbdMetascore, "of 100")}};
   if (const auto gross = grossOf(game.world, film.filmId)) {
-    tiles.tiles.push_back({.label = "Opening weekend", .value = shortMoney(game.locale, *gross)});
+    tiles.tiles.push_back({.label = "Opening weekend", .value = bigMoney(game.locale, *gross)});
   }
   const auto& seasons = game.world.saveAllRatings;
   if (const auto season = find(seasons, &Ratings::filmId, film.filmId)) {

@@ -110,7 +110,7 @@ Row runningRow(const Game& game, const AgendaItem& item) {
     case AgendaItem::Kind::contract:
       return {.label = world.weeklyJobTitle,
               .value = weeksLeft,
-              .detail = tb::format("{} a week", shortMoney(game.locale, world.weeklyJobIncome)),
+              .detail = tb::format("{} a week", wholeMoney(game.locale, world.weeklyJobIncome)),
               .press = opens<JobBoardViewController>()};
     default:
       return {.label = className(world.saveAllCompletedClasses[item.index]),
@@ -144,7 +144,7 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
   const WorldState& world = game.world;
   if (outcome.kind == Outcome::Kind::paid) {
     return {.label = "Paid last week",
-            .value = "+" + shownMoney(game.locale, outcome.amount),
+            .value = "+" + cash(game.locale, outcome.amount),
             .tone = Tone::good,
             .press = opens<PaymentTransactionsViewController>()};
   }

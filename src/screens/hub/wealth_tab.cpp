@@ -21,12 +21,11 @@ using namespace view;
 Section books(const Game& game) {
   return {
       .heading = "MONEY",
-      .nodes = {
-          leadingTo<FinancialManagementViewController>("Finances", "Job, pay and income"),
-          leadingTo<BalanceSheetViewController>("Balance Sheet", "What you own, at today's prices"),
-          leadingTo<WeeklyExpenseListViewController>("Weekly Expenses", "Your regular expenses",
-                                                     shownMoney(game.locale, standingExpenses(game.world))),
-          leadingTo<PaymentTransactionsViewController>("Payments", "What your titles have paid you")}};
+      .nodes = {leadingTo<FinancialManagementViewController>("Finances", "Job, pay and income"),
+                leadingTo<BalanceSheetViewController>("Balance Sheet", "What you own, at today's prices"),
+                leadingTo<WeeklyExpenseListViewController>("Weekly Expenses", "Your regular expenses",
+                                                           cash(game.locale, standingExpenses(game.world))),
+                leadingTo<PaymentTransactionsViewController>("Payments", "What your titles have paid you")}};
 }
 
 Chart indexChart(const char* title, const RealList& history) {

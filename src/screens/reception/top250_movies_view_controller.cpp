@@ -1,6 +1,7 @@
 #include "screens/reception/top250_movies_view_controller.h"
 
 #include "core/format.h"
+#include "core/number_style.h"
 #include "screens/film/box_office_parts.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
@@ -25,7 +26,7 @@ Row rowOf(const WorldState& world, std::size_t place, const Title& title) {
 
 Row movieRow(const Game& game, std::size_t place, const BoxOfficeWeekends& movie) {
   Row row = rowOf(game.world, place, movie);
-  row.value = shownMoney(game.locale, movie.totalGross);
+  row.value = bigMoney(game.locale, movie.totalGross);
   row.detail = std::to_string(movie.yearReleased);
   return row;
 }

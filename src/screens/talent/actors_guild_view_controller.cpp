@@ -29,7 +29,7 @@ Card membersCard(const Game& game) {
       .nodes = {
           Text{.text = "Member in good standing. You contribute 3% of earnings up to $750,000 to the guild, "
                        "with access to union-only opportunities."},
-          Row{.label = "Dues paid on your work", .value = currency(game.locale, world.workDuesPaidSAG, 0)}}};
+          Row{.label = "Dues paid on your work", .value = cash(game.locale, world.workDuesPaidSAG)}}};
 }
 
 Section wayIn(const Game& game, std::int64_t eligibility) {

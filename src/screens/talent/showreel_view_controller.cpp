@@ -58,7 +58,7 @@ Choice ShowreelViewController::packages(const Game& game) {
     const ScenePackage& package = scenePackages[index];
     choice.options.push_back({.label = tb::format("{} • {} • {}", package.title,
                                                   counted(static_cast<std::int64_t>(package.scenes), "scene"),
-                                                  currency(game.locale, package.cost, 0)),
+                                                  wholeMoney(game.locale, package.cost)),
                               .chosen = index == package_,
                               .press = [this, index](Stage&) { package_ = index; }});
   }

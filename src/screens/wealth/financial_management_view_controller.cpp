@@ -46,7 +46,7 @@ Section job(const Game& game) {
   }
   return {.heading = "JOB",
           .nodes = {Text{.text = world.weeklyJobTitle, .style = Text::Style::large},
-                    Row{.label = "Pay per week", .value = cash(game.locale, world.weeklyJobIncome)},
+                    Row{.label = "Pay per week", .value = wholeMoney(game.locale, world.weeklyJobIncome)},
                     Row{.label = "Weeks left", .value = std::to_string(world.weeklyJobContractRemaining)},
                     Row{.label = "Energy per week", .value = std::to_string(world.weeklyEnergyCost)}}};
 }
@@ -54,7 +54,7 @@ Section job(const Game& game) {
 Chart netIncome(const Game& game) {
   const std::vector<double> weeks(game.world.saveWeeklyEarnings.begin(), game.world.saveWeeklyEarnings.end());
   return historyChart("Net income by week", "week", weeks,
-                      [&game](double amount) { return shownMoney(game.locale, amount); });
+                      [&game](double amount) { return bigMoney(game.locale, amount); });
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ constexpr std::array<PaymentWords, paymentKinds.size()> paymentWords = {{
 }};
 
 Chart::Point pointOf(const Game& game, const MoneyPart& part) {
-  return {.label = part.label, .value = part.amount, .text = shownMoney(game.locale, part.amount)};
+  return {.label = part.label, .value = part.amount, .text = bigMoney(game.locale, part.amount)};
 }
 
 const MoneyPart& largestOf(const std::vector<MoneyPart>& parts) {
@@ -60,7 +60,7 @@ Chart moneyPie(const Game& game, std::string title, const std::vector<MoneyPart>
   }
   if (chart.points.empty()) return chart;
   const MoneyPart& largest = largestOf(parts);
-  chart.summary = tb::format("{} in total. Largest part: {}, {:.0f}%.", shownMoney(game.locale, whole),
+  chart.summary = tb::format("{} in total. Largest part: {}, {:.0f}%.", bigMoney(game.locale, whole),
                              largest.label, largest.amount / whole * 100);
   return chart;
 }
@@ -76,8 +76,8 @@ Chart yearBars(const Game& game, std::string title, const std::vector<YearOfPaym
   for (const MoneyPart& bar : bars) chart.points.push_back(pointOf(game, bar));
   const auto [least, most] = std::ranges::minmax_element(bars, {}, &MoneyPart::amount);
   chart.scale = roundScale(std::min(least->amount, 0.0), std::max(most->amount, 0.0),
-                           [&game](double mark) { return shownMoney(game.locale, mark); });
-  chart.summary = tb::format("Most in {}: {}.", most->label, shownMoney(game.locale, most->amount));
+                           [&game](double mark) { return bigMoney(game.locale, mark); });
+  chart.summary = tb::format("Most in {}: {}.", most->label, bigMoney(game.locale, most->amount));
   return chart;
 }
 

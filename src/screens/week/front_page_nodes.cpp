@@ -1,6 +1,7 @@
 #include "screens/week/front_page_nodes.h"
 
 #include "core/format.h"
+#include "core/number_style.h"
 #include "screens/moments.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
@@ -26,11 +27,13 @@ std::string partAndType(const Story& story) {
   return project.didAct < 1 || project.role.empty() ? type : tb::format("{} • {}", project.role, type);
 }
 
-// What the line leaves out: the title, where it says no more than "a commercial", of the headline the part,
-// and the name of a job that is over, which stands until the next week ends.
+// What the line leaves out: the title, where the line says only "a commercial"; the part, on the headline;
+// the job that ended; and that the amount of a payment is the player's share, since the line may name the
+// gross.
 std::string detailWords(const WorldState& world, const Story& story, bool isLead) {
   if (story.about.kind == NewsKind::jobEnded) return world.weeklyJobTitle;
-  const std::string part = isLead ? partAndType(story) : "";
+  const bool isPayment = story.about.kind == NewsKind::payday && story.about.amount > 0;
+  const std::string part = isPayment ? "Paid to you" : isLead ? partAndType(story) : "";
   if (story.project.empty() || story.text.contains(story.project.front().title)) return part;
   const std::string title = titleWithSeason(story.project.front());
   return part.empty() ? title : tb::format("{} • {}", title, part);
@@ -38,7 +41,7 @@ std::string detailWords(const WorldState& world, const Story& story, bool isLead
 
 std::string amountWords(const Locale& locale, double amount) {
   if (amount == 0) return "";
-  return (amount > 0 ? "+" : "") + shownMoney(locale, amount);
+  return (amount > 0 ? "+" : "") + cash(locale, amount);
 }
 
 std::string momentLine(const Story& story) {

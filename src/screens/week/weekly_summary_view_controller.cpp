@@ -23,15 +23,15 @@ StatTile balanceTile(const Game& game, const Analytics& item) {
 
 Section balance(const Game& game, const WeekBalance& balance) {
   const double net = balance.income - balance.expenses;
-  const std::string amount = currency(game.locale, net, 0);
+  const std::string amount = wholeMoney(game.locale, net);
   return {.heading = "INCOME • EXPENSES",
           .nodes = {Balance{.label = "Net of the week",
                             .net = net > 0 ? "+" + amount : amount,
                             .tone = net > 0   ? Tone::good
                                     : net < 0 ? Tone::warning
                                               : Tone::plain,
-                            .income = currency(game.locale, balance.income, 0),
-                            .expenses = currency(game.locale, balance.expenses, 0)}}};
+                            .income = wholeMoney(game.locale, balance.income),
+                            .expenses = wholeMoney(game.locale, balance.expenses)}}};
 }
 
 // The week's income by source, and the remaining energy.

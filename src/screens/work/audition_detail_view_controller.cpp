@@ -25,7 +25,7 @@ Section projectSection(const Game& game, const Audition& project) {
           .nodes = {Row{.label = "Director", .value = project.directorName},
                     Row{.label = "Writer", .value = project.writerName},
                     Row{.label = "Genre", .value = joinedWithAnd(project.genres)},
-                    Row{.label = "Budget", .value = shortMoney(game.locale, project.budget)},
+                    Row{.label = "Budget", .value = bigMoney(game.locale, project.budget)},
                     Row{.label = "Pay",
                         .value = payWords(game.locale, {.fee = project.payment,
                                                         .buyout = project.buyout,
@@ -95,7 +95,7 @@ void askToPutAway(Stage& stage, std::int64_t filmId) {
 
 Button bribeButton(const Game& game, const Audition& project) {
   const double price = static_cast<double>(game.world.saveBribePrice);
-  return {.label = currency(game.locale, price, 0) + " | BRIBE",
+  return {.label = wholeMoney(game.locale, price) + " | BRIBE",
           .press = [id = project.filmId](Stage& stage) { bribe(stage, id); },
           .refusal = briefOf(bribeRefusal(game.world))};
 }

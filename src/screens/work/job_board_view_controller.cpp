@@ -14,7 +14,7 @@ Section presentJob(const Game& game) {
   const WorldState& world = game.world;
   return {.heading = "YOUR JOB",
           .nodes = {Row{.label = world.weeklyJobTitle,
-                        .value = tb::format("{} a week", currency(game.locale, world.weeklyJobIncome, 0)),
+                        .value = tb::format("{} a week", wholeMoney(game.locale, world.weeklyJobIncome)),
                         .detail = tb::format("{} • -{} energy each week", jobWeeksLeft(world),
                                              world.weeklyEnergyCost)}}};
 }
@@ -32,7 +32,7 @@ Card JobBoardViewController::offerCard(const Game& game, const JobOffer& offer) 
   return {.title = std::string(offer.job.jobTitle),
           .subtitle = tb::format("{} Week Contract", offer.contractWeeks),
           .nodes = {Text{.text = std::string(offer.job.jobDescription)},
-                    Row{.label = "Pay", .value = currency(game.locale, offer.job.jobPay, 0) + " a week"},
+                    Row{.label = "Pay", .value = wholeMoney(game.locale, offer.job.jobPay) + " a week"},
                     Row{.label = "Energy", .value = tb::format("-{} each week", offer.job.energyCost)},
                     Button{.label = "Accept",
                            .press = [this, offer](Stage& stage) { accept(stage, offer); },

@@ -85,8 +85,8 @@ view::Section roleSection(const Audition& project) {
 
 std::string payWords(const Locale& locale, const Terms& terms) {
   std::vector<std::string> words;
-  if (terms.fee > 0) words.push_back(currency(locale, terms.fee, 0));
-  if (terms.buyout > 0) words.push_back(currency(locale, terms.buyout, 0) + " buyout");
+  if (terms.fee > 0) words.push_back(wholeMoney(locale, terms.fee));
+  if (terms.buyout > 0) words.push_back(wholeMoney(locale, terms.buyout) + " buyout");
   if (terms.royalty > 0) words.push_back(tb::format("{:.2f}% royalty", terms.royalty));
   if (words.empty()) words.emplace_back("Unpaid");
   if (terms.residual > 0) words.push_back(tb::format("{:.1f}% residual", terms.residual * 100));

@@ -25,7 +25,7 @@ void addSeason(ReleaseFigures& figures, const Ratings& season) {
 }
 
 std::string amountText(const Game& game, const Audition& project, double amount) {
-  return isSeries(project) ? shortCount(static_cast<std::int64_t>(amount)) : shownMoney(game.locale, amount);
+  return isSeries(project) ? shortCount(static_cast<std::int64_t>(amount)) : bigMoney(game.locale, amount);
 }
 
 }  // namespace
@@ -47,11 +47,11 @@ Tiles figureTiles(const Game& game, const Audition& project, const ReleaseFigure
   const double first = figures.weeks.empty() ? 0 : figures.weeks.front();
   return {{
       {.label = isSeries(project) ? "TOTAL GROSS" : "BOX OFFICE GROSS",
-       .value = shownMoney(game.locale, figures.gross)},
+       .value = bigMoney(game.locale, figures.gross)},
       {.label = isSeries(project) ? "PREMIERE" : "OPENING WEEKEND",
        .value = amountText(game, project, first),
        .detail = isSeries(project) ? "viewers" : ""},
-      {.label = "BUDGET", .value = shortMoney(game.locale, figures.budget)},
+      {.label = "BUDGET", .value = bigMoney(game.locale, figures.budget)},
       {.label = "RETURN",
        .value = tb::format("{:.0f}%", share),
        .detail = "of the budget",

@@ -29,7 +29,7 @@ Section projectSection(const Game& game, const Audition& offer) {
   return {.heading = "THE PROJECT",
           .nodes = {Text{.text = offer.description}, Row{.label = "Director", .value = offer.directorName},
                     Row{.label = "Genre", .value = joinedWithAnd(offer.genres)},
-                    Row{.label = "Budget", .value = shortMoney(game.locale, offer.budget)},
+                    Row{.label = "Budget", .value = bigMoney(game.locale, offer.budget)},
                     Row{.label = "Pay", .value = "A share of what it earns, no fee"}}};
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 Row networkRow(const Game& game, const std::string& network, std::int64_t price, std::string detail) {
   return {.label = network,
-          .value = shortMoney(game.locale, static_cast<double>(price)),
+          .value = bigMoney(game.locale, static_cast<double>(price)),
           .detail = std::move(detail)};
 }
 

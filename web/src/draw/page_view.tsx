@@ -25,6 +25,7 @@ export class PageView extends Component<PageViewProps> {
 
   override componentDidMount(): void {
     this.nameTab();
+    window.scrollTo(0, 0); // a career that was brought in takes the place of a page that may have been scrolled
     addEventListener("keydown", this.onKeyDown);
   }
 

@@ -6,7 +6,8 @@ import { useEffect, useState } from "preact/hooks";
 import { Bar, Masthead } from "../draw/page_parts";
 import { PageView } from "../draw/page_view";
 import type { Page } from "../view_types";
-import { SavesCorner } from "./saves_corner";
+import { CreditsDialog } from "./credits_dialog";
+import { SavesDialog } from "./saves_dialog";
 import type { Shell, ShellState } from "./shell";
 import type { Refusal } from "./storage";
 
@@ -16,7 +17,12 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
 
   const { showing } = state;
   const banner = <Notices shell={shell} state={state} />;
-  const corner = <SavesCorner shell={shell} />;
+  const corner = (
+    <div class="shell-corner">
+      <SavesDialog shell={shell} />
+      <CreditsDialog />
+    </div>
+  );
   switch (showing.kind) {
     case "playing":
       return <PageView page={showing.page} actions={shell.actions} banner={banner} corner={corner} />;

@@ -1,9 +1,8 @@
-// The controls for export and import of a career.
+// The button "Saves" with its dialog: export and import of a career.
 
 import { type JSX } from "preact";
 import { useRef, useState } from "preact/hooks";
 
-import { credits } from "../art/credits";
 import type { Career, ReadSave } from "./saves";
 import type { Shell } from "./shell";
 
@@ -15,7 +14,7 @@ interface Question {
   readonly inPlay: Career | undefined;
 }
 
-export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
+export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
   const dialog = useRef<HTMLDialogElement>(null);
   const [message, setMessage] = useState("");
   const [question, setQuestion] = useState<Question>();
@@ -62,7 +61,7 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
   };
 
   return (
-    <div class="shell-corner">
+    <>
       <button type="button" class="shell-button" onClick={open}>
         Saves
       </button>
@@ -106,12 +105,7 @@ export function SavesCorner({ shell }: { shell: Shell }): JSX.Element {
         <button type="button" class="shell-button" onClick={() => dialog.current?.close()}>
           Close
         </button>
-        {credits.map(({ text, work, licenseName, license }) => (
-          <p key={text}>
-            <a href={work}>{text}</a>, <a href={license}>{licenseName}</a>.
-          </p>
-        ))}
       </dialog>
-    </div>
+    </>
   );
 }
