@@ -39,9 +39,8 @@ std::string backupName(plist::Date date) {
 }
 
 // Oldest first.
-std::vector<DocumentSummary> backups(const Game& game) {
-  if (game.documents == nullptr) return {};
-  auto all = game.documents->list(Manager::backupFolderName);
+std::vector<DocumentSummary> backupsIn(const Documents& documents) {
+  auto all = documents.list(Manager::backupFolderName);
   std::erase_if(all, [](const DocumentSummary& document) {
     return !document.name.starts_with(namePrefix) || !document.name.ends_with(Manager::fileExtension);
   });
@@ -95,28 +94,39 @@ void replaceStore(Game& game, plist::Dictionary values) {
   game.loadsStore = true;
 }
 
+void removeBackup(Documents& documents, const std::string& url) {
+  if (const auto done = documents.remove(Manager::backupFolderName, url); !done) {
+    debugLog("SaveBackupManager: backup write failed: " + done.error());
+  }
+}
+
 }  // namespace
 
-bool SaveBackupManager::backUp(Game& game) { return backUp(game, game.store.dictionary()); }
+bool SaveBackupManager::backUp(Game& game) {
+  return game.documents != nullptr && backUp(*game.documents, game.store.dictionary(), game.clock());
+}
 
-bool SaveBackupManager::backUp(Game& game, const plist::Dictionary& values) {
-  if (game.documents == nullptr || !hasBegun(values)) return false;
-  const auto done = game.documents->write(backupFolderName, freeName(backups(game), game.clock()),
-                                          plist::write(plist::Value{values}));
+bool SaveBackupManager::backUp(Documents& documents, const plist::Dictionary& values, plist::Date now) {
+  if (!hasBegun(values)) return false;
+  const auto done = documents.write(backupFolderName, freeName(backupsIn(documents), now),
+                                    plist::write(plist::Value{values}));
   if (!done) {
     debugLog(std::string(done.error().isFolder ? "SaveBackupManager: could not create backup directory: "
                                                : "SaveBackupManager: backup write failed: ") +
              done.error().reason);
     return false;
   }
-  const auto all = backups(game);
-  for (std::size_t oldest = 0; oldest + maxBackups < all.size(); ++oldest) remove(game, all[oldest].name);
+  const auto all = backupsIn(documents);
+  for (std::size_t oldest = 0; oldest + maxBackups < all.size(); ++oldest) {
+    removeBackup(documents, all[oldest].name);
+  }
   return true;
 }
 
 std::vector<SaveBackupManager::BackupInfo> SaveBackupManager::list(const Game& game) {
   std::vector<BackupInfo> infos;
-  for (const DocumentSummary& document : backups(game)) infos.push_back(infoOf(document));
+  if (game.documents == nullptr) return infos;
+  for (const DocumentSummary& document : backupsIn(*game.documents)) infos.push_back(infoOf(document));
   std::ranges::reverse(infos);
   return infos;
 }
@@ -136,10 +146,7 @@ void SaveBackupManager::restore(Game& game, const std::string& url, std::functio
 }
 
 void SaveBackupManager::remove(Game& game, const std::string& url) {
-  if (game.documents == nullptr) return;
-  if (const auto done = game.documents->remove(backupFolderName, url); !done) {
-    debugLog("SaveBackupManager: backup write failed: " + done.error());
-  }
+  if (game.documents != nullptr) removeBackup(*game.documents, url);
 }
 
 }  // namespace tb

@@ -34,8 +34,8 @@ class SaveBackupManager {
   // written: without documents, before the new-career form is done, or after a failure, which is logged.
   static bool backUp(Game& game);
 
-  // The same with the content of a slot.
-  static bool backUp(Game& game, const plist::Dictionary& values);
+  // The same with the values of any store, at a time.
+  static bool backUp(Documents& documents, const plist::Dictionary& values, plist::Date now);
 
   // Newest first.
   [[nodiscard]] static std::vector<BackupInfo> list(const Game& game);

@@ -142,7 +142,9 @@ bool SlotManager::saveCurrent(Game& game) {
 void SlotManager::remove(Game& game, Int index) {
   if (game.documents == nullptr || index == activeSlot(game.world)) return;
   game.documents->read(slotFolderName, slotName(index), [&game, index](const std::optional<Bytes>& document) {
-    if (const auto values = contentOf(document, index)) SaveBackupManager::backUp(game, *values);
+    if (const auto values = contentOf(document, index)) {
+      SaveBackupManager::backUp(*game.documents, *values, game.clock());
+    }
     if (const auto done = game.documents->remove(slotFolderName, slotName(index)); !done) {
       debugLog(tb::format("SlotManager: delete slot {} failed: {}", index, done.error()));
     }

@@ -110,6 +110,11 @@ void App::tell(Notice notice) {
   laid_out_.reset();
 }
 
+void App::say(std::string line) {
+  stage_.say(std::move(line));
+  laid_out_.reset();
+}
+
 void App::loadStore() {
   game_.recentRows = {};
   loadWorld(game_);

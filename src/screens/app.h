@@ -51,6 +51,9 @@ class App {
   // Shows a notice from the platform, such as that a damaged career was moved.
   void tell(Notice notice);
 
+  // Shows a passing line from the platform.
+  void say(std::string line);
+
   [[nodiscard]] const Game& game() const { return game_; }
 
  private:

@@ -107,7 +107,7 @@ test("a save that there is no room for leaves the old one in place", async () =>
   await openSaves(page);
   await choose(page, workingActor());
   await press(page, "Replace my career");
-  await says(page, /no room/);
+  await says(page, /no room to store this save/);
   assert((await download(page)).includes("Ada Small"));
   await press(page, "Close");
   await finds(page, "Ada Small");

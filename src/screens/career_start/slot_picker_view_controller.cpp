@@ -1,6 +1,7 @@
 #include "screens/career_start/slot_picker_view_controller.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "core/format.h"
@@ -46,7 +47,7 @@ Button deletion(const Summary& slot) {
 
 Text figures(const Game& game, const Summary& slot) {
   return {.text = tb::format("{} fans   ·   🎬 {} box office", shownCount(game.locale, slot.fans),
-                             shownMoney(game.locale, static_cast<Real>(slot.boxOffice)))};
+                             bigMoney(game.locale, static_cast<Real>(slot.boxOffice)))};
 }
 
 // When a career was last played; an active one is being played.
@@ -58,7 +59,7 @@ std::string whenPlayed(const Game& game, const Summary& slot) {
 Card fullSlot(const Game& game, const Summary& slot) {
   Card card{.title = slot.name,
             .subtitle = tb::format("{} · {}", slot.year, whenPlayed(game, slot)),
-            .nodes = {figures(game, slot), caption("Net worth " + shownMoney(game.locale, slot.netWorth))}};
+            .nodes = {figures(game, slot), caption("Net worth " + bigMoney(game.locale, slot.netWorth))}};
   if (!slot.lastPlayed) return card;
   card.nodes.push_back(Buttons{{{.label = "Play",
                                  .press = plays(slot.index),
@@ -86,19 +87,21 @@ Node slotNode(const Game& game, const Summary& slot) {
 
 // A whole amount, with group separators or without; 0 for other text.
 Real amountIn(const Locale& locale, const std::string& typed) {
-  constexpr std::size_t maximumDigits = 15;
-  std::string digits;
+  constexpr Real base = 10;
+  constexpr Real most = 1e15;
+  Real amount = 0;
   for (std::size_t at = 0; at < typed.size();) {
-    if (!locale.groupSeparator.empty() &&
-        typed.compare(at, locale.groupSeparator.size(), locale.groupSeparator) == 0) {
+    const std::string_view rest = std::string_view(typed).substr(at);
+    if (!locale.groupSeparator.empty() && rest.starts_with(locale.groupSeparator)) {
       at += locale.groupSeparator.size();
-    } else if (typed[at] >= '0' && typed[at] <= '9') {
-      digits += typed[at++];
+    } else if (rest.front() >= '0' && rest.front() <= '9' && amount < most) {
+      amount = amount * base + (rest.front() - '0');
+      at += 1;
     } else {
       return 0;
     }
   }
-  return digits.empty() || digits.size() > maximumDigits ? 0 : static_cast<Real>(std::stoll(digits));
+  return amount;
 }
 
 std::string whyNot(Real amount, Real source, const char* lack) {
@@ -126,7 +129,7 @@ Section SlotPickerViewController::bank(const Game& game) {
   return {
       .heading = "THE BANK",
       .nodes = {Text{.text = "Shared across all your saves — move cash between this save and the bank."},
-                Tiles{{{.label = "In the bank", .value = shownMoney(game.locale, world.crossSaveVault)},
+                Tiles{{{.label = "In the bank", .value = bigMoney(game.locale, world.crossSaveVault)},
                        {.label = "Your cash", .value = cash(game.locale, world.totalCashAvailable)}}},
                 Field{.label = "Amount",
                       .value = amount_,

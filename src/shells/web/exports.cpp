@@ -13,7 +13,6 @@
 #include <string>
 
 #include "banks/texts.h"
-#include "core/game.h"
 #include "core/save_backups.h"
 #include "screens/app.h"
 #include "shells/system_clock.h"
@@ -88,15 +87,17 @@ EXPORT(document_read) void documentRead(std::uint32_t number, std::int32_t found
   game->app->goOn([&] { reader(found != 0 ? std::optional(std::move(incoming)) : std::nullopt); });
 }
 
+// Incoming: the place of a backup that there was no room for.
+EXPORT(document_lost) void documentLost() {
+  game->documents->forget(incoming);
+  game->app->say("There was no room for the backup.");
+}
+
 EXPORT(saving_failed) void savingFailed() { game->app->savingFailed(incomingText()); }
 
 // These use only the store, so that they also work for a career that fails to start.
 EXPORT(back_up_store) void backUpStore() {
-  tb::Game career{.store = game->store,
-                  .random = game->random,
-                  .clock = tb::systemClock,
-                  .documents = game->documents ? &*game->documents : nullptr};
-  tb::SaveBackupManager::backUp(career);
+  tb::SaveBackupManager::backUp(*game->documents, game->store.dictionary(), tb::systemClock());
 }
 EXPORT(export_store) std::size_t exportStore() { return answerWith(tb::exportedSave(game->store)); }
 

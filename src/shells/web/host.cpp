@@ -44,6 +44,12 @@ void HostDocuments::read(std::string_view folder, const std::string& name, Then 
   readDocumentInPage(reads_, message.data(), message.size());
 }
 
+void HostDocuments::forget(std::span<const std::byte> place) {
+  MessageReader reader(place);
+  const std::string folder = reader.text();
+  known_.erase({folder, reader.text()});
+}
+
 Documents::Then HostDocuments::takeReader(std::uint32_t number) {
   auto reader = readers_.extract(number);
   return reader.empty() ? Then([](const std::optional<Bytes>&) {}) : std::move(reader.mapped());

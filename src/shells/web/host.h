@@ -42,6 +42,9 @@ class HostDocuments : public Documents {
                                              Bytes content) override;
   std::expected<void, std::string> remove(std::string_view folder, const std::string& name) override;
 
+  // The page has no such document, after all. `place` is a message with its folder and name.
+  void forget(std::span<const std::byte> place);
+
   // The continuation of a read, which runs once.
   [[nodiscard]] Then takeReader(std::uint32_t number);
 

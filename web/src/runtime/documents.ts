@@ -41,6 +41,13 @@ export function readDocument(message: Uint8Array): StoredDocument {
   };
 }
 
+export function writePlace({ folder, name }: DocumentPlace): Uint8Array {
+  const writer = new MessageWriter();
+  writer.text(folder);
+  writer.text(name);
+  return writer.message();
+}
+
 export function writeSummaries(summaries: readonly DocumentSummary[]): Uint8Array {
   const writer = new MessageWriter();
   writer.number(summaries.length);

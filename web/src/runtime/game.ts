@@ -2,7 +2,7 @@
 // starts a new one from the saved data.
 
 import type { Page } from "../view_types";
-import { type DocumentPlace, type DocumentSummary, readDocument, readPlace, type StoredDocument, writeSummaries } from "./documents";
+import { type DocumentPlace, type DocumentSummary, readDocument, readPlace, type StoredDocument, writePlace, writeSummaries } from "./documents";
 import { type Change, type Piece, readChanges, writePieces } from "./pieces";
 import { wasiImports } from "./wasi";
 
@@ -22,6 +22,7 @@ interface Exports {
   tick(seconds: number): void;
   back(): void;
   document_read(number: number, found: number): void;
+  document_lost(): void;
   saving_failed(): void;
   back_up_store(): void;
   export_store(): number;
@@ -30,7 +31,7 @@ interface Exports {
 
 const exportNames = [
   "_initialize", "incoming", "answer", "open_store", "open_documents", "set_texts", "start", "view", "press", "type",
-  "slide", "tick", "back", "document_read", "saving_failed", "back_up_store", "export_store", "import_store",
+  "slide", "tick", "back", "document_read", "document_lost", "saving_failed", "back_up_store", "export_store", "import_store",
 ] as const satisfies readonly Exclude<keyof Exports, "memory">[];
 
 // The game trapped. `cause` is the trap; the log has its last output.
@@ -145,6 +146,14 @@ export class Game {
     this.guarded(() => {
       this.setIncoming(content ?? new Uint8Array());
       this.exports.document_read(number, content ? 1 : 0);
+    });
+  }
+
+  // There was no room for a backup.
+  documentLost(place: DocumentPlace): void {
+    this.guarded(() => {
+      this.setIncoming(writePlace(place));
+      this.exports.document_lost();
     });
   }
 

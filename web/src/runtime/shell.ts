@@ -246,6 +246,7 @@ export class Shell {
         this.act((game) => game.savingFailed(why));
       },
       recovered: () => this.change({ failing: undefined }),
+      backupLost: (place) => this.act((game) => game.documentLost(place)),
     });
     return this.storage;
   }

@@ -33,6 +33,7 @@ export type Refusal = "refused" | "unreadable" | "newer";
 export interface StorageWatcher {
   failed(why: string): void; // a save failed; called once until a save succeeds
   recovered(): void;
+  backupLost(place: DocumentPlace): void; // there was no room for it
 }
 
 export class Storage {
@@ -136,7 +137,7 @@ export class Storage {
   }
 
   private write(): void {
-    if (this.refusal) return;
+    if (this.refusal || this.waiting.length + this.waitingDocuments.length === 0) return;
     this.latest += 1;
     const upTo = this.latest;
     const documents = this.waitingDocuments;
@@ -161,7 +162,10 @@ export class Storage {
     const isBackup = ({ kind, document }: DocumentChange) => kind === "put" && document.folder === backupFolder;
     const backups = this.waitingDocuments.filter(isBackup);
     this.forget(backups);
-    this.summaries = this.summaries.filter((old) => !backups.some(({ document }) => isSamePlace(old, document)));
+    for (const { document } of backups) {
+      this.summaries = this.summaries.filter((old) => !isSamePlace(old, document));
+      this.watcher.backupLost(document);
+    }
     return backups.length > 0;
   }
 
