@@ -27,11 +27,12 @@ void askForRestart(Stage& stage) {
 
 Page SettingsViewController::view(const Game& game) {
   return {.title = "Settings",
-          .nodes = {Section{.heading = "CAREER",
-                            .nodes = {Text{.text = game.world.myName + ", and everything that came of it."},
-                                      Button{.label = "Restart?",
-                                             .press = askForRestart,
-                                             .weight = Button::Weight::destructive}}}},
+          .nodes = {Section{
+              .heading = "NEW CAREER",
+              .nodes = {Text{.text = "Ends the career of " + game.world.myName + " and begins another."},
+                        Button{.label = "Restart?",
+                               .press = askForRestart,
+                               .weight = Button::Weight::destructive}}}},
           .offersSaves = true};
 }
 
