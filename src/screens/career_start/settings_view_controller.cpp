@@ -32,16 +32,19 @@ void askForRestart(Stage& stage) {
 }  // namespace
 
 Page SettingsViewController::view(const Game& game) {
-  Section career{.heading = "CAREER",
-                 .nodes = {Text{.text = game.world.myName + ", and everything that came of it."}}};
+  Page page{.title = "Settings", .offersSaves = true};
   if (game.documents != nullptr) {
-    career.nodes.push_back(
-        leadingTo<SlotPickerViewController>("Choose a save", "Three careers side by side, and their bank"));
-    career.nodes.push_back(leadingTo<BackupsViewController>("Backups", "Go back to an earlier year"));
+    page.nodes.push_back(
+        Section{.heading = "CAREERS",
+                .nodes = {leadingTo<SlotPickerViewController>("Choose a save",
+                                                              "Three careers side by side, and their bank"),
+                          leadingTo<BackupsViewController>("Backups", "Go back to an earlier year")}});
   }
-  career.nodes.push_back(
-      Button{.label = "Restart?", .press = askForRestart, .weight = Button::Weight::destructive});
-  return {.title = "Settings", .nodes = {std::move(career)}, .offersSaves = true};
+  page.nodes.push_back(Section{
+      .heading = "NEW CAREER",
+      .nodes = {Text{.text = "Ends the career of " + game.world.myName + " and begins another."},
+                Button{.label = "Restart?", .press = askForRestart, .weight = Button::Weight::destructive}}});
+  return page;
 }
 
 }  // namespace tb

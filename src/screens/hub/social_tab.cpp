@@ -32,10 +32,11 @@ std::vector<view::Node> socialTab(const Game& game) {
   nodes.append_range(std::vector<view::Node>{
       reviewing(world),
       view::Tiles{{{.label = "Fans", .value = plainCount(game.locale, world.totalFans)}}},
-      // Entries are changes, not weeks: a week can have none or several.
-      historyChart("Fans", "change", fans,
-                   [](double count) { return shortCount(static_cast<std::int64_t>(count)); }),
   });
+  if (fans.empty()) return nodes;
+  // Entries are changes, not weeks: a week can have none or several.
+  nodes.emplace_back(historyChart("Fans", "change", fans,
+                                  [](double count) { return shortCount(static_cast<std::int64_t>(count)); }));
   return nodes;
 }
 

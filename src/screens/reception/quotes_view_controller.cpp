@@ -38,7 +38,8 @@ Page QuotesViewController::view(const Game& game) {
               .size = rows.size(),
               .nodeAt = [&game, rows](
                             std::size_t index) { return quoteCard(game.world.saveAllQuotes[rows[index]]); },
-              .whenEmpty = "Nobody has quoted you yet. Promote a title before its release."}}};
+              .whenEmpty = film_id_ ? "You gave no interview about this title."
+                                    : "Nobody has quoted you yet. Promote a title before its release."}}};
 }
 
 }  // namespace tb

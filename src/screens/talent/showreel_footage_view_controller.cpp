@@ -27,11 +27,13 @@ Row ShowreelFootageViewController::footageRow(const WorldState& world, const Aud
   const bool chosen = std::ranges::contains(chosen_->filmIds, work.filmId);
   return {.label = work.title,
           .value = std::to_string(static_cast<std::int64_t>(work.performanceRating)),
-          .detail = (chosen ? "✓ In the reel • " : "") + work.role,
+          .detail = work.role,
           .picture = {posterOf(world, work)},
           .tone = chosen ? Tone::accent : Tone::plain,
           .band = scoreBand(work.performanceRating),
-          .press = [this, id = work.filmId](Stage& stage) { choose(stage, id); }};
+          .action = {{.label = chosen ? "Remove" : "Add",
+                      .press = [this, id = work.filmId](Stage& stage) { choose(stage, id); },
+                      .name = (chosen ? "Remove " : "Add ") + work.title}}};
 }
 
 Page ShowreelFootageViewController::view(const Game& game) {

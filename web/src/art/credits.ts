@@ -3,7 +3,7 @@
 
 export const credits = [
   {
-    use: "Portraits",
+    use: "Portraits, adapted from",
     name: "Personas by Draftbit",
     work: "https://personas.draftbit.com/",
     licenseName: "CC BY 4.0",

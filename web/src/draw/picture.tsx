@@ -7,14 +7,12 @@ import { addressIfDrawn, draw, drawWhenNear, keyOf } from "./drawn_pictures";
 
 type Size = "row" | "lead" | "card" | "option" | "full";
 
-const nothing = "data:image/svg+xml,<svg xmlns='http://www.w3.org/2000/svg'/>";
-
 // Large pictures are drawn immediately.
 const isLarge = (size: Size): boolean => size === "full" || size === "lead";
 
-// The address of the image.
+// The address of the image, undefined until it is drawn, and the reference for its placeholder.
 function useAddress(shown: View.Picture, size: Size) {
-  const place = useRef<HTMLImageElement>(null);
+  const place = useRef<HTMLSpanElement>(null);
   const [, show] = useState("");
   const key = keyOf(shown);
   const address = isLarge(size) ? draw(shown) : addressIfDrawn(key);
@@ -26,9 +24,14 @@ function useAddress(shown: View.Picture, size: Size) {
   return { place, address };
 }
 
+// The placeholder is not an image, because a page with many empty images opens slowly.
 export function Picture({ size, ...shown }: View.Picture & { readonly size: Size }) {
   const { place, address } = useAddress(shown, size);
-  const look = `picture picture-${shown.kind} size-${size}${address === undefined ? " is-missing" : ""}`;
-  const decoding = isLarge(size) ? "sync" : "async";
-  return <img ref={place} class={look} src={address ?? nothing} alt={shown.description} decoding={decoding} />;
+  const look = `picture picture-${shown.kind} size-${size}`;
+  const { description } = shown;
+  if (address === undefined) {
+    const role = description === "" ? "presentation" : "img";
+    return <span ref={place} class={`${look} is-missing`} role={role} aria-label={description} />;
+  }
+  return <img class={look} src={address} alt={description} decoding={isLarge(size) ? "sync" : "async"} />;
 }

@@ -95,6 +95,7 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
     parts.isNarrow && "is-narrow",
   ];
   const dialog = page.dialog[0];
+  const isFirst = under.close.length === 0; // the new-career form, which comes before the saves
   return (
     <ScreenContext.Provider value={context}>
       <div class={looks.filter(Boolean).join(" ")} ref={root}>
@@ -108,8 +109,9 @@ export function Screen({ page, actions, banner, corner, root }: ScreenProps) {
           <Masthead page={under} />
           <div class="content">
             {banner}
+            {under.offersSaves && !isFirst && corner}
             <Content key={screenOf(under)} {...parts} />
-            {under.offersSaves && corner}
+            {under.offersSaves && isFirst && corner}
           </div>
         </main>
         <Foot main={under.main} tabs={under.tabs} />
