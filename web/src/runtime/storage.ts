@@ -4,23 +4,29 @@
 // event loop, so closing the page right after loses nothing and never saves half an action. With the default
 // durability a power failure can lose the last action or two, but never a part of one.
 //
+// A browser reads thousands of small values slowly. So the save is in two parts: packs of many pieces, and the
+// changes since the packs were written, which a start moves into new packs when they have become many.
+//
 // The result of a transaction comes later. Until then its changes stay pending and are repeated in the next
 // transaction, so the stored state is always the state after some action.
 
-import { type DBSchema, type IDBPDatabase, openDB } from "idb";
+import { type DBSchema, type IDBPDatabase, openDB, unwrap } from "idb";
 
-import { type Change, joined, type Piece, Pieces } from "./pieces";
+import { type Change, joined, type Piece, Pieces, rowOf } from "./pieces";
 
 interface Schema extends DBSchema {
-  pieces: { key: [string, number]; value: Piece };
+  packs: { key: number; value: Uint8Array };
+  pieces: { key: [string, number]; value: Piece }; // the changes, see rowOf()
   // Unreadable values, for manual recovery. The game does not read them.
   aside: { key: [string, number, Uint8Array<ArrayBuffer>]; value: Piece };
 }
 
 const databaseName = "top-billing";
-const schemaVersion = 2; // raise it with every change of what is stored; src/shells/sqlite has the same
+const schemaVersion = 3; // raise it with every change of what is stored, also by the game
 const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
 const openingPatience = 5000; // milliseconds; some browsers never report a result
+const mostChanges = 500; // rows; more are moved into packs
+const pauseBeforePacking = 3000; // milliseconds; the first page comes before
 
 // Why nothing can be saved here.
 export type Refusal = "refused" | "unreadable" | "newer";
@@ -53,8 +59,12 @@ export class Storage {
       return new Storage(undefined, new Pieces(), isOfLaterSchema(error) ? "newer" : "refused", watcher);
     }
     try {
-      const stored = await database.getAll("pieces");
-      storage = new Storage(database, new Pieces(stored), undefined, watcher);
+      const reading = database.transaction(["packs", "pieces"]);
+      const packs = reading.objectStore("packs").getAll();
+      const rows = reading.objectStore("pieces").getAll();
+      await reading.done;
+      storage = new Storage(database, new Pieces(await packs, await rows), undefined, watcher);
+      if ((await rows).length > mostChanges) storage.packLater();
       return storage;
     } catch {
       return new Storage(undefined, new Pieces(), "unreadable", watcher);
@@ -76,8 +86,7 @@ export class Storage {
   async replace(changes: readonly Change[]): Promise<void> {
     const replaced = new Pieces();
     replaced.change(changes);
-    const rewriting = replaced.rewriting();
-    if (!this.refusal) await this.transaction(rewriting);
+    if (!this.refusal) await this.transaction(rewriting(replaced));
     this.pieces = replaced;
     this.waiting = [];
   }
@@ -101,7 +110,7 @@ export class Storage {
     if (this.refusal) return;
     this.latest += 1;
     const upTo = this.latest;
-    this.writes = (this.database ? this.transaction(this.waiting) : this.reopen()).then(
+    this.writes = (this.database ? this.transaction(writing(this.waiting)) : this.reopen()).then(
       () => {
         // Later changes stay pending.
         if (upTo === this.latest) this.waiting = [];
@@ -115,21 +124,21 @@ export class Storage {
     );
   }
 
-  private async transaction(changes: readonly Change[]): Promise<void> {
+  // If it fails, the changes stay where they are until the next start.
+  private packLater(): void {
+    setTimeout(() => this.transaction(rewriting(this.pieces)).catch(() => undefined), pauseBeforePacking);
+  }
+
+  private async transaction(write: (stores: Stores) => void): Promise<void> {
     if (!this.database) throw closed();
-    const transaction = this.database.transaction(["pieces", "aside"], "readwrite");
+    const transaction = this.database.transaction(["packs", "pieces", "aside"], "readwrite");
     try {
-      const pieces = transaction.objectStore("pieces");
-      const aside = transaction.objectStore("aside");
-      const requests = changes.map(({ kind, stored }) => {
-        if (kind === "put") return pieces.put(stored);
-        if (kind === "drop") return pieces.delete([stored.key, stored.piece]);
-        if (kind === "dropKey") return pieces.delete(IDBKeyRange.bound([stored.key], [stored.key, []]));
-        if (kind === "dropAll") return pieces.clear();
-        return aside.put(stored);
+      // Without a promise for each request: a failed one aborts the transaction, which reports the error.
+      write({
+        packs: unwrap(transaction.objectStore("packs")),
+        pieces: unwrap(transaction.objectStore("pieces")),
+        aside: unwrap(transaction.objectStore("aside")),
       });
-      // A failed request aborts the transaction, which reports the error.
-      for (const request of requests) request.catch(() => undefined);
       transaction.commit();
     } catch (error) {
       transaction.done.catch(() => undefined);
@@ -151,7 +160,7 @@ export class Storage {
       await new Promise((over) => setTimeout(over, pause));
       try {
         this.database ??= await withPatience(openDatabase(() => this.lost()));
-        await this.transaction(this.pieces.rewriting());
+        await this.transaction(rewriting(this.pieces));
         return;
       } catch {
         // Tries again, or reports the error below.
@@ -161,13 +170,44 @@ export class Storage {
   }
 }
 
+interface Stores {
+  readonly packs: IDBObjectStore;
+  readonly pieces: IDBObjectStore;
+  readonly aside: IDBObjectStore;
+}
+
+const writing = (changes: readonly Change[]) => ({ packs, pieces, aside }: Stores) => {
+  for (const change of changes) {
+    const { kind, stored } = change;
+    if (kind === "dropAll") {
+      packs.clear();
+      pieces.clear();
+    } else if (kind === "keepAside") {
+      aside.put(stored);
+    } else {
+      if (kind === "dropKey") pieces.delete(IDBKeyRange.bound([stored.key], [stored.key, []]));
+      pieces.put(rowOf(change));
+    }
+  }
+};
+
+// Writes all pieces into new packs.
+const rewriting = (all: Pieces) => ({ packs, pieces }: Stores) => {
+  packs.clear();
+  pieces.clear();
+  all.packs().forEach((pack, number) => packs.put(pack, number));
+};
+
 function openDatabase(whenClosed: () => void): Promise<IDBPDatabase<Schema>> {
   return openDB<Schema>(databaseName, schemaVersion, {
-    // Version 2 has columns among the pieces. A build that knows none would lose what is in them.
+    // Version 2 has columns among the pieces, version 3 has packs. A build that knows none would lose what is in
+    // them.
     upgrade(database, before) {
-      if (before >= 1) return;
-      database.createObjectStore("pieces", { keyPath: ["key", "piece"] });
-      database.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
+      if (before < 1) {
+        database.createObjectStore("pieces", { keyPath: ["key", "piece"] });
+        database.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
+      }
+      if (before < 3) database.createObjectStore("packs");
     },
     terminated: whenClosed,
   });
