@@ -24,5 +24,5 @@ async function load(): Promise<void> {
   for (const other of others) document.fonts.add(other);
 }
 
-// Whether this visit finds the face in its own keeping.
-export const isFaceKept = (): boolean => Boolean(navigator.serviceWorker?.controller);
+// Whether this visit finds the face, and all other files of the game, in the service worker's cache.
+export const isKeptForOffline = (): boolean => Boolean(navigator.serviceWorker?.controller);

@@ -58,20 +58,39 @@ export interface DocumentHost {
 
 const linesKept = 20;
 
+// The game's debug output. The lines of a call are written as one message, because a busy week has dozens and
+// each message takes a millisecond on a slow phone.
+class DebugLog {
+  readonly lines: string[] = []; // the last ones
+  private fresh: string[] = [];
+
+  add(line: string): void {
+    this.fresh.push(line);
+  }
+
+  write(): void {
+    if (this.fresh.length === 0) return;
+    console.info(this.fresh.join("\n"));
+    this.lines.push(...this.fresh);
+    this.lines.splice(0, this.lines.length - linesKept);
+    this.fresh = [];
+  }
+}
+
 export class Game {
   textsAreIn = false;
   private stopped = false;
 
   private constructor(
     private readonly exports: Exports,
-    private readonly log: readonly string[],
+    private readonly log: DebugLog,
   ) {}
 
   // Creates a game with these pieces. Like all functions of a game, it throws GameStopped.
   static async open(module: WebAssembly.Module, host: GameHost, pieces: readonly Piece[]): Promise<Game> {
-    const log: string[] = [];
+    const log = new DebugLog();
     const memory = () => exports.memory;
-    const wasi = wasiImports({ memory, line: (text) => note(log, text) });
+    const wasi = wasiImports({ memory, line: (text) => log.add(text) });
     const bytes = (at: number, size: number) => new Uint8Array(memory().buffer, at, size);
     const imports = {
       commit: (at: number, size: number) => host.commit(readChanges(bytes(at, size))),
@@ -193,20 +212,16 @@ export class Game {
   }
 
   private guarded<T>(action: () => T): T {
-    if (this.stopped) throw new GameStopped(undefined, this.log);
+    if (this.stopped) throw new GameStopped(undefined, this.log.lines);
     try {
       return action();
     } catch (cause) {
       this.stopped = true;
-      throw new GameStopped(cause, this.log);
+      throw new GameStopped(cause, this.log.lines);
+    } finally {
+      this.log.write();
     }
   }
-}
-
-function note(log: string[], line: string): void {
-  console.info(line);
-  log.push(line);
-  if (log.length > linesKept) log.shift();
 }
 
 function exportsOf(instance: WebAssembly.Instance): Exports {

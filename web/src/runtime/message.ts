@@ -2,42 +2,53 @@
 // and texts or bytes as a 32-bit length followed by the bytes. The game's implementation is
 // src/shells/web/message.h.
 
+const encoder = new TextEncoder();
+const decoder = new TextDecoder();
+
 export class MessageWriter {
-  private bytes = new Uint8Array(1024);
+  private bytes: Uint8Array<ArrayBuffer>;
+  private view: DataView;
   private size = 0;
 
+  // `expected`: the size of the message, if known. It saves copying a large one.
+  constructor(expected = 1024) {
+    this.bytes = new Uint8Array(expected);
+    this.view = new DataView(this.bytes.buffer);
+  }
+
   number(value: number): void {
-    this.room(4).setUint32(this.size, value, true);
+    this.makeRoom(4);
+    this.view.setUint32(this.size, value, true);
     this.size += 4;
   }
 
   wideNumber(value: number): void {
-    this.room(8).setBigInt64(this.size, BigInt(value), true);
+    this.makeRoom(8);
+    this.view.setBigInt64(this.size, BigInt(value), true);
     this.size += 8;
   }
 
   bytesOf(value: Uint8Array): void {
     this.number(value.length);
-    this.room(value.length);
+    this.makeRoom(value.length);
     this.bytes.set(value, this.size);
     this.size += value.length;
   }
 
   text(value: string): void {
-    this.bytesOf(new TextEncoder().encode(value));
+    this.bytesOf(encoder.encode(value));
   }
 
   message(): Uint8Array {
     return this.bytes.subarray(0, this.size);
   }
 
-  private room(more: number): DataView {
-    if (this.size + more > this.bytes.length) {
-      const grown = new Uint8Array(Math.max(2 * this.bytes.length, this.size + more));
-      grown.set(this.bytes);
-      this.bytes = grown;
-    }
-    return new DataView(this.bytes.buffer);
+  private makeRoom(more: number): void {
+    if (this.size + more <= this.bytes.length) return;
+    const grown = new Uint8Array(Math.max(2 * this.bytes.length, this.size + more));
+    grown.set(this.bytes);
+    this.bytes = grown;
+    this.view = new DataView(grown.buffer);
   }
 }
 
@@ -67,6 +78,6 @@ export class MessageReader {
   }
 
   text(): string {
-    return new TextDecoder().decode(this.bytesOf());
+    return decoder.decode(this.bytesOf());
   }
 }

@@ -17,7 +17,9 @@ export interface Change {
 }
 
 export function writePieces(pieces: readonly Piece[]): Uint8Array {
-  const writer = new MessageWriter();
+  const about = 64; // bytes of a piece besides its own, or a few more
+  const expected = pieces.reduce((sum, { bytes }) => sum + bytes.length + about, 1024);
+  const writer = new MessageWriter(expected);
   writer.number(pieces.length);
   for (const { key, shape, piece, bytes } of pieces) {
     writer.text(key);
@@ -28,16 +30,40 @@ export function writePieces(pieces: readonly Piece[]): Uint8Array {
   return writer.message();
 }
 
+function readPiece(reader: MessageReader): Piece {
+  const key = reader.text();
+  const shape = reader.number();
+  const piece = reader.wideNumber();
+  return { key, shape, piece, bytes: reader.bytesOf() };
+}
+
+// The reverse of writePieces.
+function readPieces(message: Uint8Array): Piece[] {
+  const reader = new MessageReader(message);
+  return Array.from({ length: reader.number() }, () => readPiece(reader));
+}
+
 export function readChanges(message: Uint8Array): Change[] {
   const reader = new MessageReader(message);
   return Array.from({ length: reader.number() }, () => {
     const kind = changeKinds[reader.number()];
     if (!kind) throw new Error("The game sent a change of an unknown kind.");
-    const key = reader.text();
-    const shape = reader.number();
-    const piece = reader.wideNumber();
-    return { kind, stored: { key, shape, piece, bytes: reader.bytesOf() } };
+    return { kind, stored: readPiece(reader) };
   });
+}
+
+// In the database a change of a piece is a row with the piece's key. A row without bytes drops the piece. A
+// row with this number, which comes before all others of its key, drops the key.
+const wholeKey = -Infinity;
+
+// The row of a put, a drop or a dropKey.
+export function rowOf({ kind, stored }: Change): Piece {
+  return kind === "dropKey" ? { ...stored, piece: wholeKey } : stored;
+}
+
+function changeOf(row: Piece): Change {
+  if (row.piece === wholeKey) return { kind: "dropKey", stored: row };
+  return { kind: row.bytes.length === 0 ? "drop" : "put", stored: row };
 }
 
 // Merges two lists of changes and drops those that later ones override, so that pending changes never exceed
@@ -59,12 +85,16 @@ function voids(later: Change, earlier: Change): boolean {
   return earlier.kind !== "dropKey" && earlier.stored.piece === later.stored.piece;
 }
 
+const packSize = 1 << 19; // bytes
+
 // All pieces of the save, in memory.
 export class Pieces {
   private readonly byKey = new Map<string, Map<number, Piece>>();
 
-  constructor(pieces: readonly Piece[] = []) {
-    for (const stored of pieces) this.put(stored);
+  // `packs`: see packs(). `rows`: the changes since the packs were written, in the order of their keys.
+  constructor(packs: readonly Uint8Array[] = [], rows: readonly Piece[] = []) {
+    for (const pack of packs) for (const stored of readPieces(pack)) this.put(stored);
+    this.change(rows.map(changeOf));
   }
 
   all(): Piece[] {
@@ -80,11 +110,22 @@ export class Pieces {
     }
   }
 
-  // The changes that make any storage hold exactly these pieces.
-  rewriting(): Change[] {
-    const nothing = { key: "", shape: 0, piece: 0, bytes: new Uint8Array() };
-    const puts = this.all().map((stored) => ({ kind: "put", stored }) as const);
-    return [{ kind: "dropAll", stored: nothing }, ...puts];
+  // All pieces as messages of about `packSize`.
+  packs(): Uint8Array[] {
+    const packs: Uint8Array[] = [];
+    let pack: Piece[] = [];
+    let size = 0;
+    const close = () => packs.push(writePieces(pack).slice());
+    for (const piece of this.all()) {
+      pack.push(piece);
+      size += piece.bytes.length;
+      if (size < packSize) continue;
+      close();
+      pack = [];
+      size = 0;
+    }
+    if (pack.length > 0) close();
+    return packs;
   }
 
   private put(stored: Piece): void {

@@ -5,7 +5,7 @@ import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
-import { isFaceKept, loadFace } from "./face";
+import { isKeptForOffline, loadFace } from "./face";
 import { Game, type GameHost, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
@@ -81,7 +81,11 @@ export class Shell {
     // The program is loaded even while another tab plays, because this version may be gone from the server
     // later.
     program.get().catch(() => undefined);
-    if (isFaceKept()) loadFace().catch(() => undefined);
+    if (isKeptForOffline()) {
+      // Both are here already, and the first page of a career needs them.
+      texts.get().catch(() => undefined);
+      loadFace().catch(() => undefined);
+    }
     await this.lock.acquire();
   }
 

@@ -4,16 +4,20 @@
 // event loop, so closing the page right after loses nothing and never saves half an action. With the default
 // durability a power failure can lose the last action or two, but never a part of one.
 //
+// A browser reads thousands of small values slowly. So the save is in two parts: packs of many pieces, and the
+// changes since the packs were written, which a start moves into new packs when they have become many.
+//
 // The result of a transaction comes later. Until then its changes stay pending and are repeated in the next
 // transaction, so the stored state is always the state after some action.
 
-import { type DBSchema, type IDBPDatabase, openDB } from "idb";
+import { type DBSchema, type IDBPDatabase, openDB, unwrap } from "idb";
 
 import { type DocumentChange, type DocumentPlace, type DocumentSummary, isSamePlace } from "./documents";
-import { type Change, joined, type Piece, Pieces } from "./pieces";
+import { type Change, joined, type Piece, Pieces, rowOf } from "./pieces";
 
 interface Schema extends DBSchema {
-  pieces: { key: [string, number]; value: Piece };
+  packs: { key: number; value: Uint8Array };
+  pieces: { key: [string, number]; value: Piece }; // the changes, see rowOf()
   // Unreadable values, for manual recovery. The game does not read them.
   aside: { key: [string, number, Uint8Array<ArrayBuffer>]; value: Piece };
   // Slots and backups; their contents are not read before they are asked for.
@@ -26,6 +30,8 @@ const schemaVersion = 3; // raise it with every change of what is stored; src/sh
 const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
 const backupFolder = "SaveBackups"; // as in src/core/save_backups.h
 const openingPatience = 5000; // milliseconds; some browsers never report a result
+const mostChanges = 500; // rows; more are moved into packs
+const pauseBeforePacking = 3000; // milliseconds; the first page comes before
 
 // Why nothing can be saved here.
 export type Refusal = "refused" | "unreadable" | "newer";
@@ -61,8 +67,13 @@ export class Storage {
       return new Storage(undefined, new Pieces(), [], isOfLaterSchema(error) ? "newer" : "refused", watcher);
     }
     try {
-      const [stored, summaries] = await Promise.all([database.getAll("pieces"), database.getAll("summaries")]);
-      storage = new Storage(database, new Pieces(stored), summaries, undefined, watcher);
+      const reading = database.transaction(["packs", "pieces", "summaries"]);
+      const packs = reading.objectStore("packs").getAll();
+      const rows = reading.objectStore("pieces").getAll();
+      const summaries = reading.objectStore("summaries").getAll();
+      await reading.done;
+      storage = new Storage(database, new Pieces(await packs, await rows), await summaries, undefined, watcher);
+      if ((await rows).length > mostChanges) storage.packLater();
       return storage;
     } catch {
       return new Storage(undefined, new Pieces(), [], "unreadable", watcher);
@@ -113,9 +124,8 @@ export class Storage {
   async replace(changes: readonly Change[]): Promise<void> {
     const replaced = new Pieces();
     replaced.change(changes);
-    const rewriting = replaced.rewriting();
     const documents = this.waitingDocuments;
-    if (!this.refusal) await this.transaction(rewriting, documents);
+    if (!this.refusal) await this.transaction(rewriting(replaced, documents));
     this.pieces = replaced;
     this.waiting = [];
     if (!this.refusal) this.forget(documents);
@@ -141,7 +151,7 @@ export class Storage {
     this.latest += 1;
     const upTo = this.latest;
     const documents = this.waitingDocuments;
-    this.writes = (this.database ? this.transaction(this.waiting, documents) : this.reopen()).then(
+    this.writes = (this.database ? this.transaction(writing(this.waiting, documents)) : this.reopen()).then(
       () => {
         // Later changes stay pending.
         if (upTo === this.latest) this.waiting = [];
@@ -174,29 +184,23 @@ export class Storage {
     this.waitingDocuments = this.waitingDocuments.filter((change) => !documents.includes(change));
   }
 
-  private async transaction(changes: readonly Change[], documents: readonly DocumentChange[]): Promise<void> {
+  // If it fails, the changes stay where they are until the next start.
+  private packLater(): void {
+    setTimeout(() => this.transaction(rewriting(this.pieces, [])).catch(() => undefined), pauseBeforePacking);
+  }
+
+  private async transaction(write: (stores: Stores) => void): Promise<void> {
     if (!this.database) throw closed();
-    const transaction = this.database.transaction(["pieces", "aside", "summaries", "contents"], "readwrite");
+    const transaction = this.database.transaction(["packs", "pieces", "aside", "summaries", "contents"], "readwrite");
     try {
-      const pieces = transaction.objectStore("pieces");
-      const aside = transaction.objectStore("aside");
-      const requests = changes.map(({ kind, stored }) => {
-        if (kind === "put") return pieces.put(stored);
-        if (kind === "drop") return pieces.delete([stored.key, stored.piece]);
-        if (kind === "dropKey") return pieces.delete(IDBKeyRange.bound([stored.key], [stored.key, []]));
-        if (kind === "dropAll") return pieces.clear();
-        return aside.put(stored);
+      // Without a promise for each request: a failed one aborts the transaction, which reports the error.
+      write({
+        packs: unwrap(transaction.objectStore("packs")),
+        pieces: unwrap(transaction.objectStore("pieces")),
+        aside: unwrap(transaction.objectStore("aside")),
+        summaries: unwrap(transaction.objectStore("summaries")),
+        contents: unwrap(transaction.objectStore("contents")),
       });
-      const documentRequests = documents.flatMap<Promise<unknown>>((change) => {
-        const { folder, name } = change.document;
-        const summaries = transaction.objectStore("summaries");
-        const contents = transaction.objectStore("contents");
-        if (change.kind === "remove") return [summaries.delete([folder, name]), contents.delete([folder, name])];
-        const { content, ...summary } = change.document;
-        return [summaries.put(summary), contents.put({ folder, name, content })];
-      });
-      // A failed request aborts the transaction, which reports the error.
-      for (const request of [...requests, ...documentRequests]) request.catch(() => undefined);
       transaction.commit();
     } catch (error) {
       transaction.done.catch(() => undefined);
@@ -218,7 +222,7 @@ export class Storage {
       await new Promise((over) => setTimeout(over, pause));
       try {
         this.database ??= await withPatience(openDatabase(() => this.lost()));
-        await this.transaction(this.pieces.rewriting(), this.waitingDocuments);
+        await this.transaction(rewriting(this.pieces, this.waitingDocuments));
         return;
       } catch {
         // Tries again, or reports the error below.
@@ -228,16 +232,68 @@ export class Storage {
   }
 }
 
+interface Stores {
+  readonly packs: IDBObjectStore;
+  readonly pieces: IDBObjectStore;
+  readonly aside: IDBObjectStore;
+  readonly summaries: IDBObjectStore;
+  readonly contents: IDBObjectStore;
+}
+
+const writing = (changes: readonly Change[], documents: readonly DocumentChange[]) => (stores: Stores) => {
+  const { packs, pieces, aside } = stores;
+  writeDocuments(documents, stores);
+  for (const change of changes) {
+    const { kind, stored } = change;
+    if (kind === "dropAll") {
+      packs.clear();
+      pieces.clear();
+    } else if (kind === "keepAside") {
+      aside.put(stored);
+    } else {
+      if (kind === "dropKey") pieces.delete(IDBKeyRange.bound([stored.key], [stored.key, []]));
+      pieces.put(rowOf(change));
+    }
+  }
+};
+
+function writeDocuments(changes: readonly DocumentChange[], { summaries, contents }: Stores): void {
+  for (const change of changes) {
+    const { folder, name } = change.document;
+    if (change.kind === "remove") {
+      summaries.delete([folder, name]);
+      contents.delete([folder, name]);
+    } else {
+      const { content, ...summary } = change.document;
+      summaries.put(summary);
+      contents.put({ folder, name, content });
+    }
+  }
+}
+
+// Writes all pieces into new packs.
+const rewriting = (all: Pieces, documents: readonly DocumentChange[]) => (stores: Stores) => {
+  const { packs, pieces } = stores;
+  writeDocuments(documents, stores);
+  packs.clear();
+  pieces.clear();
+  all.packs().forEach((pack, number) => packs.put(pack, number));
+};
+
 function openDatabase(whenClosed: () => void): Promise<IDBPDatabase<Schema>> {
   return openDB<Schema>(databaseName, schemaVersion, {
-    // Version 2 has columns among the pieces, which a build that knows none would lose. Version 3 has documents.
+    // Version 2 has columns among the pieces, version 3 packs and documents. A build that knows none would lose
+    // what is in them.
     upgrade(database, before) {
       if (before < 1) {
         database.createObjectStore("pieces", { keyPath: ["key", "piece"] });
         database.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
       }
-      database.createObjectStore("summaries", { keyPath: ["folder", "name"] });
-      database.createObjectStore("contents", { keyPath: ["folder", "name"] });
+      if (before < 3) {
+        database.createObjectStore("packs");
+        database.createObjectStore("summaries", { keyPath: ["folder", "name"] });
+        database.createObjectStore("contents", { keyPath: ["folder", "name"] });
+      }
     },
     terminated: whenClosed,
   });
