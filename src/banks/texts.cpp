@@ -113,12 +113,14 @@ std::string_view texts() {
 namespace {
 
 std::string unescaped(std::string_view row) {
+  constexpr std::string_view lineBreak = "\\n";
   std::string text;
-  for (std::size_t place = 0; place < row.size(); ++place) {
-    const bool lineBreak = row.substr(place).starts_with("\\n");
-    text += lineBreak ? '\n' : row[place];
-    if (lineBreak) place += 1;
+  for (auto at = row.find(lineBreak); at != std::string_view::npos; at = row.find(lineBreak)) {
+    text += row.substr(0, at);
+    text += '\n';
+    row.remove_prefix(at + lineBreak.size());
   }
+  text += row;
   return text;
 }
 

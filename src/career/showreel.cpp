@@ -108,8 +108,9 @@ std::int64_t likelyFootageScore(const WorldState& world) {
     scores.push_back(static_cast<std::int64_t>(world.saveAllAuditionList[index].performanceRating));
   }
   if (scores.empty()) return 0;
-  std::ranges::sort(scores, std::greater{});
-  scores.resize(std::min(scores.size(), maxFootage));
+  const std::size_t chosen = std::min(scores.size(), maxFootage);
+  std::ranges::partial_sort(scores, scores.begin() + static_cast<std::ptrdiff_t>(chosen), std::greater{});
+  scores.resize(chosen);
   return scoreOfReel(world, std::reduce(scores.begin(), scores.end()), (minFootageCut + bestCut) / 2);
 }
 

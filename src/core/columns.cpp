@@ -9,7 +9,8 @@ std::string columnKey(std::string_view list, std::string_view field) {
 }
 
 void addPiece(Stretches& stretches, std::int64_t piece, std::size_t first, std::size_t count) {
-  const auto [at, added] = stretches.try_emplace(stretchOf(piece), ListPart{.first = first, .count = 0});
+  const auto at =
+      stretches.try_emplace(stretches.end(), stretchOf(piece), ListPart{.first = first, .count = 0});
   at->second.count += count;
 }
 

@@ -20,8 +20,8 @@ template <class Record, class Field, class Value>
   return std::nullopt;
 }
 
-// The same for an id field, which must not change while its record is in the list. Long lists keep a table of
-// small ids, because a career has thousands of titles and tens of thousands of market records.
+// The same for an id field, which must not change while its record is in the list. Lists keep an index of
+// ids, because a career has thousands of titles and tens of thousands of market records.
 template <class Record>
 [[nodiscard]] std::optional<std::size_t> find(const List<Record>& list, std::int64_t Record::* id,
                                               std::int64_t value) {

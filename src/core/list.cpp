@@ -1,6 +1,7 @@
 #include "core/list.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 namespace tb {
@@ -54,7 +55,7 @@ void* ListBase::setField(std::size_t index, std::size_t field) {
 void ListBase::pushBack(void* element) {
   if (pieces_.empty()) {
     pieces_.push_back({.number = 0});
-  } else if (pieces_.back().count >= pieceLength) {
+  } else if (pieces_.back().count >= operations_->pieceLength) {
     pieces_.push_back({.number = pieces_.back().number + 1});
   }
   Piece& piece = pieces_.back();
@@ -67,7 +68,7 @@ void ListBase::pushBack(void* element) {
 void ListBase::pushFront(void* element) {
   if (pieces_.empty()) {
     pieces_.push_front({.number = 0});
-  } else if (pieces_.front().count >= pieceLength) {
+  } else if (pieces_.front().count >= operations_->pieceLength) {
     pieces_.push_front({.number = pieces_.front().number - 1});
   }
   Piece& piece = pieces_.front();
@@ -112,67 +113,61 @@ void ListBase::takeElements(ListBase& other) {
 
 // --- Finding by id ---
 
-namespace {
-
-// A table of ids is used only when the ids are not much larger than the number of elements; a short list is
-// searched linearly.
-constexpr std::size_t maxIdsPerElement = 16;
-constexpr std::size_t shortList = 64;
-
-}  // namespace
-
 std::int64_t ListBase::idAt(std::size_t field, std::size_t index) const {
   std::int64_t id = 0;
   std::memcpy(&id, static_cast<const std::byte*>(slots_[index].element) + field, sizeof id);
   return id;
 }
 
-// Extends the index to the end of the list. False when the ids are not suitable for a table.
-bool ListBase::indexIds(std::size_t field) const {
-  if (ids_.field != field) ids_ = {.field = field, .first = {}, .last = {}, .next = {}};
-  for (std::size_t index = ids_.next.size(); index < size(); ++index) {
-    const std::int64_t id = idAt(field, index);
-    if (id < 0 || static_cast<std::size_t>(id) > maxIdsPerElement * size()) return false;
-    const auto entry = static_cast<std::size_t>(id);
-    if (entry >= ids_.first.size()) {
-      ids_.first.resize(entry + 1, IdIndex::none);
-      ids_.last.resize(entry + 1, IdIndex::none);
-    }
-    const auto here = static_cast<std::uint32_t>(index);
-    if (ids_.last[entry] == IdIndex::none) {
-      ids_.first[entry] = here;
-    } else {
-      ids_.next[ids_.last[entry]] = here;
-    }
-    ids_.last[entry] = here;
-    ids_.next.push_back(IdIndex::none);
-  }
-  return true;
+// Ids are counts, so their low bits spread them over the buckets.
+std::size_t ListBase::bucketOf(std::int64_t id) const {
+  return static_cast<std::size_t>(id) & (ids_.first.size() - 1);
 }
 
-std::optional<std::size_t> ListBase::walkToId(std::size_t field, std::int64_t id, std::size_t from) const {
-  for (std::size_t index = from; index < size(); ++index) {
-    if (idAt(field, index) == id) return index;
+// Extends the index to the end of the list.
+void ListBase::indexIds(std::size_t field) const {
+  constexpr std::size_t leastBuckets = 64;
+  if (ids_.field != field || ids_.first.empty() || ids_.first.size() < size()) {
+    const std::size_t buckets = std::max(leastBuckets, std::bit_ceil(2 * size()));
+    const std::vector<std::uint32_t> empty(buckets, IdIndex::none);
+    ids_ = {.field = field, .first = empty, .last = empty, .next = {}};
+  }
+  for (std::size_t index = ids_.next.size(); index < size(); ++index) {
+    const std::size_t bucket = bucketOf(idAt(field, index));
+    const auto here = static_cast<std::uint32_t>(index);
+    if (ids_.last[bucket] == IdIndex::none) {
+      ids_.first[bucket] = here;
+    } else {
+      ids_.next[ids_.last[bucket]] = here;
+    }
+    ids_.last[bucket] = here;
+    ids_.next.push_back(IdIndex::none);
+  }
+}
+
+// The element with this id in a bucket, starting with element `from`.
+std::optional<std::size_t> ListBase::inBucket(std::uint32_t from, std::int64_t id) const {
+  for (std::uint32_t at = from; at != IdIndex::none; at = ids_.next[at]) {
+    if (idAt(ids_.field, at) == id) return at;
   }
   return std::nullopt;
 }
 
 std::optional<std::size_t> ListBase::firstWithId(std::size_t field, std::int64_t id) const {
-  if (size() <= shortList || !indexIds(field)) return walkToId(field, id, 0);
-  if (id < 0 || static_cast<std::size_t>(id) >= ids_.first.size()) return std::nullopt;
-  const std::uint32_t first = ids_.first[static_cast<std::size_t>(id)];
-  return first == IdIndex::none ? std::nullopt : std::optional<std::size_t>(first);
+  indexIds(field);
+  return inBucket(ids_.first[bucketOf(id)], id);
 }
 
 std::optional<std::size_t> ListBase::nextWithId(std::size_t field, std::size_t index) const {
-  if (size() <= shortList || !indexIds(field)) return walkToId(field, idAt(field, index), index + 1);
-  return ids_.next[index] == IdIndex::none ? std::nullopt : std::optional<std::size_t>(ids_.next[index]);
+  indexIds(field);
+  return inBucket(ids_.next[index], idAt(field, index));
 }
 
 // --- For saving and loading ---
 
 std::vector<ListBase::PieceState> ListBase::pieces() const {
   std::vector<PieceState> states;
+  states.reserve(pieces_.size());
   std::size_t first = 0;
   for (const Piece& piece : pieces_) {
     states.push_back({piece.number, first, piece.count, piece.changed, piece.fieldsSet});
@@ -192,9 +187,10 @@ void ListBase::changesSaved() {
 void ListBase::replaceStored() {
   replaces_stored_ = true;
   pieces_.clear();
+  const std::size_t length = operations_->pieceLength;
   for (std::size_t index = 0; index < slots_.size(); ++index) {
-    const auto number = static_cast<std::int64_t>(index / pieceLength);
-    if (index % pieceLength == 0) pieces_.push_back({.number = number, .changed = true});
+    const auto number = static_cast<std::int64_t>(index / length);
+    if (index % length == 0) pieces_.push_back({.number = number, .changed = true});
     pieces_.back().count += 1;
     slots_[index].piece = number;
   }

@@ -3,7 +3,7 @@
 // A persisted list: a sequence that records which of its parts changed since it was last saved.
 //
 // A career's lists grow for decades while a week changes few elements. So the elements are grouped into
-// pieces of up to pieceLength; the store has one entry per piece, and saving writes only changed pieces.
+// pieces of up to pieceLengthOf<T>; the store has one entry per piece, and saving writes only changed pieces.
 // Elements can be read like those of any sequence, but are changed through edit(), set(), the push and erase
 // functions and assign() only, so that every change is recorded.
 //
@@ -33,23 +33,33 @@ template <class Record, class Field>
                                   reinterpret_cast<const std::byte*>(&record));
 }
 
-// An index from ids to elements, as a table by id, for small ids such as those of films. It is extended when
-// elements are added at the end, and cleared by anything else that moves elements.
+// A hash table from ids to elements. It is extended when elements are added at the end, and cleared by
+// anything else that moves elements.
 struct IdIndex {
   static constexpr std::uint32_t none = ~std::uint32_t{0};
 
   std::size_t field = 0;             // offset of the id in an element, in bytes
-  std::vector<std::uint32_t> first;  // by id: the first element with it, or `none`
-  std::vector<std::uint32_t> last;   // by id: the last one so far
-  std::vector<std::uint32_t> next;   // by element: the next one with the same id, or `none`
+  std::vector<std::uint32_t> first;  // by bucket: its first element, or `none`; the size is a power of 2
+  std::vector<std::uint32_t> last;   // by bucket: its last element so far
+  std::vector<std::uint32_t> next;   // by element: the next one in its bucket, or `none`
 };
+
+// The number of elements in a full piece. Records that change in the middle of their list have short pieces.
+// Plain values only change at the ends of their lists, and so do records that declare a `pieceLength`: long
+// pieces load faster, because each is an entry of the store and repeats the names of the fields.
+template <class T>
+inline constexpr std::size_t pieceLengthOf = [] {
+  if constexpr (requires { T::pieceLength; }) {
+    return T::pieceLength;
+  } else {
+    return std::is_aggregate_v<T> ? std::size_t{8} : std::size_t{64};
+  }
+}();
 
 // The part of a list that does not depend on the element type. Compiling it once saves a quarter of the
 // page's program.
 class ListBase {
  public:
-  static constexpr std::size_t pieceLength = 8;
-
   // A piece and the range of its elements. A count of 0 means that the piece was removed.
   struct PieceState {
     std::int64_t piece;
@@ -61,6 +71,7 @@ class ListBase {
 
   // Creates and destroys elements of the list's type.
   struct ElementOperations {
+    std::size_t pieceLength;
     void* (*make)();
     void* (*copy)(const void* element);
     void (*destroy)(void* element);
@@ -82,7 +93,7 @@ class ListBase {
   void clear();
 
   // The index of the first element whose integer at offset `field` is `id`, and of the next one after
-  // `index`; nothing when there is none. Fast in long lists. An id must not change while its element is in
+  // `index`; nothing when there is none. Takes constant time. An id must not change while its element is in
   // the list. Used by core/find.h.
   [[nodiscard]] std::optional<std::size_t> firstWithId(std::size_t field, std::int64_t id) const;
   [[nodiscard]] std::optional<std::size_t> nextWithId(std::size_t field, std::size_t index) const;
@@ -147,9 +158,9 @@ class ListBase {
 
   Piece& pieceOf(std::int64_t number);
   [[nodiscard]] std::int64_t idAt(std::size_t field, std::size_t index) const;
-  [[nodiscard]] bool indexIds(std::size_t field) const;
-  [[nodiscard]] std::optional<std::size_t> walkToId(std::size_t field, std::int64_t id,
-                                                    std::size_t from) const;
+  void indexIds(std::size_t field) const;
+  [[nodiscard]] std::size_t bucketOf(std::int64_t id) const;
+  [[nodiscard]] std::optional<std::size_t> inBucket(std::uint32_t from, std::int64_t id) const;
   void copyElements(const ListBase& other);
   void destroyElements();
 
@@ -268,6 +279,7 @@ class List : public ListBase {
 
  private:
   static constexpr ElementOperations operationsOfType{
+      .pieceLength = pieceLengthOf<T>,
       .make = []() -> void* { return new T(); },
       .copy = [](const void* element) -> void* { return new T(*static_cast<const T*>(element)); },
       .destroy = [](void* element) { delete static_cast<T*>(element); }};

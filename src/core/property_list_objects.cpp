@@ -11,11 +11,15 @@ namespace {
 
 constexpr std::size_t largestNumber = 8;  // bytes of an offset, a reference or a count
 
-std::uint64_t bigEndian(std::span<const std::byte> bytes) {
+std::uint64_t bigEndian(const std::byte* bytes, std::size_t size) {
   std::uint64_t value = 0;
-  for (const std::byte byte : bytes) value = value << 8 | std::to_integer<std::uint64_t>(byte);
+  for (std::size_t index = 0; index < size; ++index) {
+    value = value << 8 | std::to_integer<std::uint64_t>(bytes[index]);
+  }
   return value;
 }
+
+std::uint64_t bigEndian(std::span<const std::byte> bytes) { return bigEndian(bytes.data(), bytes.size()); }
 
 // An integer from `content`. The 16-byte form is accepted only when the number fits in 64 bits, so that the
 // upper half is just the sign.
@@ -65,14 +69,41 @@ std::expected<Objects, ReadError> Objects::open(std::span<const std::byte> file)
   return objects;
 }
 
+// The marker of the object; null when the table has no such offset. open() has checked the table's size.
+const std::byte* Objects::markerOf(Reference reference) const {
+  if (reference >= count_) return nullptr;
+  const std::byte* const entry = offsets_.data() + static_cast<std::size_t>(reference) * offset_size_;
+  const std::uint64_t offset = bigEndian(entry, offset_size_);
+  if (offset < format::header.size() || offset >= objects_.size()) return nullptr;
+  return objects_.data() + offset;
+}
+
+std::optional<std::int64_t> Objects::integerAt(Reference reference) const {
+  const std::byte* const marker = markerOf(reference);
+  if (marker == nullptr) return std::nullopt;
+  const auto kind = std::to_integer<std::uint8_t>(*marker);
+  if (kind < format::integerMarker || kind > (format::integerMarker | 3)) return std::nullopt;
+  const std::size_t size = std::size_t{1} << (kind & 0x0F);
+  if (objects_.data() + objects_.size() - marker <= static_cast<std::ptrdiff_t>(size)) return std::nullopt;
+  return static_cast<std::int64_t>(bigEndian(marker + 1, size));
+}
+
+std::optional<double> Objects::realAt(Reference reference) const {
+  const std::byte* const marker = markerOf(reference);
+  if (marker == nullptr || std::to_integer<std::uint8_t>(*marker) != (format::realMarker | 3)) {
+    return std::nullopt;
+  }
+  constexpr std::size_t size = sizeof(double);
+  if (objects_.data() + objects_.size() - marker <= static_cast<std::ptrdiff_t>(size)) return std::nullopt;
+  return std::bit_cast<double>(bigEndian(marker + 1, size));
+}
+
 std::expected<Object, ReadError> Objects::object(Reference reference) const {
   if (reference >= count_) return std::unexpected(ReadError::badReference);
-  const auto index = static_cast<std::size_t>(reference);
-  const std::uint64_t offset = bigEndian(offsets_.subspan(index * offset_size_, offset_size_));
-  if (offset < format::header.size() || offset >= objects_.size())
-    return std::unexpected(ReadError::badTrailer);
+  const std::byte* const first = markerOf(reference);
+  if (first == nullptr) return std::unexpected(ReadError::badTrailer);
 
-  const auto at = static_cast<std::size_t>(offset) + 1;
+  const auto at = static_cast<std::size_t>(first - objects_.data()) + 1;
   const auto marker = std::to_integer<std::uint8_t>(objects_[at - 1]);
   const std::uint8_t low = marker & 0x0F;
   const auto number = [&](std::size_t largest) -> std::span<const std::byte> {

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <expected>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -47,12 +48,18 @@ class Objects {
   // `reference` may be any number.
   [[nodiscard]] std::expected<Object, ReadError> object(Reference reference) const;
 
+  // The value of an integer object of up to 8 bytes, and of an 8-byte real; nothing for any other object.
+  // Like object(), but quicker: most objects of a save are numbers.
+  [[nodiscard]] std::optional<std::int64_t> integerAt(Reference reference) const;
+  [[nodiscard]] std::optional<double> realAt(Reference reference) const;
+
   // The reference at `index` of a container's content. It is not checked; object() does that.
   [[nodiscard]] Reference referenceAt(std::span<const std::byte> content, std::size_t index) const;
 
  private:
   Objects() = default;
 
+  [[nodiscard]] const std::byte* markerOf(Reference reference) const;
   [[nodiscard]] std::expected<Object, ReadError> sized(ObjectKind kind, std::uint8_t low,
                                                        std::size_t at) const;
 

@@ -138,6 +138,7 @@ class ListDecoder {
   bool read(plist::Reference reference, const ValueType& type, void* value);
   template <NumberType T>
   bool readNumber(const Object& object, void* value);
+  bool readQuickly(plist::Reference reference, const ValueType& type, void* value);
   bool readText(const Object& object, std::string& text);
   bool readData(const Object& object, plist::Data& data);
   bool readRecord(plist::Reference reference, const ValueType& type, std::byte* record);
@@ -205,6 +206,7 @@ bool ListDecoder::read(plist::Reference reference, const ValueType& type, void* 
     default:
       break;
   }
+  if (readQuickly(reference, type, value)) return true;
   Object object;
   if (!take(reference, object)) return false;
   switch (type.form) {
@@ -223,6 +225,21 @@ bool ListDecoder::read(plist::Reference reference, const ValueType& type, void* 
       static_cast<plist::Date*>(value)->seconds = object.real;
       return true;
   }
+}
+
+// Reads a number that is stored in the form of its field, as nearly all are.
+bool ListDecoder::readQuickly(plist::Reference reference, const ValueType& type, void* value) {
+  if (type.form == Form::integer) {
+    const auto integer = objects_.integerAt(reference);
+    if (integer) *static_cast<std::int64_t*>(value) = *integer;
+    return integer.has_value();
+  }
+  if (type.form == Form::real) {
+    const auto real = objects_.realAt(reference);
+    if (real) *static_cast<double*>(value) = *real;
+    return real.has_value();
+  }
+  return false;
 }
 
 template <NumberType T>

@@ -62,6 +62,7 @@ Bytes encodeStretch(const FieldType& column, const ListBase& list, const ListPar
 
 // Saves the changed stretches of the columns.
 void saveColumns(SaveStore& store, const Variable& variable, const ListBase& list) {
+  if (std::ranges::none_of(variable.type->fields, &FieldType::isColumn)) return;
   Stretches stretches;
   std::set<std::int64_t> changed;
   for (const auto& piece : list.pieces()) {

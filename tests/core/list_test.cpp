@@ -1,11 +1,14 @@
 #include "core/list.h"
 
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
 #include <ranges>
 #include <string>
 #include <vector>
+
+#include "core/find.h"
 
 namespace tb {
 namespace {
@@ -59,7 +62,7 @@ TEST(PersistedList, WritesOnlyChangedPieces) {
   List<int> list = numbers(1000);
   StoredList<int> stored;
   stored.save(list);
-  EXPECT_EQ(stored.written, 125u);  // 1,000 elements in pieces of 8
+  EXPECT_EQ(stored.written, 16u);  // 1,000 plain values in pieces of 64
 
   list.edit(500) = -1;
   stored.save(list);
@@ -75,6 +78,56 @@ TEST(PersistedList, WritesOnlyChangedPieces) {
   stored.save(list);
   EXPECT_EQ(stored.written, 0u);
   EXPECT_EQ(contents(stored.load()), contents(list));
+}
+
+// Records change in the middle of their list and have shorter pieces.
+struct Entry {
+  std::int64_t id = 0;
+  std::int64_t place = 0;
+};
+struct Receipt {
+  static constexpr std::size_t pieceLength = 100;
+};
+
+TEST(PersistedList, RecordsHaveShortPiecesUnlessTheyDeclareOthers) {
+  List<Entry> entries;
+  List<Receipt> receipts;
+  for (int i = 0; i < 1000; ++i) {
+    entries.push_back({});
+    receipts.push_back({});
+  }
+  EXPECT_EQ(entries.pieces().size(), 125u);
+  EXPECT_EQ(receipts.pieces().size(), 10u);
+}
+
+// The index of ids against a search from front to back, with ids of any size while the list changes at
+// random.
+TEST(PersistedList, FindsTheSameByIdAsASearch) {
+  std::mt19937 chance(5);
+  const auto below = [&](std::size_t n) { return static_cast<std::size_t>(chance() % n); };
+  const std::vector<std::int64_t> ids = {0,  1,   2,         63,        64,        66,
+                                         -1, -65, 1'000'000, 1'000'064, INT64_MAX, INT64_MIN};
+  List<Entry> list;
+  for (int step = 0; step < 2000; ++step) {
+    const Entry added{.id = ids[below(ids.size())], .place = step};
+    const std::size_t choice = below(10);
+    if (choice < 6) list.push_back(added);
+    if (choice == 6) list.push_front(added);
+    if (choice == 7 && !list.empty()) list.erase_at(below(list.size()));
+    if (choice == 8 && below(200) == 0) list.clear();
+
+    const std::int64_t wanted = ids[below(ids.size())];
+    std::vector<std::int64_t> searched;
+    for (const Entry& entry : list) {
+      if (entry.id == wanted) searched.push_back(entry.place);
+    }
+    std::vector<std::int64_t> found;
+    forEachWith(list, &Entry::id, wanted, [&](std::size_t index) { found.push_back(list[index].place); });
+    ASSERT_EQ(found, searched);
+    const auto first = find(list, &Entry::id, wanted);
+    ASSERT_EQ(first.has_value(), !searched.empty());
+    if (first) ASSERT_EQ(list[*first].place, searched.front());
+  }
 }
 
 TEST(PersistedList, AListCanBeAssignedFromAViewOfItself) {

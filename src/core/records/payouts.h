@@ -3,6 +3,7 @@
 // Payments for titles. Each is dated in the week whose summary counts it: a payout made while a week is
 // ending is dated in the next week.
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -16,6 +17,8 @@ inline constexpr std::int64_t syndication = 1;
 
 // Session pay, buyout or residuals of a title in a week.
 struct WeeklyEarnings {
+  static constexpr std::size_t pieceLength = 64;  // elements do not change, see core/list.h
+
   std::int64_t filmId = 0;
   std::string filmTitle;
   std::int64_t filmType = 0;       // tb::filmType; 0 for every syndication residual

@@ -15,6 +15,9 @@ using namespace view;
 
 namespace {
 
+// A busy career has dozens of lines a week, most of them small residuals.
+constexpr std::size_t rowsAtOnce = 12;
+
 std::vector<Picture> pictureOf(const WorldState& world, const Story& story) {
   if (story.project.empty()) return {};
   return {posterOf(world, story.project.front())};
@@ -75,7 +78,13 @@ Headline headlineNode(const Game& game, const Story& story, bool isLead) {
 
 std::vector<Node> rowNodes(const Game& game, const FrontPage& page) {
   std::vector<Node> nodes;
-  for (const Story& story : page.rows) nodes.push_back(headlineNode(game, story, false));
+  if (!page.rows.empty()) {
+    nodes.push_back(PagedList{
+        .key = "news",
+        .size = page.rows.size(),
+        .nodeAt = [&game, &page](std::size_t index) { return headlineNode(game, page.rows[index], false); },
+        .pageLength = rowsAtOnce});
+  }
   if (page.folded.empty()) return nodes;
   Fold fold{.key = "refusals", .label = foldedWords(page.folded)};
   for (const Story& story : page.folded) fold.nodes.push_back(headlineNode(game, story, false));
