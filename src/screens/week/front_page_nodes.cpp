@@ -78,7 +78,9 @@ Headline headlineNode(const Game& game, const Story& story, bool isLead) {
 
 std::vector<Node> rowNodes(const Game& game, const FrontPage& page) {
   std::vector<Node> nodes;
-  if (!page.rows.empty()) {
+  if (page.rows.size() <= rowsAtOnce) {
+    for (const Story& story : page.rows) nodes.push_back(headlineNode(game, story, false));
+  } else {
     nodes.push_back(PagedList{
         .key = "news",
         .size = page.rows.size(),

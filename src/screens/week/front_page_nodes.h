@@ -10,7 +10,8 @@ namespace tb {
 // A headline node; pressing it opens the project, if it exists.
 [[nodiscard]] view::Headline headlineNode(const Game& game, const Story& story, bool isLead);
 
-// The other lines, in pages, and the fold below them. The nodes refer to `page` until they are laid out.
+// The other lines, in pages when there are many, and the fold below them. The nodes refer to `page` until
+// they are laid out.
 [[nodiscard]] std::vector<view::Node> rowNodes(const Game& game, const FrontPage& page);
 
 // Plays the scene of the headline if it is a moment.
