@@ -55,28 +55,6 @@ List<int> numbers(int count) {
   return list;
 }
 
-TEST(PersistedList, WritesOnlyChangedPieces) {
-  List<int> list = numbers(1000);
-  StoredList<int> stored;
-  stored.save(list);
-  EXPECT_EQ(stored.written, 125u);  // 1,000 elements in pieces of 8
-
-  list.edit(500) = -1;
-  stored.save(list);
-  EXPECT_EQ(stored.written, 1u);
-  list.push_back(1000);
-  list.push_front(-1);
-  stored.save(list);
-  EXPECT_EQ(stored.written, 2u);
-  list.erase_at(700);
-  stored.save(list);
-  EXPECT_EQ(stored.written, 1u);
-  EXPECT_EQ(list.erase_if([](int value) { return value > 5000; }), 0u);
-  stored.save(list);
-  EXPECT_EQ(stored.written, 0u);
-  EXPECT_EQ(contents(stored.load()), contents(list));
-}
-
 TEST(PersistedList, AListCanBeAssignedFromAViewOfItself) {
   List<int> list = numbers(100);
   list.assign(list | std::views::filter([](int value) { return value % 2 == 1; }));

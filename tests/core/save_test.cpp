@@ -40,6 +40,7 @@ TEST(SaveAndLoad, WritesOnlyChangedPieces) {
   Launch play(port);
   EXPECT_FALSE(saveChanges(play.game));
   EXPECT_FALSE(play.store.hasUncommitted());
+  EXPECT_TRUE(play.store.contains("yearNumber")) << "start values are saved too";
 
   play.world.saveAllChildList.edit(39).followers = 5;
   play.world.trackFans.push_back(36);
