@@ -52,8 +52,8 @@ TEST_F(WeekReviewJourney, TheFirstBookingIsAMoment) {
       "week(s).";
   player.expectSees({"deal | BOOKED | Two Hats • Lead",
                      "BOOKED | [" + booked + "] | Lead • Feature Film <good> <lead>", "(poster poster1",
-                     "[You never heard back after applying for Salt Road.] | Lead • Feature Film <quiet>",
-                     "FEED", "Net of the week"});
+                     "NO ANSWER | [You never heard back after applying for Salt Road.] <quiet>", "FEED",
+                     "Net of the week"});
 
   // The headline opens the project, and Back shows the same page without the scene.
   player.press(booked);
