@@ -409,23 +409,33 @@ TEST(GoldenCareer, BoostsBribesAndWithdrawals) {
 
 TEST(GoldenCareer, StakeNegotiations) {
   Sheet sheet("career_stakes");
+  const auto prepare = [](std::int64_t energy, double royaltyBonus, std::int64_t isSigned) {
+    return [=](WorldState& world) {
+      world.isSAG = 1;
+      world.filmId = 40;
+      world.weekNumberForTracking = 20;
+      world.totalEnergyAvailable = energy;
+      world.saveAllTalentAgents = {{.id = 4, .royaltyBonus = 1.8},
+                                   {.id = 5,
+                                    .agency = "Northlight",
+                                    .royaltyBonus = royaltyBonus,
+                                    .negotiationBonus = 6,
+                                    .isSigned = isSigned}};
+      world.saveAllEmailList = {{.id = 76, .typeOfDeal = deal::royalty}, {.id = 77}};
+    };
+  };
+  for (const auto& [mail, isSigned] : {std::pair{78, 1}, {77, 0}, {77, 1}}) {
+    sheet.text(std::format("e-mail {}, agent {}", mail, isSigned), prepare(25, 1.25, isSigned),
+               [&](Game& game) {
+                 drawStakeOffer(game, mail);
+                 return stakeOffer(game.world, mail) != nullptr ? "an offer" : "none";
+               });
+  }
   for (std::uint64_t seed = 1; seed <= 6; ++seed) {
     for (const std::int64_t steps : {0, 4, 10}) {
       sheet.changes(
           std::format("{} steps, seed {}", steps, seed),
-          [&](WorldState& world) {
-            world.isSAG = 1;
-            world.filmId = 40;
-            world.weekNumberForTracking = 20;
-            world.totalEnergyAvailable = seed == 6 ? 24 : 25;
-            world.saveAllTalentAgents = {{.id = 4, .royaltyBonus = 1.8},
-                                         {.id = 5,
-                                          .agency = "Northlight",
-                                          .royaltyBonus = seed == 5 ? 0.25 : 1.25,
-                                          .negotiationBonus = 6,
-                                          .isSigned = 1}};
-            world.saveAllEmailList = {{.id = 76, .typeOfDeal = deal::royalty}, {.id = 77}};
-          },
+          prepare(seed == 6 ? 24 : 25, seed == 5 ? 0.25 : 1.25, 1),
           [&](Game& game) {
             drawStakeOffer(game, 77);
             const Audition* const offer = stakeOffer(game.world, 77);

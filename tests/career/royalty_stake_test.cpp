@@ -1,4 +1,4 @@
-// The stake offer, its negotiation, and its screen.
+// The screen of a stake offer.
 
 #include "career/royalty_stake.h"
 
@@ -19,26 +19,6 @@ const TalentAgent signedOne{.id = 5,
                             .royaltyBonus = 1.25,
                             .negotiationBonus = 6,
                             .isSigned = 1};
-
-struct StakeOffers : test::RuleTest {
-  StakeOffers() : RuleTest(test::Unscripted::low) {
-    world.isSAG = 1;
-    world.filmId = 40;
-    world.weekNumberForTracking = 20;
-    world.totalEnergyAvailable = 60;
-    world.saveAllTalentAgents = {{.id = 4, .royaltyBonus = 1.8}, signedOne};
-    world.saveAllEmailList = {{.id = 76, .typeOfDeal = deal::royalty}, {.id = mail}};
-  }
-};
-
-TEST_F(StakeOffers, NeedTheEmailAndAnAgent) {
-  drawStakeOffer(game, 78);
-  EXPECT_EQ(stakeOffer(world, 78), nullptr);
-  drawStakeOffer(game, mail);
-  EXPECT_NE(stakeOffer(world, mail), nullptr);
-  world.saveAllTalentAgents.edit(1).isSigned = 0;
-  EXPECT_EQ(stakeOffer(world, mail), nullptr);
-}
 
 // A first screen from which the e-mail is opened.
 class Desk : public Screen {

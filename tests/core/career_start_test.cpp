@@ -21,11 +21,13 @@ struct CareerStart : test::RuleTest {
   }
 };
 
-TEST_F(CareerStart, FanBonusIsOneWithoutAnAgent) {
-  EXPECT_EQ(world.agentFanBonus, 0.0);
-  EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada"}));
+TEST_F(CareerStart, ConfirmingStartsTheFirstYearWithoutAnAgent) {
+  world.yearNumber = 2031;  // from the previous career
+  EXPECT_FALSE(confirmNewCareer(game, {.myName = "Ada", .isMale = false}));
   EXPECT_EQ(world.agentFanBonus, 1.0);
   EXPECT_EQ(relaunched().agentFanBonus, 1.0);
+  EXPECT_EQ(relaunched().yearNumber, 2026);
+  EXPECT_FALSE(relaunched().isMale);
   world.saveAllTalentAgents = {{.name = "offered"}, {.name = "signed", .isSigned = 1}};
   world.agentFanBonus = 1.4;
   saveChanges(game);

@@ -1,4 +1,4 @@
-// Every row of the table of variables: restart, saving and loading, and loading a value of another type.
+// Every row of the table of variables: restart, saving and loading.
 
 #include <gtest/gtest.h>
 #include <set>
@@ -18,9 +18,7 @@
 namespace tb {
 namespace {
 
-using plist::Array;
 using plist::Data;
-using plist::Dictionary;
 using plist::Value;
 using test::forEachRuntimeVariable;
 using test::forEachVariable;
@@ -42,12 +40,6 @@ WorldState unusualWorld() {
 void store(ScratchGame& scratch, const WorldState& world) {
   scratch.game.world = world;
   saveChanges(scratch.game);
-}
-
-void expectSameVariables(const WorldState& world, const WorldState& expected) {
-  forEachVariable([&]<auto Member>(std::string_view key, const auto&, const auto&, Load) {
-    EXPECT_EQ(world.*Member, expected.*Member) << key;
-  });
 }
 
 Bytes encoded(const List<Child>& children) { return encodeRecords<Child>(children.begin(), children.end()); }
@@ -104,28 +96,6 @@ TEST(Dictionary, RestartSetsAllButKeptVariables) {
       EXPECT_EQ(game.world.*Member, restart);
     }
   });
-}
-
-TEST(Dictionary, IgnoresValuesOfAnotherType) {
-  ScratchGame scratch;
-  const WorldState played = unusualWorld();
-  for (const Variable& variable : variables()) {
-    SCOPED_TRACE(variable.key);
-    const ValueType::Form form = variable.type->form;
-    const bool isNumber =
-        form == ValueType::Form::integer || form == ValueType::Form::real || form == ValueType::Form::boolean;
-    const Value text{std::string("text")};
-    const Value number{std::int64_t{2}};
-    const Value garbage{Data{Bytes(9, std::byte{1})}};
-    const Value list{Array{Value{Dictionary{}}}};
-    for (const Value& wrong : {isNumber && !variable.isList ? text : number, garbage, list}) {
-      if (form == ValueType::Form::data && wrong == garbage) continue;  // any bytes are a valid picture
-      scratch.store.put(variable.key, wrong);
-      scratch.game.world = played;
-      loadVariable(scratch.game, variable);
-    }
-    expectSameVariables(scratch.game.world, played);
-  }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "core/bands.h"
 #include "core/calendar.h"
+#include "core/descending.h"
 #include "core/number_style.h"
 #include "core/random.h"
 #include "core/text.h"
@@ -141,21 +142,27 @@ TEST(CoreText, FillsInOnePass) {
   EXPECT_EQ(fill("", {}), "");
 }
 
-TEST(CoreText, LowersAsciiLetters) {
+TEST(CoreText, WritesCasePluralsAndLists) {
   EXPECT_EQ(lowerCase("It's THE Élan, 9 Zebras @ 🎬"), "it's the Élan, 9 zebras @ 🎬");
-}
-
-TEST(CoreText, Pluralizes) {
   EXPECT_EQ(counted(1, "week"), "1 week");
   EXPECT_EQ(counted(0, "week"), "0 weeks");
   EXPECT_EQ(plural(21, "critic"), "critics");
-}
-
-TEST(CoreText, CapitalizesLatinLetters) {
   EXPECT_EQ(upperCase("março août märz żółw ÿ 日本 🎬 ß"), "MARÇO AOÛT MÄRZ ŻÓŁW Ÿ 日本 🎬 ß");
   EXPECT_EQ(trimmed(" \t a b \n"), "a b");
   const std::vector<std::string> parts = {"a", "b", "c"};
   EXPECT_EQ(joinedWithAnd(parts), "a, b and c");
+}
+
+TEST(DescendingSort, IsStable) {
+  struct Row {
+    std::string name;
+    std::int64_t figure;
+    bool operator==(const Row&) const = default;
+  };
+  std::vector<Row> rows = {{"a", 2}, {"b", 9}, {"c", 2}, {"d", -1}, {"e", 9}, {"f", 2}};
+  sortDescending(rows, &Row::figure);
+  EXPECT_EQ(rows, (std::vector<Row>{{"b", 9}, {"e", 9}, {"a", 2}, {"c", 2}, {"f", 2}, {"d", -1}}));
+  EXPECT_TRUE(descendingOrder({}).empty());
 }
 
 }  // namespace

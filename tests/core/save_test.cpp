@@ -40,6 +40,7 @@ TEST(SaveAndLoad, WritesOnlyChangedPieces) {
   Launch play(port);
   EXPECT_FALSE(saveChanges(play.game));
   EXPECT_FALSE(play.store.hasUncommitted());
+  EXPECT_TRUE(play.store.contains("yearNumber")) << "start values are saved too";
 
   play.world.saveAllChildList.edit(39).followers = 5;
   play.world.trackFans.push_back(36);
@@ -127,6 +128,8 @@ TEST(SaveAndLoad, SetsValuesOfAnotherKindAside) {
   const std::pair<const char*, Value> odd[] = {
       {"weekNumber", Value{std::string("soon")}},
       {"myName", Value{std::int64_t{4}}},
+      {"isMale", Value{std::string("yes")}},
+      {"totalCashAvailable", Value{std::string("rich")}},
       {"trackFans", Value{Array{Value{std::string("many")}}}},
       {"saveAllChildList", Value{Data{plist::write(Value{std::int64_t{4}})}}},
       {"activityTracker", Value{Dictionary{}}},
@@ -142,12 +145,13 @@ TEST(SaveAndLoad, SetsValuesOfAnotherKindAside) {
   const WorldState start;
   EXPECT_EQ(play.world.weekNumber, start.weekNumber);
   EXPECT_EQ(play.world.myName, start.myName);
+  EXPECT_EQ(play.world.totalCashAvailable, start.totalCashAvailable);
   EXPECT_EQ(play.world.yearNumber, start.yearNumber);
   EXPECT_TRUE(play.world.trackFans.empty());
   play.world.weekNumber = 5;
   play.world.trackFans.push_back(7);
   play.save();
-  EXPECT_EQ(port.keptAside.size(), 7u);
+  EXPECT_EQ(port.keptAside.size(), 9u);
   EXPECT_EQ(SaveStore(port).value("weekNumber"), Value{std::int64_t{5}});
   EXPECT_EQ(SaveStore(port).value("trackFans"), Value{Array{Value{std::int64_t{7}}}});
 }

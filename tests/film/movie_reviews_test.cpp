@@ -15,6 +15,20 @@ namespace {
 
 using MovieReviews = test::RuleTest;
 
+TEST_F(MovieReviews, RatesAFilmOnce) {
+  world.saveAllFilmList = {{.filmId = 1}, {.filmId = 2}};
+  for (const std::int64_t stars : {9, 2}) rateFilm(game, 2, stars);
+  EXPECT_EQ(test::shown(world.saveAllFilmList), "(filmId 1)(filmId 2, myRating 9)");
+}
+
+TEST_F(MovieReviews, NeedsEnergyAndWords) {
+  world.totalEnergyAvailable = 24;
+  EXPECT_EQ(startReview(game)->title, "⚡️ Not Enough Energy ⚡️");
+  EXPECT_EQ(submitReview(game, "Loud Cousins", 4, " \n ")->title, "⭐️ Leave a Review! ⭐️");
+  EXPECT_FALSE(submitReview(game, "Loud Cousins", 1, " Fine.\n"));
+  EXPECT_EQ(world.saveAllMovieReviews[0].review, "Fine.");
+}
+
 TEST_F(MovieReviews, DrawsAnyTitle) {
   random.range(210, 209);
   EXPECT_EQ(drawTitleToReview(random).title, rateMovieCatalogue().back().title);

@@ -312,6 +312,16 @@ void speak(WorldState& world) {
   }
 }
 
+// Adds a home, a flat that is let, a car and cards, so that the net worth differs from the cash.
+void ownThings(WorldState& world) {
+  world.saveAllPropertyList = {
+      {.propertyTitle = "Bay Villa", .pricePaid = 900'000, .realEstateIndex = 0.9, .isPrimary = 1},
+      {.propertyTitle = "Attic Flat", .pricePaid = 210'000, .weeklyRent = 640}};
+  world.saveAllTransportationOwnedList = {
+      {.title = "Old Convertible", .pricePaid = 34'000, .yearPurchased = world.yearNumber - 3}};
+  world.trackCardPortfolio = {1'200, 1'450};
+}
+
 // Adds a project in every state, with types in rotation.
 void addOneInEveryState(Career& career) {
   career.add(career.project(filmType::feature, funnel::submitted, 20));
@@ -414,6 +424,7 @@ void star(WorldState& world) {
   }
   for (std::int64_t id = 1; id <= 46; ++id) takeClass(world, id, 0);
   speak(world);
+  ownThings(world);
 }
 
 }  // namespace tb::test

@@ -75,12 +75,5 @@ TEST_F(WeeklyBalance, DeductsExpensesWithoutCash) {
   EXPECT_TRUE(world.activityTracker.empty());
 }
 
-TEST_F(WeeklyBalance, FindsSessionsAndReleasesOfTheWeek) {
-  world.saveAllAuditionList = {
-      {.weekToWork = now - 1, .weekReleased = now - 1, .payment = 800, .funnelStage = funnel::wrapped}};
-  EXPECT_EQ(balanceWeek(game).income, 800);
-  EXPECT_TRUE(world.releaseOffered);
-}
-
 }  // namespace
 }  // namespace tb

@@ -121,8 +121,9 @@ for (const [several, control] of [[false, "radio"], [true, "checkbox"]] as const
   });
 }
 
-test("half a star lights half a star", async () => {
-  const page = await drawn([make.stars("Yours", 3.5)]);
+test("half a star lights half a star, and a meter lights its share", async () => {
+  const page = await drawn([make.stars("Yours", 3.5), make.meter({ value: 30, maximum: 40 })]);
+  assert.equal(await page.locator(".bulbs-lit").evaluate((lit) => (lit as HTMLElement).style.transform), "scaleX(0.75)");
   const lit = await page.locator(".star-lit").evaluateAll((stars) => stars.map((star) => getComputedStyle(star).clipPath));
   assert.deepEqual(lit, ["none", "none", "none", "inset(0px 50% 0px 0px)"]);
 });
