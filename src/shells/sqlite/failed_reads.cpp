@@ -29,9 +29,9 @@ ssize_t watchedRead(int file, void* bytes, size_t size) {
   return noted(reinterpret_cast<Read>(replacedRead)(file, bytes, size));
 }
 
-template <Call& replaced>
+template <Call& Replaced>
 ssize_t watchedReadAt(int file, void* bytes, size_t size, off_t offset) {
-  return noted(reinterpret_cast<ReadAt>(replaced)(file, bytes, size, offset));
+  return noted(reinterpret_cast<ReadAt>(Replaced)(file, bytes, size, offset));
 }
 
 // Returns the replaced call. Does nothing for a call that this build of SQLite does not use.

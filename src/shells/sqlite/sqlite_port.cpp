@@ -23,9 +23,9 @@ constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a 
 // columns, which version 1 takes for damaged rows.
 constexpr std::int64_t schemaVersion = 2;
 
-// Pages of the write-ahead log before it is copied into the file: two weeks of a busy career, ten of a quiet
-// one. Whoever copies only the file loses no more than these.
-constexpr int longestLog = 100;
+// Pages of the write-ahead log before it is copied into the file: a few weeks of a busy career, some more of
+// a quiet one. Whoever copies only the file loses no more than these.
+constexpr int longestLog = 250;
 
 constexpr std::string_view logSuffix = "-wal";
 
