@@ -25,7 +25,8 @@ export function cutOff(): string[] {
   return cut;
 }
 
-// Words that begin on one line and end on another; after a hyphen or a dash a line may end. Runs in the page.
+// Words that begin on one line and end on another; after a hyphen or a dash a line may end, and between the words of
+// a name like Ada_onTheAisle. Runs in the page.
 function brokenWords(): string[] {
   const broken: string[] = [];
   const words = document.createTreeWalker(document.getElementById("app")!, NodeFilter.SHOW_TEXT);
@@ -33,7 +34,7 @@ function brokenWords(): string[] {
     const place = node.parentElement!;
     // The names that viewers invent may be longer than a line.
     if (place.closest("svg, .unseen, .turns .off-reason, .skip, .bar-title, .stars-label, [inert]")) continue;
-    for (const { 0: word, index } of (node as Text).data.matchAll(/[^\s\u00ad\u2010-\u2014/-]+/gu)) {
+    for (const { 0: word, index } of (node as Text).data.matchAll(/\p{Lu}?[^\s\u00ad\u2010-\u2014/_\p{Lu}-]+|\p{Lu}+/gu)) {
       const range = document.createRange();
       range.setStart(node, index);
       range.setEnd(node, index + word.length);

@@ -9,7 +9,7 @@ import { Picture } from "./picture";
 import { usePress } from "./pressing";
 import { Heading, Under } from "./section";
 import { Chevron } from "./signs";
-import { Words } from "./words";
+import { Name, Words } from "./words";
 
 export function Cards({ children }: { readonly children?: ComponentChildren }) {
   return <div class="cards">{children}</div>;
@@ -20,7 +20,7 @@ const wide: ReadonlySet<View.PictureKind> = new Set(["house", "vehicle", "photo"
 
 function CardHead({ title, subtitle, handle }: Pick<View.Card, "title" | "subtitle" | "handle">) {
   const press = usePress();
-  const words = <Words text={title} />;
+  const words = <Name text={title} />; // of a viewer, on a review
   return (
     <div class="card-words">
       {title !== "" && (

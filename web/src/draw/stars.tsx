@@ -1,26 +1,10 @@
 import type * as View from "../view_types";
-import { Words } from "./words";
+import { Name } from "./words";
 
 // In a square of 24.
 const star = "M12 1.8l3.1 6.5 7.1 1-5.2 4.9 1.3 7.1L12 17.9l-6.3 3.4 1.3-7.1L1.8 9.3l7.1-1z";
 
 const figure = new Intl.NumberFormat(undefined, { maximumFractionDigits: 1 });
-
-// A viewer's name is often two words in one. With large text a line may end between them.
-function Name({ text }: { readonly text: string }) {
-  const [first, ...others] = text.replace(/(_|\p{Ll}(?=\p{Lu}))/gu, "$1\n").split("\n");
-  return (
-    <>
-      <Words text={first!} />
-      {others.map((part) => (
-        <>
-          <wbr />
-          <Words text={part} />
-        </>
-      ))}
-    </>
-  );
-}
 
 // Stars out of `outOf`, rounded to halves.
 export function Stars({ label, value, outOf }: View.Stars) {

@@ -24,3 +24,19 @@ export function Words({ text }: { readonly text: string }) {
   if (end < text.length) parts.push(text.slice(end));
   return <>{parts}</>;
 }
+
+// A viewer's name is often two words in one. With large text a line may end between them.
+export function Name({ text }: { readonly text: string }) {
+  const [first, ...others] = text.replace(/(_|\p{Ll}(?=\p{Lu}))/gu, "$1\n").split("\n");
+  return (
+    <>
+      <Words text={first!} />
+      {others.map((part) => (
+        <>
+          <wbr />
+          <Words text={part} />
+        </>
+      ))}
+    </>
+  );
+}
