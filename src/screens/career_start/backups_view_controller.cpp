@@ -38,11 +38,8 @@ void askToRestore(Stage& stage, const Info& backup) {
 }
 
 void askToDelete(Stage& stage, const Info& backup) {
-  stage.ask({.title = "Delete this backup?", .message = "It can't be had back."},
-            {{.label = "Keep it", .weight = Button::Weight::primary},
-             {.label = "Delete",
-              .press = [url = backup.url](Stage& above) { SaveBackupManager::remove(above.game(), url); },
-              .weight = Button::Weight::destructive}});
+  tb::askToDelete(stage, "Delete this backup?", "It can't be had back.",
+                  [url = backup.url](Stage& above) { SaveBackupManager::remove(above.game(), url); });
 }
 
 Button deletion(const Info& backup) {

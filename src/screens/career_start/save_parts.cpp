@@ -1,12 +1,21 @@
 #include "screens/career_start/save_parts.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
+#include "screens/stage.h"
 
 namespace tb {
+
+void askToDelete(Stage& stage, std::string title, std::string message, Operation deletes) {
+  using view::Button;
+  stage.ask({.title = std::move(title), .message = std::move(message)},
+            {{.label = "Keep it", .weight = Button::Weight::primary},
+             {.label = "Delete", .press = std::move(deletes), .weight = Button::Weight::destructive}});
+}
 
 std::string timeAgo(plist::Date then, plist::Date now) {
   constexpr double minute = 60;

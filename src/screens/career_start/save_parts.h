@@ -7,8 +7,12 @@
 
 #include "core/locale.h"
 #include "core/plain_types.h"
+#include "screens/view.h"
 
 namespace tb {
+
+// Asks before `deletes` runs.
+void askToDelete(Stage& stage, std::string title, std::string message, Operation deletes);
 
 // "just now", "5 minutes ago", "3 hours ago", "12 days ago". A moment to come counts as now: clocks are set.
 [[nodiscard]] std::string timeAgo(plist::Date then, plist::Date now);

@@ -28,14 +28,11 @@ Operation plays(Int index) {
 }
 
 void askToDelete(Stage& stage, const Summary& slot) {
-  const std::string name = slot.isReadable ? slot.name : "This save";
-  stage.ask({.title = tb::format("Delete {}?", slot.isReadable ? slot.name : "this save"),
-             .message = slot.isReadable ? name + " leaves this slot. A last backup of the career is kept."
-                                        : name + " is damaged and can't be opened. No backup is made."},
-            {{.label = "Keep it", .weight = Button::Weight::primary},
-             {.label = "Delete",
-              .press = [index = slot.index](Stage& above) { SlotManager::remove(above.game(), index); },
-              .weight = Button::Weight::destructive}});
+  const std::string message = slot.isReadable
+                                  ? slot.name + " leaves this slot. A last backup of the career is kept."
+                                  : "This save is damaged and can't be opened. No backup is made.";
+  tb::askToDelete(stage, tb::format("Delete {}?", slot.isReadable ? slot.name : "this save"), message,
+                  [index = slot.index](Stage& above) { SlotManager::remove(above.game(), index); });
 }
 
 Button deletion(const Summary& slot) {
