@@ -8,6 +8,9 @@
 
 namespace tb {
 
+// The epoch of property-list dates, in seconds since 1970.
+inline constexpr double dateEpoch = 978'307'200;
+
 // Returns the current time.
 inline plist::Date systemClock() {
   using namespace std::chrono;

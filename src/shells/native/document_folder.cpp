@@ -9,6 +9,8 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "shells/system_clock.h"
+
 namespace tb {
 
 namespace {
@@ -63,13 +65,12 @@ std::optional<Bytes> contentOf(const std::filesystem::path& path) {
 std::optional<DocumentSummary> factsOf(const std::filesystem::path& path) {
   struct stat facts{};
   if (stat(path.c_str(), &facts) != 0 || !S_ISREG(facts.st_mode)) return std::nullopt;
-  constexpr double epoch = 978'307'200;  // the epoch of property-list dates, in seconds since 1970
   constexpr double nanosecond = 1e-9;
   const double seconds =
       static_cast<double>(facts.st_mtim.tv_sec) + nanosecond * static_cast<double>(facts.st_mtim.tv_nsec);
   return DocumentSummary{.name = path.filename().string(),
                          .size = facts.st_size,
-                         .changed = {.seconds = seconds - epoch},
+                         .changed = {.seconds = seconds - dateEpoch},
                          .head = {}};
 }
 

@@ -3,11 +3,12 @@
 #include <bit>
 #include <cstring>
 
+#include "shells/system_clock.h"
+
 namespace tb {
 
 namespace {
 
-constexpr double epoch = 978'307'200;  // of property-list dates, in seconds since 1970
 constexpr double millisecondsPerSecond = 1000;
 
 }  // namespace
@@ -99,7 +100,7 @@ Bytes writeDocument(std::string_view folder, const DocumentSummary& summary,
   writer.text(folder);
   writer.text(summary.name);
   writer.wideNumber(summary.size);
-  writer.wideNumber(static_cast<std::int64_t>((summary.changed.seconds + epoch) * millisecondsPerSecond));
+  writer.wideNumber(static_cast<std::int64_t>((summary.changed.seconds + dateEpoch) * millisecondsPerSecond));
   writer.bytes(summary.head ? plist::write(plist::Value{*summary.head}) : Bytes{});
   writer.bytes(content);
   return writer.message();
@@ -112,7 +113,7 @@ std::vector<std::pair<std::string, DocumentSummary>> readDocuments(std::span<con
     folder = reader.text();
     summary.name = reader.text();
     summary.size = reader.wideNumber();
-    summary.changed.seconds = static_cast<double>(reader.wideNumber()) / millisecondsPerSecond - epoch;
+    summary.changed.seconds = static_cast<double>(reader.wideNumber()) / millisecondsPerSecond - dateEpoch;
     summary.head = documentHead(reader.bytes());
   }
   return documents;
