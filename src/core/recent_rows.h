@@ -2,7 +2,6 @@
 
 // The text rows that were shown most recently, by bank. In memory only: empty at launch.
 
-#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <string_view>
@@ -13,15 +12,10 @@ namespace tb {
 class RecentRows {
  public:
   // The most recent rows of the bank, oldest first.
-  [[nodiscard]] const std::vector<std::size_t>& of(std::string_view bank) { return rows_[bank]; }
+  [[nodiscard]] const std::vector<std::size_t>& of(std::string_view bank);
 
   // Adds a row to its bank's recent rows and drops all but the `kept` newest.
-  void add(std::string_view bank, std::size_t row, std::size_t kept) {
-    std::vector<std::size_t>& rows = rows_[bank];
-    std::erase(rows, row);
-    rows.push_back(row);
-    if (rows.size() > kept) rows.erase(rows.begin());
-  }
+  void add(std::string_view bank, std::size_t row, std::size_t kept);
 
  private:
   std::map<std::string_view, std::vector<std::size_t>> rows_;  // by bank name

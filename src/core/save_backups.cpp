@@ -17,7 +17,7 @@ namespace tb {
 
 namespace {
 
-using Manager = SaveBackupManager;
+using Backups = SaveBackupManager;
 
 constexpr std::string_view namePrefix = "save-";
 
@@ -35,14 +35,14 @@ std::string backupName(plist::Date date) {
                     twoDigits(static_cast<unsigned>(day.month())),
                     twoDigits(static_cast<unsigned>(day.day())), twoDigits(clock.hours().count()),
                     twoDigits(clock.minutes().count()), twoDigits(clock.seconds().count()),
-                    Manager::fileExtension);
+                    Backups::fileExtension);
 }
 
 // Oldest first.
 std::vector<DocumentSummary> backupsIn(const Documents& documents) {
-  auto all = documents.list(Manager::backupFolderName);
+  auto all = documents.list(Backups::backupFolderName);
   std::erase_if(all, [](const DocumentSummary& document) {
-    return !document.name.starts_with(namePrefix) || !document.name.ends_with(Manager::fileExtension);
+    return !document.name.starts_with(namePrefix) || !document.name.ends_with(Backups::fileExtension);
   });
   return all;
 }
@@ -52,14 +52,14 @@ std::string freeName(const std::vector<DocumentSummary>& taken, plist::Date date
   const auto isNewest = [&taken](const std::string& name) {
     return taken.empty() || taken.back().name < name;
   };
-  const plist::Date latest{date.seconds + static_cast<double>(Manager::maxBackups)};
+  const plist::Date latest{date.seconds + static_cast<double>(Backups::maxBackups)};
   while (date.seconds <= latest.seconds && !isNewest(backupName(date))) date.seconds += 1;
   // The clock was set back: any name will do.
   while (std::ranges::contains(taken, backupName(date), &DocumentSummary::name)) date.seconds += 1;
   return backupName(date);
 }
 
-Manager::BackupInfo infoOf(const DocumentSummary& document) {
+Backups::BackupInfo infoOf(const DocumentSummary& document) {
   const plist::Dictionary head = document.head.value_or(plist::Dictionary{});
   return {.url = document.name,
           .createdAt = document.changed,
@@ -95,7 +95,7 @@ void replaceStore(Game& game, plist::Dictionary values) {
 }
 
 void removeBackup(Documents& documents, const std::string& url) {
-  if (const auto done = documents.remove(Manager::backupFolderName, url); !done) {
+  if (const auto done = documents.remove(Backups::backupFolderName, url); !done) {
     debugLog("SaveBackupManager: backup write failed: " + done.error());
   }
 }

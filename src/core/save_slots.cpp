@@ -13,7 +13,7 @@ namespace tb {
 
 namespace {
 
-using Manager = SlotManager;
+using Slots = SlotManager;
 
 constexpr std::string_view vaultKey = "crossSaveVault";
 
@@ -21,11 +21,11 @@ std::string slotName(Int index) { return tb::format("slot-{}.plist", index); }
 
 void removeSharedValues(plist::Dictionary& values) {
   std::erase_if(values, [](const auto& entry) {
-    return entry.first == Manager::activeSlotKey || entry.first == vaultKey;
+    return entry.first == Slots::activeSlotKey || entry.first == vaultKey;
   });
 }
 
-Manager::SlotSummary summaryOf(Int index, const plist::Dictionary& values) {
+Slots::SlotSummary summaryOf(Int index, const plist::Dictionary& values) {
   return {.index = index,
           .isEmpty = !hasBegun(values),
           .name = storedValue<std::string>(values, "myName"),
@@ -36,7 +36,7 @@ Manager::SlotSummary summaryOf(Int index, const plist::Dictionary& values) {
           .lastPlayed = {}};
 }
 
-Manager::SlotSummary summaryInPlay(Int index, const WorldState& world) {
+Slots::SlotSummary summaryInPlay(Int index, const WorldState& world) {
   return {.index = index,
           .isEmpty = world.enterPlayerDetails == 0,
           .name = world.myName,
@@ -61,8 +61,8 @@ std::optional<plist::Dictionary> contentOf(const std::optional<Bytes>& document,
 // An empty dictionary begins a career.
 void replaceStore(Game& game, plist::Dictionary values, Int index) {
   removeSharedValues(values);
-  for (auto& entry : Manager::sharedValues(game.world)) values.push_back(std::move(entry));
-  std::ranges::find(values, Manager::activeSlotKey, &plist::Dictionary::value_type::first)->second =
+  for (auto& entry : Slots::sharedValues(game.world)) values.push_back(std::move(entry));
+  std::ranges::find(values, Slots::activeSlotKey, &plist::Dictionary::value_type::first)->second =
       plist::Value{std::to_string(index)};
   game.store.replace(values);
   game.loadsStore = true;
@@ -70,7 +70,7 @@ void replaceStore(Game& game, plist::Dictionary values, Int index) {
 
 // Whether the career in play was saved, and another one took its place.
 bool play(Game& game, std::optional<plist::Dictionary> values, Int index) {
-  if (!values || !Manager::saveCurrent(game)) return false;
+  if (!values || !Slots::saveCurrent(game)) return false;
   SaveBackupManager::backUp(game);
   replaceStore(game, *std::move(values), index);
   return true;
@@ -78,13 +78,13 @@ bool play(Game& game, std::optional<plist::Dictionary> values, Int index) {
 
 std::vector<DocumentSummary> documentsOf(const Game& game) {
   return game.documents == nullptr ? std::vector<DocumentSummary>{}
-                                   : game.documents->list(Manager::slotFolderName);
+                                   : game.documents->list(Slots::slotFolderName);
 }
 
-Manager::SlotSummary summaryOf(Int index, const std::vector<DocumentSummary>& documents) {
+Slots::SlotSummary summaryOf(Int index, const std::vector<DocumentSummary>& documents) {
   const auto document = std::ranges::find(documents, slotName(index), &DocumentSummary::name);
   if (document == documents.end()) return {.index = index, .name = {}, .lastPlayed = {}};
-  Manager::SlotSummary summary = summaryOf(index, document->head.value_or(plist::Dictionary{}));
+  Slots::SlotSummary summary = summaryOf(index, document->head.value_or(plist::Dictionary{}));
   summary.lastPlayed = document->changed;
   summary.isReadable = document->head.has_value();
   return summary;

@@ -11,7 +11,6 @@ namespace tb {
 
 namespace {
 
-constexpr std::size_t allTimeRanks = 250;
 constexpr double blockbusterOpening = 50'000'000;  // dollars, in one market
 constexpr std::int64_t weeksOnShow = 8;            // including the opening
 

@@ -10,6 +10,8 @@
 
 namespace tb {
 
+constexpr std::size_t allTimeRanks = 250;  // titles in an all-time ranking
+
 // A film in theaters. Grosses are in dollars, for all markets.
 struct InTheaters {
   std::int64_t filmId = 0;

@@ -19,7 +19,7 @@ constexpr std::int64_t weeksInTheaters = 7;  // after the opening
 constexpr double qualityAsExpected = 75;
 
 // In weeks after the release; 0 for a type of title without a run.
-std::int64_t lastWeekOfRun(const Audition& project) {
+std::int64_t lastWeekOf(const Audition& project) {
   if (project.typeOfFilm == filmType::feature) return weeksInTheaters;
   if (project.typeOfFilm == filmType::series)
     return std::max<std::int64_t>(project.numberOfEpisodesTotal - 1, 0);
@@ -55,7 +55,7 @@ void release(Game& game, const Audition& project, Film& film) {
 
 void advanceReleasedProject(Game& game, const Audition& project) {
   const std::int64_t weeks = game.world.weekNumberForTracking - project.weekReleased;
-  if (weeks < 0 || weeks > lastWeekOfRun(project)) return;
+  if (weeks < 0 || weeks > lastWeekOf(project)) return;
   const auto film = find(game.world.saveAllFilmList, &Film::filmId, project.filmId);
   if (!film) return;
 

@@ -74,7 +74,7 @@ constexpr std::int64_t casualSlangWords = 2;  // slang words; with this many or 
 
 // --- Sentences ---
 
-struct SentenceBanks {
+struct SummaryBanks {
   Bank verdict;
   Bank balance;
   Bank consensus;
@@ -85,8 +85,8 @@ struct SentenceBanks {
 struct Mood {
   std::int64_t upTo;
   std::string_view label;
-  SentenceBanks casual;
-  SentenceBanks formal;
+  SummaryBanks casual;
+  SummaryBanks formal;
 };
 
 constexpr std::array<Mood, 5> moods = {{
@@ -176,7 +176,7 @@ std::string summarizeReviews(Game& game, std::span<const std::string> reviews,
 
   const bool isCasual = wordsIn(text, slang) >= casualSlangWords;
   const Mood& mood = *bandOf(moods, wordsIn(text, praise) - wordsIn(text, blame));
-  const SentenceBanks& banks = isCasual ? mood.casual : mood.formal;
+  const SummaryBanks& banks = isCasual ? mood.casual : mood.formal;
 
   const std::string subject = title ? "\"" + *title + "\"" : "this film";
   const std::string good = topicsIn(text, praiseTopics, isCasual ? "some moments" : "a few highlights");

@@ -17,7 +17,7 @@ namespace {
 
 // --- The share of the price ---
 
-void payEquity(Game& game, const Film& film, const Proceeds& proceeds) {
+void paySyndicatedEquity(Game& game, const Film& film, const Proceeds& proceeds) {
   const EquityPayout payout = equityShare(game.world, film, proceeds);
   const std::string amount = shortMoney(game.locale, payout.payOut);
   logLine(
@@ -63,7 +63,7 @@ void paySyndicationShares(Game& game, const Film& film, const NetworkDeal& deal)
   const Proceeds proceeds = {.gross = static_cast<double>(deal.price),
                              .typeOfPayment = payoutSource::syndication,
                              .weekNumberForTracking = game.world.weekNumberForTracking};
-  if (film.equityPercentage > 0) payEquity(game, film, proceeds);
+  if (film.equityPercentage > 0) paySyndicatedEquity(game, film, proceeds);
   if (film.royaltyRate > 0) payRoyalty(game, film, proceeds, deal);
 }
 

@@ -9,7 +9,6 @@ namespace tb {
 
 namespace {
 
-constexpr std::size_t allTimeRanks = 250;
 constexpr double ratingOfTheBest = 8.0;
 
 std::vector<TopShow> topShows(const WorldState& world) {

@@ -303,8 +303,16 @@ struct Node {
                Chart, Picture, Bubble, TimelineEntry, Countdown, Section, Fold, Card, SwipeCard, PagedList,
                ListPage>
       node;
-  template <class T>
-  Node(T kind) : node(std::move(kind)) {}
+  // For each kind. Defined in view.cpp, as what follows: a variant of so many kinds is slow to compile, and
+  // every screen makes and moves nodes.
+  template <class Kind>
+  Node(Kind kind);
+
+  Node(const Node& other);
+  Node(Node&& other) noexcept;
+  Node& operator=(const Node& other);
+  Node& operator=(Node&& other) noexcept;
+  ~Node();
 };
 
 // A link that is always visible: a tab at the bottom or an icon at the top right.

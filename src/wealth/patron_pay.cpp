@@ -16,7 +16,7 @@ constexpr double subscription = 5;            // dollars per week
 constexpr double fullFame = 100;
 constexpr double maxPerWeek = 10'000;  // dollars per week
 constexpr double minTileAmount = 1;
-constexpr std::size_t weeksOfHistory = 104;
+constexpr std::size_t keptWeeks = 104;
 
 // 1 in the week of the newest review, falling weekly to 0.
 double interest(const WorldState& world) {
@@ -45,7 +45,7 @@ double payPatron(Game& game) {
   }
   world.totalPatronEarnings += payment;
   world.trackPatronEarnings.push_back(payment);
-  if (world.trackPatronEarnings.size() > weeksOfHistory) world.trackPatronEarnings.pop_front();
+  if (world.trackPatronEarnings.size() > keptWeeks) world.trackPatronEarnings.pop_front();
   if (payment >= minTileAmount) {
     world.weekBalanceItems.push_back({.isCurrency = 1,
                                       .title = "PATRON",

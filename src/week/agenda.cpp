@@ -13,7 +13,7 @@ namespace tb {
 
 namespace {
 
-using Kind = AgendaItem::Kind;
+using ItemKind = AgendaItem::Kind;
 
 // A new reel is suggested when it would gain at least this many points.
 constexpr std::int64_t minReelGain = 3;
@@ -24,12 +24,12 @@ std::optional<AgendaItem> dueOf(const WorldState& world, const Audition& project
   switch (project.funnelStage) {
     case funnel::invited:
       if (project.didAct != 1 || project.weekAudition < now) return {};
-      return AgendaItem{.kind = Kind::audition, .week = project.weekAudition};
+      return AgendaItem{.kind = ItemKind::audition, .week = project.weekAudition};
     case funnel::booked:
-      return AgendaItem{.kind = Kind::shoot, .week = project.weekToWork};
+      return AgendaItem{.kind = ItemKind::shoot, .week = project.weekToWork};
     case funnel::wrapped:
       if (project.weekReleased < now) return {};
-      return AgendaItem{.kind = Kind::release, .week = project.weekReleased};
+      return AgendaItem{.kind = ItemKind::release, .week = project.weekReleased};
     default:
       return {};
   }
@@ -45,13 +45,13 @@ std::int64_t countWaiting(const WorldState& world) {
 std::optional<AgendaItem> submissions(const WorldState& world) {
   const std::int64_t count = world.totalEnergyAvailable / submissionEnergy;
   if (count == 0 || manyRolesStress(world, world.weekNumberForTracking) > 0) return {};
-  return AgendaItem{.kind = Kind::submissions, .count = count};
+  return AgendaItem{.kind = ItemKind::submissions, .count = count};
 }
 
 std::optional<AgendaItem> footageReel(const WorldState& world) {
   const std::int64_t gain = likelyFootageScore(world) - world.showreelScore;
   if (gain < minReelGain || reelRefusal(world, footageReelCost)) return {};
-  return AgendaItem{.kind = Kind::footageReel, .count = gain};
+  return AgendaItem{.kind = ItemKind::footageReel, .count = gain};
 }
 
 // Suggests the weakest trait, because it counts twice in the talent level.
@@ -63,7 +63,7 @@ std::optional<AgendaItem> training(const WorldState& world) {
     if (!weakest || world.*trait.points < world.*traits[*weakest].points) weakest = index;
   }
   if (!weakest) return {};
-  return AgendaItem{.kind = Kind::training, .index = *weakest};
+  return AgendaItem{.kind = ItemKind::training, .index = *weakest};
 }
 
 double paidLastWeek(const WorldState& world) {
@@ -109,10 +109,10 @@ std::vector<AgendaItem> openItems(const WorldState& world) {
   const auto add = [&](const std::optional<AgendaItem>& item) {
     if (item) items.push_back(*item);
   };
-  if (world.isSAG == 0 && !guildRefusal(world)) add(AgendaItem{.kind = Kind::guild});
+  if (world.isSAG == 0 && !guildRefusal(world)) add(AgendaItem{.kind = ItemKind::guild});
   add(footageReel(world));
   add(submissions(world));
-  if (world.weeklyJobContractRemaining < 1) add(AgendaItem{.kind = Kind::job});
+  if (world.weeklyJobContractRemaining < 1) add(AgendaItem{.kind = ItemKind::job});
   add(training(world));
   return items;
 }
@@ -120,14 +120,14 @@ std::vector<AgendaItem> openItems(const WorldState& world) {
 std::vector<AgendaItem> runningItems(const WorldState& world) {
   std::vector<AgendaItem> items;
   if (const std::int64_t waiting = countWaiting(world); waiting > 0) {
-    items.push_back({.kind = Kind::answers, .count = waiting});
+    items.push_back({.kind = ItemKind::answers, .count = waiting});
   }
   if (world.weeklyJobContractRemaining >= 1) {
-    items.push_back({.kind = Kind::contract, .count = world.weeklyJobContractRemaining});
+    items.push_back({.kind = ItemKind::contract, .count = world.weeklyJobContractRemaining});
   }
   for (std::size_t index = 0; index < world.saveAllCompletedClasses.size(); ++index) {
     const std::int64_t weeks = world.saveAllCompletedClasses[index].weeksRemaining;
-    if (weeks > 0) items.push_back({.kind = Kind::actingClass, .index = index, .count = weeks});
+    if (weeks > 0) items.push_back({.kind = ItemKind::actingClass, .index = index, .count = weeks});
   }
   return items;
 }

@@ -25,7 +25,7 @@ constexpr const char* films = "saveAllFilmList";
 const std::string popularity = columnKey(films, "currentPopularity");
 const std::string popularityBefore = columnKey(films, "lastWeekPopularity");
 
-struct Launch : test::Launch {
+struct FilmLaunch : test::Launch {
   using test::Launch::Launch;
   List<Film>& list() { return world.saveAllFilmList; }
 };
@@ -49,7 +49,7 @@ void drift(List<Film>& list, double points) {
 // 600 films, which are two stretches, saved and then changed by a week that is saved, too. Answers with the
 // films as they were first, and as they are.
 std::pair<List<Film>, List<Film>> storeCareer(MemoryPort& port) {
-  Launch play(port);
+  FilmLaunch play(port);
   for (std::int64_t id = 0; id < 600; ++id) play.list().push_back(film(id));
   play.save();
   const List<Film> first = play.list();
@@ -75,7 +75,7 @@ TEST(Columns, SetStoresColumnsWithoutRecords) {
   EXPECT_EQ(port.lastCommit.size(), 4u);
   for (const StoreChange& change : port.lastCommit) EXPECT_EQ(change.stored.shape, Shape::column);
 
-  Launch next(port);
+  FilmLaunch next(port);
   EXPECT_EQ(next.list(), now);
   EXPECT_EQ(next.log, "");
   EXPECT_FALSE(next.list().changed());
@@ -84,7 +84,7 @@ TEST(Columns, SetStoresColumnsWithoutRecords) {
   next.list().set(7, &Film::title, "Another");
   next.list().edit(500).myRating = 9;
   next.save();
-  EXPECT_EQ(Launch(port).list(), next.list());
+  EXPECT_EQ(FilmLaunch(port).list(), next.list());
 }
 
 // Exports contain no columns: a list is one property list with the current values.
@@ -100,38 +100,38 @@ TEST(Columns, ValueMergesColumns) {
 
   // After an import, no column of the previous career remains.
   MemoryPort other;
-  Launch play(other);
+  FilmLaunch play(other);
   for (std::int64_t id = 0; id < 600; ++id) play.list().push_back(film(1000 + id));
   play.save();
   play.store.replace(all);
   ASSERT_TRUE(play.store.commit());
-  Launch next(other);
+  FilmLaunch next(other);
   EXPECT_EQ(next.list(), now);
   drift(next.list(), 1);
   next.save();
-  EXPECT_EQ(Launch(other).list(), next.list());
+  EXPECT_EQ(FilmLaunch(other).list(), next.list());
 }
 
 TEST(Columns, LoadsStoresWithoutColumns) {
   MemoryPort port;
   const List<Film> first = storeCareer(port).first;
   std::erase_if(port.pieces, [](const auto& entry) { return entry.second.shape == Shape::column; });
-  Launch next(port);
+  FilmLaunch next(port);
   EXPECT_EQ(next.list(), first);
   EXPECT_EQ(next.log, "");
 }
 
 TEST(Columns, RemovedWithTheirList) {
-  const std::pair<const char*, std::function<void(Launch&)>> ways[] = {
-      {"cleared", [](Launch& play) { play.list().clear(); }},
-      {"emptied", [](Launch& play) { play.list().erase_if([](const Film&) { return true; }); }},
-      {"removed", [](Launch& play) { play.store.remove(films); }},
-      {"written over", [](Launch& play) { play.store.put(films, Value{Data{}}); }},
+  const std::pair<const char*, std::function<void(FilmLaunch&)>> ways[] = {
+      {"cleared", [](FilmLaunch& play) { play.list().clear(); }},
+      {"emptied", [](FilmLaunch& play) { play.list().erase_if([](const Film&) { return true; }); }},
+      {"removed", [](FilmLaunch& play) { play.store.remove(films); }},
+      {"written over", [](FilmLaunch& play) { play.store.put(films, Value{Data{}}); }},
   };
   for (const auto& [way, go] : ways) {
     MemoryPort port;
     storeCareer(port);
-    Launch play(port);
+    FilmLaunch play(port);
     go(play);
     play.save();
     for (const auto& [place, piece] : port.pieces) EXPECT_NE(piece.shape, Shape::column) << way;
@@ -158,7 +158,7 @@ TEST(Columns, DamageKeepsTheList) {
     const auto [first, now] = storeCareer(port);
     damage(port.pieces.at({popularity, 0}));
     port.pieces[{popularity, 9}] = {popularity, Shape::column, 9, Bytes{}};  // of no part of the list
-    Launch next(port);
+    FilmLaunch next(port);
     ASSERT_EQ(next.list().size(), now.size()) << what;
     for (std::size_t index = 0; index < now.size(); ++index) {
       const Film& film = next.list()[index];
@@ -170,7 +170,7 @@ TEST(Columns, DamageKeepsTheList) {
     drift(next.list(), 2);
     next.save();
     EXPECT_FALSE(port.keptAside.empty()) << what;
-    Launch last(port);
+    FilmLaunch last(port);
     EXPECT_EQ(last.list(), next.list()) << what;
     EXPECT_EQ(last.log, "") << what;
   }
@@ -183,7 +183,7 @@ TEST(Columns, LoadsWhatWasCommitted) {
     std::mt19937 chance(seed);
     const auto oneIn = [&](unsigned n) { return chance() % n == 0; };
     MemoryPort port;
-    auto play = std::make_unique<Launch>(port);
+    auto play = std::make_unique<FilmLaunch>(port);
     List<Film> committed;
     for (std::int64_t week = 0; week < 60; ++week) {
       List<Film>& list = play->list();
@@ -198,7 +198,7 @@ TEST(Columns, LoadsWhatWasCommitted) {
       if (play->store.commit()) committed = list;
       if (!oneIn(3)) continue;
       ASSERT_TRUE(same(filmsIn(play->store), list)) << "seed " << seed << ", week " << week;
-      auto next = std::make_unique<Launch>(port);
+      auto next = std::make_unique<FilmLaunch>(port);
       ASSERT_EQ(next->list(), committed) << "seed " << seed << ", week " << week;
       if (oneIn(2)) play = std::move(next);
     }

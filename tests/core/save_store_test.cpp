@@ -13,11 +13,11 @@ using plist::Dictionary;
 using plist::Value;
 using test::MemoryPort;
 
-Value integer(std::int64_t number) { return Value{number}; }
+Value integerValue(std::int64_t number) { return Value{number}; }
 
 Bytes piece(std::vector<std::int64_t> numbers) {
   Array array;
-  for (const std::int64_t number : numbers) array.push_back(integer(number));
+  for (const std::int64_t number : numbers) array.push_back(integerValue(number));
   return plist::write(Value{std::move(array)});
 }
 
@@ -38,12 +38,12 @@ TEST(SaveStore, CommitsWholeActions) {
   MemoryPort port;
   SaveStore store(port);
   EXPECT_FALSE(store.hasUncommitted());
-  store.put("weekNumber", integer(1));
+  store.put("weekNumber", integerValue(1));
   store.put("myName", Value{std::string("Ada")});
-  store.put("weekNumber", integer(2));
+  store.put("weekNumber", integerValue(2));
   EXPECT_TRUE(store.hasUncommitted());
   EXPECT_TRUE(port.pieces.empty());
-  EXPECT_EQ(store.value("weekNumber"), integer(2));
+  EXPECT_EQ(store.value("weekNumber"), integerValue(2));
 
   ASSERT_TRUE(store.commit());
   EXPECT_FALSE(store.hasUncommitted());
@@ -52,7 +52,7 @@ TEST(SaveStore, CommitsWholeActions) {
   EXPECT_EQ(SaveStore(port).dictionary(), store.dictionary());
 
   ASSERT_TRUE(store.commit());
-  store.put("weekNumber", integer(2));  // equal values are not written again
+  store.put("weekNumber", integerValue(2));  // equal values are not written again
   EXPECT_FALSE(store.hasUncommitted());
   EXPECT_EQ(port.commits, 1);
 }
@@ -90,17 +90,17 @@ TEST(SaveStore, ReplacesKeysOfAnotherShape) {
   ASSERT_TRUE(store.commit());
   EXPECT_EQ(SaveStore(port).value("trackFans"), Value{Data{piece({9})}});
 
-  store.put("trackFans", integer(4));
+  store.put("trackFans", integerValue(4));
   ASSERT_TRUE(store.commit());
   EXPECT_EQ(port.pieces.size(), 1u);
-  EXPECT_EQ(SaveStore(port).value("trackFans"), integer(4));
+  EXPECT_EQ(SaveStore(port).value("trackFans"), integerValue(4));
 }
 
 TEST(SaveStore, RemovesKeysWithoutPieces) {
   MemoryPort port;
   SaveStore store(port);
   store.putPieces("trackFans", Shape::plainList, true, pieces({{3, {1}}}));
-  store.put("weekNumber", integer(1));
+  store.put("weekNumber", integerValue(1));
   ASSERT_TRUE(store.commit());
   store.putPieces("trackFans", Shape::plainList, false, {{3, std::nullopt}, {4, std::nullopt}});
   store.remove("weekNumber");
@@ -114,12 +114,12 @@ TEST(SaveStore, KeepsUnknownKeys) {
   MemoryPort port;
   port.pieces[{"fromTheFuture", 0}] = {"fromTheFuture", Shape::plain, 0, rubbish()};
   SaveStore store(port);
-  store.put("weekNumber", integer(3));
+  store.put("weekNumber", integerValue(3));
   ASSERT_TRUE(store.commit());
   EXPECT_EQ(storedBytes(port, "fromTheFuture"), rubbish());
   EXPECT_TRUE(store.contains("fromTheFuture"));
   EXPECT_EQ(store.value("fromTheFuture"), std::nullopt);
-  EXPECT_EQ(store.dictionary(), (Dictionary{{"weekNumber", integer(3)}}));
+  EXPECT_EQ(store.dictionary(), (Dictionary{{"weekNumber", integerValue(3)}}));
 }
 
 TEST(SaveStore, SetsUnreadableValuesAsideOnce) {
@@ -143,10 +143,10 @@ TEST(SaveStore, SetsKeysWithMixedShapesAside) {
   MemoryPort port;
   port.pieces[{"trackFans", 0}] = {"trackFans", Shape::plainList, 0, piece({1})};
   port.pieces[{"trackFans", 1}] = {"trackFans", Shape::recordList, 1, piece({2})};
-  port.pieces[{"weekNumber", 0}] = {"weekNumber", Shape::plain, 0, plist::write(integer(5))};
+  port.pieces[{"weekNumber", 0}] = {"weekNumber", Shape::plain, 0, plist::write(integerValue(5))};
   SaveStore store(port);
   EXPECT_FALSE(store.contains("trackFans"));
-  EXPECT_EQ(store.value("weekNumber"), integer(5));
+  EXPECT_EQ(store.value("weekNumber"), integerValue(5));
   ASSERT_TRUE(store.commit());
   EXPECT_EQ(port.keptAside.size(), 2u);
   EXPECT_EQ(port.pieces.size(), 1u);
@@ -155,14 +155,15 @@ TEST(SaveStore, SetsKeysWithMixedShapesAside) {
 TEST(SaveStore, ReplacesTheWholeCareer) {
   MemoryPort port;
   SaveStore store(port);
-  store.put("old", integer(1));
+  store.put("old", integerValue(1));
   store.putPieces("trackFans", Shape::plainList, true, pieces({{0, {1}}, {1, {2}}}));
   ASSERT_TRUE(store.commit());
   port.pieces[{"unreadable", 0}] = {"unreadable", Shape::plain, 0, rubbish()};
 
   SaveStore again(port);
-  again.put("waiting", integer(2));
-  const Dictionary other = {{"myName", Value{std::string("Grace")}}, {"trackFans", Value{Array{integer(7)}}}};
+  again.put("waiting", integerValue(2));
+  const Dictionary other = {{"myName", Value{std::string("Grace")}},
+                            {"trackFans", Value{Array{integerValue(7)}}}};
   again.replace(other);
   EXPECT_EQ(again.dictionary(), other);
   ASSERT_TRUE(again.commit());
@@ -178,12 +179,12 @@ TEST(SaveStore, ReplacesTheWholeCareer) {
 
 // An action with several kinds of writes, selected by number.
 void act(SaveStore& store, std::int64_t n) {
-  store.put("weekNumber", integer(n));
+  store.put("weekNumber", integerValue(n));
   if (n % 7 == 3) store.remove("once");
-  if (n % 7 == 1) store.put("once", integer(n));
+  if (n % 7 == 1) store.put("once", integerValue(n));
   store.putPieces("trackFans", Shape::plainList, n % 5 == 0, pieces({{n % 4, {n}}, {n % 9, {n, n}}}));
   if (n % 11 == 4) store.putPieces("trackFans", Shape::plainList, false, {{n % 9, std::nullopt}});
-  if (n % 13 == 6) store.replace({{"weekNumber", integer(n)}, {"trackFans", Value{Array{integer(n)}}}});
+  if (n % 13 == 6) store.replace({{"weekNumber", integerValue(n)}, {"trackFans", Value{Array{integer(n)}}}});
 }
 
 TEST(SaveStore, RetriesFailedCommits) {

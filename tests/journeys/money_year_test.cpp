@@ -15,7 +15,7 @@ namespace {
 
 constexpr double startingCash = 4000;
 
-void prepare(WorldState& world) {
+void bookThreeProjects(WorldState& world) {
   world.totalCashAvailable = startingCash;
   Audition film = test::bookedLead(1, filmType::feature, "Salt Road");
   film.buyout = 500;
@@ -65,7 +65,7 @@ void endWeek(test::Device& device, test::Books& books, const std::string& bills)
 TEST(MoneyYearJourney, SummariesRecordsAndCashAgree) {
   test::SeededRandom random{31};
   test::Device device(random);
-  device.begin(prepare);
+  device.begin(bookThreeProjects);
   readWealth(device, "Finances", {"You do not have a job right now.", "You have not earned any income"});
   acceptAJob(device);
 

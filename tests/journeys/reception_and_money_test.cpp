@@ -18,7 +18,7 @@ constexpr std::int64_t settlement = release + 8;
 
 // A guild member with an agent has a lead with a royalty and an own production, both with a top director and
 // high hype.
-void prepare(WorldState& world) {
+void bookTwoProjects(WorldState& world) {
   world.isSAG = 1;
   world.agentCommission = 0.1;
   world.saveAllTalentAgents = {{.id = 5, .name = "Rosa Vance", .commissionPercentage = 0.1, .isSigned = 1}};
@@ -164,7 +164,7 @@ void TitleIncomeJourney::isSoldAndPaysResiduals(const Syndication& deal) {
 }
 
 TEST_F(TitleIncomeJourney, PaysSessionsStakesAndSyndication) {
-  device.begin(prepare);
+  device.begin(bookTwoProjects);
   getsPaidForTheWorkAndPromotesIt();
   isReviewed();
   isSettledAtTheBoxOffice();

@@ -7,12 +7,12 @@
 namespace tb {
 namespace {
 
-constexpr std::int64_t now = 60;
+constexpr std::int64_t week = 60;
 
 struct WeeklyBalance : test::RuleTest {
   WeeklyBalance() {
     world.yearNumber = 2027;
-    world.weekNumberForTracking = now;
+    world.weekNumberForTracking = week;
   }
 
   void earn(std::int64_t week, double session, double buyout, double residual) {
@@ -31,17 +31,17 @@ struct WeeklyBalance : test::RuleTest {
 
 TEST_F(WeeklyBalance, AddsEveryKindOfIncomeOnce) {
   world.saveAllWeeklyLineItems = {{.amount = 50}, {.amount = 20}, {.amount = 7, .isExpense = false}};
-  earn(now - 1, 5000, 5000, 5000);
-  earn(now, 1000, 200, 0);
-  earn(now, 0, 0, 30);
-  earn(now + 1, 5000, 5000, 5000);
-  world.saveAllEquityPayouts = {{.weekNumberForTracking = now - 1, .payOut = 5000},
-                                {.weekNumberForTracking = now, .payOut = 400}};
-  world.saveAllRoyaltyPayouts = {{.weekNumberForTracking = now, .payout = 80},
-                                 {.weekNumberForTracking = now + 1, .payout = 5000}};
-  world.saveAllCameos = {{.weekNumberForTracking = now, .totalPriceEarned = 5},  // of the previous career
+  earn(week - 1, 5000, 5000, 5000);
+  earn(week, 1000, 200, 0);
+  earn(week, 0, 0, 30);
+  earn(week + 1, 5000, 5000, 5000);
+  world.saveAllEquityPayouts = {{.weekNumberForTracking = week - 1, .payOut = 5000},
+                                {.weekNumberForTracking = week, .payOut = 400}};
+  world.saveAllRoyaltyPayouts = {{.weekNumberForTracking = week, .payout = 80},
+                                 {.weekNumberForTracking = week + 1, .payout = 5000}};
+  world.saveAllCameos = {{.weekNumberForTracking = week, .totalPriceEarned = 5},  // of the previous career
                          {.weekNumberForTracking = 900, .totalPriceEarned = 5000},
-                         {.weekNumberForTracking = now, .totalPriceEarned = 20}};
+                         {.weekNumberForTracking = week, .totalPriceEarned = 20}};
   world.saveAllPropertyList = {{.weeklyRent = 300, .isPrimary = 1}, {.weeklyRent = 90, .rentEarned = 10}};
   world.platformSalary = 52 * 3 + 51;
   world.weeklyJobIncome = 410;

@@ -25,7 +25,7 @@ Bubble agentMessage(const WorldState& world, std::int64_t emailId) {
           .text = world.saveAllEmailList[*email].message};
 }
 
-Section projectSection(const Game& game, const Audition& offer) {
+Section offerSection(const Game& game, const Audition& offer) {
   return {.heading = "THE PROJECT",
           .nodes = {Text{.text = offer.description}, Row{.label = "Director", .value = offer.directorName},
                     Row{.label = "Genre", .value = joinedWithAnd(offer.genres)},
@@ -87,7 +87,7 @@ Page RoyaltyViewController::view(const Game& game) {
   return {.title = offer->title,
           .subtitle = tb::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
           .nodes = {posterOf(game.world, *offer), agentMessage(game.world, email_), askSection(game, *offer),
-                    roleSection(*offer), projectSection(game, *offer)}};
+                    roleSection(*offer), offerSection(game, *offer)}};
 }
 
 }  // namespace tb
