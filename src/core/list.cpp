@@ -130,10 +130,11 @@ void ListBase::indexIds(std::size_t field) const {
   if (ids_.field != field || ids_.first.empty() || ids_.first.size() < size()) {
     const std::size_t buckets = std::max(leastBuckets, std::bit_ceil(2 * size()));
     const std::vector<std::uint32_t> empty(buckets, IdIndex::none);
-    ids_ = {.field = field, .first = empty, .last = empty, .next = {}};
+    ids_ = {.field = field, .first = empty, .last = empty, .next = {}, .ids = {}};
   }
   for (std::size_t index = ids_.next.size(); index < size(); ++index) {
-    const std::size_t bucket = bucketOf(idAt(field, index));
+    const std::int64_t id = idAt(field, index);
+    const std::size_t bucket = bucketOf(id);
     const auto here = static_cast<std::uint32_t>(index);
     if (ids_.last[bucket] == IdIndex::none) {
       ids_.first[bucket] = here;
@@ -142,13 +143,14 @@ void ListBase::indexIds(std::size_t field) const {
     }
     ids_.last[bucket] = here;
     ids_.next.push_back(IdIndex::none);
+    ids_.ids.push_back(id);
   }
 }
 
 // The element with this id in a bucket, starting with element `from`.
 std::optional<std::size_t> ListBase::inBucket(std::uint32_t from, std::int64_t id) const {
   for (std::uint32_t at = from; at != IdIndex::none; at = ids_.next[at]) {
-    if (idAt(ids_.field, at) == id) return at;
+    if (ids_.ids[at] == id) return at;
   }
   return std::nullopt;
 }
@@ -160,7 +162,7 @@ std::optional<std::size_t> ListBase::firstWithId(std::size_t field, std::int64_t
 
 std::optional<std::size_t> ListBase::nextWithId(std::size_t field, std::size_t index) const {
   indexIds(field);
-  return inBucket(ids_.next[index], idAt(field, index));
+  return inBucket(ids_.next[index], ids_.ids[index]);
 }
 
 // --- For saving and loading ---

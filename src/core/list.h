@@ -42,6 +42,7 @@ struct IdIndex {
   std::vector<std::uint32_t> first;  // by bucket: its first element, or `none`; the size is a power of 2
   std::vector<std::uint32_t> last;   // by bucket: its last element so far
   std::vector<std::uint32_t> next;   // by element: the next one in its bucket, or `none`
+  std::vector<std::int64_t> ids;  // by element, so that a search reads no other element than the one it finds
 };
 
 // The number of elements in a full piece. Records that change in the middle of their list have short pieces.
