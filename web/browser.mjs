@@ -2,11 +2,13 @@
 
 import { chromium } from "playwright-core";
 
-const flags = [
+export const flags = [
   "--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
   "--disable-background-networking", "--disable-component-update", "--disable-sync",
 ];
 
+export const executable = process.env.CHROMIUM ?? "/usr/bin/chromium";
+
 export function launchChromium() {
-  return chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: flags });
+  return chromium.launch({ executablePath: executable, args: flags });
 }

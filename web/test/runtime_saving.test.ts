@@ -5,7 +5,7 @@ import { test } from "node:test";
 
 import { inspect } from "./inspect";
 import {
-  fill, fillable, finds, liveAWeek, nameField, play, says, stage, startCareer, visit, waitForGame, withoutStorage,
+  download, fill, fillable, finds, liveAWeek, nameField, play, says, stage, startCareer, visit, waitForGame, withoutCopy, withoutStorage,
 } from "./runtime_site";
 
 const setting = stage();
@@ -88,6 +88,7 @@ async function makeOld(): Promise<void> {
   const pieces = await done(now.transaction("pieces").objectStore("pieces").getAll());
   now.close();
   await done(indexedDB.deleteDatabase("top-billing"));
+  await caches.delete("second copy of the save");
   const opening = indexedDB.open("top-billing", 1);
   opening.onupgradeneeded = () => {
     const store = opening.result.createObjectStore("pieces", { keyPath: ["key", "piece"] });
@@ -108,7 +109,7 @@ test("a career of an older version is opened and belongs to this one from then o
   await page.goto(setting.site.address);
   await finds(page, "Ada Older");
   player.expect(/404/, 0); // an icon for the manifest, which the browser may ask for
-  assert.deepEqual(await page.evaluate(() => indexedDB.databases()), [{ name: "top-billing", version: 3 }]);
+  assert.deepEqual(await page.evaluate(() => indexedDB.databases()), [{ name: "top-billing", version: 5 }]);
   await player.end();
 });
 
@@ -121,7 +122,7 @@ for (const [how, words, script] of refusals) {
 }
 
 test("a device without room is told of once, and the career is whole once there is room again", async () => {
-  const page = await (await visit(setting, fillable)).open();
+  const page = await (await visit(setting, fillable, withoutCopy)).open();
   await waitForGame(page);
   await fill(page, true);
   await startCareer(page, "Ada Full");
@@ -141,7 +142,9 @@ test("a device without room is told of once, and the career is whole once there 
 
   await fill(page, false);
   await liveAWeek(page);
-  await notice.waitFor({ state: "detached" });
+  await says(page, "saved all the same");
+  await download(page, "Download a copy now");
+  await page.getByRole("button", { name: "Download a copy now" }).waitFor({ state: "detached" });
   await page.reload();
   await finds(page, "Ada Full");
 });

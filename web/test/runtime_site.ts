@@ -190,6 +190,27 @@ export async function liveAWeek(page: Page): Promise<void> {
   await page.getByRole("button", { name: "End Week" }).waitFor();
 }
 
+export async function openPicker(page: Page): Promise<void> {
+  await pressAgain(page, "Settings");
+  await page.getByRole("button", { name: /^Choose a save/ }).click();
+  await page.getByRole("heading", { name: "CHOOSE A SAVE" }).waitFor();
+  await page.waitForTimeout(350); // a press at the same spot would not count
+}
+
+export async function startAnother(page: Page, name: string): Promise<void> {
+  await openPicker(page);
+  await page.getByRole("button", { name: /^Empty — start a new career/ }).first().click();
+  await nameField(page).waitFor();
+  await startCareer(page, name);
+}
+
+export async function playOther(page: Page, name: string): Promise<void> {
+  await openPicker(page);
+  await page.getByRole("button", { name: `Play ${name}`, exact: true }).click();
+  await page.getByRole("button", { name: "End Week" }).waitFor();
+  await finds(page, name);
+}
+
 // Opens the saves on the current page.
 export async function openSaves(page: Page): Promise<void> {
   const saves = page.getByRole("button", { name: "Saves", exact: true });
@@ -201,8 +222,8 @@ export async function openSaves(page: Page): Promise<void> {
 }
 
 // Downloads the career from the open saves.
-export async function download(page: Page): Promise<Buffer> {
-  const [file] = await Promise.all([page.waitForEvent("download"), press(page, "Download a copy")]);
+export async function download(page: Page, button = "Download a copy"): Promise<Buffer> {
+  const [file] = await Promise.all([page.waitForEvent("download"), press(page, button)]);
   assert.match(file.suggestedFilename(), /^top-billing-\d{4}-\d\d-\d\d\.plist$/);
   return readFileSync(await file.path());
 }
@@ -220,6 +241,11 @@ export const workingActor = () => readFileSync(join(process.cwd(), "test/saves/w
 // For visit(): disables storage.
 export function withoutStorage(): void {
   Object.defineProperty(globalThis, "indexedDB", { value: undefined });
+}
+
+// For visit(): a browser without a place for a second copy.
+export function withoutCopy(): void {
+  Object.defineProperty(caches, "open", { value: () => Promise.reject(new DOMException("", "SecurityError")) });
 }
 
 // For visit(): while `full` is set, transactions fail with a quota error.

@@ -2,35 +2,14 @@
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import type { Page } from "playwright-core";
 
 import { inspect } from "./inspect";
 import {
-  choose, fill, fillable, finds, nameField, openSaves, play, press, pressAgain, stage, startCareer, withoutStorage,
-  workingActor,
+  choose, fill, fillable, finds, openPicker, openSaves, play, playOther, press, pressAgain, stage, startAnother,
+  withoutStorage, workingActor,
 } from "./runtime_site";
 
 const setting = stage();
-
-async function openPicker(page: Page): Promise<void> {
-  await pressAgain(page, "Settings");
-  await page.getByRole("button", { name: /^Choose a save/ }).click();
-  await page.getByRole("heading", { name: "CHOOSE A SAVE" }).waitFor();
-}
-
-async function startAnother(page: Page, name: string): Promise<void> {
-  await openPicker(page);
-  await page.getByRole("button", { name: /^Empty — start a new career/ }).first().click();
-  await nameField(page).waitFor();
-  await startCareer(page, name);
-}
-
-async function playOther(page: Page, name: string): Promise<void> {
-  await openPicker(page);
-  await page.getByRole("button", { name: `Play ${name}`, exact: true }).click();
-  await page.getByRole("button", { name: "End Week" }).waitFor();
-  await finds(page, name);
-}
 
 for (const [how, ...scripts] of [["saved"], ["played in memory alone", withoutStorage]] as const) {
   test(`careers that are ${how} are played side by side`, async () => {

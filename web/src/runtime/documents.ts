@@ -2,6 +2,8 @@
 
 import { MessageReader, MessageWriter } from "./message";
 
+export const backupFolder = "SaveBackups"; // as in src/core/save_backups.h
+
 export interface DocumentPlace {
   readonly folder: string;
   readonly name: string;
@@ -21,6 +23,10 @@ export type DocumentChange =
   | { readonly kind: "put"; readonly document: StoredDocument }
   | { readonly kind: "remove"; readonly document: DocumentPlace };
 
+export function summaryOf({ content: _, ...summary }: StoredDocument): DocumentSummary {
+  return summary;
+}
+
 export const isSamePlace = (one: DocumentPlace, other: DocumentPlace) =>
   one.folder === other.folder && one.name === other.name;
 
@@ -39,6 +45,18 @@ export function readDocument(message: Uint8Array): StoredDocument {
     head: reader.bytesOf(),
     content: reader.bytesOf(),
   };
+}
+
+// The reverse of readDocument.
+export function writeDocument({ folder, name, size, changed, head, content }: StoredDocument): Uint8Array<ArrayBuffer> {
+  const writer = new MessageWriter(content.length + head.length + 1024);
+  writer.text(folder);
+  writer.text(name);
+  writer.wideNumber(size);
+  writer.wideNumber(changed);
+  writer.bytesOf(head);
+  writer.bytesOf(content);
+  return writer.message();
 }
 
 export function writePlace({ folder, name }: DocumentPlace): Uint8Array {

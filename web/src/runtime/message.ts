@@ -39,7 +39,7 @@ export class MessageWriter {
     this.bytesOf(encoder.encode(value));
   }
 
-  message(): Uint8Array {
+  message(): Uint8Array<ArrayBuffer> {
     return this.bytes.subarray(0, this.size);
   }
 

@@ -16,17 +16,19 @@ export interface Change {
   readonly stored: Piece;
 }
 
-export function writePieces(pieces: readonly Piece[]): Uint8Array {
+function writePiece(writer: MessageWriter, { key, shape, piece, bytes }: Piece): void {
+  writer.text(key);
+  writer.number(shape);
+  writer.wideNumber(piece);
+  writer.bytesOf(bytes);
+}
+
+export function writePieces(pieces: readonly Piece[]): Uint8Array<ArrayBuffer> {
   const about = 64; // bytes of a piece besides its own, or a few more
   const expected = pieces.reduce((sum, { bytes }) => sum + bytes.length + about, 1024);
   const writer = new MessageWriter(expected);
   writer.number(pieces.length);
-  for (const { key, shape, piece, bytes } of pieces) {
-    writer.text(key);
-    writer.number(shape);
-    writer.wideNumber(piece);
-    writer.bytesOf(bytes);
-  }
+  for (const piece of pieces) writePiece(writer, piece);
   return writer.message();
 }
 
@@ -50,6 +52,17 @@ export function readChanges(message: Uint8Array): Change[] {
     if (!kind) throw new Error("The game sent a change of an unknown kind.");
     return { kind, stored: readPiece(reader) };
   });
+}
+
+// The reverse of readChanges.
+export function writeChanges(changes: readonly Change[]): Uint8Array<ArrayBuffer> {
+  const writer = new MessageWriter();
+  writer.number(changes.length);
+  for (const { kind, stored } of changes) {
+    writer.number(changeKinds.indexOf(kind));
+    writePiece(writer, stored);
+  }
+  return writer.message();
 }
 
 // In the database a change of a piece is a row with the piece's key. A row without bytes drops the piece. A
@@ -91,10 +104,20 @@ const packSize = 1 << 19; // bytes
 export class Pieces {
   private readonly byKey = new Map<string, Map<number, Piece>>();
 
+  isDamaged = false; // something was left out because it can't be read
+
   // `packs`: see packs(). `rows`: the changes since the packs were written, in the order of their keys.
   constructor(packs: readonly Uint8Array[] = [], rows: readonly Piece[] = []) {
-    for (const pack of packs) for (const stored of readPieces(pack)) this.put(stored);
-    this.change(rows.map(changeOf));
+    for (const pack of packs) this.attempt(() => readPieces(pack).forEach((stored) => this.put(stored)));
+    for (const row of rows) this.attempt(() => this.change([changeOf(row)]));
+  }
+
+  private attempt(read: () => void): void {
+    try {
+      read();
+    } catch {
+      this.isDamaged = true;
+    }
   }
 
   all(): Piece[] {

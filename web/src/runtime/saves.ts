@@ -9,7 +9,7 @@ import type { Storage } from "./storage";
 const largestFile = 256 * 1024 * 1024; // bytes; a career of a hundred years needs a tenth of this
 
 export async function downloadSave(module: WebAssembly.Module, storage: Storage): Promise<void> {
-  const game = await Game.open(module, { commit: () => undefined }, storage.all());
+  const game = await Game.open(module, { commit: () => undefined }, storage.readable());
   const file = new Blob([game.exportStore()], { type: "application/x-plist" });
   const link = document.createElement("a");
   link.href = URL.createObjectURL(file);

@@ -11,7 +11,7 @@ import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
 import { program, texts } from "./parts";
 import { backUpCareer, type Career, downloadSave, type ReadSave, readSave, storedCareer } from "./saves";
-import { type Refusal, Storage } from "./storage";
+import { type Refusal, type SavingFailure, Storage } from "./storage";
 import { TabLock } from "./tab_lock";
 import { Ticker } from "./ticker";
 import { Updates } from "./updates";
@@ -26,7 +26,8 @@ export type Showing =
 export interface ShellState {
   readonly showing: Showing;
   readonly refusal: Refusal | undefined; // why nothing can be saved here
-  readonly failing: string | undefined; // why the last save failed
+  readonly failing: SavingFailure | undefined; // stays until the player has downloaded a copy
+  readonly isRestored: boolean; // the browser had lost the save
   readonly textsMissing: boolean; // a press is waiting for the texts, which could not be fetched
   readonly updateReady: boolean;
   readonly installOffered: boolean;
@@ -37,6 +38,7 @@ export class Shell {
     showing: { kind: "loading" },
     refusal: undefined,
     failing: undefined,
+    isRestored: false,
     textsMissing: false,
     updateReady: false,
     installOffered: false,
@@ -48,6 +50,7 @@ export class Shell {
   private runs = 0; // number of the current run; an older run ends silently
   private waitingPress: number | undefined; // handle of a press that waits for the texts
   private askedToKeep = false;
+  private toldOfFailure = false;
   private fetchesRest = false;
   private readonly locale = localeMessage(navigator.language || "en-US");
 
@@ -112,6 +115,7 @@ export class Shell {
 
   async download(): Promise<void> {
     await downloadSave(await program.get(), await this.openStorage());
+    if (this.current.failing?.isSaved) this.change({ failing: undefined });
   }
 
   async read(file: Blob): Promise<ReadSave | string> {
@@ -161,7 +165,7 @@ export class Shell {
       const isNew = storage.all().length === 0;
       const [module, rows] = await Promise.all([program.get(), isNew ? undefined : texts.get()]);
       if (thisRun !== this.runs) return;
-      this.change({ refusal: storage.refusal });
+      this.change({ refusal: storage.refusal, isRestored: storage.isRestored });
       const game = await Game.open(module, this.host(storage), storage.all());
       if (thisRun !== this.runs) return;
       if (rows) game.setTexts(rows);
@@ -245,14 +249,19 @@ export class Shell {
 
   private openStorage(): Promise<Storage> {
     this.storage ??= Storage.open({
-      failed: (why) => {
-        this.change({ failing: why });
-        this.act((game) => game.savingFailed(why));
-      },
-      recovered: () => this.change({ failing: undefined }),
+      failing: (failure) => this.savingFailed(failure),
       backupLost: (place) => this.act((game) => game.documentLost(place)),
     });
     return this.storage;
+  }
+
+  // `failure` repeats an earlier one when a later save succeeds.
+  private savingFailed(failure: SavingFailure): void {
+    if (failure.isSaved && !failure.isNew && !this.current.failing) return;
+    this.change({ failing: failure });
+    if (failure.isSaved || this.toldOfFailure) return;
+    this.toldOfFailure = true;
+    this.act((game) => game.savingFailed(failure.why));
   }
 
   private show(showing: Showing): void {

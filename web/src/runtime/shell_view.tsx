@@ -9,7 +9,7 @@ import type { Page } from "../view_types";
 import { CreditsDialog } from "./credits_dialog";
 import { SavesDialog } from "./saves_dialog";
 import type { Shell, ShellState } from "./shell";
-import type { Refusal } from "./storage";
+import type { Refusal, SavingFailure } from "./storage";
 
 export function ShellView({ shell }: { shell: Shell }): JSX.Element {
   const [state, setState] = useState(shell.state);
@@ -45,7 +45,7 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
       );
     case "stopped":
       return (
-        <Standing title="Cut!" corner={corner}>
+        <Standing title="Cut!" banner={banner} corner={corner}>
           <p role="alert">
             Something in the game broke, and it stopped before any harm was done. Your career is safe as of its last
             save.
@@ -59,7 +59,7 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
       );
     case "unavailable":
       return (
-        <Standing title="The game did not load" corner={corner}>
+        <Standing title="The game did not load" banner={banner} corner={corner}>
           <p role="alert">A part of it could not be fetched. Are you online? Your saves are safe in this browser.</p>
           <p>
             <button type="button" class="shell-button shell-primary" onClick={() => shell.startAgain()}>
@@ -72,8 +72,9 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
 }
 
 // A page of the shell itself.
-function Standing({ title, corner, children }: {
+function Standing({ title, banner, corner, children }: {
   title: string;
+  banner?: JSX.Element;
   corner?: JSX.Element;
   children: JSX.Element | JSX.Element[];
 }): JSX.Element {
@@ -87,6 +88,7 @@ function Standing({ title, corner, children }: {
       <main class="main">
         <Masthead page={page} />
         <div class="content shell-content">
+          {banner}
           {children}
           {corner}
         </div>
@@ -117,12 +119,42 @@ function mayInstall({ showing, installOffered }: ShellState): boolean {
   return installOffered && showing.kind === "playing" && showing.page.close.length === 0 && showing.page.tabs.length > 0;
 }
 
+const failureInWords = ({ why, isSaved }: SavingFailure): string =>
+  isSaved
+    ? `Saving failed: ${why} Your career was saved all the same, but this browser can lose it. Keep a copy of your own.`
+    : `Not saved: ${why} You can play on; it tries again after each thing you do.`;
+
+function DownloadNow({ shell }: { shell: Shell }): JSX.Element {
+  const [message, setMessage] = useState("");
+  const download = () =>
+    shell.download().then(
+      () => setMessage("The copy was handed to the browser as a file."),
+      () => setMessage("The copy can't be made right now."),
+    );
+  return (
+    <>
+      <button type="button" class="shell-button" onClick={() => void download()}>
+        Download a copy now
+      </button>
+      {message !== "" && <p>{message}</p>}
+    </>
+  );
+}
+
 function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Element {
   return (
     <div class="shell-notices" role="status">
       {state.refusal && <p class="shell-warning">{refusals[state.refusal]}</p>}
+      {state.isRestored && (
+        <p class="shell-warning">
+          This browser had lost your career. It was opened from its second copy, as you left it.
+        </p>
+      )}
       {state.failing && (
-        <p class="shell-warning">Not saved: {state.failing} You can play on; it tries again after each thing you do.</p>
+        <div class="shell-offer shell-warning">
+          <p>{failureInWords(state.failing)}</p>
+          <DownloadNow shell={shell} />
+        </div>
       )}
       {state.textsMissing && (
         <p class="shell-warning shell-at-foot">

@@ -1,88 +1,66 @@
-// Stores the save in IndexedDB, or only in memory if the browser refuses.
-//
-// The changes of an action go into one transaction, which is opened and committed in the same turn of the
-// event loop, so closing the page right after loses nothing and never saves half an action. With the default
-// durability a power failure can lose the last action or two, but never a part of one.
-//
-// A browser reads thousands of small values slowly. So the save is in two parts: packs of many pieces, and the
-// changes since the packs were written, which a start moves into new packs when they have become many.
-//
-// The result of a transaction comes later. Until then its changes stay pending and are repeated in the next
-// transaction, so the stored state is always the state after some action.
+// Stores the save in two places: the browser's database, and a second copy in another kind of store, because a
+// browser deletes a database that a full disk has damaged. A start takes the newer one. Where the browser refuses the
+// database and there is no copy, the save is in memory only.
 
-import { type DBSchema, type IDBPDatabase, openDB, unwrap } from "idb";
+import { Database, isOfLaterSchema } from "./database";
+import {
+  backupFolder, type DocumentChange, type DocumentPlace, type DocumentSummary, isSamePlace, summaryOf,
+} from "./documents";
+import { type Change, type Piece, Pieces } from "./pieces";
+import { Outbox } from "./save_place";
+import { type CopiedSave, SecondCopy } from "./second_copy";
 
-import { type DocumentChange, type DocumentPlace, type DocumentSummary, isSamePlace } from "./documents";
-import { type Change, joined, type Piece, Pieces, rowOf } from "./pieces";
-
-interface Schema extends DBSchema {
-  packs: { key: number; value: Uint8Array };
-  pieces: { key: [string, number]; value: Piece }; // the changes, see rowOf()
-  // Unreadable values, for manual recovery. The game does not read them.
-  aside: { key: [string, number, Uint8Array<ArrayBuffer>]; value: Piece };
-  // Slots and backups; their contents are not read before they are asked for.
-  summaries: { key: [string, string]; value: DocumentSummary };
-  contents: { key: [string, string]; value: DocumentPlace & { content: Uint8Array<ArrayBuffer> } };
-}
-
-const databaseName = "top-billing";
-const schemaVersion = 3; // raise it with every change of what is stored; src/shells/sqlite has its own
-const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
-const backupFolder = "SaveBackups"; // as in src/core/save_backups.h
-const openingPatience = 5000; // milliseconds; some browsers never report a result
-const mostChanges = 500; // rows; more are moved into packs
-const pauseBeforePacking = 3000; // milliseconds; the first page comes before
+const pauseBeforeCopying = 5000; // milliseconds; the first page comes before
 
 // Why nothing can be saved here.
 export type Refusal = "refused" | "unreadable" | "newer";
 
+// A save failed in the database.
+export interface SavingFailure {
+  readonly why: string;
+  readonly isNew: boolean; // the last save failed; else an earlier one
+  readonly isSaved: boolean; // nevertheless: in the second copy, or by a later save
+}
+
 export interface StorageWatcher {
-  failed(why: string): void; // a save failed; called once until a save succeeds
-  recovered(): void;
+  failing(failure: SavingFailure): void; // called after each save from the first failure on
   backupLost(place: DocumentPlace): void; // there was no room for it
 }
 
 export class Storage {
-  private waiting: Change[] = [];
-  private waitingDocuments: DocumentChange[] = [];
-  private latest = 0; // number of the last opened transaction
-  private failing = false;
+  refusal: Refusal | undefined;
+  isRestored = false; // from the second copy, because the database had lost the save
+
+  private pieces = new Pieces();
+  private summaries: readonly DocumentSummary[] = [];
+  private generation = 0; // of the last save
+  private damaged: Pieces | undefined; // what can be read of a save with unreadable parts
+  private database: Database | undefined;
+  private copy: SecondCopy | undefined;
+  private readonly forDatabase = new Outbox();
+  private readonly forCopy = new Outbox();
+  private failure: string | undefined;
   private writes: Promise<unknown> = Promise.resolve();
 
-  private constructor(
-    private database: IDBPDatabase<Schema> | undefined,
-    private pieces: Pieces,
-    private summaries: readonly DocumentSummary[],
-    readonly refusal: Refusal | undefined,
-    private readonly watcher: StorageWatcher,
-  ) {}
+  private constructor(private readonly watcher: StorageWatcher) {}
 
   // Always resolves to a storage; with a refusal it is in memory only.
   static async open(watcher: StorageWatcher): Promise<Storage> {
-    let storage: Storage | undefined;
-    let database: IDBPDatabase<Schema>;
-    try {
-      database = await withPatience(openDatabase(() => storage?.lost()));
-    } catch (error) {
-      return new Storage(undefined, new Pieces(), [], isOfLaterSchema(error) ? "newer" : "refused", watcher);
-    }
-    try {
-      const reading = database.transaction(["packs", "pieces", "summaries"]);
-      const packs = reading.objectStore("packs").getAll();
-      const rows = reading.objectStore("pieces").getAll();
-      const summaries = reading.objectStore("summaries").getAll();
-      await reading.done;
-      storage = new Storage(database, new Pieces(await packs, await rows), await summaries, undefined, watcher);
-      if ((await rows).length > mostChanges) storage.packLater();
-      return storage;
-    } catch {
-      return new Storage(undefined, new Pieces(), [], "unreadable", watcher);
-    }
+    const storage = new Storage(watcher);
+    const [copied] = await Promise.all([storage.findCopy(), storage.loadDatabase()]);
+    storage.begin();
+    await storage.compare(copied);
+    return storage;
   }
 
   // The save after the last action.
   all(): Piece[] {
     return this.pieces.all();
+  }
+
+  // The save for a file to keep, even if parts of it can't be read.
+  readable(): Piece[] {
+    return (this.damaged ?? this.pieces).all();
   }
 
   // The slots and backups, without their contents.
@@ -92,31 +70,28 @@ export class Storage {
 
   // Stored before the changes that are saved after it.
   changeDocument(change: DocumentChange): void {
-    const others = (list: readonly DocumentSummary[]) => list.filter((old) => !isSamePlace(old, change.document));
-    this.summaries = others(this.summaries);
-    if (change.kind === "put") {
-      const { content: _, ...summary } = change.document;
-      this.summaries = [...this.summaries, summary];
-    }
-    this.waitingDocuments = this.waitingDocuments.filter((old) => !isSamePlace(old.document, change.document));
-    this.waitingDocuments.push(change);
+    this.summaries = this.summaries.filter((old) => !isSamePlace(old, change.document));
+    if (change.kind === "put") this.summaries = [...this.summaries, summaryOf(change.document)];
+    this.forDatabase.addDocument(change);
+    if (this.copies()) this.forCopy.addDocument(change);
     this.write();
+    void this.writes.then(() => this.copyDocuments());
   }
 
   // The content of a document; undefined when there is none or it can't be read.
-  async readDocument(place: DocumentPlace): Promise<Uint8Array | undefined> {
-    const change = this.waitingDocuments.find(({ document }) => isSamePlace(document, place));
+  async readDocument(place: DocumentPlace): Promise<Uint8Array<ArrayBuffer> | undefined> {
+    const change = this.forDatabase.waitingDocuments().find(({ document }) => isSamePlace(document, place));
     if (change) return change.kind === "put" ? change.document.content : undefined;
-    try {
-      return (await this.database?.get("contents", [place.folder, place.name]))?.content;
-    } catch {
-      return undefined;
-    }
+    const stored = await this.database?.readDocument(place).catch(() => undefined);
+    if (stored) return stored;
+    const summary = this.summaries.find((known) => isSamePlace(known, place));
+    return summary && this.copy?.readDocument(summary).catch(() => undefined);
   }
 
   save(changes: readonly Change[]): void {
     this.pieces.change(changes);
-    this.waiting = this.waiting.length > 0 ? joined(this.waiting, changes) : [...changes];
+    this.forDatabase.add(changes);
+    if (this.copies()) this.forCopy.add(changes);
     this.write();
   }
 
@@ -124,14 +99,20 @@ export class Storage {
   async replace(changes: readonly Change[]): Promise<void> {
     const replaced = new Pieces();
     replaced.change(changes);
-    const documents = this.waitingDocuments;
-    if (!this.refusal) await this.transaction(rewriting(replaced, documents));
+    const documents = this.forDatabase.waitingDocuments();
+    if (this.database) await this.database.replace(this.generation + 1, replaced, documents);
+    this.generation += 1;
     this.pieces = replaced;
-    this.waiting = [];
-    if (!this.refusal) this.forget(documents);
+    this.forDatabase.begin(this.generation);
+    if (this.database) this.forDatabase.forget(documents);
+    if (!this.copies()) return;
+    this.forCopy.begin(this.generation);
+    this.copy?.replaceAll();
+    const stored = this.forCopy.send(this.copy!, this.generation, replaced);
+    await (this.database ? stored.catch(() => undefined) : stored);
   }
 
-  // Resolves when all pending transactions have a result.
+  // Resolves when all pending saves have a result.
   async settled(): Promise<void> {
     await this.writes;
   }
@@ -143,35 +124,107 @@ export class Storage {
 
   close(): void {
     this.database?.close();
+    this.database = this.copy = undefined;
+    this.refusal = "refused";
+  }
+
+  private async loadDatabase(): Promise<void> {
+    try {
+      this.database = await Database.open(() => this.lost());
+    } catch (error) {
+      this.refusal = isOfLaterSchema(error) ? "newer" : "refused";
+      return;
+    }
+    try {
+      const { pieces, summaries, generation, wantsPacking } = await this.database.read();
+      if (pieces.isDamaged) this.damaged = pieces;
+      else this.pieces = pieces;
+      this.summaries = summaries;
+      this.generation = generation;
+      if (wantsPacking) this.database.packLater(() => [this.generation, this.pieces]);
+    } catch {
+      this.refusal = "unreadable";
+    }
+    if (this.damaged) this.refusal = "unreadable";
+    if (this.refusal) this.withoutDatabase();
+  }
+
+  private begin(): void {
+    this.forDatabase.begin(this.generation);
+    this.forCopy.begin(this.generation);
+  }
+
+  // What can't be read is not overwritten.
+  private withoutDatabase(): void {
+    this.database?.close();
     this.database = undefined;
+    this.generation = 0;
+  }
+
+  // The generation of the copy of an earlier visit, 0 for none; undefined when it can't be read.
+  private async findCopy(): Promise<number | undefined> {
+    this.copy = await SecondCopy.find();
+    return this.copy ? this.copy.open().catch(() => undefined) : 0;
+  }
+
+  // Takes the save in the copy if it is newer.
+  private async compare(copied: number | undefined): Promise<void> {
+    if (this.refusal === "newer") this.copy = undefined;
+    if (!this.copy) return;
+    const isNewer = copied === undefined ? this.all().length === 0 : copied > this.generation;
+    const save = isNewer ? await this.copy.read().catch(() => undefined) : undefined;
+    if (save && save.generation > this.generation) return this.restore(save);
+    if (isNewer && this.all().length === 0) this.refusal ??= "unreadable";
+    if (copied !== this.generation) this.copy.replaceAll();
+    if (!this.refusal) setTimeout(() => void this.bringCopyUpToDate(), pauseBeforeCopying);
+  }
+
+  private restore({ pieces, documents, generation }: CopiedSave): void {
+    this.isRestored = this.refusal === undefined;
+    if (this.refusal) this.failure = "the browser can't read the place where it saves.";
+    this.refusal = undefined;
+    this.pieces = pieces;
+    this.generation = generation;
+    this.begin();
+    this.database?.replaceAll();
+    for (const document of documents) {
+      const known = this.summaries.find((summary) => isSamePlace(summary, document));
+      if (known && known.changed >= document.changed) continue;
+      this.summaries = [...this.summaries.filter((summary) => summary !== known), summaryOf(document)];
+      this.forDatabase.addDocument({ kind: "put", document });
+    }
+    this.write();
+  }
+
+  // Whether there is a second copy; begins one for a career that has none.
+  private copies(): boolean {
+    if (!this.copy && !this.refusal) this.copy = SecondCopy.create();
+    return this.copy !== undefined;
   }
 
   private write(): void {
-    if (this.refusal || this.waiting.length + this.waitingDocuments.length === 0) return;
-    this.latest += 1;
-    const upTo = this.latest;
-    const documents = this.waitingDocuments;
-    this.writes = (this.database ? this.transaction(writing(this.waiting, documents)) : this.reopen()).then(
-      () => {
-        // Later changes stay pending.
-        if (upTo === this.latest) this.waiting = [];
-        this.forget(documents);
-        if (this.failing) this.watcher.recovered();
-        this.failing = false;
-      },
-      (error: unknown) => {
+    if (this.refusal) return;
+    this.generation += 1;
+    const { generation, pieces } = this;
+    const stored = this.database && this.forDatabase.send(this.database, generation, pieces);
+    const copied = this.copy && this.forCopy.send(this.copy, generation, pieces);
+    this.writes = Promise.allSettled([stored, copied]).then(([database, copy]) => {
+      const isStored = this.database !== undefined && database.status === "fulfilled";
+      if (database.status === "rejected") {
         if (this.dropBackups()) return this.write();
-        if (!this.failing) this.watcher.failed(inWords(error));
-        this.failing = true;
-      },
-    );
+        this.failure = inWords(database.reason);
+      }
+      const isCopied = this.copy !== undefined && copy.status === "fulfilled";
+      if (this.failure === undefined) return;
+      this.watcher.failing({ why: this.failure, isNew: !isStored, isSaved: isStored || isCopied });
+    });
   }
 
   // A backup that can't be stored is given up, so that the game itself can still be saved. False when none waits.
   private dropBackups(): boolean {
     const isBackup = ({ kind, document }: DocumentChange) => kind === "put" && document.folder === backupFolder;
-    const backups = this.waitingDocuments.filter(isBackup);
-    this.forget(backups);
+    const backups = this.forDatabase.waitingDocuments().filter(isBackup);
+    this.forDatabase.forget(backups);
     for (const { document } of backups) {
       this.summaries = this.summaries.filter((old) => !isSamePlace(old, document));
       this.watcher.backupLost(document);
@@ -179,146 +232,36 @@ export class Storage {
     return backups.length > 0;
   }
 
-  // These changes are stored.
-  private forget(documents: readonly DocumentChange[]): void {
-    this.waitingDocuments = this.waitingDocuments.filter((change) => !documents.includes(change));
+  // Makes the copy the same as the database.
+  private async bringCopyUpToDate(): Promise<void> {
+    await this.copy?.catchUp(this.generation, this.pieces).catch(() => undefined);
+    await this.copyDocuments();
   }
 
-  // If it fails, the changes stay where they are until the next start.
-  private packLater(): void {
-    setTimeout(() => this.transaction(rewriting(this.pieces, [])).catch(() => undefined), pauseBeforePacking);
-  }
-
-  private async transaction(write: (stores: Stores) => void): Promise<void> {
-    if (!this.database) throw closed();
-    const transaction = this.database.transaction(["packs", "pieces", "aside", "summaries", "contents"], "readwrite");
-    try {
-      // Without a promise for each request: a failed one aborts the transaction, which reports the error.
-      write({
-        packs: unwrap(transaction.objectStore("packs")),
-        pieces: unwrap(transaction.objectStore("pieces")),
-        aside: unwrap(transaction.objectStore("aside")),
-        summaries: unwrap(transaction.objectStore("summaries")),
-        contents: unwrap(transaction.objectStore("contents")),
-      });
-      transaction.commit();
-    } catch (error) {
-      transaction.done.catch(() => undefined);
-      abort(transaction);
-      throw error;
+  private async copyDocuments(): Promise<void> {
+    if (!this.copy || this.refusal) return;
+    const missing = await this.copy.keepDocuments(this.summaries).catch(() => []);
+    for (const summary of missing) {
+      const content = await this.database?.readDocument(summary).catch(() => undefined);
+      if (content) await this.copy?.putDocument({ ...summary, content }).catch(() => undefined);
     }
-    await transaction.done;
   }
 
+  // The browser closed the database and may have deleted it with its slots and backups.
   private lost(): void {
-    this.database = undefined;
+    const summaries = this.summaries;
     this.write();
-  }
-
-  // The browser closed the database and may have deleted it, so the whole save is written to the new one.
-  // Opening can fail at first and is retried.
-  private async reopen(): Promise<void> {
-    for (const pause of pausesBeforeReopening) {
-      await new Promise((over) => setTimeout(over, pause));
-      try {
-        this.database ??= await withPatience(openDatabase(() => this.lost()));
-        await this.transaction(rewriting(this.pieces, this.waitingDocuments));
-        return;
-      } catch {
-        // Tries again, or reports the error below.
+    void this.writes.then(async () => {
+      for (const summary of summaries) {
+        const content = await this.readDocument(summary);
+        if (content) this.forDatabase.addDocument({ kind: "put", document: { ...summary, content } });
       }
-    }
-    throw closed();
+      if (!this.forDatabase.isEmpty) this.write();
+    });
   }
 }
 
-interface Stores {
-  readonly packs: IDBObjectStore;
-  readonly pieces: IDBObjectStore;
-  readonly aside: IDBObjectStore;
-  readonly summaries: IDBObjectStore;
-  readonly contents: IDBObjectStore;
-}
-
-const writing = (changes: readonly Change[], documents: readonly DocumentChange[]) => (stores: Stores) => {
-  const { packs, pieces, aside } = stores;
-  writeDocuments(documents, stores);
-  for (const change of changes) {
-    const { kind, stored } = change;
-    if (kind === "dropAll") {
-      packs.clear();
-      pieces.clear();
-    } else if (kind === "keepAside") {
-      aside.put(stored);
-    } else {
-      if (kind === "dropKey") pieces.delete(IDBKeyRange.bound([stored.key], [stored.key, []]));
-      pieces.put(rowOf(change));
-    }
-  }
-};
-
-function writeDocuments(changes: readonly DocumentChange[], { summaries, contents }: Stores): void {
-  for (const change of changes) {
-    const { folder, name } = change.document;
-    if (change.kind === "remove") {
-      summaries.delete([folder, name]);
-      contents.delete([folder, name]);
-    } else {
-      const { content, ...summary } = change.document;
-      summaries.put(summary);
-      contents.put({ folder, name, content });
-    }
-  }
-}
-
-// Writes all pieces into new packs.
-const rewriting = (all: Pieces, documents: readonly DocumentChange[]) => (stores: Stores) => {
-  const { packs, pieces } = stores;
-  writeDocuments(documents, stores);
-  packs.clear();
-  pieces.clear();
-  all.packs().forEach((pack, number) => packs.put(pack, number));
-};
-
-function openDatabase(whenClosed: () => void): Promise<IDBPDatabase<Schema>> {
-  return openDB<Schema>(databaseName, schemaVersion, {
-    // Version 2 has columns among the pieces, version 3 packs and documents. A build that knows none would lose
-    // what is in them.
-    upgrade(database, before) {
-      if (before < 1) {
-        database.createObjectStore("pieces", { keyPath: ["key", "piece"] });
-        database.createObjectStore("aside", { keyPath: ["key", "piece", "bytes"] });
-      }
-      if (before < 3) {
-        database.createObjectStore("packs");
-        database.createObjectStore("summaries", { keyPath: ["folder", "name"] });
-        database.createObjectStore("contents", { keyPath: ["folder", "name"] });
-      }
-    },
-    terminated: whenClosed,
-  });
-}
-
-const isOfLaterSchema = (error: unknown) => error instanceof DOMException && error.name === "VersionError";
-
-const closed = () => new DOMException("The database was closed.", "InvalidStateError");
-
-function withPatience<T>(promise: Promise<T>): Promise<T> {
-  return new Promise((resolve, reject) => {
-    const late = setTimeout(() => reject(new DOMException("", "TimeoutError")), openingPatience);
-    promise.then(resolve, reject).finally(() => clearTimeout(late));
-  });
-}
-
-function abort(transaction: { abort(): void }): void {
-  try {
-    transaction.abort();
-  } catch {
-    // It has ended already.
-  }
-}
-
-// The end of the sentence "The game can't save right now: ".
+// The end of the sentence "Saving failed: ".
 function inWords(error: unknown): string {
   const name = error instanceof DOMException ? error.name : "";
   if (name === "QuotaExceededError") return "this device has no room left for it.";

@@ -1,0 +1,124 @@
+// The career survives a full disk under the browser's profile.
+
+import assert from "node:assert/strict";
+import { cpSync, mkdtempSync, rmSync } from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { test } from "node:test";
+import type { BrowserContext, Page } from "playwright-core";
+
+import { inspect } from "./inspect";
+import { download, liveAWeek, playOther, says, stage, startAnother, startCareer, waitForGame } from "./runtime_site";
+import { canMount, openProfile, SmallDisk } from "./small_disk";
+
+const setting = stage();
+
+// Ends a week from the hub and returns to it, past what the game says about failed saves.
+async function liveOn(page: Page): Promise<void> {
+  const dialog = page.locator("dialog[open]");
+  const step = async (name: string, leadsTo: string) => {
+    const next = page.getByRole("button", { name: leadsTo, exact: true });
+    const press = (button = name, place: Page | typeof dialog = page) =>
+      place.getByRole("button", { name: button, exact: true }).click({ timeout: 400 }).catch(() => undefined);
+    for (;;) {
+      await page.waitForTimeout(400);
+      if ((await dialog.count()) > 0) await press("OK", dialog);
+      else if ((await next.count()) > 0) return;
+      else await press();
+    }
+  };
+  await step("End Week", "Carry on");
+  await step("Carry on", "End Week");
+}
+
+const today = (page: Page) => page.locator(".page-subtitle").textContent();
+
+// What a browser does to a database that a full disk has torn.
+const loseDatabase = (profile: string) => rmSync(join(profile, "Default/IndexedDB"), { recursive: true });
+
+async function openGame(context: BrowserContext): Promise<Page> {
+  const page = await context.newPage();
+  await page.goto(setting.site.address);
+  await waitForGame(page);
+  return page;
+}
+
+// Until then a career is only in the database.
+async function waitForSecondCopy(page: Page): Promise<void> {
+  await page.waitForFunction(async () => {
+    const names = (await (await caches.open("second copy of the save")).keys()).map(({ url }) => url);
+    return names.some((name) => name.endsWith("room")) && names.length > 2;
+  });
+}
+
+const skip = !canMount && "this system lets the test mount no disk of its own";
+
+test("ten weeks on a full disk are there at the next start, even without the database", { skip }, async () => {
+  const disk = await SmallDisk.make(64);
+  try {
+    const context = await disk.openBrowser();
+    const page = await openGame(context);
+    await startCareer(page, "Ada Full");
+    await liveAWeek(page);
+    await waitForSecondCopy(page);
+    disk.fill();
+    for (let week = 0; week < 10; week += 1) await liveOn(page);
+    const left = await today(page);
+    await page.getByRole("status").filter({ hasText: "Keep a copy of your own" }).waitFor();
+    assert((await download(page, "Download a copy now")).includes("Ada Full"));
+    await context.close();
+
+    disk.free();
+    for (const lose of [() => undefined, () => loseDatabase(disk.profile)]) {
+      lose();
+      const later = await disk.openBrowser();
+      assert.equal(await today(await openGame(later)), left);
+      await later.close();
+    }
+  } finally {
+    disk.end();
+  }
+});
+
+test("the copy is opened when the database is gone or older, with its slots, and both are the same from then on", async () => {
+  const profile = mkdtempSync(join(tmpdir(), "profile-"));
+  const older = join(profile, "older");
+  const database = join(profile, "Default/IndexedDB");
+  const visit = async (play: (page: Page) => Promise<void>) => {
+    const context = await openProfile(profile);
+    await play(await openGame(context));
+    await context.close();
+  };
+  try {
+    await visit(async (page) => {
+      await startCareer(page, "Ada First");
+      await liveAWeek(page);
+    });
+    cpSync(database, older, { recursive: true });
+    let left: string | null = "";
+    await visit(async (page) => {
+      await startAnother(page, "Ben Second");
+      await liveAWeek(page);
+      left = await today(page);
+      await page.waitForTimeout(500);
+    });
+    for (const lose of [() => loseDatabase(profile), () => cpSync(older, database, { recursive: true })]) {
+      lose();
+      await visit(async (page) => {
+        await says(page, /opened from its second copy/);
+        await inspect(page, "second-copy");
+        assert.equal(await today(page), left);
+        await playOther(page, "Ada First");
+        await playOther(page, "Ben Second");
+        left = await today(page);
+      });
+      await visit(async (page) => {
+        assert.equal(await page.getByText(/second copy/).count(), 0);
+        assert.equal(await today(page), left);
+      });
+      rmSync(database, { recursive: true });
+    }
+  } finally {
+    rmSync(profile, { recursive: true, force: true });
+  }
+});

@@ -1,0 +1,81 @@
+// A browser whose profile is on a small disk of its own that a test can fill. The disk is a file system in memory,
+// mounted in a namespace that ends with the test's process.
+
+import { spawn, spawnSync } from "node:child_process";
+import { once } from "node:events";
+import {
+  chmodSync, closeSync, mkdirSync, mkdtempSync, openSync, rmSync, unlinkSync, writeFileSync, writeSync,
+} from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { type BrowserContext, chromium } from "playwright-core";
+
+import { executable, flags } from "../browser.mjs";
+import { phone } from "./inspect";
+
+// Without root the user namespace makes the test its own root, where the system allows that.
+const namespace = process.getuid?.() === 0 ? ["--mount"] : ["--mount", "--user", "--map-root-user"];
+
+export const canMount =
+  spawnSync("unshare", [...namespace, "mount", "-t", "tmpfs", "none", tmpdir()]).status === 0;
+
+// A browser that keeps its profile in the folder.
+export function openProfile(folder: string, executablePath = executable): Promise<BrowserContext> {
+  const shape = { viewport: phone, acceptDownloads: true };
+  return chromium.launchPersistentContext(folder, { executablePath, args: flags, ...shape });
+}
+
+export class SmallDisk {
+  private constructor(
+    private readonly folder: string,
+    private readonly holder: ReturnType<typeof spawn>,
+  ) {}
+
+  // `size`: in megabytes.
+  static async make(size: number): Promise<SmallDisk> {
+    const folder = mkdtempSync(join(tmpdir(), "small-disk-"));
+    const mounts = `mount -t tmpfs -o size=${size}m none ${folder}/disk && echo mounted && cat`;
+    mkdirSync(join(folder, "disk"));
+    const holder = spawn("unshare", [...namespace, "sh", "-c", mounts], { stdio: ["pipe", "pipe", "inherit"] });
+    await once(holder.stdout!, "data");
+    const enters = process.getuid?.() === 0 ? "" : "--user --preserve-credentials";
+    const script = join(folder, "browser");
+    writeFileSync(script, `#!/bin/sh\nexec nsenter --target ${holder.pid} --mount ${enters} ${executable} "$@"\n`);
+    chmodSync(script, 0o755);
+    return new SmallDisk(folder, holder);
+  }
+
+  openBrowser(): Promise<BrowserContext> {
+    return openProfile(join(this.folder, "disk/profile"), join(this.folder, "browser"));
+  }
+
+  // The profile as seen from outside.
+  get profile(): string {
+    return this.path("profile");
+  }
+
+  fill(): void {
+    const file = openSync(this.path("filler"), "a");
+    for (let block = 1 << 20; block > 0; block >>= 1) {
+      try {
+        for (;;) writeSync(file, Buffer.alloc(block));
+      } catch {
+        // No room for a block of this size.
+      }
+    }
+    closeSync(file);
+  }
+
+  free(): void {
+    unlinkSync(this.path("filler"));
+  }
+
+  private path(name: string): string {
+    return `/proc/${this.holder.pid}/root${this.folder}/disk/${name}`;
+  }
+
+  end(): void {
+    this.holder.stdin!.end();
+    rmSync(this.folder, { recursive: true, force: true });
+  }
+}
