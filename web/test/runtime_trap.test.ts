@@ -6,8 +6,8 @@ import type { Page } from "playwright-core";
 
 import { inspect } from "./inspect";
 import {
-  breakable, breakFrom, choose, download, finds, heading, nameField, openSaves, play, press, says, stage, visit,
-  waitForGame, workingActor,
+  breakable, breakFrom, choose, download, finds, heading, liveAWeek, nameField, openSaves, play, press, pressAgain, says,
+  stage, visit, waitForGame, workingActor,
 } from "./runtime_site";
 
 const setting = stage();
@@ -28,6 +28,38 @@ test("after a trap the player goes on from the last save, in a new game", async 
   await finds(page, "Ada Cut");
   await turnToAnotherTab(page);
   await waitForGame(page);
+  player.expect(trap);
+});
+
+test("a game that stops again offers its newest backup, and keeps the career among the backups", async () => {
+  const { player, page } = await play(setting, "Ada Again", breakable);
+  await pressAgain(page, "Settings");
+  await page.getByRole("button", { name: /^Backups/ }).click();
+  await pressAgain(page, "Back up now");
+  await page.getByText("Ada Again").first().waitFor();
+  await pressAgain(page, "Back");
+  await pressAgain(page, "Back");
+  await liveAWeek(page);
+  const offer = page.getByRole("button", { name: "Go back to the backup" });
+  for (const isAgain of [false, true]) {
+    await breakFrom(page, "press");
+    await turnToAnotherTab(page);
+    await stopped(page);
+    assert((await download(page, "Download a copy now")).includes("Ada Again"));
+    if (isAgain) break;
+    assert.equal(await offer.count(), 0);
+    await breakFrom(page, "");
+    await press(page, "Go on from the last save");
+    await waitForGame(page);
+  }
+  await page.getByText("Ada Again, JANUARY 2, 2026").waitFor();
+  await inspect(page, "stopped-again");
+  await breakFrom(page, "");
+  await offer.click();
+  await page.getByText("JANUARY 2, 2026").first().waitFor();
+  await pressAgain(page, "Settings");
+  await page.getByRole("button", { name: /^Backups/ }).click();
+  assert.equal(await page.getByRole("button", { name: /^Restore Week/ }).count(), 2);
   player.expect(trap);
 });
 

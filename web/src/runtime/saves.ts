@@ -2,6 +2,7 @@
 // career does not start, and a bad file does no harm.
 
 import type { Page } from "../view_types";
+import { backupFolder } from "./documents";
 import { Game, type GameHost, GameStopped } from "./game";
 import { type Change, joined } from "./pieces";
 import type { Storage } from "./storage";
@@ -61,6 +62,23 @@ export async function backUpCareer(module: WebAssembly.Module, host: GameHost, s
   } catch (error) {
     if (!(error instanceof GameStopped)) throw error;
   }
+}
+
+// The newest backup whose career can be opened.
+export async function newestBackup(
+  module: WebAssembly.Module,
+  texts: Uint8Array,
+  locale: Uint8Array,
+  storage: Storage,
+): Promise<ReadSave | undefined> {
+  const backups = storage.documents().filter(({ folder }) => folder === backupFolder);
+  // Their names have the time.
+  for (const backup of backups.sort((one, other) => (one.name < other.name ? 1 : -1))) {
+    const content = await storage.readDocument(backup);
+    const save = content && (await readSave(module, texts, locale, new Blob([content])));
+    if (save && typeof save !== "string") return save;
+  }
+  return undefined;
 }
 
 // The save in the file, or a message why it can't be imported.

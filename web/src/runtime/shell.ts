@@ -10,7 +10,7 @@ import { Game, type GameHost, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
 import { program, texts } from "./parts";
-import { backUpCareer, type Career, downloadSave, type ReadSave, readSave, storedCareer } from "./saves";
+import { backUpCareer, type Career, downloadSave, newestBackup, type ReadSave, readSave, storedCareer } from "./saves";
 import { type Refusal, type SavingFailure, Storage } from "./storage";
 import { TabLock } from "./tab_lock";
 import { Ticker } from "./ticker";
@@ -20,7 +20,8 @@ export type Showing =
   | { readonly kind: "loading" }
   | { readonly kind: "elsewhere" } // the game is open in another tab
   | { readonly kind: "playing"; readonly page: Page }
-  | { readonly kind: "stopped" } // the game trapped
+  // The game trapped. `backup` is offered when it was not the first time.
+  | { readonly kind: "stopped"; readonly backup: ReadSave | undefined }
   | { readonly kind: "unavailable" }; // the program or the texts could not be loaded
 
 export interface ShellState {
@@ -47,6 +48,7 @@ export class Shell {
 
   private storage: Promise<Storage> | undefined;
   private game: Game | undefined;
+  private stops = 0; // since the page was opened
   private runs = 0; // number of the current run; an older run ends silently
   private waitingPress: number | undefined; // handle of a press that waits for the texts
   private askedToKeep = false;
@@ -235,7 +237,15 @@ export class Shell {
   private stop(error: unknown): void {
     console.error(error, error instanceof GameStopped ? error.cause : "");
     this.game = undefined;
-    this.show({ kind: "stopped" });
+    this.stops += 1;
+    this.show({ kind: "stopped", backup: undefined });
+    if (this.stops > 1) void this.offerBackup(this.runs);
+  }
+
+  private async offerBackup(run: number): Promise<void> {
+    const storage = await this.openStorage();
+    const backup = await newestBackup(await program.get(), await texts.get(), this.locale, storage);
+    if (run === this.runs) this.show({ kind: "stopped", backup });
   }
 
   private async stepAside(): Promise<void> {

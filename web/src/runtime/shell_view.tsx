@@ -7,6 +7,7 @@ import { Bar, Masthead } from "../draw/page_parts";
 import { PageView } from "../draw/page_view";
 import type { Page } from "../view_types";
 import { CreditsDialog } from "./credits_dialog";
+import type { ReadSave } from "./saves";
 import { SavesDialog } from "./saves_dialog";
 import type { Shell, ShellState } from "./shell";
 import type { Refusal, SavingFailure } from "./storage";
@@ -50,11 +51,13 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
             Something in the game broke, and it stopped before any harm was done. Your career is safe as of its last
             save.
           </p>
-          <p>
+          <div class="shell-buttons">
             <button type="button" class="shell-button shell-primary" onClick={() => shell.startAgain()}>
               Go on from the last save
             </button>
-          </p>
+            <DownloadNow shell={shell} />
+          </div>
+          {showing.backup ? <BackupOffer shell={shell} backup={showing.backup} /> : <></>}
         </Standing>
       );
     case "unavailable":
@@ -117,6 +120,27 @@ function mayUpdate({ showing, updateReady, refusal }: ShellState): boolean {
 // Not on the new-career form.
 function mayInstall({ showing, installOffered }: ShellState): boolean {
   return installOffered && showing.kind === "playing" && showing.page.close.length === 0 && showing.page.tabs.length > 0;
+}
+
+function BackupOffer({ shell, backup }: { shell: Shell; backup: ReadSave }): JSX.Element {
+  const [message, setMessage] = useState("");
+  const { name, date } = backup.career;
+  return (
+    <div class="shell-question">
+      <p>
+        It stopped more than once. You can go back to your newest backup, <strong>{`${name}, ${date}`}</strong>. What you
+        have now stays among the backups.
+      </p>
+      <button
+        type="button"
+        class="shell-button"
+        onClick={() => shell.bringIn(backup).catch(() => setMessage("There is no room to store it."))}
+      >
+        Go back to the backup
+      </button>
+      {message !== "" && <p role="status">{message}</p>}
+    </div>
+  );
 }
 
 const failureInWords = ({ why, isSaved }: SavingFailure): string =>
