@@ -64,10 +64,17 @@ const texts = putHashed("texts", "txt", rows.map((row) => `${row}\n`).join(""));
 // The art is a separate script, which the page imports after its first paint.
 const art = await build({ ...bundling, entryPoints: [join(here, "src/art/picture_art.ts")], format: "esm" });
 const artScript = putHashed("art", "js", art.outputFiles[0].contents);
-const artApart = {
-  name: "art apart",
-  setup: ({ onResolve }) =>
-    onResolve({ filter: /\/art\/picture_art$/ }, () => ({ path: `./${artScript}`, external: true })),
+
+// So is what makes archives of saves, which few players need.
+const archive = await build({ ...bundling, entryPoints: [join(here, "src/archive/zip.ts")], format: "esm" });
+const archiveScript = putHashed("archive", "js", archive.outputFiles[0].contents);
+
+const apart = {
+  name: "scripts apart",
+  setup: ({ onResolve }) => {
+    onResolve({ filter: /\/art\/picture_art$/ }, () => ({ path: `./${artScript}`, external: true }));
+    onResolve({ filter: /\/archive\/zip$/ }, () => ({ path: `./${archiveScript}`, external: true }));
+  },
 };
 
 // The display face, in the parts that face.mjs cut it into.
@@ -85,7 +92,7 @@ const page = await build({
   jsx: "automatic",
   jsxImportSource: "preact",
   define: { WASM_FILE: JSON.stringify(wasm), TEXTS_FILE: JSON.stringify(texts), FACES: JSON.stringify(faces) },
-  plugins: [artApart],
+  plugins: [apart],
 });
 const bundled = (ending) => page.outputFiles.find((file) => file.path.endsWith(ending)).contents;
 const script = putHashed("page", "js", bundled(".js"));
@@ -105,7 +112,10 @@ const licenses = put(
 );
 
 // The files for offline play. Home screens keep their own copies of the PNG icons.
-const files = [script, style, wasm, texts, artScript, ...faces.map(({ file }) => file), licenses, ...staticFiles.filter((name) => !name.endsWith(".png"))];
+const files = [
+  script, style, wasm, texts, artScript, archiveScript, ...faces.map(({ file }) => file), licenses,
+  ...staticFiles.filter((name) => !name.endsWith(".png")),
+];
 
 // The version is a hash of all files.
 const version = hashOf([index, ...files.map((name) => name + hashOf(readFileSync(join(options.out, name))))].join("\n"));

@@ -6,8 +6,8 @@ import { test } from "node:test";
 
 import { inspect } from "./inspect";
 import {
-  choose, download, fill, fillable, finds, heading, openSaves, play, press, says, stage, visit, waitForGame, withoutStorage,
-  workingActor,
+  choose, download, fill, fillable, finds, heading, openSaves, play, playOther, press, pressAgain, says, stage, startAnother,
+  visit, waitForGame, withoutStorage, workingActor,
 } from "./runtime_site";
 
 const setting = stage();
@@ -27,7 +27,7 @@ for (const [how, ...scripts] of [["saved"], ["played in memory alone", withoutSt
     await there.getByRole("button", { name: "Replace my career" }).waitFor();
     assert.match(
       await there.getByRole("group", { name: "Bring in this save?" }).innerText(),
-      /^Ada Travels, JANUARY 2, 2026 takes the place of Somebody Else, JANUARY 2, 2026\./,
+      /^Ada Travels, JANUARY 2, 2026 takes the place of Somebody Else, JANUARY 2, 2026, which stays among the backups\./,
     );
     await inspect(there, "saves-question");
     await press(there, "Replace my career");
@@ -37,6 +37,43 @@ for (const [how, ...scripts] of [["saved"], ["played in memory alone", withoutSt
     assert.equal(await there.getByText("Somebody Else").count(), 0);
   });
 }
+
+test("all careers and backups go to another browser in one file, and each in its own", async () => {
+  const { player, page } = await play(setting, "Ada First");
+  await startAnother(page, "Ben Second");
+  await pressAgain(page, "Settings");
+  await openSaves(page);
+  await page.getByText("Slots and backups").click();
+  await inspect(page, "saves-documents");
+  const all = await download(page, "Download everything", /^top-billing-all-\d{4}-\d\d-\d\d\.zip$/);
+  const slot = await download(page, "Download slot 1", /^top-billing-slot-0\.plist$/);
+  await player.end();
+
+  const { page: there } = await play(setting, "Somebody Else");
+  await openSaves(there);
+  await choose(there, all.subarray(0, all.length / 2));
+  await says(there, /damaged/);
+  await choose(there, all);
+  await there.getByRole("button", { name: "Replace my career" }).waitFor();
+  assert.match(
+    await there.getByRole("group", { name: "Bring in this save?" }).innerText(),
+    /^Ben Second, .* takes the place of Somebody Else, .* \d slots and backups come with it/s,
+  );
+  await inspect(there, "saves-archive");
+  await press(there, "Replace my career");
+  await finds(there, "Ben Second");
+  await there.reload();
+  await playOther(there, "Ada First");
+  await pressAgain(there, "Settings");
+  await there.getByRole("button", { name: /^Backups/ }).click();
+  await there.getByText("Somebody Else").waitFor();
+
+  await there.reload();
+  await openSaves(there);
+  await choose(there, slot);
+  await press(there, "Replace my career");
+  await finds(there, "Ada First");
+});
 
 test("a career can be brought in before any was started, and opens at the top", async () => {
   const page = await (await visit(setting)).open();

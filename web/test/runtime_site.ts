@@ -222,9 +222,13 @@ export async function openSaves(page: Page): Promise<void> {
 }
 
 // Downloads the career from the open saves.
-export async function download(page: Page, button = "Download a copy"): Promise<Buffer> {
+export async function download(
+  page: Page,
+  button = "Download a copy",
+  name = /^top-billing-\d{4}-\d\d-\d\d\.plist$/,
+): Promise<Buffer> {
   const [file] = await Promise.all([page.waitForEvent("download"), press(page, button)]);
-  assert.match(file.suggestedFilename(), /^top-billing-\d{4}-\d\d-\d\d\.plist$/);
+  assert.match(file.suggestedFilename(), name);
   return readFileSync(await file.path());
 }
 

@@ -11,6 +11,7 @@
 
 #include "screens/app.h"
 #include "shells/console/console.h"
+#include "shells/console/stop_notice.h"
 #include "shells/console/terminal.h"
 #include "shells/native/document_folder.h"
 #include "shells/native/system_locale.h"
@@ -108,5 +109,6 @@ int main(int count, char** words) {
     std::println(stderr, "{}", port.error().message);
     return failure;
   }
+  tb::console::announceStops(*folder);
   return play(**port, *folder);
 }

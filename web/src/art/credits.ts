@@ -37,4 +37,11 @@ export const credits = [
     licenseName: "ISC License",
     license: "licenses.txt",
   },
+  {
+    use: "Archives of saves",
+    name: "fflate by Arjun Barrett",
+    work: "https://github.com/101arrowz/fflate",
+    licenseName: "MIT License",
+    license: "licenses.txt",
+  },
 ] as const;

@@ -4,6 +4,8 @@ import { MessageReader, MessageWriter } from "./message";
 
 export const backupFolder = "SaveBackups"; // as in src/core/save_backups.h
 
+export const slotFolder = "SaveSlots"; // as in src/core/save_slots.h
+
 export interface DocumentPlace {
   readonly folder: string;
   readonly name: string;

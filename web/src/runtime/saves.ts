@@ -2,19 +2,50 @@
 // career does not start, and a bad file does no harm.
 
 import type { Page } from "../view_types";
-import { backupFolder } from "./documents";
-import { Game, type GameHost, GameStopped } from "./game";
+import { backupFolder, type DocumentPlace, type StoredDocument } from "./documents";
+import { type DocumentHost, Game, type GameHost, GameStopped } from "./game";
 import { type Change, joined } from "./pieces";
 import type { Storage } from "./storage";
 
+const careerFile = "career.plist"; // of an archive: the career in play
 const largestFile = 256 * 1024 * 1024; // bytes; a career of a hundred years needs a tenth of this
 
-export async function downloadSave(module: WebAssembly.Module, storage: Storage): Promise<void> {
+const today = () => new Date().toISOString().slice(0, 10);
+
+async function exported(module: WebAssembly.Module, storage: Storage): Promise<Uint8Array<ArrayBuffer>> {
   const game = await Game.open(module, { commit: () => undefined }, storage.readable());
-  const file = new Blob([game.exportStore()], { type: "application/x-plist" });
+  return game.exportStore();
+}
+
+export async function downloadSave(module: WebAssembly.Module, storage: Storage): Promise<void> {
+  handOver(await exported(module, storage), `top-billing-${today()}.plist`, "application/x-plist");
+}
+
+// A slot or a backup. Rejects when it can't be read.
+export async function downloadDocument(storage: Storage, place: DocumentPlace): Promise<void> {
+  const content = await storage.readDocument(place);
+  if (!content) throw new Error("The document can't be read.");
+  handOver(content, `top-billing-${place.name}`, "application/x-plist");
+}
+
+// The career in play, the slots and the backups as one archive. Returns how many of them can't be read.
+export async function downloadAll(module: WebAssembly.Module, storage: Storage): Promise<number> {
+  const files: Record<string, Uint8Array<ArrayBuffer>> = { [careerFile]: await exported(module, storage) };
+  let lost = 0;
+  for (const place of storage.documents()) {
+    const content = await storage.readDocument(place);
+    if (content) files[`${place.folder}/${place.name}`] = content;
+    else lost += 1;
+  }
+  const { zipped } = await import("../archive/zip");
+  handOver(zipped(files), `top-billing-all-${today()}.zip`, "application/zip");
+  return lost;
+}
+
+function handOver(content: Uint8Array<ArrayBuffer>, name: string, type: string): void {
   const link = document.createElement("a");
-  link.href = URL.createObjectURL(file);
-  link.download = `top-billing-${new Date().toISOString().slice(0, 10)}.plist`;
+  link.href = URL.createObjectURL(new Blob([content], { type }));
+  link.download = name;
   link.click();
   // A phone can still be asking where to save the file.
   setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
@@ -30,6 +61,7 @@ export interface Career {
 export interface ReadSave {
   readonly changes: readonly Change[];
   readonly career: Career;
+  readonly documents: readonly StoredDocument[]; // the slots and backups of an archive
 }
 
 // A page without tabs is the new-career form.
@@ -81,6 +113,56 @@ export async function newestBackup(
   return undefined;
 }
 
+// Reads an archive of downloadAll(). Slots and backups that can't be opened are left out.
+async function readArchive(
+  module: WebAssembly.Module,
+  texts: Uint8Array,
+  locale: Uint8Array,
+  archive: Blob,
+): Promise<ReadSave | string> {
+  const { unzipped } = await import("../archive/zip");
+  try {
+    const { [careerFile]: career, ...others } = unzipped(new Uint8Array(await archive.arrayBuffer()));
+    if (!career) return "There is no career in this archive.";
+    const save = await readSave(module, texts, locale, new Blob([career]));
+    if (typeof save === "string") return save;
+    const documents: StoredDocument[] = [];
+    for (const [path, content] of Object.entries(others)) {
+      const document = await documentOf(module, path, content);
+      if (document) documents.push(document);
+    }
+    return { ...save, documents };
+  } catch {
+    return "This archive is damaged.";
+  }
+}
+
+// The slot or backup in a file, with what lists show of it; undefined when there is none.
+async function documentOf(
+  module: WebAssembly.Module,
+  path: string,
+  content: Uint8Array<ArrayBuffer>,
+): Promise<StoredDocument | undefined> {
+  const [folder, name] = /^(SaveSlots|SaveBackups)\/([\w-]+\.plist)$/.exec(path)?.slice(1) ?? [];
+  if (!folder || !name) return undefined;
+  let found: StoredDocument | undefined;
+  const documents: DocumentHost = {
+    summaries: () => [],
+    put: (document) => (found = { ...document, folder, name }),
+    remove: () => undefined,
+    read: () => undefined,
+  };
+  try {
+    const game = await Game.open(module, { commit: () => undefined, documents }, []);
+    if (game.importStore(content) === "") game.backUpStore();
+    return found;
+  } catch {
+    return undefined;
+  }
+}
+
+const isArchive = async (file: Blob) => (await file.slice(0, 2).text()) === "PK";
+
 // The save in the file, or a message why it can't be imported.
 export async function readSave(
   module: WebAssembly.Module,
@@ -89,6 +171,7 @@ export async function readSave(
   file: Blob,
 ): Promise<ReadSave | string> {
   if (file.size > largestFile) return "This file is too large to be a save of Top Billing.";
+  if (await isArchive(file)) return readArchive(module, texts, locale, file);
   let changes: Change[] = [];
   const keep = (more: Change[]) => {
     changes = joined(changes, more);
@@ -99,7 +182,7 @@ export async function readSave(
     if (refusal !== "") return refusal;
     game.setTexts(texts);
     game.start(locale);
-    return { changes, career: careerOn(game.page()) };
+    return { changes, career: careerOn(game.page()), documents: [] };
   } catch (error) {
     if (error instanceof GameStopped) return "The career in this file can't be opened.";
     return "This file can't be read.";

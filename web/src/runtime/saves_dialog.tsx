@@ -1,12 +1,24 @@
-// The button "Saves" with its dialog: export and import of a career.
+// The button "Saves" with its dialog: export and import of careers.
 
 import { type JSX } from "preact";
 import { useRef, useState } from "preact/hooks";
 
+import { type DocumentSummary, slotFolder } from "./documents";
 import type { Career, ReadSave } from "./saves";
 import type { Shell } from "./shell";
 
 const named = ({ name, date }: Career): string => (date === "" ? name : `${name}, ${date}`);
+
+// Such as "slot 2", or "the backup of Nov 22, 2026, 9:30 AM". Slots have numbers from 0 in their names.
+function labelOf({ folder, name, changed }: DocumentSummary): string {
+  if (folder === slotFolder) return `slot ${Number(/\d+/.exec(name)?.[0] ?? 0) + 1}`;
+  return `the backup of ${new Date(changed).toLocaleString(undefined, { dateStyle: "medium", timeStyle: "medium" })}`;
+}
+
+const othersIn = ({ documents }: ReadSave): string =>
+  documents.length === 1
+    ? "A slot or backup comes with it; one that you have here stays as it is."
+    : `${documents.length} slots and backups come with it; those that you have here stay as they are.`;
 
 // The question names both careers.
 interface Question {
@@ -19,17 +31,21 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
   const [message, setMessage] = useState("");
   const [question, setQuestion] = useState<Question>();
 
+  const [documents, setDocuments] = useState<readonly DocumentSummary[]>([]);
+
   const open = () => {
     setMessage("");
     setQuestion(undefined);
+    void shell.documents().then(setDocuments);
     dialog.current?.showModal();
   };
 
-  const download = async () => {
+  const download = async (save: () => Promise<number | void>) => {
     setMessage("");
     try {
-      await shell.download();
-      setMessage("Your save was handed to the browser as a file.");
+      const lost = await save();
+      const without = lost ? ` ${lost} of the saves can't be read and are not in it.` : "";
+      setMessage(`Your save was handed to the browser as a file.${without}`);
     } catch {
       setMessage("The save can't be made into a file right now.");
     }
@@ -69,7 +85,7 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
         <h2 id="saves-title">Saves</h2>
         <p>The game saves by itself after each thing you do, in this browser. Keep a copy as a file, or bring one in.</p>
         <div class="shell-buttons">
-          <button type="button" class="shell-button" onClick={() => void download()}>
+          <button type="button" class="shell-button" onClick={() => void download(() => shell.download())}>
             Download a copy
           </button>
           <label class="shell-button">
@@ -77,7 +93,7 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
             <input
               type="file"
               class="shell-file"
-              accept=".plist,application/x-plist"
+              accept=".plist,.zip,application/x-plist,application/zip"
               onChange={(event) => void choose(event.currentTarget)}
             />
           </label>
@@ -86,8 +102,9 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
           <div class="shell-question" role="group" aria-label="Bring in this save?">
             <p>
               <strong>{named(question.save.career)}</strong> takes the place of{" "}
-              <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>. Download that
-              one first to keep it.
+              <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>
+              {question.inPlay && question.inPlay.date !== "" ? ", which stays among the backups." : "."}
+              {question.save.documents.length > 0 && ` ${othersIn(question.save)}`}
             </p>
             <div class="shell-buttons">
               <button type="button" class="shell-button shell-destructive" onClick={() => void bringIn(question.save)}>
@@ -98,6 +115,26 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
               </button>
             </div>
           </div>
+        )}
+        {documents.length > 0 && (
+          <details>
+            <summary class="shell-button">Slots and backups</summary>
+            <div class="shell-documents">
+              <button type="button" class="shell-button" onClick={() => void download(() => shell.downloadAll())}>
+                Download everything
+              </button>
+              {documents.map((document) => (
+                <button
+                  key={`${document.folder}/${document.name}`}
+                  type="button"
+                  class="shell-button"
+                  onClick={() => void download(() => shell.downloadDocument(document))}
+                >
+                  {`Download ${labelOf(document)}`}
+                </button>
+              ))}
+            </div>
+          </details>
         )}
         <p class="shell-message" role="status">
           {message}

@@ -5,12 +5,15 @@ import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
+import { type DocumentPlace, type DocumentSummary, isSamePlace } from "./documents";
 import { isKeptForOffline, loadFace } from "./face";
 import { Game, type GameHost, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
 import { program, texts } from "./parts";
-import { backUpCareer, type Career, downloadSave, newestBackup, type ReadSave, readSave, storedCareer } from "./saves";
+import {
+  backUpCareer, type Career, downloadAll, downloadDocument, downloadSave, newestBackup, type ReadSave, readSave, storedCareer,
+} from "./saves";
 import { type Refusal, type SavingFailure, Storage } from "./storage";
 import { TabLock } from "./tab_lock";
 import { Ticker } from "./ticker";
@@ -120,6 +123,18 @@ export class Shell {
     if (this.current.failing?.isSaved) this.change({ failing: undefined });
   }
 
+  async documents(): Promise<readonly DocumentSummary[]> {
+    return (await this.openStorage()).documents();
+  }
+
+  async downloadDocument(place: DocumentPlace): Promise<void> {
+    await downloadDocument(await this.openStorage(), place);
+  }
+
+  async downloadAll(): Promise<number> {
+    return downloadAll(await program.get(), await this.openStorage());
+  }
+
   async read(file: Blob): Promise<ReadSave | string> {
     return readSave(await program.get(), await texts.get(), this.locale, file);
   }
@@ -134,6 +149,11 @@ export class Shell {
     const storage = await this.openStorage();
     await backUpCareer(await program.get(), this.host(storage), storage);
     await storage.replace(save.changes);
+    const known = storage.documents();
+    for (const document of save.documents) {
+      if (known.some((old) => isSamePlace(old, document))) continue;
+      storage.changeDocument({ kind: "put", document });
+    }
     await this.run();
   }
 
