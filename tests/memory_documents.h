@@ -14,7 +14,8 @@ namespace tb::test {
 
 class MemoryDocuments : public Documents {
  public:
-  [[nodiscard]] std::vector<DocumentSummary> list(std::string_view folder) const override {
+  [[nodiscard]] std::optional<std::vector<DocumentSummary>> list(std::string_view folder) const override {
+    if (isUnreadable) return std::nullopt;
     std::vector<DocumentSummary> all;
     for (const auto& [path, content] : files) {
       if (path.first != folder) continue;
@@ -55,6 +56,7 @@ class MemoryDocuments : public Documents {
   std::vector<std::function<void()>> waiting;                  // answers to come
   int changes = 0;
   bool isFull = false;
+  bool isUnreadable = false;
   bool answersLater = false;
 };
 

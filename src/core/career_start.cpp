@@ -45,6 +45,7 @@ Refusal confirmNewCareer(Game& game, const NewCareerForm& form) {
   world.myName = form.myName;
   world.isMale = form.isMale;
   world.headshotImage = form.headshotImage;
+  world.hasNoWayBack = form.hasNoWayBack;
   world.yearNumber = firstYear;
   world.enterPlayerDetails = 1;
   world.aboutDescription = form.aboutDescription;
@@ -56,6 +57,7 @@ void restartCareer(Game& game) {
   carryOver(game.world);
   setRestartValues(game.world);
   eraseUnreadKeys(game.store);
+  game.store.weeks().forget();
   ensureBasicNeeds(game);
 }
 

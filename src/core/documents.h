@@ -40,8 +40,8 @@ class Documents {
   Documents& operator=(const Documents&) = delete;
   virtual ~Documents() = default;
 
-  // In order of their names; empty when the folder does not exist.
-  [[nodiscard]] virtual std::vector<DocumentSummary> list(std::string_view folder) const = 0;
+  // In order of their names; empty when the folder does not exist, nothing when it can't be read.
+  [[nodiscard]] virtual std::optional<std::vector<DocumentSummary>> list(std::string_view folder) const = 0;
 
   // Calls `then` with the content, or with nothing if it can't be read: at once, or later as an action of its
   // own.

@@ -2,6 +2,8 @@
 
 // What a rule works on. Rules are free functions over Game&, or over less when that is enough.
 
+#include <cstdint>
+
 #include "core/clock.h"
 #include "core/locale.h"
 #include "core/random.h"
@@ -13,6 +15,13 @@ namespace tb {
 class Documents;
 class SaveStore;
 
+// What the App loads when the action ends, instead of saving, because a rule replaced the store's content.
+enum class Reload : std::uint8_t {
+  none,
+  asAtStart,
+  everything,  // also what a launch does not load: the game was not closed in between
+};
+
 struct Game {
   SaveStore& store;
   RandomSource& random;
@@ -22,8 +31,7 @@ struct Game {
   RecentRows recentRows = {};
   Clock clock = stoppedClock;
   Documents* documents = nullptr;  // null where the shell keeps none: there are no slots and no backups then
-  // A rule replaced the content of the store: the App loads it when the action ends, instead of saving.
-  bool loadsStore = false;
+  Reload reload = Reload::none;
 };
 
 }  // namespace tb

@@ -17,11 +17,11 @@ void resetWorld(WorldState& world) {
 
 }  // namespace
 
-void loadWorld(Game& game) {
+void loadWorld(Game& game, Reload extent) {
   resetWorld(game.world);
   resetWorld(game.stored);
   for (const Variable& variable : variables()) {
-    if (variable.load == Load::atStart) loadVariable(game, variable);
+    if (variable.load == Load::atStart || extent == Reload::everything) loadVariable(game, variable);
   }
   ensureBasicNeeds(game);
   normaliseAgentFanBonus(game);

@@ -6,9 +6,10 @@ namespace tb {
 
 // Loads the career from the store: at launch, and after the store was replaced by a slot or a backup. The
 // state is reset first: runtime variables, variables that are never loaded and variables whose key is missing
-// have their start values afterwards.
+// have their start values afterwards. With Reload::everything, variables that are never loaded are loaded,
+// too.
 //
 // Adds what every career must have: the Basic Needs item, and a fan bonus of 1 while no agent is signed.
-void loadWorld(Game& game);
+void loadWorld(Game& game, Reload extent = Reload::asAtStart);
 
 }  // namespace tb

@@ -39,9 +39,10 @@ std::string backupName(plist::Date date) {
 }
 
 // Oldest first.
-std::vector<DocumentSummary> backupsIn(const Documents& documents) {
+std::optional<std::vector<DocumentSummary>> backupsIn(const Documents& documents) {
   auto all = documents.list(Backups::backupFolderName);
-  std::erase_if(all, [](const DocumentSummary& document) {
+  if (!all) return all;
+  std::erase_if(*all, [](const DocumentSummary& document) {
     return !document.name.starts_with(namePrefix) || !document.name.ends_with(Backups::fileExtension);
   });
   return all;
@@ -91,7 +92,7 @@ void replaceStore(Game& game, plist::Dictionary values) {
     }
   }
   game.store.replace(values);
-  game.loadsStore = true;
+  game.reload = Reload::asAtStart;
 }
 
 void removeBackup(Documents& documents, const std::string& url) {
@@ -108,25 +109,31 @@ bool SaveBackupManager::backUp(Game& game) {
 
 bool SaveBackupManager::backUp(Documents& documents, const plist::Dictionary& values, plist::Date now) {
   if (!hasBegun(values)) return false;
-  const auto done = documents.write(backupFolderName, freeName(backupsIn(documents), now),
-                                    plist::write(plist::Value{values}));
+  const auto before = backupsIn(documents);
+  if (!before) {
+    debugLog("SaveBackupManager: backup write failed: The backups can't be read.");
+    return false;
+  }
+  const auto done =
+      documents.write(backupFolderName, freeName(*before, now), plist::write(plist::Value{values}));
   if (!done) {
     debugLog(std::string(done.error().isFolder ? "SaveBackupManager: could not create backup directory: "
                                                : "SaveBackupManager: backup write failed: ") +
              done.error().reason);
     return false;
   }
-  const auto all = backupsIn(documents);
+  const auto all = backupsIn(documents).value_or(std::vector<DocumentSummary>{});
   for (std::size_t oldest = 0; oldest + maxBackups < all.size(); ++oldest) {
     removeBackup(documents, all[oldest].name);
   }
   return true;
 }
 
-std::vector<SaveBackupManager::BackupInfo> SaveBackupManager::list(const Game& game) {
+std::optional<std::vector<SaveBackupManager::BackupInfo>> SaveBackupManager::list(const Game& game) {
+  const auto documents = game.documents == nullptr ? std::nullopt : backupsIn(*game.documents);
+  if (!documents) return std::nullopt;
   std::vector<BackupInfo> infos;
-  if (game.documents == nullptr) return infos;
-  for (const DocumentSummary& document : backupsIn(*game.documents)) infos.push_back(infoOf(document));
+  for (const DocumentSummary& document : *documents) infos.push_back(infoOf(document));
   std::ranges::reverse(infos);
   return infos;
 }

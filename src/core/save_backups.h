@@ -4,6 +4,7 @@
 // restore, a switch or deletion of a slot, or a restart.
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,8 +38,8 @@ class SaveBackupManager {
   // The same with the values of any store, at a time.
   static bool backUp(Documents& documents, const plist::Dictionary& values, plist::Date now);
 
-  // Newest first.
-  [[nodiscard]] static std::vector<BackupInfo> list(const Game& game);
+  // Newest first; nothing when the backups can't be read.
+  [[nodiscard]] static std::optional<std::vector<BackupInfo>> list(const Game& game);
 
   // Replaces the store with a backup, after backing the store up. A backup of another slot continues that
   // slot, and the career in play is saved to its own. A backup without the keys that belong to no slot leaves

@@ -65,7 +65,7 @@ void replaceStore(Game& game, plist::Dictionary values, Int index) {
   std::ranges::find(values, Slots::activeSlotKey, &plist::Dictionary::value_type::first)->second =
       plist::Value{std::to_string(index)};
   game.store.replace(values);
-  game.loadsStore = true;
+  game.reload = Reload::asAtStart;
 }
 
 // Whether the career in play was saved, and another one took its place.
@@ -76,14 +76,16 @@ bool play(Game& game, std::optional<plist::Dictionary> values, Int index) {
   return true;
 }
 
-std::vector<DocumentSummary> documentsOf(const Game& game) {
-  return game.documents == nullptr ? std::vector<DocumentSummary>{}
+std::optional<std::vector<DocumentSummary>> documentsOf(const Game& game) {
+  return game.documents == nullptr ? std::optional<std::vector<DocumentSummary>>{}
                                    : game.documents->list(Slots::slotFolderName);
 }
 
-Slots::SlotSummary summaryOf(Int index, const std::vector<DocumentSummary>& documents) {
-  const auto document = std::ranges::find(documents, slotName(index), &DocumentSummary::name);
-  if (document == documents.end()) return {.index = index, .name = {}, .lastPlayed = {}};
+Slots::SlotSummary summaryOf(Int index, const std::optional<std::vector<DocumentSummary>>& documents) {
+  if (!documents)
+    return {.index = index, .isEmpty = false, .name = {}, .lastPlayed = {}, .isReadable = false};
+  const auto document = std::ranges::find(*documents, slotName(index), &DocumentSummary::name);
+  if (document == documents->end()) return {.index = index, .name = {}, .lastPlayed = {}};
   Slots::SlotSummary summary = summaryOf(index, document->head.value_or(plist::Dictionary{}));
   summary.lastPlayed = document->changed;
   summary.isReadable = document->head.has_value();
@@ -105,7 +107,7 @@ plist::Dictionary SlotManager::sharedValues(const WorldState& world) {
 }
 
 std::vector<SlotManager::SlotSummary> SlotManager::summaries(const Game& game) {
-  const std::vector<DocumentSummary> documents = documentsOf(game);
+  const auto documents = documentsOf(game);
   std::vector<SlotSummary> all;
   for (Int index = 0; index < slotCount; ++index) {
     all.push_back(index == activeSlot(game.world) ? summaryInPlay(index, game.world)
@@ -116,7 +118,9 @@ std::vector<SlotManager::SlotSummary> SlotManager::summaries(const Game& game) {
 
 void SlotManager::switchTo(Game& game, Int index, std::function<void(bool)> then) {
   if (game.documents == nullptr || index == activeSlot(game.world)) return;
-  if (!std::ranges::contains(documentsOf(game), slotName(index), &DocumentSummary::name)) {
+  const auto documents = documentsOf(game);
+  if (!documents) return then(false);
+  if (!std::ranges::contains(*documents, slotName(index), &DocumentSummary::name)) {
     return then(play(game, plist::Dictionary{}, index));
   }
   game.documents->read(slotFolderName, slotName(index),

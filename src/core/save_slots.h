@@ -31,7 +31,7 @@ class SlotManager {
     Int fans = 0;
     std::int64_t boxOffice = 0;
     std::optional<plist::Date> lastPlayed;  // when the document was written; nothing for the slot in play
-    bool isReadable = true;                 // false for a damaged document
+    bool isReadable = true;                 // false for a damaged document, or when there is no telling
   };
 
   // The slot in play: 0 until the first switch.

@@ -53,6 +53,7 @@ SaveStore::SaveStore(StorePort& port) : port_(port) {
     keepAside(key);
     remove(key);
   }
+  weeks_.load();
 }
 
 bool SaveStore::contains(std::string_view key) const { return entries_.contains(key); }
@@ -65,7 +66,7 @@ std::optional<plist::Value> SaveStore::value(std::string_view key) const {
     if (!plain) return std::nullopt;
     return *std::move(plain);
   }
-  if (stored->shape == Shape::column) return std::nullopt;
+  if (stored->shape == Shape::column || stored->shape == Shape::journal) return std::nullopt;
   auto all = joined(*stored);
   if (!all) return std::nullopt;
   if (stored->shape == Shape::recordList) layColumns(key, all->elements, all->stretches);
@@ -74,13 +75,16 @@ std::optional<plist::Value> SaveStore::value(std::string_view key) const {
   return plist::Value{plist::Data{plist::write(list)}};
 }
 
-std::vector<std::string> SaveStore::columnsOf(std::string_view list) const {
-  const std::string start = columnKey(list, "");
-  std::vector<std::string> keys;
-  for (auto at = entries_.lower_bound(start); at != entries_.end() && at->first.starts_with(start); ++at) {
-    if (at->second.shape == Shape::column) keys.push_back(at->first);
+std::vector<std::string> SaveStore::keys(Shape shape, std::string_view prefix) const {
+  std::vector<std::string> found;
+  for (auto at = entries_.lower_bound(prefix); at != entries_.end() && at->first.starts_with(prefix); ++at) {
+    if (at->second.shape == shape) found.push_back(at->first);
   }
-  return keys;
+  return found;
+}
+
+std::vector<std::string> SaveStore::columnsOf(std::string_view list) const {
+  return keys(Shape::column, columnKey(list, ""));
 }
 
 void SaveStore::layColumns(std::string_view key, plist::Array& records, const Stretches& stretches) const {
@@ -154,10 +158,16 @@ plist::Dictionary SaveStore::dictionary() const {
   return all;
 }
 
+// A column or a journal has no value of its own.
+bool SaveStore::isUnreadable(std::string_view key, const Entry& entry) const {
+  return entry.shape != Shape::column && entry.shape != Shape::journal && !value(key);
+}
+
 void SaveStore::replace(const plist::Dictionary& values) {
   for (const auto& [key, entry] : entries_) {
-    if (entry.shape != Shape::column && !value(key)) keepAside(key);
+    if (isUnreadable(key, entry)) keepAside(key);
   }
+  weeks_.reset();
   entries_.clear();
   waiting_.clear();
   drops_all_ = true;
@@ -165,6 +175,7 @@ void SaveStore::replace(const plist::Dictionary& values) {
 }
 
 std::expected<void, std::string> SaveStore::commit() {
+  weeks_.record();
   if (!hasUncommitted()) return {};
   if (auto done = port_.commit(uncommitted()); !done) return done;
   drops_all_ = false;
@@ -177,15 +188,20 @@ std::expected<void, std::string> SaveStore::commit() {
 void SaveStore::setPiece(std::string_view key, Entry& entry, std::int64_t piece, Bytes bytes) {
   const auto [at, added] = entry.pieces.try_emplace(piece);
   if (!added && at->second == bytes) return;
+  weeks_.note(key, entry.shape, piece, added ? std::nullopt : std::optional(std::move(at->second)));
   at->second = std::move(bytes);
   waitingFor(key).pieces.insert(piece);
 }
 
 void SaveStore::dropPiece(std::string_view key, Entry& entry, std::int64_t piece) {
-  if (entry.pieces.erase(piece) > 0) waitingFor(key).pieces.insert(piece);
+  auto dropped = entry.pieces.extract(piece);
+  if (dropped.empty()) return;
+  weeks_.note(key, entry.shape, piece, std::move(dropped.mapped()));
+  waitingFor(key).pieces.insert(piece);
 }
 
 void SaveStore::dropKey(std::string_view key, Entry& entry) {
+  for (auto& [piece, bytes] : entry.pieces) weeks_.note(key, entry.shape, piece, std::move(bytes));
   entry.pieces.clear();
   waitingFor(key) = {.dropsKey = true, .pieces = {}};
   for (const std::string& column : columnsOf(key)) remove(column);

@@ -22,6 +22,7 @@
 
 #include "core/columns.h"
 #include "core/property_list.h"
+#include "core/week_history.h"
 
 namespace tb {
 
@@ -30,6 +31,7 @@ enum class Shape : std::uint8_t {
   recordList = 1,  // pieces are arrays of records; the joined value is a Data with one array
   plainList = 2,   // pieces are arrays of plain values; the joined value is one array
   column = 3,      // pieces are stretches of a column of a record list (core/columns.h)
+  journal = 4,     // pieces are what an action wrote over (core/week_history.h); no value
 };
 
 // A stored piece: `bytes` is a complete binary property list.
@@ -75,6 +77,8 @@ class SaveStore {
   // Loads everything from the port. A key with pieces of different shapes can't be joined: it is set aside
   // and counts as missing.
   explicit SaveStore(StorePort& port);
+  SaveStore(const SaveStore&) = delete;
+  SaveStore& operator=(const SaveStore&) = delete;
 
   [[nodiscard]] bool isEmpty() const { return entries_.empty(); }
   [[nodiscard]] bool contains(std::string_view key) const;
@@ -89,6 +93,9 @@ class SaveStore {
     std::map<std::int64_t, Bytes> pieces;
   };
   [[nodiscard]] const Entry* entry(std::string_view key) const;
+
+  // The keys of a shape that start with `prefix`, in alphabetical order.
+  [[nodiscard]] std::vector<std::string> keys(Shape shape, std::string_view prefix) const;
 
   void put(std::string_view key, const plist::Value& value);
   void remove(std::string_view key);
@@ -105,6 +112,10 @@ class SaveStore {
   // Sets the unreadable value of a key and its columns aside; the value itself stays until it is overwritten.
   // Does nothing for a missing key.
   void keepAside(std::string_view key);
+
+  // The weeks that can be taken back.
+  [[nodiscard]] WeekHistory& weeks() { return weeks_; }
+  [[nodiscard]] const WeekHistory& weeks() const { return weeks_; }
 
   // The whole store as a dictionary in alphabetical order, and its replacement by any dictionary. replace()
   // stores a Data or an array as a plain value, which is split into pieces when it is next written. replace()
@@ -131,6 +142,7 @@ class SaveStore {
   void dropPiece(std::string_view key, Entry& entry, std::int64_t piece);
   void dropKey(std::string_view key, Entry& entry);
   [[nodiscard]] std::vector<std::string> columnsOf(std::string_view list) const;
+  [[nodiscard]] bool isUnreadable(std::string_view key, const Entry& entry) const;
   void layColumns(std::string_view key, plist::Array& records, const Stretches& stretches) const;
   void addAside(StoredPiece piece);
   Waiting& waitingFor(std::string_view key);
@@ -141,6 +153,7 @@ class SaveStore {
   std::map<std::string, Waiting, std::less<>> waiting_;
   std::vector<StoredPiece> aside_;  // pending pieces to set aside
   bool drops_all_ = false;
+  WeekHistory weeks_{*this};
 };
 
 }  // namespace tb

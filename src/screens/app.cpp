@@ -29,7 +29,7 @@ App::App(SaveStore& store, RandomSource& random, Locale locale, std::unique_ptr<
             .clock = clock,
             .documents = documents},
       stage_(game_) {
-  loadStore();
+  loadStore(Reload::asAtStart);
   stage_.beginWith(std::move(first));
   saveChanges(game_);
   endAction();
@@ -115,9 +115,9 @@ void App::say(std::string line) {
   laid_out_.reset();
 }
 
-void App::loadStore() {
+void App::loadStore(Reload extent) {
   game_.recentRows = {};
-  loadWorld(game_);
+  loadWorld(game_, extent);
   game_.world.saveSchemaVersion = schemaVersion;
   backed_up_year_ = game_.world.yearNumber;
 }
@@ -136,8 +136,8 @@ void App::backUpAtNewYear() {
 // Refreshes the hub, which can end a year, both before opened screens appear and after, because appear() can
 // change the state.
 void App::endAction() {
-  if (std::exchange(game_.loadsStore, false)) {
-    loadStore();
+  if (const Reload extent = std::exchange(game_.reload, Reload::none); extent != Reload::none) {
+    loadStore(extent);
     stage_.beginWith(std::make_unique<ViewController>());
   }
   saveAndRefresh();

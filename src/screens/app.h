@@ -60,7 +60,7 @@ class App {
   template <class Kind, class... Values>
   void use(view::Handle handle, Kind LaidOutPage::Use::* kind, const Values&... values);
   void addFrame(view::Page& page);
-  void loadStore();
+  void loadStore(Reload extent);
   void saveAndRefresh();
   void backUpAtNewYear();
   void endAction();

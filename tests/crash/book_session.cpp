@@ -19,6 +19,8 @@ class BookSession : public Session {
 
   void act(std::uint64_t number) override {
     random_.seed(number);
+    if (oneIn(5)) store_.weeks().beginWeek();
+    if (oneIn(10)) goToAnotherWeek();
     writeScalars(static_cast<Int>(number));
     writeLists(static_cast<Int>(number));
     if (oneIn(50)) {
@@ -30,6 +32,11 @@ class BookSession : public Session {
   }
 
  private:
+  void goToAnotherWeek() {
+    const bool went = oneIn(2) ? store_.weeks().goBack() : store_.weeks().goForward();
+    if (went) loadWorld(game_);
+  }
+
   void writeScalars(Int number) {
     WorldState& world = game_.world;
     world.weekNumber = number;
@@ -69,6 +76,8 @@ class BookSession : public Session {
 
 }  // namespace
 
-std::unique_ptr<Session> playBookkeeping(StorePort& port) { return std::make_unique<BookSession>(port); }
+std::unique_ptr<Session> playBookkeeping(StorePort& port, Documents&) {
+  return std::make_unique<BookSession>(port);
+}
 
 }  // namespace tb::crash

@@ -4,8 +4,8 @@
 //   crash_test KILLS      per session type
 //
 // A child process plays on the SQLite store and reports each finished action. The parent kills it, plays the
-// same actions in memory, and compares the dictionaries. The store must hold all reported actions and may
-// hold the next one completely.
+// same actions in memory, and compares what is stored. The store must hold all reported actions and may hold
+// the next one completely. Each slot and backup is as before or after that action, and complete.
 
 #include <algorithm>
 #include <array>
@@ -24,8 +24,12 @@
 #include <thread>
 #include <unistd.h>
 
+#include "core/save_backups.h"
+#include "core/save_slots.h"
+#include "shells/native/document_folder.h"
 #include "shells/sqlite/sqlite_port.h"
 #include "tests/crash/session.h"
+#include "tests/memory_documents.h"
 #include "tests/memory_port.h"
 
 namespace tb::crash {
@@ -50,7 +54,8 @@ std::uint64_t actionNumber(std::uint64_t launch, std::uint64_t step) {
   };
   const auto port = SqlitePort::open(folder);
   if (!port) _exit(1);
-  const auto session = launch(**port);
+  DocumentFolder documents(folder);
+  const auto session = launch(**port, documents);
   done();
   for (std::uint64_t step = 1; step < actionsPerLaunch; ++step) {
     session->act(actionNumber(number, step));
@@ -90,6 +95,51 @@ std::uint64_t playAndKill(const std::filesystem::path& folder, Launch launch, st
   return steps;
 }
 
+// All that is stored.
+struct Saved {
+  decltype(test::MemoryPort::pieces) pieces;
+  decltype(test::MemoryDocuments::files) documents;
+};
+
+decltype(Saved::pieces) piecesOf(StorePort& port) {
+  decltype(Saved::pieces) pieces;
+  for (StoredPiece& piece : port.load()) pieces[{piece.key, piece.piece}] = std::move(piece);
+  return pieces;
+}
+
+decltype(Saved::documents) documentsIn(const std::filesystem::path& base) {
+  decltype(Saved::documents) all;
+  DocumentFolder documents(base);
+  for (const std::string_view folder : {SlotManager::slotFolderName, SaveBackupManager::backupFolderName}) {
+    const auto found = documents.list(folder).value();
+    for (const DocumentSummary& document : found) {
+      documents.read(folder, document.name, [&](std::optional<Bytes> content) {
+        all[{std::string(folder), document.name}] = std::move(content).value_or(Bytes{});
+      });
+    }
+  }
+  return all;
+}
+
+using DocumentPlace = std::pair<std::string, std::string>;  // folder and name
+
+bool isOfEither(const DocumentPlace& place, const Bytes& content, const Saved& before, const Saved& after) {
+  return std::ranges::any_of(std::array{&before, &after}, [&](const Saved* saved) {
+    const auto found = saved->documents.find(place);
+    return found != saved->documents.end() && found->second == content;
+  });
+}
+
+// Each document is as before or as after the action, and none is missing that both have.
+bool areOfEither(const decltype(Saved::documents)& documents, const Saved& before, const Saved& after) {
+  const bool areKnown = std::ranges::all_of(documents, [&](const auto& document) {
+    return isOfEither(document.first, document.second, before, after);
+  });
+  return areKnown && std::ranges::all_of(before.documents, [&](const auto& document) {
+           return documents.contains(document.first) || !after.documents.contains(document.first);
+         });
+}
+
 struct Tally {
   int kills = 0;
   int unfinished = 0;  // kills before a commit or between actions
@@ -111,12 +161,12 @@ class Career {
       std::println(stderr, "launch {}: {}", number, port ? (*port)->notice()->message : port.error().message);
       return false;
     }
-    const plist::Dictionary stored = SaveStore(**port).dictionary();
+    const Saved stored{piecesOf(**port), documentsIn(folder_)};
 
     std::unique_ptr<Session> session;
     const auto play = [&](std::uint64_t step) {
       if (step == 0) {
-        session = launch_(memory_);
+        session = launch_(memory_, documents_);
       } else {
         session->act(actionNumber(number, step));
       }
@@ -124,38 +174,41 @@ class Career {
     for (std::uint64_t step = 0; step < steps; ++step) play(step);
     tally.kills += 1;
     tally.steps += steps;
-    const plist::Dictionary before = SaveStore(memory_).dictionary();
-    if (stored == before) {
-      tally.unfinished += 1;
-      return true;
-    }
+    const Saved before{memory_.pieces, documents_.files};
     play(steps);
-    const plist::Dictionary after = SaveStore(memory_).dictionary();
-    if (stored == after) {
-      tally.finished += 1;
-      return true;
+    const Saved after{memory_.pieces, documents_.files};
+    const bool isBefore = stored.pieces == before.pieces;
+    if ((!isBefore && stored.pieces != after.pieces) || !areOfEither(stored.documents, before, after)) {
+      report(number, steps, stored, before, after);
+      return false;
     }
-    report(number, steps, stored, before, after);
-    return false;
+    (isBefore ? tally.unfinished : tally.finished) += 1;
+    memory_.pieces = stored.pieces;
+    documents_.files = stored.documents;
+    return true;
   }
 
  private:
-  static void report(std::uint64_t number, std::uint64_t steps, const plist::Dictionary& stored,
-                     const plist::Dictionary& before, const plist::Dictionary& after) {
-    std::println(stderr, "launch {}, killed after {} steps: {} keys, {} before and {} after the action",
-                 number, steps, stored.size(), before.size(), after.size());
-    for (const auto& entry : stored) {
-      const bool old = std::ranges::contains(before, entry);
-      const bool fresh = std::ranges::contains(after, entry);
-      if (old != fresh)
-        std::println(stderr, "  {} is from {} the action", entry.first, old ? "before" : "after");
-      if (!old && !fresh) std::println(stderr, "  {} is from neither", entry.first);
+  static void report(std::uint64_t number, std::uint64_t steps, const Saved& stored, const Saved& before,
+                     const Saved& after) {
+    std::println(stderr, "launch {}, killed after {} steps: {} pieces, {} before and {} after the action",
+                 number, steps, stored.pieces.size(), before.pieces.size(), after.pieces.size());
+    for (const auto& piece : stored.pieces) {
+      const bool old = std::ranges::contains(before.pieces, piece);
+      const bool fresh = std::ranges::contains(after.pieces, piece);
+      const char* const from = old ? "before" : fresh ? "after" : "neither side of";
+      if (old != fresh || !old) std::println(stderr, "  {} is from {} the action", piece.first.first, from);
+    }
+    for (const auto& [place, content] : stored.documents) {
+      if (!isOfEither(place, content, before, after))
+        std::println(stderr, "  {} is from neither", place.second);
     }
   }
 
   std::filesystem::path folder_;
   Launch launch_;
   test::MemoryPort memory_;  // the same career without kills
+  test::MemoryDocuments documents_;
 };
 
 bool surviveKills(const std::filesystem::path& folder, const char* name, Launch launch, int kills) {
@@ -180,8 +233,9 @@ bool surviveKills(const std::filesystem::path& folder, const char* name, Launch 
 int main(int kills) {
   std::string name = (std::filesystem::temp_directory_path() / "billing-crash-XXXXXX").string();
   const std::filesystem::path folder = mkdtemp(name.data());
-  const bool whole =
-      surviveKills(folder, "books", playBookkeeping, kills) && surviveKills(folder, "game", playGame, kills);
+  const bool whole = surviveKills(folder, "books", playBookkeeping, kills) &&
+                     surviveKills(folder, "careers", playCareers, kills) &&
+                     surviveKills(folder, "game", playGame, kills);
   if (!whole) {
     std::println(stderr, "The store is left in {}", folder.string());
     return 1;

@@ -8,7 +8,8 @@ namespace {
 
 class GameSession : public Session {
  public:
-  explicit GameSession(StorePort& port) : store_(port) {}
+  GameSession(StorePort& port, Documents& documents)
+      : store_(port), app_(store_, random_, {}, stoppedClock, &documents) {}
 
   void act(std::uint64_t number) override {
     random_.seed(number);
@@ -20,12 +21,14 @@ class GameSession : public Session {
   SaveStore store_;
   test::SeededRandom random_{0};
   test::RandomUser user_{0};
-  App app_{store_, random_};
+  App app_;
   test::Player player_{app_};
 };
 
 }  // namespace
 
-std::unique_ptr<Session> playGame(StorePort& port) { return std::make_unique<GameSession>(port); }
+std::unique_ptr<Session> playGame(StorePort& port, Documents& documents) {
+  return std::make_unique<GameSession>(port, documents);
+}
 
 }  // namespace tb::crash

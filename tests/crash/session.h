@@ -1,11 +1,12 @@
 #pragma once
 
-// A deterministic session on a store. It depends only on the store's content at launch and on the action
-// numbers, so it can be repeated in memory and compared.
+// A deterministic session on a store and its documents. It depends only on their content at launch and on the
+// action numbers, so it can be repeated in memory and compared.
 
 #include <cstdint>
 #include <memory>
 
+#include "core/documents.h"
 #include "core/save_store.h"
 
 namespace tb::crash {
@@ -22,13 +23,16 @@ class Session {
 };
 
 // Opens a session. Its writes are durable when it returns.
-using Launch = std::unique_ptr<Session> (*)(StorePort& port);
+using Launch = std::unique_ptr<Session> (*)(StorePort& port, Documents& documents);
 
 // The game itself, played by random presses, texts and slides.
-std::unique_ptr<Session> playGame(StorePort& port);
+std::unique_ptr<Session> playGame(StorePort& port, Documents& documents);
 
 // A stress test for the store: every action writes scalars, changes lists at both ends and in the middle,
-// clears and replaces some, and sometimes replaces the whole career.
-std::unique_ptr<Session> playBookkeeping(StorePort& port);
+// clears and replaces some, and sometimes replaces the whole career, ends a week or takes one back.
+std::unique_ptr<Session> playBookkeeping(StorePort& port, Documents& documents);
+
+// Everything that concerns whole careers: weeks, weeks taken back, slots, backups and the bank.
+std::unique_ptr<Session> playCareers(StorePort& port, Documents& documents);
 
 }  // namespace tb::crash

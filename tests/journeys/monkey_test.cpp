@@ -69,6 +69,7 @@ TEST(Monkey, PlaysTwoThousandWeeksAtRandom) {
   Player player(app);
   test::RandomUser monkey(11);
 
+  std::size_t mostFilms = 0;  // of a career; the last one may have just begun
   std::int64_t weeks = 0;
   std::int64_t week = app.game().world.weekNumberForTracking;
   for (int action = 0; weeks < 2000 && !testing::Test::HasFailure(); ++action) {
@@ -82,10 +83,11 @@ TEST(Monkey, PlaysTwoThousandWeeksAtRandom) {
     if (weeks % 50 != 0) continue;
     expectSoundBoxOffice(app.game().world);
     expectFilmsInStep(app.game().world);
+    mostFilms = std::max(mostFilms, app.game().world.saveAllFilmList.size());
     EXPECT_EQ(SaveStore(port).dictionary(), store.dictionary());
     ASSERT_LT(action, 400'000);
   }
-  EXPECT_GT(app.game().world.saveAllFilmList.size() + app.game().world.saveAllAuditionList.size(), 0u);
+  EXPECT_GT(mostFilms, 0u);
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ class Slots : public testing::Test {
   [[nodiscard]] test::Player& player() { return device.player(); }
   [[nodiscard]] plist::Dictionary stored() { return SaveStore(device.port).dictionary(); }
   [[nodiscard]] std::size_t backups() const {
-    return device.documents.list(SaveBackupManager::backupFolderName).size();
+    return device.documents.list(SaveBackupManager::backupFolderName)->size();
   }
 
   void openPicker() { player().follow({"Settings", "Choose a save"}); }
@@ -54,6 +54,9 @@ TEST_F(Slots, CareersSideBySideKeepEveryKey) {
   EXPECT_EQ(device.world().saveSchemaVersion, 1);
   beginCareer("Bea Stone");
   device.playWeeks(2);
+  openPicker();
+  player().press(emptySlot);
+  beginCareer("Cleo Marsh");
   // The keys that belong to no slot differ.
   const auto career = [this] {
     plist::Dictionary values = stored();
@@ -62,15 +65,16 @@ TEST_F(Slots, CareersSideBySideKeepEveryKey) {
     });
     return values;
   };
-  const char* const names[] = {"Ada Quinn", "Bea Stone"};
-  for (int turn = 0; turn < 20; ++turn) {
-    left[names[(turn + 1) % 2]] = career();
+  const char* const names[] = {"Ada Quinn", "Bea Stone", "Cleo Marsh"};
+  for (int turn = 0; turn < 100; ++turn) {
+    const char* const name = names[turn % 3];
+    left[player().title()] = career();
     if (turn % 5 == 4) device.launch();
     device.documents.answersLater = turn % 2 == 0;
-    play(names[turn % 2]);
+    play(name);
     for (const auto& answer : std::exchange(device.documents.waiting, {})) device.app().goOn(answer);
-    EXPECT_EQ(player().title(), names[turn % 2]);
-    if (const auto before = left.find(names[turn % 2]); before != left.end()) {
+    EXPECT_EQ(player().title(), name);
+    if (const auto before = left.find(name); before != left.end()) {
       ASSERT_TRUE(career() == before->second) << "switch " << turn;
     }
     if (turn % 4 == 3) device.playWeeks();
@@ -107,7 +111,8 @@ TEST_F(Slots, ADeletedCareerLeavesABackup) {
   beginCareer("Bea Stone");
   play("Ada Quinn");
   // Of the two careers only the deleted one stays as a backup.
-  for (const auto& backup : device.documents.list(SaveBackupManager::backupFolderName)) {
+  const auto kept = device.documents.list(SaveBackupManager::backupFolderName).value();
+  for (const auto& backup : kept) {
     ASSERT_TRUE(device.documents.remove(SaveBackupManager::backupFolderName, backup.name));
   }
   const std::size_t before = backups();
@@ -124,20 +129,28 @@ TEST_F(Slots, ADeletedCareerLeavesABackup) {
 TEST_F(Slots, ADamagedOrUnwritableSaveChangesNothing) {
   device.documents.files[{"SaveSlots", "slot-1.plist"}] = Bytes(40);
   openPicker();
-  EXPECT_TRUE(player().sees("A damaged save"));
-  device.documents.isFull = true;
+  EXPECT_TRUE(player().sees("A save that can't be read"));
   const plist::Dictionary before = stored();
-  player().press(emptySlot);
-  EXPECT_EQ(player().said(), "That save could not be opened. Your career is as it was.");
-  EXPECT_TRUE(stored() == before);
-  EXPECT_EQ(player().title(), "CHOOSE A SAVE");
+  // A slot that can't be looked up is not empty.
+  for (bool* const fault : {&device.documents.isUnreadable, &device.documents.isFull}) {
+    ASSERT_TRUE(player().sees(emptySlot));
+    *fault = true;
+    player().press(emptySlot);
+    EXPECT_EQ(player().said(), "That save could not be opened. Your career is as it was.");
+    EXPECT_TRUE(stored() == before);
+    EXPECT_EQ(player().title(), "CHOOSE A SAVE");
+    EXPECT_EQ(player().sees(emptySlot), fault == &device.documents.isFull);
+    *fault = false;
+    player().press("Back");
+    player().press("Choose a save");
+  }
 }
 
 TEST_F(Slots, TheEightNewestBackupsStayAndOneCanBeRestored) {
   player().follow({"Settings", "Backups"});
   for (int count = 1; count <= 10; ++count) player().press("Back up now");
   EXPECT_EQ(player().said(), "Backed up.");
-  const auto names = device.documents.list(SaveBackupManager::backupFolderName);
+  const auto names = *device.documents.list(SaveBackupManager::backupFolderName);
   ASSERT_EQ(names.size(), SaveBackupManager::maxBackups);
   EXPECT_EQ(names.front().name, "save-2001-01-01-000002.plist");
   EXPECT_EQ(names.back().name, "save-2001-01-01-000009.plist");

@@ -36,12 +36,12 @@ class Folder : public testing::Test {
 };
 
 TEST_F(Folder, KeepsDocumentsAndListsWhatChanged) {
-  EXPECT_TRUE(documents.list("SaveSlots").empty());
+  EXPECT_TRUE(documents.list("SaveSlots")->empty());
   EXPECT_FALSE(content("slot-1.plist"));
   ASSERT_TRUE(documents.write("SaveSlots", "slot-1.plist", save("Ada", 200'000)));
   ASSERT_TRUE(documents.write("SaveSlots", "slot-0.plist", save("Bea")));
   std::ofstream(base / "SaveSlots" / "slot-2.plist") << "torn";
-  const auto all = documents.list("SaveSlots");
+  const auto all = documents.list("SaveSlots").value();
   ASSERT_EQ(all.size(), 3u);
   EXPECT_EQ(all[0].name, "slot-0.plist");
   EXPECT_EQ(all[1].head, (plist::Dictionary{{"myName", plist::Value{std::string("Ada")}}}));
@@ -51,11 +51,11 @@ TEST_F(Folder, KeepsDocumentsAndListsWhatChanged) {
   EXPECT_EQ(content("slot-1.plist"), save("Ada", 200'000));
 
   ASSERT_TRUE(documents.write("SaveSlots", "slot-1.plist", save("Cleo")));
-  EXPECT_EQ(documents.list("SaveSlots")[1].head,
+  EXPECT_EQ((*documents.list("SaveSlots"))[1].head,
             (plist::Dictionary{{"myName", plist::Value{std::string("Cleo")}}}));
   EXPECT_TRUE(documents.remove("SaveSlots", "slot-1.plist"));
   EXPECT_TRUE(documents.remove("SaveSlots", "slot-1.plist"));
-  EXPECT_EQ(documents.list("SaveSlots").size(), 2u);
+  EXPECT_EQ(documents.list("SaveSlots")->size(), 2u);
 }
 
 TEST_F(Folder, AFailedWriteLeavesTheDocumentThatWasThere) {
@@ -72,7 +72,7 @@ TEST_F(Folder, AFailedWriteLeavesTheDocumentThatWasThere) {
   ASSERT_FALSE(done);
   EXPECT_FALSE(done.error().isFolder);
   EXPECT_EQ(content("slot-0.plist"), save("Ada"));
-  EXPECT_EQ(documents.list("SaveSlots").size(), 1u);
+  EXPECT_EQ(documents.list("SaveSlots")->size(), 1u);
 
   std::ofstream(base / "SaveBackups") << "in the way";
   const auto folder = documents.write("SaveBackups", "save.plist", save("Ada"));

@@ -74,7 +74,9 @@ Page BackupsViewController::view(const Game& game) {
             .nodes = {caption("The game backs your career up at each new year and before it is replaced, and "
                               "keeps the last eight.")},
             .main = {{.label = "Back up now", .press = backUpNow, .weight = Button::Weight::primary}}};
-  for (const Info& backup : SaveBackupManager::list(game)) page.nodes.push_back(card(game, backup));
+  const auto backups = SaveBackupManager::list(game);
+  if (!backups) page.nodes.push_back(Text{.text = "The backups can't be read at the moment."});
+  for (const Info& backup : backups.value_or(std::vector<Info>{})) page.nodes.push_back(card(game, backup));
   return page;
 }
 

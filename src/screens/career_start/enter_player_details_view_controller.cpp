@@ -61,6 +61,15 @@ Choice EnterPlayerDetailsViewController::genders() {
   return {.label = "Gender", .options = {option("Male", true), option("Female", false)}};
 }
 
+Choice EnterPlayerDetailsViewController::waysBack() {
+  const auto option = [this](const char* label, bool hasNoWayBack) {
+    return Choice::Option{.label = label,
+                          .chosen = form_.hasNoWayBack == hasNoWayBack,
+                          .press = [this, hasNoWayBack](Stage&) { form_.hasNoWayBack = hasNoWayBack; }};
+  };
+  return {.label = "Taking weeks back", .options = {option("Up to ten", false), option("No way back", true)}};
+}
+
 Choice EnterPlayerDetailsViewController::headshots(const Game& game) {
   Choice choice{.label = "Headshot"};
   for (int number = 1; number <= headshotsOnOffer; ++number) {
@@ -99,6 +108,9 @@ Page EnterPlayerDetailsViewController::view(const Game& game) {
                     .hint = "A line or two about who you are",
                     .maximumLength = 280,
                     .severalLines = true},
+              waysBack(),
+              caption(form_.hasNoWayBack ? "Every week you end is final. This can't be changed later."
+                                         : "Settings can take you back to before you ended a week."),
           },
       .main = {{.label = "Start my career",
                 .press = [this](Stage& stage) { confirm(stage); },

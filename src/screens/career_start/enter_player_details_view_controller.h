@@ -20,6 +20,7 @@ class EnterPlayerDetailsViewController : public Screen {
  private:
   [[nodiscard]] view::Choice genders();
   void chooseGender(bool isMale);
+  [[nodiscard]] view::Choice waysBack();
   [[nodiscard]] view::Choice headshots(const Game& game);
   void confirm(Stage& stage);
 

@@ -30,7 +30,7 @@ Operation plays(Int index) {
 void askToDelete(Stage& stage, const Summary& slot) {
   const std::string message = slot.isReadable
                                   ? slot.name + " leaves this slot. A last backup of the career is kept."
-                                  : "This save is damaged and can't be opened. No backup is made.";
+                                  : "This save can't be read now. If it is damaged, no backup is made.";
   tb::askToDelete(stage, tb::format("Delete {}?", slot.isReadable ? slot.name : "this save"), message,
                   [index = slot.index](Stage& above) { SlotManager::remove(above.game(), index); });
 }
@@ -67,7 +67,9 @@ Card fullSlot(const Game& game, const Summary& slot) {
 }
 
 Card damagedSlot(const Summary& slot) {
-  return {.title = "A damaged save", .subtitle = "It can't be opened.", .nodes = {Buttons{{deletion(slot)}}}};
+  return {.title = "A save that can't be read",
+          .subtitle = "It may be damaged.",
+          .nodes = {Buttons{{deletion(slot)}}}};
 }
 
 Node slotNode(const Game& game, const Summary& slot) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/calendar.h"
+#include "core/way_back.h"
 #include "screens/backstage/backstage_view_controller.h"
 #include "screens/career_start/enter_player_details_view_controller.h"
 #include "screens/career_start/settings_view_controller.h"
@@ -35,6 +36,7 @@ void ViewController::show(Stage& stage, Tab tab) {
 void ViewController::endWeekButton(Stage& stage) {
   stage.leaveToFirst([](Stage& hub) {
     hub.renewFirst();
+    keepWayBack(hub.game());
     endWeek(hub.game());
     hub.open<WeeklySummaryViewController>();
   });

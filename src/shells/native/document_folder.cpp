@@ -61,10 +61,14 @@ std::optional<Bytes> contentOf(const std::filesystem::path& path) {
   return content;
 }
 
-// The name, size and time of a file.
-std::optional<DocumentSummary> factsOf(const std::filesystem::path& path) {
+// The name, size and time of a file; an empty name for what is no file, or no longer there.
+std::expected<DocumentSummary, std::error_code> factsOf(const std::filesystem::path& path) {
   struct stat facts{};
-  if (stat(path.c_str(), &facts) != 0 || !S_ISREG(facts.st_mode)) return std::nullopt;
+  if (stat(path.c_str(), &facts) != 0) {
+    if (errno == ENOENT) return DocumentSummary{};
+    return std::unexpected(std::error_code(errno, std::generic_category()));
+  }
+  if (!S_ISREG(facts.st_mode)) return DocumentSummary{};
   constexpr double nanosecond = 1e-9;
   const double seconds =
       static_cast<double>(facts.st_mtim.tv_sec) + nanosecond * static_cast<double>(facts.st_mtim.tv_nsec);
@@ -76,22 +80,33 @@ std::optional<DocumentSummary> factsOf(const std::filesystem::path& path) {
 
 }  // namespace
 
-std::vector<DocumentSummary> DocumentFolder::list(std::string_view folder) const {
+std::optional<std::vector<DocumentSummary>> DocumentFolder::list(std::string_view folder) const {
   std::vector<DocumentSummary> all;
   std::error_code error;
-  for (const auto& entry : std::filesystem::directory_iterator(base_ / folder, error)) {
-    auto facts = entry.path().extension() == unfinished ? std::nullopt : factsOf(entry.path());
-    if (!facts) continue;
-    DocumentSummary& seen = seen_[entry.path()];
-    if (seen.name.empty() || seen.size != facts->size || seen.changed != facts->changed) {
-      seen = *std::move(facts);
-      const auto content = contentOf(entry.path());
-      if (content) seen.head = documentHead(*content);
-    }
-    all.push_back(seen);
+  std::filesystem::directory_iterator entry(base_ / folder, error);
+  if (error == std::errc::no_such_file_or_directory) return all;
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    if (entry->path().extension() == unfinished) continue;
+    auto facts = factsOf(entry->path());
+    if (!facts) return std::nullopt;
+    if (!facts->name.empty()) all.push_back(summaryOf(entry->path(), *std::move(facts)));
   }
+  if (error) return std::nullopt;
   std::ranges::sort(all, {}, &DocumentSummary::name);
   return all;
+}
+
+// With the head of the file, which is read again only when the file has changed or could not be read.
+DocumentSummary DocumentFolder::summaryOf(const std::filesystem::path& file, DocumentSummary facts) const {
+  const auto seen = seen_.find(file);
+  if (seen != seen_.end() && seen->second.size == facts.size && seen->second.changed == facts.changed) {
+    return seen->second;
+  }
+  const auto content = contentOf(file);
+  if (!content) return facts;
+  facts.head = documentHead(*content);
+  seen_[file] = facts;
+  return facts;
 }
 
 void DocumentFolder::read(std::string_view folder, const std::string& name, Then then) {

@@ -20,8 +20,8 @@ using sqlite::Statement;
 
 constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a career of this game
 // Increment with every change of what is stored; web/src/runtime/storage.ts has its own. Version 2 added
-// columns, which version 1 takes for damaged rows.
-constexpr std::int64_t schemaVersion = 2;
+// columns, which version 1 takes for damaged rows, and version 3 the journals of the last weeks.
+constexpr std::int64_t schemaVersion = 3;
 
 // Pages of the write-ahead log before it is copied into the file: a few weeks of a busy career, some more of
 // a quiet one. Whoever copies only the file loses no more than these.
@@ -32,7 +32,7 @@ constexpr std::string_view logSuffix = "-wal";
 // Rows that no version of the game writes.
 constexpr std::string_view damagedRows =
     "(typeof(key) <> 'text' OR typeof(piece) <> 'integer' OR typeof(value) <> 'blob' "
-    "OR typeof(shape) <> 'integer' OR shape NOT BETWEEN 0 AND 3)";
+    "OR typeof(shape) <> 'integer' OR shape NOT BETWEEN 0 AND 4)";
 
 // The PRAGMA values that identify the file.
 struct FileMarks {
@@ -197,14 +197,22 @@ std::optional<Notice> noticeAboutDamage(const std::filesystem::path& folder) {
                 message + "\n\nThis notice is shown at every start until they are moved or deleted."};
 }
 
+// The size of a file, 0 when there is none.
+Result<std::uintmax_t> sizeOf(const std::filesystem::path& file) {
+  std::error_code error;
+  const auto bytes = std::filesystem::file_size(file, error);
+  if (!error) return bytes;
+  if (error == std::errc::no_such_file_or_directory) return 0;
+  return std::unexpected(Error{SQLITE_IOERR, error.message()});
+}
+
 // SQLite deletes a log beside an empty file, and with it the weeks that are only in the log.
-bool hasLogWithoutFile(const std::filesystem::path& file) {
-  const auto size = [](const std::filesystem::path& path) {
-    std::error_code error;
-    const auto bytes = std::filesystem::file_size(path, error);
-    return error ? std::uintmax_t{0} : bytes;
-  };
-  return size(file) == 0 && size(file.string() + std::string(logSuffix)) > 0;
+Result<bool> hasLogWithoutFile(const std::filesystem::path& file) {
+  const auto size = sizeOf(file);
+  if (!size) return std::unexpected(size.error());
+  const auto logSize = sizeOf(file.string() + std::string(logSuffix));
+  if (!logSize) return std::unexpected(logSize.error());
+  return *size == 0 && *logSize > 0;
 }
 
 }  // namespace
@@ -246,7 +254,9 @@ std::expected<void, std::string> SqlitePort::commit(std::span<const StoreChange>
 
 // A read that the disk refused can look like damage to SQLite.
 Result<SqlitePort::Career> SqlitePort::openCareer(const std::filesystem::path& file) {
-  if (hasLogWithoutFile(file)) return damaged("there is a log without its file");
+  const auto lacksFile = hasLogWithoutFile(file);
+  if (!lacksFile) return std::unexpected(lacksFile.error());
+  if (*lacksFile) return damaged("there is a log without its file");
   const sqlite::FailedReads reads;
   auto career = openSoundCareer(file);
   if (!career && isDamage(career.error()) && !reads.reason().empty()) {

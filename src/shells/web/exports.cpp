@@ -13,7 +13,9 @@
 #include <string>
 
 #include "banks/texts.h"
+#include "core/format.h"
 #include "core/save_backups.h"
+#include "core/way_back.h"
 #include "screens/app.h"
 #include "shells/system_clock.h"
 #include "shells/web/host.h"
@@ -100,6 +102,17 @@ EXPORT(back_up_store) void backUpStore() {
   tb::SaveBackupManager::backUp(*game->documents, game->store.dictionary(), tb::systemClock());
 }
 EXPORT(export_store) std::size_t exportStore() { return answerWith(tb::exportedSave(game->store)); }
+
+// After a stop of the game: "week 12 of 2031", to which the store can go back, or nothing; and going there.
+// Answers why that was not possible, or nothing when it was done and committed. Then a new game is opened.
+EXPORT(last_week) std::size_t lastWeek() {
+  const auto week = tb::lastWeek(game->store);
+  return answerWith(week ? tb::format("week {} of {}", week->week, week->year) : std::string());
+}
+EXPORT(back_to_last_week) std::size_t backToLastWeek() {
+  const auto done = tb::backToLastWeek(game->store);
+  return answerWith(done ? std::string() : done.error());
+}
 
 // Incoming: a file. Answer: why it was refused, or empty when it was imported and committed.
 EXPORT(import_store) std::size_t importStore() {

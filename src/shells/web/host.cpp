@@ -30,7 +30,7 @@ HostDocuments::HostDocuments(std::vector<std::pair<std::string, DocumentSummary>
   }
 }
 
-std::vector<DocumentSummary> HostDocuments::list(std::string_view folder) const {
+std::optional<std::vector<DocumentSummary>> HostDocuments::list(std::string_view folder) const {
   std::vector<DocumentSummary> all;
   for (const auto& [place, summary] : known_) {
     if (place.first == folder) all.push_back(summary);

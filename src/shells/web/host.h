@@ -36,7 +36,7 @@ class HostDocuments : public Documents {
  public:
   explicit HostDocuments(std::vector<std::pair<std::string, DocumentSummary>> known);
 
-  [[nodiscard]] std::vector<DocumentSummary> list(std::string_view folder) const override;
+  [[nodiscard]] std::optional<std::vector<DocumentSummary>> list(std::string_view folder) const override;
   void read(std::string_view folder, const std::string& name, Then then) override;
   std::expected<void, DocumentFailure> write(std::string_view folder, const std::string& name,
                                              Bytes content) override;
