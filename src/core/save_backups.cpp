@@ -1,6 +1,7 @@
 #include "core/save_backups.h"
 
 #include <algorithm>
+#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <optional>
@@ -48,15 +49,30 @@ std::optional<std::vector<DocumentSummary>> backupsIn(const Documents& documents
   return all;
 }
 
-// Two backups can be made within a second: the later one gets a later name, or it would be the next to go.
-std::string freeName(const std::vector<DocumentSummary>& taken, plist::Date date) {
-  const auto isNewest = [&taken](const std::string& name) {
-    return taken.empty() || taken.back().name < name;
+// The time in a backup's name; nothing for a file of another name.
+std::optional<plist::Date> dateIn(std::string_view name) {
+  using namespace std::chrono;
+  const auto number = [name](std::size_t at, std::size_t length) {
+    int value = -1;
+    if (at + length <= name.size()) std::from_chars(name.data() + at, name.data() + at + length, value);
+    return value;
   };
-  const plist::Date latest{date.seconds + static_cast<double>(Backups::maxBackups)};
-  while (date.seconds <= latest.seconds && !isNewest(backupName(date))) date.seconds += 1;
-  // The clock was set back: any name will do.
-  while (std::ranges::contains(taken, backupName(date), &DocumentSummary::name)) date.seconds += 1;
+  const year_month_day day{year(number(5, 4)), month(static_cast<unsigned>(number(10, 2))),
+                           std::chrono::day(static_cast<unsigned>(number(13, 2)))};
+  if (!day.ok()) return std::nullopt;
+  const sys_seconds time =
+      sys_days(day) + hours(number(16, 2)) + minutes(number(18, 2)) + seconds(number(20, 2));
+  const plist::Date date{static_cast<double>((time - sys_days{2001y / January / 1}).count())};
+  return backupName(date) == name ? std::optional(date) : std::nullopt;
+}
+
+// Later than every name that is taken, even if two backups are made within a second or the clock was set
+// back: the oldest name is the next to go.
+std::string freeName(const std::vector<DocumentSummary>& taken, plist::Date date) {
+  for (const DocumentSummary& document : taken) {
+    const auto other = dateIn(document.name);
+    if (other) date.seconds = std::max(date.seconds, other->seconds + 1);
+  }
   return backupName(date);
 }
 

@@ -155,6 +155,11 @@ TEST_F(Slots, TheEightNewestBackupsStayAndOneCanBeRestored) {
   EXPECT_EQ(names.front().name, "save-2001-01-01-000002.plist");
   EXPECT_EQ(names.back().name, "save-2001-01-01-000009.plist");
 
+  // The clock was set back: a new backup is still the last to go.
+  device.documents.files[{"SaveBackups", "save-2031-12-31-235959.plist"}] = Bytes(40);
+  player().press("Back up now");
+  EXPECT_TRUE(device.documents.files.contains({"SaveBackups", "save-2032-01-01-000000.plist"}));
+
   const plist::Dictionary before = stored();
   device.playWeeks(2);
   player().follow({"Settings", "Backups", "Restore Week 1 of 2026", "Restore"});
