@@ -48,7 +48,7 @@ Row backRow(const CareerWeek& week) {
   const std::string when = tb::format("week {} of {}", week.week, week.year);
   return {
       .label = "Back to last week",
-      .detail = "To " + when + ", right before you ended it",
+      .detail = "To " + when + ", before it ended",
       .press = movesTo(week,
                        {.title = "Back to " + when + "?",
                         .message = "The career is again as it was right before you ended that week. The "
