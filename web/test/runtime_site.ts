@@ -249,6 +249,7 @@ export function withoutStorage(): void {
 
 // For visit(): a browser without a place for a second copy.
 export function withoutCopy(): void {
+  if (!isSecureContext) return; // an empty page
   Object.defineProperty(caches, "open", { value: () => Promise.reject(new DOMException("", "SecurityError")) });
 }
 
