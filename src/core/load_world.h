@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "core/damage.h"
 #include "core/game.h"
 
 namespace tb {
@@ -9,6 +12,8 @@ namespace tb {
 // have their start values afterwards.
 //
 // Adds what every career must have: the Basic Needs item, and a fan bonus of 1 while no agent is signed.
-void loadWorld(Game& game);
+//
+// Returns what was damaged. The next save replaces it, so that it is returned once.
+std::vector<Damage> loadWorld(Game& game);
 
 }  // namespace tb

@@ -6,7 +6,7 @@ import { Game, type GameHost, GameStopped } from "./game";
 import { type Change, joined } from "./pieces";
 import type { Storage } from "./storage";
 
-const largestFile = 256 * 1024 * 1024; // bytes; a career of a hundred years needs a tenth of this
+const largestFile = 64 * 1024 * 1024; // bytes; a career of a hundred years needs less than half of this
 
 export async function downloadSave(module: WebAssembly.Module, storage: Storage): Promise<void> {
   const game = await Game.open(module, { commit: () => undefined }, storage.readable());
@@ -29,6 +29,7 @@ export interface Career {
 export interface ReadSave {
   readonly changes: readonly Change[];
   readonly career: Career;
+  readonly findings: readonly string[]; // what is damaged in it
 }
 
 // A page without tabs is the new-career form.
@@ -77,11 +78,14 @@ export async function readSave(
   };
   try {
     const game = await Game.open(module, { commit: keep }, []);
-    const refusal = game.importStore(new Uint8Array(await file.arrayBuffer()));
+    const { refusal, remark } = game.importStore(new Uint8Array(await file.arrayBuffer()));
     if (refusal !== "") return refusal;
     game.setTexts(texts);
     game.start(locale);
-    return { changes, career: careerOn(game.page()) };
+    const page = game.page();
+    // The only notice at the start is about what could not be read.
+    const findings = [remark, ...page.dialog.map(({ message }) => message)].filter((text) => text !== "");
+    return { changes, career: careerOn(page), findings };
   } catch (error) {
     if (error instanceof GameStopped) return "The career in this file can't be opened.";
     return "This file can't be read.";

@@ -4,7 +4,7 @@ import { type JSX } from "preact";
 import { useRef, useState } from "preact/hooks";
 
 import type { Career, ReadSave } from "./saves";
-import type { Shell } from "./shell";
+import { PlayedElsewhere, type Shell } from "./shell";
 
 const named = ({ name, date }: Career): string => (date === "" ? name : `${name}, ${date}`);
 
@@ -55,8 +55,12 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
     try {
       await shell.bringIn(save);
       dialog.current?.close();
-    } catch {
-      setMessage("There is no room to store this save. Your career is as it was.");
+    } catch (error) {
+      setMessage(
+        error instanceof PlayedElsewhere
+          ? "The game is open in another tab. Play here first, then bring the save in."
+          : "There is no room to store this save. Your career is as it was.",
+      );
     }
   };
 
@@ -86,9 +90,14 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
           <div class="shell-question" role="group" aria-label="Bring in this save?">
             <p>
               <strong>{named(question.save.career)}</strong> takes the place of{" "}
-              <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>. Download that
-              one first to keep it.
+              <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>, which stays
+              among the backups.
             </p>
+            {question.save.findings.map((finding) => (
+              <p key={finding} class="shell-finding">
+                {finding}
+              </p>
+            ))}
             <div class="shell-buttons">
               <button type="button" class="shell-button shell-destructive" onClick={() => void bringIn(question.save)}>
                 Replace my career
