@@ -27,7 +27,7 @@ for (const [how, ...scripts] of [["saved"], ["played in memory alone", withoutSt
     await there.getByRole("button", { name: "Replace my career" }).waitFor();
     assert.match(
       await there.getByRole("group", { name: "Bring in this save?" }).innerText(),
-      /^Ada Travels, JANUARY 2, 2026 takes the place of Somebody Else, JANUARY 2, 2026\./,
+      /^Ada Travels, JANUARY 2, 2026 takes the place of Somebody Else, JANUARY 2, 2026, which stays among the backups\./,
     );
     await inspect(there, "saves-question");
     await press(there, "Replace my career");

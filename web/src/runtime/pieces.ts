@@ -92,7 +92,8 @@ export function joined(earlier: readonly Change[], later: readonly Change[]): Ch
       kept.push(change);
       continue;
     }
-    if (isAllDropped || dropped.has(key)) continue;
+    if (isAllDropped) continue;
+    if (change.kind !== "dropAll" && dropped.has(key)) continue;
     if (change.kind === "dropAll") {
       isAllDropped = true;
     } else if (change.kind === "dropKey") {
