@@ -16,7 +16,6 @@
 #include <memory>
 #include <print>
 #include <ranges>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -25,8 +24,8 @@
 #include "screens/app.h"
 #include "shells/native/system_random.h"
 #include "shells/sqlite/sqlite_port.h"
-#include "tests/player.h"
 #include "tests/seeded_random.h"
+#include "tests/submitting_player.h"
 
 namespace tb {
 namespace {
@@ -111,49 +110,6 @@ void makeStar(StorePort& port, RandomSource& random) {
   saveChanges(game);
   if (!store.commit()) std::exit(1);
 }
-
-class Star {
- public:
-  explicit Star(App& app) : app_(app), player_(app) {}
-
-  // Submits for up to that many roles with the listings' buttons.
-  void submit(std::size_t roles) {
-    press("The Backstage");
-    press("Casting Network");
-    const std::size_t before = asked();
-    std::set<std::string> tried;
-    while (asked() < before + roles && pressListing(tried)) press("OK");
-    press("Back");
-    press("Back");
-  }
-  void endWeek() {
-    press("End Week");
-    press("Carry on");
-  }
-
- private:
-  [[nodiscard]] std::size_t asked() const { return app_.game().world.saveAllAuditionList.size(); }
-
-  // Presses the first listing button that was not tried yet; false when there is none.
-  bool pressListing(std::set<std::string>& tried) {
-    for (const auto& usable : player_.usable()) {
-      if (usable.label != "Submit" || !tried.insert(usable.name).second) continue;
-      app_.press(usable.handle);
-      return true;
-    }
-    return false;
-  }
-
-  // Does nothing when there is no such label.
-  void press(const std::string& label) {
-    for (const auto& usable : player_.usable()) {
-      if (usable.label == label) return app_.press(usable.handle);
-    }
-  }
-
-  App& app_;
-  test::Player player_;
-};
 
 // --- Measuring a career ---
 
@@ -244,7 +200,7 @@ class Play {
     counting_ = std::make_unique<CountingPort>(*port_);
     store_ = std::make_unique<SaveStore>(*counting_);
     app_ = std::make_unique<App>(*store_, random_);
-    star_ = std::make_unique<Star>(*app_);
+    star_ = std::make_unique<test::SubmittingPlayer>(*app_);
   }
   void close() {
     star_.reset();
@@ -262,7 +218,7 @@ class Play {
   std::unique_ptr<CountingPort> counting_;
   std::unique_ptr<SaveStore> store_;
   std::unique_ptr<App> app_;
-  std::unique_ptr<Star> star_;
+  std::unique_ptr<test::SubmittingPlayer> star_;
 };
 
 void printHead(std::string_view name) {

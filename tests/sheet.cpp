@@ -58,7 +58,7 @@ void addChanges(std::string& text, std::string_view key, const List<T>& before, 
 
 std::string changesOf(const WorldState& before, const WorldState& now) {
   std::string text;
-#define VARIABLE(Type, key, start, restart, load) addChanges(text, #key, before.key, now.key);
+#define VARIABLE(Type, key, start, restart, load, ...) addChanges(text, #key, before.key, now.key);
 #define RECORDS(Record, key, restart, load) addChanges(text, #key, before.key, now.key);
 #define RUNTIME(Type, name, start, restart) addChanges(text, #name, before.name, now.name);
 #include "core/world_variables.def"

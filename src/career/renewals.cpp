@@ -151,8 +151,8 @@ Audition nextInstalment(Game& game, const Audition& project) {
   next.franchiseId = outsideSagas;
   setSchedule(game, next);
   setPreparation(game, next);
-  setTerms(game, next,
-           successOf(world.saveAllFilmList[*find(world.saveAllFilmList, &Film::filmId, project.filmId)]));
+  const auto film = find(world.saveAllFilmList, &Film::filmId, project.filmId);
+  setTerms(game, next, film ? successOf(world.saveAllFilmList[*film]) : betweenBands);
   return next;
 }
 

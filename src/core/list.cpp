@@ -212,4 +212,18 @@ void ListBase::takeLoaded(ListBase& loaded) {
   changed_ = false;
 }
 
+void ListBase::removeLoaded(const std::vector<std::size_t>& indexes) {
+  auto next = indexes.begin();
+  std::size_t kept = 0;
+  for (std::size_t index = 0; index < slots_.size(); ++index) {
+    if (next != indexes.end() && *next == index) {
+      leaveOut(index);
+      ++next;
+    } else {
+      moveSlot(index, kept++);
+    }
+  }
+  cut(kept);
+}
+
 }  // namespace tb

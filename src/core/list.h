@@ -129,6 +129,20 @@ class ListBase {
   // Moves the elements and pieces of a list that was filled by addLoaded(), as unchanged.
   void takeLoaded(ListBase& loaded);
 
+  // Lets the next save write the whole list, because the stored data could not be read.
+  void saveWhole() {
+    replaceStored();
+    changed_ = true;
+  }
+
+  [[nodiscard]] std::int64_t pieceAt(std::size_t index) const { return slots_[index].piece; }
+
+  // Marks the piece of a loaded element as changed, because the element was mended.
+  void markMended(std::size_t index) { editSlot(index); }
+
+  // Removes the elements at these ascending indexes.
+  void removeLoaded(const std::vector<std::size_t>& indexes);
+
  protected:
   struct Slot {
     void* element;

@@ -17,14 +17,22 @@ void resetWorld(WorldState& world) {
 
 }  // namespace
 
-void loadWorld(Game& game, Reload extent) {
+std::vector<Damage> loadWorld(Game& game, Reload extent) {
   resetWorld(game.world);
   resetWorld(game.stored);
+  std::vector<Damage> damages;
+  const auto note = [&damages](const Damage& damage) {
+    if (damage.any()) damages.push_back(damage);
+  };
   for (const Variable& variable : variables()) {
-    if (variable.load == Load::atStart || extent == Reload::everything) loadVariable(game, variable);
+    if (variable.load == Load::atStart || extent == Reload::everything) note(loadVariable(game, variable));
+  }
+  for (const Variable& variable : variables()) {
+    if (!variable.range.parallel.empty()) note(cutParallel(game, variable));
   }
   ensureBasicNeeds(game);
   normaliseAgentFanBonus(game);
+  return damages;
 }
 
 }  // namespace tb

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "core/damage.h"
 #include "core/game.h"
 
 namespace tb {
@@ -10,6 +13,8 @@ namespace tb {
 // too.
 //
 // Adds what every career must have: the Basic Needs item, and a fan bonus of 1 while no agent is signed.
-void loadWorld(Game& game, Reload extent = Reload::asAtStart);
+//
+// Returns what was damaged. The next save replaces it, so that it is returned once.
+std::vector<Damage> loadWorld(Game& game, Reload extent = Reload::asAtStart);
 
 }  // namespace tb

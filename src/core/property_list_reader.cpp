@@ -3,11 +3,10 @@
 
 #include "core/property_list.h"
 #include "core/property_list_objects.h"
+#include "core/property_list_xml.h"
 
 namespace tb::plist {
-namespace {
 
-// A file with a duplicate key in a dictionary is ambiguous and no writer produces one, so it is rejected.
 bool namesAKeyTwice(const Dictionary& dictionary) {
   std::vector<std::string_view> keys;
   keys.reserve(dictionary.size());
@@ -15,6 +14,8 @@ bool namesAKeyTwice(const Dictionary& dictionary) {
   std::ranges::sort(keys);
   return std::ranges::adjacent_find(keys) != keys.end();
 }
+
+namespace {
 
 class ValueReader {
  public:

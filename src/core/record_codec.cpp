@@ -17,8 +17,6 @@ std::string describe(const DecodeError& error) {
   switch (error.kind) {
     case DecodeError::Kind::unreadable:
       return std::string(plist::describe(error.readError));
-    case DecodeError::Kind::missingField:
-      return tb::format("A record of the list has no {}.", error.field);
     case DecodeError::Kind::wrongKind:
       if (error.field.empty()) return "The list, or an element of it, is of the wrong kind.";
       return tb::format("The {} of a record is of the wrong kind.", error.field);
@@ -114,9 +112,10 @@ class ListDecoder {
  public:
   ListDecoder(const plist::Objects& objects, std::size_t fileSize) : objects_(objects), budget_(fileSize) {}
 
-  // Reads the list into the elements that append(list) creates.
-  bool readElements(plist::Reference reference, const ValueType& type, void* (*append)(void* list),
-                    void* list);
+  // Reads the file's list into the elements that append(list) creates, and goes on after unread ones.
+  bool readList(plist::Reference reference, const ValueType& type, void* (*append)(void* list), void* list);
+
+  [[nodiscard]] std::vector<UnreadElement> takeUnread() { return std::move(unread_); }
 
   [[nodiscard]] const DecodeError& error() const { return error_; }
 
@@ -136,6 +135,8 @@ class ListDecoder {
   // These set their argument and return true, or set error_ and return false.
 
   bool read(plist::Reference reference, const ValueType& type, void* value);
+  bool readElements(plist::Reference reference, const ValueType& type, void* (*append)(void* list),
+                    void* list);
   template <NumberType T>
   bool readNumber(const Object& object, void* value);
   bool readQuickly(plist::Reference reference, const ValueType& type, void* value);
@@ -155,7 +156,6 @@ class ListDecoder {
   // These set error_ and return false.
   bool unreadable(ReadError error);
   bool wrongKind();
-  bool missingField(std::string_view name);
   bool inField(std::string_view name);
 
   const plist::Objects& objects_;
@@ -164,6 +164,7 @@ class ListDecoder {
   std::vector<Layout> layouts_;
   std::vector<plist::Reference> values_;  // of the fields of the current record and its enclosing records
   DecodeError error_;
+  std::vector<UnreadElement> unread_;
 };
 
 bool ListDecoder::unreadable(ReadError error) {
@@ -173,11 +174,6 @@ bool ListDecoder::unreadable(ReadError error) {
 
 bool ListDecoder::wrongKind() {
   error_ = {.kind = DecodeError::Kind::wrongKind};
-  return false;
-}
-
-bool ListDecoder::missingField(std::string_view name) {
-  error_ = {.kind = DecodeError::Kind::missingField, .field = name};
   return false;
 }
 
@@ -283,6 +279,20 @@ bool ListDecoder::leave() {
   return true;
 }
 
+bool ListDecoder::readList(plist::Reference reference, const ValueType& type, void* (*append)(void* list),
+                           void* list) {
+  Object array;
+  if (!enter(reference, ObjectKind::array, type.size, array)) return false;
+  const std::size_t depth = depth_;
+  for (std::size_t index = 0; index < array.entries; ++index) {
+    if (read(objects_.referenceAt(array.content, index), type, append(list))) continue;
+    unread_.push_back({index, error_});
+    depth_ = depth;
+    values_.clear();
+  }
+  return leave();
+}
+
 bool ListDecoder::readElements(plist::Reference reference, const ValueType& type, void* (*append)(void* list),
                                void* list) {
   Object array;
@@ -321,8 +331,7 @@ bool ListDecoder::enterRecord(plist::Reference reference, const ValueType& type)
 }
 
 bool ListDecoder::readField(plist::Reference value, const FieldType& field, void* content) {
-  if (value == missing) return field.type->form == Form::optional || missingField(field.name);
-  return read(value, *field.type, content) || inField(field.name);
+  return value == missing || read(value, *field.type, content) || inField(field.name);
 }
 
 const ListDecoder::Layout* ListDecoder::layoutOf(const Object& dictionary, const ValueType& type) {
@@ -357,13 +366,20 @@ bool ListDecoder::findFields(const Object& dictionary, std::span<const FieldType
 
 }  // namespace
 
-std::expected<void, DecodeError> decodeList(std::span<const std::byte> file, const ValueType& type,
-                                            void* (*append)(void* list), void* list) {
+std::expected<std::vector<UnreadElement>, DecodeError> decodeList(std::span<const std::byte> file,
+                                                                  const ValueType& type,
+                                                                  void* (*append)(void* list), void* list) {
   const auto objects = plist::Objects::open(file);
   if (!objects) return std::unexpected(DecodeError{DecodeError::Kind::unreadable, objects.error(), {}});
   ListDecoder decoder(*objects, file.size());
-  if (!decoder.readElements(objects->root(), type, append, list)) return std::unexpected(decoder.error());
-  return {};
+  if (!decoder.readList(objects->root(), type, append, list)) return std::unexpected(decoder.error());
+  return decoder.takeUnread();
+}
+
+std::size_t elementsIn(std::span<const std::byte> file) {
+  const auto objects = plist::Objects::open(file);
+  const auto root = objects.and_then([](const plist::Objects& all) { return all.object(all.root()); });
+  return root && root->kind == ObjectKind::array ? root->entries : 0;
 }
 
 }  // namespace tb

@@ -5,8 +5,8 @@
 //
 // A list of records is an array of dictionaries with the field names as keys, in order. An empty optional
 // field is omitted; a nested record is a dictionary; a vector is an array. When decoding, unknown keys are
-// ignored and a missing optional field is empty. A list with any other missing field, or a value of the wrong
-// type (value_conversion.h), is rejected as a whole.
+// ignored, and a missing field keeps its start value, so that a field can be added to a record. An element
+// with a value of the wrong type (value_conversion.h) is unread, and the others of its list are read.
 
 #include <cstddef>
 #include <expected>
@@ -27,9 +27,8 @@ namespace tb {
 
 struct DecodeError {
   enum class Kind : std::uint8_t {
-    unreadable,    // `readError` says why
-    missingField,  // a record without `field`
-    wrongKind,     // `field` has another type; without a field, the list or an element has
+    unreadable,  // `readError` says why
+    wrongKind,   // `field` has another type; without a field, the list or an element has
   };
   Kind kind = Kind::unreadable;
   plist::ReadError readError = plist::ReadError::notAPropertyList;
@@ -69,11 +68,19 @@ class ListEncoder {
   std::vector<Keys> keys_;
 };
 
-// Decodes the elements of a list. `append(list)` adds a new element of the described type for each. Elements
-// appended before an error stay.
-[[nodiscard]] std::expected<void, DecodeError> decodeList(std::span<const std::byte> file,
-                                                          const ValueType& type, void* (*append)(void* list),
-                                                          void* list);
+// An element that can't be decoded.
+struct UnreadElement {
+  std::size_t index;  // in the file's list
+  DecodeError why;
+};
+
+// Decodes the elements of a list. `append(list)` adds a new element of the described type for each, also for
+// an unread one, whose value then has no meaning. The error is about the list as a whole.
+[[nodiscard]] std::expected<std::vector<UnreadElement>, DecodeError> decodeList(
+    std::span<const std::byte> file, const ValueType& type, void* (*append)(void* list), void* list);
+
+// The number of elements in an encoded list; 0 if it can't be decoded.
+[[nodiscard]] std::size_t elementsIn(std::span<const std::byte> file);
 
 namespace detail {
 
@@ -92,6 +99,7 @@ std::expected<std::vector<T>, DecodeError> decodeVector(std::span<const std::byt
   std::vector<T> elements;
   const auto decoded = decodeList(file, typeOf<T>, vectorElements<T>.append, &elements);
   if (!decoded) return std::unexpected(decoded.error());
+  if (!decoded->empty()) return std::unexpected(decoded->front().why);
   return elements;
 }
 

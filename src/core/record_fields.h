@@ -9,6 +9,8 @@
 // in the order of the struct. The encoder, the decoder and the tests use that list. A missing, repeated or
 // misordered field does not compile, so every field is saved.
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -16,6 +18,8 @@
 #include <tuple>
 #include <type_traits>
 #include <utility>
+
+#include "core/range.h"
 
 namespace tb {
 
@@ -33,6 +37,16 @@ inline constexpr auto fieldsOf = nullptr;
 // Specialized by RECORD_COLUMNS in the same way.
 template <class Record>
 inline constexpr auto columnsOf = std::tuple{};
+
+// The lawful values of a field.
+struct FieldRange {
+  std::string_view field;
+  Range range;
+};
+
+// Specialized by RECORD_RANGES.
+template <class Record>
+inline constexpr auto rangesOf = std::array<FieldRange, 0>{};
 
 template <class T>
 concept RecordType = !std::is_same_v<decltype(fieldsOf<T>), const std::nullptr_t>;
@@ -82,6 +96,18 @@ consteval bool describesWholeRecord() {
          detail::inOrder<Record>(std::make_index_sequence<named - 1>{});
 }
 
+// Whether each range is of a field of the record.
+template <class Record>
+consteval bool rangesFit() {
+  return std::ranges::all_of(rangesOf<Record>, [](const FieldRange& row) {
+    const auto isField = [](std::string_view name) {
+      return std::apply([name](const auto&... field) { return ((field.name == name) || ...); },
+                        fieldsOf<Record>);
+    };
+    return isField(row.field) && (row.range.parallel.empty() || isField(row.range.parallel));
+  });
+}
+
 }  // namespace tb
 
 #define TB_PARENTHESES ()
@@ -110,3 +136,9 @@ consteval bool describesWholeRecord() {
   inline constexpr auto columnsOf<Record> = std::tuple { \
     TB_FIELD_LIST(Record, __VA_ARGS__)                   \
   }
+
+// Follows RECORD_FIELDS: {field, range} for the fields whose values a rule relies on (core/range.h).
+#define RECORD_RANGES(Record, ...)                                                   \
+  template <>                                                                        \
+  inline constexpr auto rangesOf<Record> = std::to_array<FieldRange>({__VA_ARGS__}); \
+  static_assert(rangesFit<Record>(), #Record " has no such field")

@@ -1,16 +1,19 @@
 #include "core/save.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <expected>
 #include <optional>
 #include <set>
 #include <string>
 #include <type_traits>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
 #include "core/columns.h"
 #include "core/debug_log.h"
+#include "core/lawful.h"
 #include "core/record_codec.h"
 #include "core/save_store.h"
 #include "core/value_conversion.h"
@@ -119,14 +122,52 @@ void saveStartValues(Game& game) {
 
 // --- Loading ---
 
-// The result of loading: nothing, or why the variable was not loaded, for the debug log.
-using LoadFailure = std::optional<std::string>;
-
 constexpr const char* otherKind = "The stored value is of another kind.";
 
-// Adds the elements in `bytes` to the list as piece `number`.
-LoadFailure addPiece(const Variable& variable, ListBase& list, std::int64_t number,
-                     std::span<const std::byte> bytes) {
+// Loads one variable and notes what is damaged.
+class Loader {
+ public:
+  Loader(Game& game, const Variable& variable) : game_(game), variable_(variable), damage_{&variable} {}
+
+  Damage load(const SaveStore::Entry& stored) {
+    if (variable_.isList) {
+      loadList(stored);
+    } else {
+      loadPlain(stored);
+    }
+    return damage_;
+  }
+
+ private:
+  void loadPlain(const SaveStore::Entry& stored);
+  void loadList(const SaveStore::Entry& stored);
+  void loadPieces(const SaveStore::Entry& stored);
+  void loadImported(const Bytes& stored);
+  std::expected<void, std::string> addPiece(ListBase& list, std::int64_t number,
+                                            std::span<const std::byte> bytes);
+  void addUnread(ListBase& list, std::int64_t number, std::size_t count);
+  [[nodiscard]] std::size_t unreadIn(const SaveStore::Entry& stored, std::int64_t number) const;
+  void loadColumns();
+  bool layColumn(const SaveStore::Entry& stored, const FieldType& column, const Stretches& stretches);
+  void mendElements();
+  [[nodiscard]] std::size_t excessElements();
+  bool mendElement(std::size_t index);
+  [[nodiscard]] bool hasOwnId(std::size_t index);
+  void keepElementAside(std::size_t index);
+  void loseWhole(std::string_view why);
+  void log(std::string_view why) const { debugLog(std::string(variable_.key) + ": " + std::string(why)); }
+  [[nodiscard]] ListBase& list() { return listOf(game_.world, variable_); }
+
+  Game& game_;
+  const Variable& variable_;
+  Damage damage_;
+  std::vector<std::size_t> unread_;       // indexes of elements without a value
+  std::unordered_set<std::int64_t> ids_;  // of the records so far
+};
+
+// Adds the elements in `bytes` to the list as piece `number`. The error is about the piece as a whole.
+std::expected<void, std::string> Loader::addPiece(ListBase& list, std::int64_t number,
+                                                  std::span<const std::byte> bytes) {
   struct Target {
     ListBase& list;
     std::int64_t piece;
@@ -136,23 +177,56 @@ LoadFailure addPiece(const Variable& variable, ListBase& list, std::int64_t numb
     const auto& [appended, piece] = *static_cast<Target*>(to);
     return appended.addLoaded(piece);
   };
-  const auto decoded = decodeList(bytes, *variable.type, append, &target);
-  return decoded ? std::nullopt : LoadFailure(describe(decoded.error()));
+  const std::size_t first = list.size();
+  const auto decoded = decodeList(bytes, *variable_.type, append, &target);
+  if (!decoded) return std::unexpected(describe(decoded.error()));
+  for (const UnreadElement& element : *decoded) unread_.push_back(first + element.index);
+  damage_.lost += decoded->size();
+  if (!decoded->empty()) log(describe(decoded->front().why));
+  return {};
 }
 
-// Loads the stored pieces, all or none.
-LoadFailure loadPieces(const Variable& variable, const SaveStore::Entry& stored, ListBase& list) {
-  ListBase loaded(list.operations());
-  for (const auto& [number, bytes] : stored.pieces) {
-    if (LoadFailure failure = addPiece(variable, loaded, number, bytes)) return failure;
+// Adds elements in the place of a piece that can't be decoded.
+void Loader::addUnread(ListBase& list, std::int64_t number, std::size_t count) {
+  for (std::size_t index = 0; index < count; ++index) {
+    unread_.push_back(list.size());
+    list.addLoaded(number);
   }
-  list.takeLoaded(loaded);
-  return std::nullopt;
+}
+
+// The number of elements in a piece that can't be decoded: what the other pieces leave of a column's stretch,
+// or 1 if the list has no columns.
+std::size_t Loader::unreadIn(const SaveStore::Entry& stored, std::int64_t number) const {
+  const auto column = std::ranges::find(variable_.type->fields, true, &FieldType::isColumn);
+  if (column == variable_.type->fields.end()) return 1;
+  const SaveStore::Entry* const columns = game_.store.entry(columnKey(variable_.key, column->name));
+  if (columns == nullptr || !columns->pieces.contains(stretchOf(number))) return 1;
+  const std::size_t all = elementsIn(columns->pieces.at(stretchOf(number)));
+  std::size_t others = 0;
+  for (const auto& [other, bytes] : stored.pieces) {
+    if (other != number && stretchOf(other) == stretchOf(number)) others += elementsIn(bytes);
+  }
+  return all > others ? all - others : 1;
+}
+
+void Loader::loadPieces(const SaveStore::Entry& stored) {
+  ListBase loaded(list().operations());
+  for (const auto& [number, bytes] : stored.pieces) {
+    const std::size_t unreadBefore = unread_.size();
+    if (const auto added = addPiece(loaded, number, bytes); !added) {
+      log(added.error());
+      const std::size_t count = unreadIn(stored, number);
+      addUnread(loaded, number, count);
+      damage_.lost += std::max(count, list().operations().pieceLength);
+      damage_.isAtMost = true;
+    }
+    if (unread_.size() > unreadBefore) game_.store.keepAside(variable_.key, number);
+  }
+  list().takeLoaded(loaded);
 }
 
 // Sets a column's values in the loaded records. False if part of the column is damaged.
-bool layColumn(const SaveStore::Entry& stored, const FieldType& column, const Stretches& stretches,
-               ListBase& list) {
+bool Loader::layColumn(const SaveStore::Entry& stored, const FieldType& column, const Stretches& stretches) {
   if (stored.shape != Shape::column) return false;
   bool fits = true;
   for (const auto& [number, bytes] : stored.pieces) {
@@ -163,7 +237,7 @@ bool layColumn(const SaveStore::Entry& stored, const FieldType& column, const St
       continue;
     }
     for (std::size_t index = 0; index < values->size(); ++index) {
-      auto* const record = static_cast<std::byte*>(list.loadedElement(part->second.first + index));
+      auto* const record = static_cast<std::byte*>(list().loadedElement(part->second.first + index));
       visitPlain(column.type->form, record + column.offset, [&]<class T>(T& field) {
         const auto value = valueAs<T>((*values)[index]);
         if (value) field = *value;
@@ -175,77 +249,146 @@ bool layColumn(const SaveStore::Entry& stored, const FieldType& column, const St
 }
 
 // A damaged column loses the values set since the records' pieces were stored, and nothing else.
-void loadColumns(SaveStore& store, const Variable& variable, ListBase& list) {
+void Loader::loadColumns() {
   Stretches stretches;
-  for (const auto& piece : list.pieces()) addPiece(stretches, piece.piece, piece.first, piece.count);
-  for (const FieldType& field : variable.type->fields) {
-    const std::string key = columnKey(variable.key, field.name);
-    const SaveStore::Entry* const stored = field.isColumn ? store.entry(key) : nullptr;
-    if (stored == nullptr || layColumn(*stored, field, stretches, list)) continue;
-    store.keepAside(key);
+  for (const auto& piece : list().pieces()) tb::addPiece(stretches, piece.piece, piece.first, piece.count);
+  for (const FieldType& field : variable_.type->fields) {
+    const std::string key = columnKey(variable_.key, field.name);
+    const SaveStore::Entry* const stored = field.isColumn ? game_.store.entry(key) : nullptr;
+    if (stored == nullptr || layColumn(*stored, field, stretches)) continue;
+    game_.store.keepAside(key);
     debugLog(key + ": damaged");
-    list.replaceStored();  // the next save repairs it
+    list().saveWhole();
+    damage_.columns += 1;
   }
 }
 
 // Loads an imported list, which is one plain value: records in a Data, plain values in an array. It has no
 // pieces, so its next save writes all of it.
-LoadFailure loadImported(const Variable& variable, const Bytes& stored, ListBase& list) {
-  ListBase loaded(list.operations());
-  LoadFailure failure;
-  if (shapeOf(variable) == Shape::recordList) {
+void Loader::loadImported(const Bytes& stored) {
+  ListBase loaded(list().operations());
+  std::expected<void, std::string> added;
+  if (shapeOf(variable_) == Shape::recordList) {
     const auto value = plist::read(stored);
-    if (!value) return std::string(plist::describe(value.error()));
+    if (!value) return loseWhole(plist::describe(value.error()));
     const auto* const data = value->as<plist::Data>();
-    if (data == nullptr) return otherKind;
-    failure = addPiece(variable, loaded, 0, data->bytes);
+    if (data == nullptr) return loseWhole(otherKind);
+    added = addPiece(loaded, 0, data->bytes);
   } else {
-    failure = addPiece(variable, loaded, 0, stored);
+    added = addPiece(loaded, 0, stored);
   }
-  if (failure) return failure;
-  list.takeLoaded(loaded);
-  list.replaceStored();
-  return std::nullopt;
+  if (!added) return loseWhole(added.error());
+  if (!unread_.empty()) game_.store.keepAside(variable_.key);
+  list().takeLoaded(loaded);
+  list().replaceStored();
 }
 
-LoadFailure loadList(SaveStore& store, const Variable& variable, const SaveStore::Entry& stored,
-                     ListBase& list) {
-  LoadFailure failure = otherKind;
-  if (stored.shape == shapeOf(variable)) {
-    failure = loadPieces(variable, stored, list);
-    if (!failure) loadColumns(store, variable, list);
+void Loader::loadList(const SaveStore::Entry& stored) {
+  if (stored.shape == shapeOf(variable_)) {
+    loadPieces(stored);
+    loadColumns();
+  } else if (stored.shape == Shape::plain) {
+    loadImported(stored.pieces.begin()->second);
+  } else {
+    loseWhole(otherKind);
   }
-  if (stored.shape == Shape::plain) failure = loadImported(variable, stored.pieces.begin()->second, list);
-  if (failure) list.replaceStored();  // the next save must replace the unreadable data
-  return failure;
+  mendElements();
 }
 
-LoadFailure loadPlain(Game& game, const Variable& variable, const SaveStore::Entry& stored) {
-  if (stored.shape != Shape::plain) return otherKind;
+// Mends the elements that were read, and removes the others: last, because columns have values for them.
+void Loader::mendElements() {
+  std::vector<std::size_t> gone;
+  const std::size_t excess = excessElements();
+  damage_.lost += excess;
+  for (std::size_t index = 0; index < list().size(); ++index) {
+    const bool isUnread = std::ranges::binary_search(unread_, index);
+    if (isUnread || index < excess || !mendElement(index)) gone.push_back(index);
+  }
+  if (!gone.empty()) list().removeLoaded(gone);
+}
+
+// Of a history that is longer than any rule makes it, the oldest entries are dropped.
+std::size_t Loader::excessElements() {
+  const bool isHistory = variable_.type->form == Form::integer || variable_.type->form == Form::real;
+  return isHistory && list().size() > longestNumberList ? list().size() - longestNumberList : 0;
+}
+
+// Whether the record has an id that no record before it has; true if its records have no ids.
+bool Loader::hasOwnId(std::size_t index) {
+  const auto field = std::ranges::find(variable_.type->fields, Range::Kind::id,
+                                       [](const FieldType& each) { return each.range.kind; });
+  if (field == variable_.type->fields.end()) return true;
+  const void* const id = static_cast<const std::byte*>(list().element(index)) + field->offset;
+  return ids_.insert(*static_cast<const std::int64_t*>(id)).second;
+}
+
+// False if the element can't be used; then it is set aside.
+bool Loader::mendElement(std::size_t index) {
+  const Mending mending = makeLawful(*variable_.type, variable_.range, list().loadedElement(index));
+  if (mending.mended > 0) list().markMended(index);
+  if (mending.isPossible && hasOwnId(index)) {
+    damage_.mended += mending.mended;
+    return true;
+  }
+  damage_.impossible += 1;
+  keepElementAside(index);
+  return false;
+}
+
+void Loader::keepElementAside(std::size_t index) {
+  const SaveStore::Entry& stored = *game_.store.entry(variable_.key);
+  const bool hasPieces = stored.shape != Shape::plain && !list().replacesStored();
+  if (hasPieces) {
+    game_.store.keepAside(variable_.key, list().pieceAt(index));
+  } else {
+    game_.store.keepAside(variable_.key);
+  }
+}
+
+void Loader::loadPlain(const SaveStore::Entry& stored) {
+  if (stored.shape != Shape::plain) return loseWhole(otherKind);
   const auto held = plist::read(stored.pieces.begin()->second);
-  if (!held) return std::string(plist::describe(held.error()));
-  return visitPlain(variable.type->form, memberOf(game.world, variable),
-                    [&]<class T>(T& value) -> LoadFailure {
-                      auto read = valueAs<T>(*held);
-                      if (!read) return otherKind;
-                      value = *std::move(read);
-                      *static_cast<T*>(memberOf(game.stored, variable)) = value;
-                      return std::nullopt;
-                    });
+  if (!held) return loseWhole(plist::describe(held.error()));
+  visitPlain(variable_.type->form, memberOf(game_.world, variable_), [&]<class T>(T& value) {
+    auto read = valueAs<T>(*held);
+    if (!read) return loseWhole(otherKind);
+    value = *std::move(read);
+    *static_cast<T*>(memberOf(game_.stored, variable_)) = value;
+    damage_.mended = makeLawful(*variable_.type, variable_.range, &value).mended;
+  });
+}
+
+// The value can't be read at all: the variable stays as it is.
+void Loader::loseWhole(std::string_view why) {
+  log(why);
+  damage_.isWhole = true;
+  game_.store.keepAside(variable_.key);
+  if (variable_.isList) return list().saveWhole();
+  visitPlain(variable_.type->form, memberOf(game_.world, variable_), [&]<class T>(const T& value) {
+    game_.store.put(variable_.key, toValue(value));
+    *static_cast<T*>(memberOf(game_.stored, variable_)) = value;
+  });
 }
 
 }  // namespace
 
-// Unreadable data is set aside, not lost.
-void loadVariable(Game& game, const Variable& variable) {
+Damage loadVariable(Game& game, const Variable& variable) {
   const SaveStore::Entry* const stored = game.store.entry(variable.key);
-  if (stored == nullptr) return;
-  const LoadFailure failure = variable.isList
-                                  ? loadList(game.store, variable, *stored, listOf(game.world, variable))
-                                  : loadPlain(game, variable, *stored);
-  if (!failure) return;
-  game.store.keepAside(variable.key);
-  debugLog(std::string(variable.key) + ": " + *failure);
+  return stored == nullptr ? Damage{&variable} : Loader(game, variable).load(*stored);
+}
+
+Damage cutParallel(Game& game, const Variable& variable) {
+  const auto other = std::ranges::find(variables(), variable.range.parallel, &Variable::key);
+  Damage damage{&variable};
+  const std::size_t length = std::min(listOf(game.world, variable).size(), listOf(game.world, *other).size());
+  for (const Variable* const row : {&variable, &*other}) {
+    ListBase& list = listOf(game.world, *row);
+    damage.lost += list.size() - length;
+    std::vector<std::size_t> gone;
+    for (std::size_t index = length; index < list.size(); ++index) gone.push_back(index);
+    if (!gone.empty()) list.removeLoaded(gone);
+  }
+  return damage;
 }
 
 bool saveChanges(Game& game) {

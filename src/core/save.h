@@ -6,6 +6,7 @@
 // Encoding can't fail: every value of the state can be represented in a property list, including ill-formed
 // UTF-8.
 
+#include "core/damage.h"
 #include "core/game.h"
 #include "core/variables.h"
 
@@ -16,7 +17,11 @@ namespace tb {
 bool saveChanges(Game& game);
 
 // Loads a variable. A missing key, a value of another type, or data that can't be decoded does not change the
-// variable; unreadable data is set aside in the store, so that it is not lost when the variable is saved.
-void loadVariable(Game& game, const Variable& variable);
+// variable. Of a list, the elements that can be read are loaded. Unreadable data is set aside in the store,
+// and the next save replaces it, so that it is reported once.
+Damage loadVariable(Game& game, const Variable& variable);
+
+// Cuts lists of different lengths that are parallel by their rows.
+Damage cutParallel(Game& game, const Variable& variable);
 
 }  // namespace tb

@@ -12,19 +12,36 @@ namespace {
 struct JoinedList {
   plist::Array elements;
   Stretches stretches;
+  std::size_t unread = 0;  // pieces that can't be decoded
 };
 
-// The pieces of a list as one array; nothing when a piece can't be decoded.
+// The pieces of a list as one array; nothing when no piece can be decoded.
 std::optional<JoinedList> joined(const SaveStore::Entry& entry) {
   JoinedList all;
   for (const auto& [number, bytes] : entry.pieces) {
     auto piece = plist::read(bytes);
     auto* elements = piece ? std::get_if<plist::Array>(&piece->held) : nullptr;
-    if (elements == nullptr) return std::nullopt;
+    if (elements == nullptr) {
+      all.unread += 1;
+      continue;
+    }
     addPiece(all.stretches, number, all.elements.size(), elements->size());
     std::ranges::move(*elements, std::back_inserter(all.elements));
   }
+  if (all.unread == entry.pieces.size()) return std::nullopt;
   return all;
+}
+
+// Whether all pieces of a value can be decoded.
+bool isSound(const SaveStore::Entry& entry) {
+  if (entry.shape == Shape::plain) return plist::read(entry.pieces.begin()->second).has_value();
+  const auto all = joined(entry);
+  return all && all->unread == 0;
+}
+
+// A column or a journal has no value of its own.
+bool isUnreadable(const SaveStore::Entry& entry) {
+  return entry.shape != Shape::column && entry.shape != Shape::journal && !isSound(entry);
 }
 
 // Sets the field of a record if its value has the same kind.
@@ -39,19 +56,20 @@ void setField(plist::Value& record, std::string_view field, plist::Value value) 
 }  // namespace
 
 SaveStore::SaveStore(StorePort& port) : port_(port) {
-  std::set<std::string, std::less<>> mixed;
-  for (StoredPiece& stored : port_.load()) {
-    const auto [at, added] = entries_.try_emplace(stored.key, Entry{.shape = stored.shape, .pieces = {}});
-    if (at->second.shape == stored.shape) {
-      at->second.pieces.insert_or_assign(stored.piece, std::move(stored.bytes));
+  std::vector<StoredPiece> all = port_.load();
+  std::map<std::string, std::map<Shape, std::size_t>, std::less<>> shapes;
+  for (const StoredPiece& stored : all) shapes[stored.key][stored.shape] += 1;
+  for (StoredPiece& stored : all) {
+    const auto& counts = shapes.find(stored.key)->second;
+    const Shape shape =
+        std::ranges::max_element(counts, {}, [](const auto& count) { return count.second; })->first;
+    Entry& entry = entries_.try_emplace(stored.key, Entry{.shape = shape, .pieces = {}}).first->second;
+    Bytes& bytes = entry.pieces[stored.piece];
+    if (stored.shape == shape) {
+      bytes = std::move(stored.bytes);
     } else {
-      mixed.insert(stored.key);
       addAside(std::move(stored));
     }
-  }
-  for (const std::string& key : mixed) {
-    keepAside(key);
-    remove(key);
   }
   weeks_.load();
 }
@@ -146,8 +164,14 @@ void SaveStore::putPieces(std::string_view key, Shape shape, bool replace, std::
 void SaveStore::keepAside(std::string_view key) {
   const Entry* const stored = entry(key);
   if (stored == nullptr) return;
-  for (const auto& [piece, bytes] : stored->pieces) addAside({std::string(key), stored->shape, piece, bytes});
+  for (const auto& [piece, bytes] : stored->pieces) keepAside(key, piece);
   for (const std::string& column : columnsOf(key)) keepAside(column);
+}
+
+void SaveStore::keepAside(std::string_view key, std::int64_t piece) {
+  const Entry* const stored = entry(key);
+  const auto at = stored->pieces.find(piece);
+  addAside({std::string(key), stored->shape, piece, at->second});
 }
 
 plist::Dictionary SaveStore::dictionary() const {
@@ -158,14 +182,9 @@ plist::Dictionary SaveStore::dictionary() const {
   return all;
 }
 
-// A column or a journal has no value of its own.
-bool SaveStore::isUnreadable(std::string_view key, const Entry& entry) const {
-  return entry.shape != Shape::column && entry.shape != Shape::journal && !value(key);
-}
-
 void SaveStore::replace(const plist::Dictionary& values) {
   for (const auto& [key, entry] : entries_) {
-    if (isUnreadable(key, entry)) keepAside(key);
+    if (isUnreadable(entry)) keepAside(key);
   }
   weeks_.reset();
   entries_.clear();
@@ -208,9 +227,7 @@ void SaveStore::dropKey(std::string_view key, Entry& entry) {
 }
 
 // A piece is added only once, although every load finds it unreadable until it is overwritten.
-void SaveStore::addAside(StoredPiece piece) {
-  if (!std::ranges::contains(aside_, piece)) aside_.push_back(std::move(piece));
-}
+void SaveStore::addAside(StoredPiece piece) { aside_.insert(std::move(piece)); }
 
 SaveStore::Waiting& SaveStore::waitingFor(std::string_view key) {
   return waiting_.try_emplace(std::string(key)).first->second;

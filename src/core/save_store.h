@@ -40,7 +40,7 @@ struct StoredPiece {
   Shape shape = Shape::plain;
   std::int64_t piece = 0;
   Bytes bytes;
-  bool operator==(const StoredPiece&) const = default;
+  auto operator<=>(const StoredPiece&) const = default;
 };
 
 // A step of a commit. Steps are applied in order, all or none.
@@ -64,7 +64,8 @@ class StorePort {
   StorePort& operator=(const StorePort&) = delete;
   virtual ~StorePort() = default;
 
-  // All stored pieces, in any order. Called once, by the store's constructor.
+  // All stored pieces, in any order. A piece that the storage can't read has no bytes. Called once, by the
+  // store's constructor.
   virtual std::vector<StoredPiece> load() = 0;
 
   // Makes the changes durable, all or none. Setting aside a piece that is already set aside does nothing. The
@@ -74,8 +75,8 @@ class StorePort {
 
 class SaveStore {
  public:
-  // Loads everything from the port. A key with pieces of different shapes can't be joined: it is set aside
-  // and counts as missing.
+  // Loads everything from the port. Of a key with pieces of different shapes, those of the most frequent
+  // shape are kept; the others are set aside and stay as unreadable pieces.
   explicit SaveStore(StorePort& port);
   SaveStore(const SaveStore&) = delete;
   SaveStore& operator=(const SaveStore&) = delete;
@@ -83,8 +84,8 @@ class SaveStore {
   [[nodiscard]] bool isEmpty() const { return entries_.empty(); }
   [[nodiscard]] bool contains(std::string_view key) const;
 
-  // The value of the key with its pieces joined and its columns applied; nothing when there is none or a
-  // piece can't be decoded. A column that can't be decoded is ignored.
+  // The value of the key with its pieces joined and its columns applied; nothing when there is none or it
+  // can't be decoded. Pieces and columns of a list that can't be decoded are left out.
   [[nodiscard]] std::optional<plist::Value> value(std::string_view key) const;
 
   // The stored pieces of a key by piece number; empty when there are none. Valid until the next write.
@@ -116,6 +117,8 @@ class SaveStore {
   // The weeks that can be taken back.
   [[nodiscard]] WeekHistory& weeks() { return weeks_; }
   [[nodiscard]] const WeekHistory& weeks() const { return weeks_; }
+  // The same for one piece of a key.
+  void keepAside(std::string_view key, std::int64_t piece);
 
   // The whole store as a dictionary in alphabetical order, and its replacement by any dictionary. replace()
   // stores a Data or an array as a plain value, which is split into pieces when it is next written. replace()
@@ -142,7 +145,6 @@ class SaveStore {
   void dropPiece(std::string_view key, Entry& entry, std::int64_t piece);
   void dropKey(std::string_view key, Entry& entry);
   [[nodiscard]] std::vector<std::string> columnsOf(std::string_view list) const;
-  [[nodiscard]] bool isUnreadable(std::string_view key, const Entry& entry) const;
   void layColumns(std::string_view key, plist::Array& records, const Stretches& stretches) const;
   void addAside(StoredPiece piece);
   Waiting& waitingFor(std::string_view key);
@@ -151,7 +153,7 @@ class SaveStore {
   StorePort& port_;
   std::map<std::string, Entry, std::less<>> entries_;
   std::map<std::string, Waiting, std::less<>> waiting_;
-  std::vector<StoredPiece> aside_;  // pending pieces to set aside
+  std::set<StoredPiece> aside_;  // pending pieces to set aside
   bool drops_all_ = false;
   WeekHistory weeks_{*this};
 };

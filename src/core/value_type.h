@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "core/property_list.h"
+#include "core/range.h"
 #include "core/record_fields.h"
 
 namespace tb {
@@ -26,13 +27,15 @@ struct FieldType {
   std::size_t offset;  // in the record, in bytes
   const ValueType* type;
   bool isColumn;  // core/columns.h
+  Range range;
 };
 
 // Access to the elements of a vector or of an optional (none or one).
 struct Elements {
   std::size_t (*count)(const void* container) = nullptr;
   const void* (*at)(const void* container, std::size_t index) = nullptr;
-  void* (*append)(void* container) = nullptr;  // adds a default element
+  void* (*append)(void* container) = nullptr;                  // adds a default element
+  void (*cut)(void* container, std::size_t length) = nullptr;  // drops the elements from `length` on
 };
 
 struct ValueType {
@@ -75,10 +78,20 @@ consteval bool isColumn(std::size_t offset) {
 }
 
 template <class Record>
+consteval Range rangeOf(std::string_view field) {
+  Range range;
+  for (const FieldRange& row : rangesOf<Record>) {
+    if (row.field == field) range = row.range;
+  }
+  return range;
+}
+
+template <class Record>
 inline constexpr auto fieldTypes = [] {
   return std::apply(
       []<class... T>(const RecordField<Record, T>&... field) {
-        return std::array{FieldType{field.name, field.offset, &typeOf<T>, isColumn<Record>(field.offset)}...};
+        return std::array{FieldType{field.name, field.offset, &typeOf<T>, isColumn<Record>(field.offset),
+                                    rangeOf<Record>(field.name)}...};
       },
       fieldsOf<Record>);
 }();
@@ -91,7 +104,9 @@ inline constexpr Elements vectorElements{
     },
     .append = [](void* container) -> void* {
       return &static_cast<std::vector<T>*>(container)->emplace_back();
-    }};
+    },
+    .cut = [](void* container,
+              std::size_t length) { static_cast<std::vector<T>*>(container)->resize(length); }};
 
 template <class T>
 inline constexpr Elements optionalElements{

@@ -51,14 +51,15 @@ consteval double restartNumber(Column column) {
 }
 
 constexpr auto rows = std::to_array<Variable>({
-#define VARIABLE(Type, key, start, restart, load)         \
-  {#key,                                                  \
-   __builtin_offsetof(WorldState, key),                   \
-   savedType<Type>(),                                     \
-   isList<Type>,                                          \
-   Load::load,                                            \
-   std::same_as<decltype(rowValue<Type>(restart)), Kept>, \
-   restartNumber<Type>([] { return rowValue<Type>(restart); })},
+#define VARIABLE(Type, key, start, restart, load, ...)          \
+  {#key,                                                        \
+   __builtin_offsetof(WorldState, key),                         \
+   savedType<Type>(),                                           \
+   isList<Type>,                                                \
+   Load::load,                                                  \
+   std::same_as<decltype(rowValue<Type>(restart)), Kept>,       \
+   restartNumber<Type>([] { return rowValue<Type>(restart); }), \
+   Range{__VA_ARGS__}},
 #define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
 #define RUNTIME(Type, name, start, restart)
 #include "core/world_variables.def"
@@ -101,7 +102,7 @@ void setRestartValues(WorldState& world) {
   for (const Variable& variable : rows) {
     if (!variable.isKept) restartNumberOrEmpty(world, variable);
   }
-#define VARIABLE(Type, key, start, restart, load)
+#define VARIABLE(Type, key, start, restart, load, ...)
 #define RECORDS(Record, key, restart, load)
 #define RUNTIME(Type, name, start, restart) set<Type>(world.name, rowValue<Type>(restart));
 #include "core/world_variables.def"

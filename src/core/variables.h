@@ -27,6 +27,7 @@ struct Variable {
   Load load;
   bool isKept;     // not changed by a restart
   double restart;  // a number's value after a restart; other types are emptied
+  Range range;
 };
 
 // All persisted rows, in the order of the table.

@@ -24,8 +24,8 @@ using RealList = List<double>;
 using TextList = List<std::string>;
 
 struct WorldState {
-#define VARIABLE(Type, key, start, restart, load) Type key = start;
-#define RECORDS(Record, key, restart, load) List<Record> key;
+#define VARIABLE(Type, key, start, restart, load, ...) Type key = start;
+#define RECORDS(Record, key, restart, load, ...) List<Record> key;
 #define RUNTIME(Type, name, start, restart) Type name = start;
 #include "core/world_variables.def"
 };

@@ -62,6 +62,9 @@ double retention(Game& game, const Film& film) {
   return band == nullptr ? 1.0 : RandomUnit(game.random, band->least, band->most);
 }
 
+// No episode has more: far beyond every series, and short of what a count can hold.
+constexpr double mostViews = 1e12;
+
 std::int64_t hoursOf(Game& game, double views) {
   return static_cast<std::int64_t>(views * RandomUnit(game.random, 0.75, 1.25));
 }
@@ -76,7 +79,7 @@ void airEpisode(Game& game, const Film& film, std::int64_t weeksSinceRelease, Ra
   const auto lastWeek = static_cast<std::size_t>(weeksSinceRelease - 1);
   if (lastWeek >= season.premiereViews.size()) return;
   const double talk = std::pow(1.25, film.currentPopularity / 100) - 1;
-  const double views = (talk + retention(game, film)) * season.premiereViews[lastWeek];
+  const double views = std::min((talk + retention(game, film)) * season.premiereViews[lastWeek], mostViews);
   season.premiereViews.push_back(views);
   season.hoursWatched.push_back(hoursOf(game, views));
   season.weeksTracked.push_back(game.world.weekNumberForTracking);

@@ -77,9 +77,11 @@ bool isReadyToSign(const WorldState& world, const Syndication& title) {
 
 void end(Syndication& title) {
   const auto won = static_cast<std::size_t>(title.networkIndexWon);
-  title.networkNameSigned.push_back(title.networkNames[won]);
-  title.networkOfferSigned.push_back(title.networkOffers[won]);
-  title.networkYearSigned.push_back(title.networkYears[won]);
+  if (won < title.networkNames.size()) {
+    title.networkNameSigned.push_back(title.networkNames[won]);
+    title.networkOfferSigned.push_back(title.networkOffers[won]);
+    title.networkYearSigned.push_back(title.networkYears[won]);
+  }
   title.didAcceptOffer = false;
   title.weekStarted = 0;
   title.networkIndexWon = noNetwork;

@@ -16,6 +16,13 @@ namespace {
 
 constexpr Int schemaVersion = 1;  // of the variables; the stores have their own
 
+Notice aboutDamage(const std::string& damage) {
+  return {.title = "🩹 Part of This Career Is Damaged 🩹",
+          .message = damage +
+                     "\n\nEverything else is as it was. What could not be used is kept in the save, "
+                     "outside the game."};
+}
+
 }  // namespace
 
 App::App(SaveStore& store, RandomSource& random, Locale locale, Clock clock, Documents* documents)
@@ -117,7 +124,8 @@ void App::say(std::string line) {
 
 void App::loadStore(Reload extent) {
   game_.recentRows = {};
-  loadWorld(game_, extent);
+  const std::vector<Damage> damages = loadWorld(game_, extent);
+  if (const auto damage = describe(damages)) stage_.show(aboutDamage(*damage));
   game_.world.saveSchemaVersion = schemaVersion;
   backed_up_year_ = game_.world.yearNumber;
 }

@@ -8,6 +8,7 @@
 
 #include "core/career_start.h"
 #include "core/fields/fields.h"
+#include "core/lawful.h"
 #include "core/load_world.h"
 #include "core/record_codec.h"
 #include "core/save.h"
@@ -27,12 +28,22 @@ using test::ScratchGame;
 template <auto Member>
 using TypeOf = std::remove_cvref_t<decltype(WorldState{}.*Member)>;
 
-// Sets every variable to a value that is neither its start nor its restart value.
+// Sets every variable to a lawful value that is neither its start nor its restart value.
 WorldState unusualWorld() {
   WorldState world;
   test::Unusual unusual;
   forEachVariable(
       [&]<auto Member>(std::string_view, const auto&, const auto&, Load) { unusual.fill(world.*Member); });
+  for (const Variable& variable : variables()) {
+    if (!variable.isList) {
+      makeLawful(*variable.type, variable.range, memberOf(world, variable));
+      continue;
+    }
+    ListBase& list = listOf(world, variable);
+    for (std::size_t index = 0; index < list.size(); ++index) {
+      makeLawful(*variable.type, variable.range, list.loadedElement(index));
+    }
+  }
   return world;
 }
 

@@ -17,7 +17,12 @@ struct Launch {
 
   void load() {
     testing::internal::CaptureStderr();
-    for (const Variable& variable : variables()) loadVariable(game, variable);
+    std::vector<Damage> damages;
+    for (const Variable& variable : variables()) damages.push_back(loadVariable(game, variable));
+    for (const Variable& variable : variables()) {
+      if (!variable.range.parallel.empty()) damages.push_back(cutParallel(game, variable));
+    }
+    damage = describe(damages).value_or("");
     log = testing::internal::GetCapturedStderr();
   }
   void save() {
@@ -29,7 +34,8 @@ struct Launch {
   ScriptedRandom random;
   Game game{.store = store, .random = random};
   WorldState& world = game.world;
-  std::string log;  // of the latest load
+  std::string damage;  // of the latest load
+  std::string log;     // of the latest load
 };
 
 }  // namespace tb::test

@@ -90,11 +90,33 @@ TEST(RecordCodec, ReadsListsWithExtraOrMovedKeys) {
             (Parts{{"a", 1}, {"b", 1}, {"c", 1}}));
 }
 
-TEST(RecordCodec, RejectsMissingFieldsAndWrongKinds) {
+// So a field that is added later empties nobody's list.
+TEST(RecordCodec, GivesMissingFieldsTheirStartValue) {
+  const Value text{"a"};
+  EXPECT_EQ(decodeRecords<SamplePart>(partsFile({{{"role", text}}, {}})), (Parts{{"a", 0}, {}}));
+}
+
+TEST(RecordCodec, ReadsTheOthersAroundUnreadElements) {
+  const Value one{std::int64_t{1}};
+  const auto part = [&](const char* role) {
+    return Value{Dictionary{{"role", Value{role}}, {"weeks", one}}};
+  };
+  const Value bad{Dictionary{{"role", one}, {"weeks", one}}};
+  const Bytes file = plist::write(Value{Array{part("a"), bad, part("b"), one, part("c")}});
+  Parts parts;
+  const auto unread = decodeList(file, typeOf<SamplePart>, detail::vectorElements<SamplePart>.append, &parts);
+  ASSERT_TRUE(unread);
+  ASSERT_EQ(unread->size(), 2u);
+  EXPECT_EQ((*unread)[0].index, 1u);
+  EXPECT_EQ((*unread)[1].index, 3u);
+  ASSERT_EQ(parts.size(), 5u);
+  EXPECT_EQ(parts[2].role + parts[4].role, "bc");
+  EXPECT_EQ(elementsIn(file), 5u);
+}
+
+TEST(RecordCodec, RejectsWrongKinds) {
   const Value one{std::int64_t{1}};
   const Dictionary good{{"role", Value{"a"}}, {"weeks", one}};
-  EXPECT_EQ(decodeRecords<SamplePart>(partsFile({good, {{"role", Value{"a"}}}})),
-            std::unexpected(DecodeError{.kind = missingField, .field = "weeks"}));
   EXPECT_EQ(decodeRecords<SamplePart>(partsFile({good, {{"role", one}, {"weeks", one}}})),
             std::unexpected(DecodeError{.kind = wrongKind, .field = "role"}));
   EXPECT_EQ(decodeRecords<SamplePart>(plist::write(Value{Array{Value{good}, one}})),

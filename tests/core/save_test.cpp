@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -106,21 +107,97 @@ TEST(SaveAndLoad, RewritesListsWithoutTheirKey) {
   EXPECT_EQ(next.world.trackFans.size(), 37u);
 }
 
-TEST(SaveAndLoad, SetsDamagedListsAside) {
+// 40 children are five pieces.
+TEST(SaveAndLoad, KeepsSoundPiecesOfDamagedLists) {
   MemoryPort port;
   storeLists(port);
   port.pieces.at({"saveAllChildList", 1}).bytes.resize(20);
   Launch play(port);
   EXPECT_TRUE(play.log.starts_with("saveAllChildList: ")) << play.log;
   EXPECT_EQ(std::ranges::count(play.log, '\n'), 1);
-  EXPECT_TRUE(play.world.saveAllChildList.empty());
+  EXPECT_EQ(play.damage, "Could not be read: up to 8 entries of saveAllChildList.");
+  ASSERT_EQ(play.world.saveAllChildList.size(), 32u);
+  EXPECT_EQ(play.world.saveAllChildList[8], child(16));
   EXPECT_EQ(play.world.trackFans.size(), 36u);
 
-  play.world.saveAllChildList.push_back(child(1));
   play.save();
-  EXPECT_EQ(port.keptAside.size(), 5u);
+  EXPECT_EQ(port.keptAside.size(), 1u);
   Launch next(port);
-  EXPECT_EQ(next.world.saveAllChildList, List<Child>{child(1)});
+  EXPECT_EQ(next.damage, "");
+  EXPECT_EQ(next.world.saveAllChildList, play.world.saveAllChildList);
+}
+
+// A record without a readable value is left out; the others of its piece stay.
+TEST(SaveAndLoad, KeepsSoundRecordsOfDamagedPieces) {
+  MemoryPort port;
+  storeLists(port);
+  Bytes& bytes = port.pieces.at({"saveAllChildList", 2}).bytes;
+  Value piece = *plist::read(bytes);
+  auto& records = std::get<Array>(piece.held);
+  std::get<Dictionary>(records[3].held).front().second = Value{"not a number"};
+  bytes = plist::write(piece);
+  Launch play(port);
+  EXPECT_EQ(play.damage, "Could not be read: 1 entry of saveAllChildList.");
+  EXPECT_EQ(play.world.saveAllChildList.size(), 39u);
+  EXPECT_EQ(play.world.saveAllChildList[19], child(20));
+  play.save();
+  ASSERT_EQ(port.keptAside.size(), 1u);
+  EXPECT_EQ(port.keptAside.front().bytes, plist::write(piece));
+  EXPECT_EQ(Launch(port).world.saveAllChildList, play.world.saveAllChildList);
+}
+
+// A column has a value for each film of a damaged piece, too.
+TEST(SaveAndLoad, FindsTheColumnsAfterADamagedPiece) {
+  MemoryPort port;
+  {
+    Launch play(port);
+    for (std::int64_t id = 0; id < 24; ++id) {
+      play.world.saveAllFilmList.push_back({.filmId = id, .currentPopularity = 1});
+    }
+    play.save();
+    for (std::size_t index = 0; index < 24; ++index) {
+      play.world.saveAllFilmList.set(index, &Film::currentPopularity, static_cast<double>(100 + index));
+    }
+    play.save();
+  }
+  port.pieces.at({"saveAllFilmList", 1}).bytes.resize(20);
+  Launch play(port);
+  EXPECT_EQ(play.damage, "Could not be read: up to 8 films.");
+  ASSERT_EQ(play.world.saveAllFilmList.size(), 16u);
+  EXPECT_EQ(play.world.saveAllFilmList[7].currentPopularity, 107);
+  EXPECT_EQ(play.world.saveAllFilmList[8].currentPopularity, 116);
+  play.save();
+  EXPECT_EQ(Launch(port).damage, "");
+}
+
+TEST(SaveAndLoad, BringsImpossibleValuesToTheNearestPossibleOne) {
+  MemoryPort port;
+  Launch before(port);
+  before.world.weekNumber = -7;
+  before.world.totalCashAvailable = std::numeric_limits<double>::quiet_NaN();
+  before.world.yearNumber = std::numeric_limits<std::int64_t>::max();
+  before.world.newScenesProduced = {50, 60, 70};
+  before.world.newSceneDescriptions = {"A fight", "A kiss"};
+  before.world.saveAllFilmList = {{.filmId = 1, .typeOfFilm = 77}, {.filmId = 2, .imbdRating = 1e300}};
+  before.world.saveAllBoxOfficeList = {
+      {.filmId = 2, .boxOfficeWeeklyEarnings = {1, 2, 3}, .weeksTracked = {1, 2}}};
+  before.save();
+
+  Launch play(port);
+  EXPECT_EQ(play.world.weekNumber, 1);
+  EXPECT_EQ(play.world.totalCashAvailable, 0);
+  EXPECT_EQ(play.world.yearNumber, 100'000);
+  EXPECT_EQ(play.world.newScenesProduced, (IntList{50, 60}));
+  ASSERT_EQ(play.world.saveAllFilmList.size(), 1u);
+  EXPECT_EQ(play.world.saveAllFilmList[0].imbdRating, 10);
+  EXPECT_EQ(play.world.saveAllBoxOfficeList[0].boxOfficeWeeklyEarnings.size(), 2u);
+  EXPECT_EQ(play.damage,
+            "Could not be read: 1 entry of newScenesProduced.\n"
+            "Left out, of an unknown kind or there twice: 1 film.\n"
+            "Changed to the nearest possible value: weekNumber, yearNumber, 1 in saveAllFilmList, "
+            "1 in saveAllBoxOfficeList, totalCashAvailable.");
+  play.save();
+  EXPECT_EQ(Launch(port).damage, "");
 }
 
 TEST(SaveAndLoad, SetsValuesOfAnotherKindAside) {

@@ -27,7 +27,7 @@ Kept rowValue(Kept value) {
 // the table; `restart` is a value of the variable's type, or `kept`.
 template <class Visit>
 void forEachVariable(Visit&& visit) {
-#define VARIABLE(Type, key, start, restart, load)                                            \
+#define VARIABLE(Type, key, start, restart, load, ...)                                       \
   visit.template operator()<&WorldState::key>(std::string_view(#key), rowValue<Type>(start), \
                                               rowValue<Type>(restart), Load::load);
 #define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
@@ -38,7 +38,7 @@ void forEachVariable(Visit&& visit) {
 // The same for the run-time rows: visit.template operator()<Member>(start, restart).
 template <class Visit>
 void forEachRuntimeVariable(Visit&& visit) {
-#define VARIABLE(Type, key, start, restart, load)
+#define VARIABLE(Type, key, start, restart, load, ...)
 #define RECORDS(Record, key, restart, load)
 #define RUNTIME(Type, name, start, restart) \
   visit.template operator()<&WorldState::name>(rowValue<Type>(start), rowValue<Type>(restart));

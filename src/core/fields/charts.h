@@ -16,8 +16,13 @@ RECORD_FIELDS(Syndication, filmId, filmName, filmType, filmReleased, networkName
               weeksRemaining, totalEarnings, networkNameSigned, networkOfferSigned, networkYearSigned,
               payment, residualRate, royaltyRate, sourceId);
 RECORD_COLUMNS(Syndication, weeksRemaining);
+RECORD_RANGES(Syndication, {"filmType", oneOf(0, 4)}, {"networkOffers", asLongAs("networkNames")},
+              {"networkYears", asLongAs("networkNames")}, {"networkImages", asLongAs("networkNames")},
+              {"networkOfferSigned", asLongAs("networkNameSigned")},
+              {"networkYearSigned", asLongAs("networkNameSigned")});
 
 RECORD_FIELDS(Award, id, awardOptionId, filmId, filmType, filmTitle, seasonNumber, nameOfAward, awardShow,
               yearAwarded, name, isWinner, otherNomineeNames, otherNomineeFilm, description);
+RECORD_RANGES(Award, {"filmType", oneOf(0, 4)}, {"otherNomineeFilm", asLongAs("otherNomineeNames")});
 
 }  // namespace tb

@@ -13,6 +13,8 @@ RECORD_FIELDS(Matches, matchId, name, matchImage, matchPrompt, matchPromptRespon
               interests, interested, pickupLineResponse, breakupLine, relationshipState, timeToPropose,
               timeToBirth);
 
+RECORD_RANGES(Matches, {"energyBonus", between(-1'000'000, 1'000'000)}, {"age", between(0, 1'000)});
+
 RECORD_FIELDS(Child, id, name, gender, birthYear, birthWeek, birthWeekForTracking, relationship, partnerName,
               artistName, weeklyEnergyCost, weeklyFinancialCost, imageString, occupation, songWriting,
               virality, vocals, rhythm, charisma, totalEnergyMax, admiration, weeklyAdmirationLoss, followers,

@@ -9,6 +9,7 @@ namespace tb {
 
 RECORD_FIELDS(WeeklyEarnings, filmId, filmTitle, filmType, sessionEarned, buyoutEarned, residualsEarned,
               royaltyEarned, earningDescription, yearNumber, weekNumberForTracking);
+RECORD_RANGES(WeeklyEarnings, {"filmType", oneOf(0, 4)});
 
 RECORD_FIELDS(RoyaltyPayout, id, filmId, title, yearNumber, weekNumberForTracking, payout, typeOfPayment,
               sourceId, agentEarnings, totalDealGross, syndicationYears, syndicationName);

@@ -15,6 +15,8 @@ RECORD_FIELDS(StreamingTechUpgrade, uniqueId, title, categoryId, category, tier,
 
 RECORD_FIELDS(FundraisingRound, id, equityOffered, valuationOffered, cashOffered, sharesToIssue, interest,
               investorName, investorAmount, investorValuation, weeksToClose);
+RECORD_RANGES(FundraisingRound, {"investorAmount", asLongAs("investorName")},
+              {"investorValuation", asLongAs("investorName")});
 
 RECORD_FIELDS(RivalPlatform, id, name, subscribers, weeklyRevenue, weeklyCosts, cashOnHand,
               infrastructureValue, growthRate, sharesOutstanding, specialty, priceHistory, status);

@@ -15,4 +15,6 @@ RECORD_FIELDS(SharkBoxDeal, id, productName, tagline, category, colorSeed, found
               status, realizedCash, weekLastViewed, modelVersion, quality, ttmRevenue, growthPct,
               grossMargin);
 
+RECORD_RANGES(SharkBoxDeal, {"equity", between(0, 1)});
+
 }  // namespace tb

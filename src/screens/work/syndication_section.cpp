@@ -52,7 +52,8 @@ std::optional<Section> syndicationSection(const Game& game, std::int64_t filmId)
   if (!index) return std::nullopt;
   const Syndication& title = titles[*index];
   Section section{.heading = "SYNDICATION"};
-  if (title.didAcceptOffer) {
+  const bool isWon = title.networkIndexWon >= 0 && title.networkIndexWon < std::ssize(title.networkNames);
+  if (title.didAcceptOffer && isWon) {
     section.nodes.emplace_back(inForce(game, title));
   } else {
     section.nodes = bids(game, title);

@@ -13,6 +13,7 @@
 #include "shells/console/console.h"
 #include "shells/console/stop_notice.h"
 #include "shells/console/terminal.h"
+#include "shells/native/bring_in.h"
 #include "shells/native/document_folder.h"
 #include "shells/native/system_locale.h"
 #include "shells/native/system_random.h"
@@ -27,13 +28,16 @@ constexpr int failure = 1;
 constexpr int wrongUse = 2;
 
 constexpr const char* usage =
-    "Usage: top-billing [--data-dir DIR]\n"
+    "Usage: top-billing [--data-dir DIR] [--bring-in FILE | --export FILE]\n"
     "\n"
     "An acting career, one week at a time. Type the number before what you want to\n"
     "use, and Enter; ? tells more, q leaves. Everything is saved as you play.\n"
     "\n"
     "  --data-dir DIR  keeps the career in DIR (else in $XDG_DATA_HOME/top-billing,\n"
     "                  or ~/.local/share/top-billing)\n"
+    "  --bring-in FILE puts the career in FILE, which the game exported, into play;\n"
+    "                  the one in play stays among the backups\n"
+    "  --export FILE   writes the career to FILE\n"
     "  --help          shows this\n"
     "  --version       shows the version\n"
     "\n"
@@ -42,19 +46,27 @@ constexpr const char* usage =
 
 struct Options {
   std::optional<std::filesystem::path> folder;
+  std::optional<std::filesystem::path> bringIn;
+  std::optional<std::filesystem::path> exportTo;
   std::optional<int> exitCode;  // set for --help, --version and invalid options
 };
 
 Options readOptions(int count, char** words) {
-  constexpr option known[] = {{"data-dir", required_argument, nullptr, 'd'},
-                              {"help", no_argument, nullptr, 'h'},
-                              {"version", no_argument, nullptr, 'v'},
-                              {nullptr, 0, nullptr, 0}};
+  constexpr option known[] = {
+      {"data-dir", required_argument, nullptr, 'd'}, {"bring-in", required_argument, nullptr, 'b'},
+      {"export", required_argument, nullptr, 'e'},   {"help", no_argument, nullptr, 'h'},
+      {"version", no_argument, nullptr, 'v'},        {nullptr, 0, nullptr, 0}};
   Options options;
   for (int found = 0; (found = getopt_long(count, words, "", known, nullptr)) != -1;) {
     switch (found) {
       case 'd':
         options.folder = optarg;
+        break;
+      case 'b':
+        options.bringIn = optarg;
+        break;
+      case 'e':
+        options.exportTo = optarg;
         break;
       case 'h':
         std::println("{}", usage);
@@ -80,6 +92,31 @@ std::expected<std::filesystem::path, tb::OpenFailure> folderFor(const Options& o
   std::error_code ignored;
   std::filesystem::create_directories(*options.folder, ignored);
   return *options.folder;
+}
+
+int report(const std::expected<void, std::string>& done) {
+  if (!done) std::println(stderr, "{}", done.error());
+  return done ? success : failure;
+}
+
+// Asks before it replaces the career.
+int bringIn(tb::SqlitePort& port, const std::filesystem::path& folder, const std::filesystem::path& from) {
+  tb::SaveStore store(port);
+  tb::SystemRandom random;
+  tb::DocumentFolder documents(folder);
+  const auto file = tb::readCareerFile(from);
+  if (!file) return report(std::unexpected(file.error()));
+  const auto question = tb::questionAbout(*file, store, random);
+  if (!question) return report(std::unexpected(question.error()));
+  std::print("{} (y/n) ", *question);
+  std::fflush(stdout);
+  if (const int answer = std::getchar(); answer != 'y' && answer != 'Y') {
+    std::println("Nothing was changed.");
+    return success;
+  }
+  const auto done = tb::bringIn(*file, store, documents, tb::systemClock());
+  if (done) std::println("It is in play now.");
+  return report(done);
 }
 
 int play(tb::SqlitePort& port, const std::filesystem::path& folder) {
@@ -109,6 +146,8 @@ int main(int count, char** words) {
     std::println(stderr, "{}", port.error().message);
     return failure;
   }
+  if (options.exportTo) return report(tb::writeCareerFile(tb::SaveStore(**port), *options.exportTo));
+  if (options.bringIn) return bringIn(**port, *folder, *options.bringIn);
   tb::console::announceStops(*folder);
   return play(**port, *folder);
 }

@@ -77,14 +77,18 @@ Result<> createTables(const Database& database) {
   return {};
 }
 
-// Moves all rows of a key with a damaged row to kept_aside, because part of a list would look like the whole
-// list.
+// Moves damaged rows to kept_aside. A row without a value takes the place of each, so that the loss is
+// noticed when the game is loaded.
 Result<> setDamagedRowsAside(const Database& database) {
-  const std::string keys = tb::format("key IN (SELECT key FROM pieces WHERE {})", damagedRows);
   const std::string statements[] = {
       "BEGIN IMMEDIATE",
-      "INSERT INTO kept_aside SELECT key, piece, shape, value FROM pieces WHERE " + keys,
-      "DELETE FROM pieces WHERE " + keys,
+      tb::format("INSERT INTO kept_aside SELECT key, piece, shape, value FROM pieces WHERE {}", damagedRows),
+      tb::format("CREATE TEMP TABLE unread AS SELECT key, piece FROM pieces WHERE {}", damagedRows),
+      tb::format("DELETE FROM pieces WHERE {}", damagedRows),
+      "INSERT OR IGNORE INTO pieces SELECT CAST(key AS TEXT), CAST(piece AS INTEGER), "
+      "coalesce((SELECT max(shape) FROM pieces AS sound WHERE sound.key = CAST(unread.key AS TEXT)), 0), x'' "
+      "FROM unread",
+      "DROP TABLE unread",
       "COMMIT",
   };
   for (const std::string& statement : statements) {
@@ -93,7 +97,7 @@ Result<> setDamagedRowsAside(const Database& database) {
       return done;
     }
   }
-  debugLog("career.sqlite: damaged rows, and what belongs to them, are kept in the table kept_aside");
+  debugLog("career.sqlite: damaged rows are kept in the table kept_aside");
   return {};
 }
 

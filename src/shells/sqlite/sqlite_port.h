@@ -10,8 +10,8 @@
 //
 // A damaged file, or one that is not a career, is moved with its log to the folder career.damaged-<n>, never
 // deleted. Every start tells where it is until that folder is gone. A file that the disk cannot read is not
-// damaged: the game does not start and changes nothing. If single rows are damaged, all rows of their keys
-// are moved to kept_aside and the rest of the career is loaded.
+// damaged: the game does not start and changes nothing. If single rows are damaged, they are moved to
+// kept_aside and the rest of the career is loaded.
 
 #include <expected>
 #include <filesystem>

@@ -15,13 +15,14 @@
 #include "banks/texts.h"
 #include "core/format.h"
 #include "core/save_backups.h"
+#include "core/save_file.h"
+#include "core/stop.h"
 #include "core/way_back.h"
 #include "screens/app.h"
 #include "shells/system_clock.h"
 #include "shells/web/host.h"
 #include "shells/web/message.h"
 #include "shells/web/page_json.h"
-#include "shells/web/save_file.h"
 
 #define EXPORT(name) extern "C" __attribute__((export_name(#name)))
 
@@ -50,6 +51,13 @@ std::size_t answerWith(std::span<const std::byte> bytes) {
 
 std::size_t answerWith(const std::string& text) { return answerWith(std::as_bytes(std::span(text))); }
 
+// A message of another form is a programming error.
+template <class Content>
+Content readable(std::optional<Content> content) {
+  if (!content) tb::stopTheGame("the page sent a message that can't be read");
+  return *std::move(content);
+}
+
 }  // namespace
 
 EXPORT(incoming) std::byte* roomForIncoming(std::size_t size) {
@@ -60,17 +68,19 @@ EXPORT(incoming) std::byte* roomForIncoming(std::size_t size) {
 EXPORT(answer) const std::byte* answerAddress() { return answer.data(); }
 
 // Incoming: the stored pieces. Must be called first.
-EXPORT(open_store) void openStore() { game.emplace(tb::readPieces(incoming)); }
+EXPORT(open_store) void openStore() { game.emplace(readable(tb::readPieces(incoming))); }
 
 // Incoming: the summaries of the slots and backups. Without this call there are none.
-EXPORT(open_documents) void openDocuments() { game->documents.emplace(tb::readDocuments(incoming)); }
+EXPORT(open_documents) void openDocuments() {
+  game->documents.emplace(readable(tb::readDocuments(incoming)));
+}
 
 // Incoming: the texts. Called once; only the new-career form works without them.
 EXPORT(set_texts) void setTexts() { tb::setTexts(incomingText()); }
 
 // Incoming: the locale. Loads the career, or opens the new-career form.
 EXPORT(start) void start() {
-  game->app.emplace(game->store, game->random, tb::readLocale(incoming), tb::systemClock,
+  game->app.emplace(game->store, game->random, readable(tb::readLocale(incoming)), tb::systemClock,
                     game->documents ? &*game->documents : nullptr);
 }
 
@@ -114,9 +124,12 @@ EXPORT(back_to_last_week) std::size_t backToLastWeek() {
   return answerWith(done ? std::string() : done.error());
 }
 
-// Incoming: a file. Answer: why it was refused, or empty when it was imported and committed.
+// Incoming: a file. Answer: why it was refused, and a remark on it. One that was imported is committed.
 EXPORT(import_store) std::size_t importStore() {
-  const std::string refusal = tb::importSave(game->store, incoming);
-  if (refusal.empty()) static_cast<void>(game->store.commit());
-  return answerWith(refusal);
+  const tb::ImportedSave imported = tb::importSave(game->store, incoming);
+  if (imported.refusal.empty()) static_cast<void>(game->store.commit());
+  tb::MessageWriter writer;
+  writer.text(imported.refusal);
+  writer.text(imported.remark);
+  return answerWith(writer.message());
 }

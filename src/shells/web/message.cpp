@@ -34,7 +34,11 @@ void MessageWriter::bytes(std::span<const std::byte> value) {
 void MessageWriter::text(std::string_view value) { bytes(std::as_bytes(std::span(value))); }
 
 std::span<const std::byte> MessageReader::take(std::size_t size) {
-  if (size > rest_.size()) __builtin_trap();
+  if (size > rest_.size()) {
+    fail();
+    rest_ = {};
+    return {};
+  }
   const auto taken = rest_.first(size);
   rest_ = rest_.subspan(size);
   return taken;
@@ -42,13 +46,15 @@ std::span<const std::byte> MessageReader::take(std::size_t size) {
 
 std::uint32_t MessageReader::number() {
   std::uint32_t value = 0;
-  std::memcpy(&value, take(sizeof value).data(), sizeof value);
+  const auto taken = take(sizeof value);
+  if (!taken.empty()) std::memcpy(&value, taken.data(), sizeof value);
   return value;
 }
 
 std::int64_t MessageReader::wideNumber() {
   std::int64_t value = 0;
-  std::memcpy(&value, take(sizeof value).data(), sizeof value);
+  const auto taken = take(sizeof value);
+  if (!taken.empty()) std::memcpy(&value, taken.data(), sizeof value);
   return value;
 }
 
@@ -62,15 +68,19 @@ std::string MessageReader::text() {
   return {reinterpret_cast<const char*>(taken.data()), taken.size()};
 }
 
-std::vector<StoredPiece> readPieces(std::span<const std::byte> message) {
+std::optional<std::vector<StoredPiece>> readPieces(std::span<const std::byte> message) {
   MessageReader reader(message);
-  std::vector<StoredPiece> pieces(reader.number());
-  for (StoredPiece& piece : pieces) {
+  std::vector<StoredPiece> pieces;
+  for (std::uint32_t left = reader.number(); left > 0 && !reader.isBad(); --left) {
+    StoredPiece& piece = pieces.emplace_back();
     piece.key = reader.text();
-    piece.shape = static_cast<Shape>(reader.number());
+    const std::uint32_t shape = reader.number();
+    if (shape > static_cast<std::uint32_t>(Shape::journal)) reader.fail();
+    piece.shape = static_cast<Shape>(shape);
     piece.piece = reader.wideNumber();
     piece.bytes = reader.bytes();
   }
+  if (reader.isBad()) return std::nullopt;
   return pieces;
 }
 
@@ -106,20 +116,23 @@ Bytes writeDocument(std::string_view folder, const DocumentSummary& summary,
   return writer.message();
 }
 
-std::vector<std::pair<std::string, DocumentSummary>> readDocuments(std::span<const std::byte> message) {
+std::optional<std::vector<std::pair<std::string, DocumentSummary>>> readDocuments(
+    std::span<const std::byte> message) {
   MessageReader reader(message);
-  std::vector<std::pair<std::string, DocumentSummary>> documents(reader.number());
-  for (auto& [folder, summary] : documents) {
+  std::vector<std::pair<std::string, DocumentSummary>> documents;
+  for (std::uint32_t left = reader.number(); left > 0 && !reader.isBad(); --left) {
+    auto& [folder, summary] = documents.emplace_back();
     folder = reader.text();
     summary.name = reader.text();
     summary.size = reader.wideNumber();
     summary.changed.seconds = static_cast<double>(reader.wideNumber()) / millisecondsPerSecond - dateEpoch;
     summary.head = documentHead(reader.bytes());
   }
+  if (reader.isBad()) return std::nullopt;
   return documents;
 }
 
-Locale readLocale(std::span<const std::byte> message) {
+std::optional<Locale> readLocale(std::span<const std::byte> message) {
   MessageReader reader(message);
   Locale locale;
   locale.currencySymbol = reader.text();
@@ -130,6 +143,7 @@ Locale readLocale(std::span<const std::byte> message) {
   locale.minusSign = reader.text();
   for (std::string& month : locale.months) month = reader.text();
   for (std::string& month : locale.monthCapitals) month = reader.text();
+  if (reader.isBad()) return std::nullopt;
   return locale;
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,7 +32,7 @@ class MessageWriter {
   Bytes message_;
 };
 
-// Both sides are built together, so a message that is too short is a programming error and stops the game.
+// Reads empty values after the end of a message that is too short.
 class MessageReader {
  public:
   explicit MessageReader(std::span<const std::byte> message) : rest_(message) {}
@@ -41,14 +42,22 @@ class MessageReader {
   Bytes bytes();
   std::string text();
 
+  // The message ended before a value, or fail() was called.
+  [[nodiscard]] bool isBad() const { return is_bad_; }
+  void fail() { is_bad_ = true; }
+
  private:
   std::span<const std::byte> take(std::size_t size);
 
   std::span<const std::byte> rest_;
+  bool is_bad_ = false;
 };
 
+// These return nothing for a message of another form. Both sides are built together, so that is a programming
+// error.
+
 // The number of pieces, then for each: key, shape, piece number, bytes.
-[[nodiscard]] std::vector<StoredPiece> readPieces(std::span<const std::byte> message);
+[[nodiscard]] std::optional<std::vector<StoredPiece>> readPieces(std::span<const std::byte> message);
 
 // The number of changes, then for each: kind, key, shape, piece number, bytes.
 [[nodiscard]] Bytes writeChanges(std::span<const StoreChange> changes);
@@ -62,10 +71,10 @@ class MessageReader {
                                   std::span<const std::byte> content);
 
 // The number of documents, then for each: what writeDocument writes but the content. Each with its folder.
-[[nodiscard]] std::vector<std::pair<std::string, DocumentSummary>> readDocuments(
+[[nodiscard]] std::optional<std::vector<std::pair<std::string, DocumentSummary>>> readDocuments(
     std::span<const std::byte> message);
 
 // The fields of Locale in order, all as texts; "1" if the symbol is before the amount.
-[[nodiscard]] Locale readLocale(std::span<const std::byte> message);
+[[nodiscard]] std::optional<Locale> readLocale(std::span<const std::byte> message);
 
 }  // namespace tb

@@ -19,7 +19,7 @@ TEST(WebMessage, ReadsPieces) {
     writer.wideNumber(-3);
     writer.bytes(bytesOf(key));
   }
-  const auto pieces = readPieces(writer.message());
+  const auto pieces = readPieces(writer.message()).value();
   ASSERT_EQ(pieces.size(), 2u);
   EXPECT_EQ(pieces[1].key, "myName");
   EXPECT_EQ(pieces[1].shape, Shape::recordList);
@@ -50,7 +50,7 @@ TEST(WebMessage, ReadsTheLocale) {
   for (const std::string_view text : {"€", "0", "\u00A0", ",", ".", "−"}) writer.text(text);
   for (int month = 1; month <= 12; ++month) writer.text("month " + std::to_string(month));
   for (int month = 1; month <= 12; ++month) writer.text("MONTH " + std::to_string(month));
-  const Locale locale = readLocale(writer.message());
+  const Locale locale = readLocale(writer.message()).value();
   EXPECT_EQ(locale.currencySymbol, "€");
   EXPECT_FALSE(locale.currencyBeforeAmount);
   EXPECT_EQ(locale.currencyGap, "\u00A0");

@@ -3,6 +3,7 @@
 
 import type { Page } from "../view_types";
 import { type DocumentPlace, type DocumentSummary, readDocument, readPlace, type StoredDocument, writePlace, writeSummaries } from "./documents";
+import { MessageReader } from "./message";
 import { type Change, type Piece, readChanges, writePieces } from "./pieces";
 import { wasiImports } from "./wasi";
 
@@ -192,13 +193,14 @@ export class Game {
     return this.guarded(() => this.answer(this.exports.export_store()));
   }
 
-  // Returns why the file was refused, or an empty string when it was imported and committed.
-  importStore(file: Uint8Array): string {
-    const refusal = this.guarded(() => {
+  // Returns why the file was refused (empty when it was imported and committed), and a remark on the file.
+  importStore(file: Uint8Array): { readonly refusal: string; readonly remark: string } {
+    const answer = this.guarded(() => {
       this.setIncoming(file);
       return this.answer(this.exports.import_store());
     });
-    return new TextDecoder().decode(refusal);
+    const reader = new MessageReader(answer);
+    return { refusal: reader.text(), remark: reader.text() };
   }
 
   // Growing memory detaches views, so each use creates a new one.

@@ -82,20 +82,30 @@ function changeOf(row: Piece): Change {
 // Merges two lists of changes and drops those that later ones override, so that pending changes never exceed
 // the size of the save.
 export function joined(earlier: readonly Change[], later: readonly Change[]): Change[] {
-  let all = [...earlier];
-  for (const change of later) {
-    all = all.filter((old) => !voids(change, old));
-    all.push(change);
+  const kept: Change[] = [];
+  const written = new Map<string, Set<number>>(); // pieces by key
+  const dropped = new Set<string>(); // keys
+  let isAllDropped = false;
+  for (const change of [...earlier, ...later].reverse()) {
+    const { key, piece } = change.stored;
+    if (change.kind === "keepAside") {
+      kept.push(change);
+      continue;
+    }
+    if (isAllDropped) continue;
+    if (change.kind !== "dropAll" && dropped.has(key)) continue;
+    if (change.kind === "dropAll") {
+      isAllDropped = true;
+    } else if (change.kind === "dropKey") {
+      dropped.add(key);
+    } else {
+      const pieces = written.get(key) ?? new Set();
+      if (pieces.has(piece)) continue;
+      written.set(key, pieces.add(piece));
+    }
+    kept.push(change);
   }
-  return all;
-}
-
-function voids(later: Change, earlier: Change): boolean {
-  if (earlier.kind === "keepAside" || later.kind === "keepAside") return false;
-  if (later.kind === "dropAll") return true;
-  if (earlier.kind === "dropAll" || earlier.stored.key !== later.stored.key) return false;
-  if (later.kind === "dropKey") return true;
-  return earlier.kind !== "dropKey" && earlier.stored.piece === later.stored.piece;
+  return kept.reverse();
 }
 
 const packSize = 1 << 19; // bytes

@@ -62,6 +62,7 @@ export interface ReadSave {
   readonly changes: readonly Change[];
   readonly career: Career;
   readonly documents: readonly StoredDocument[]; // the slots and backups of an archive
+  readonly findings: readonly string[]; // what is damaged in it
 }
 
 // A page without tabs is the new-career form.
@@ -178,11 +179,14 @@ export async function readSave(
   };
   try {
     const game = await Game.open(module, { commit: keep }, []);
-    const refusal = game.importStore(new Uint8Array(await file.arrayBuffer()));
+    const { refusal, remark } = game.importStore(new Uint8Array(await file.arrayBuffer()));
     if (refusal !== "") return refusal;
     game.setTexts(texts);
     game.start(locale);
-    return { changes, career: careerOn(game.page()), documents: [] };
+    const page = game.page();
+    // The only notice at the start is about what could not be read.
+    const findings = [remark, ...page.dialog.map(({ message }) => message)].filter((text) => text !== "");
+    return { changes, career: careerOn(page), findings, documents: [] };
   } catch (error) {
     if (error instanceof GameStopped) return "The career in this file can't be opened.";
     return "This file can't be read.";

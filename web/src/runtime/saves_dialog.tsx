@@ -5,7 +5,7 @@ import { useRef, useState } from "preact/hooks";
 
 import { type DocumentSummary, slotFolder } from "./documents";
 import type { Career, ReadSave } from "./saves";
-import type { Shell } from "./shell";
+import { PlayedElsewhere, type Shell } from "./shell";
 
 const named = ({ name, date }: Career): string => (date === "" ? name : `${name}, ${date}`);
 
@@ -71,8 +71,12 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
     try {
       await shell.bringIn(save);
       dialog.current?.close();
-    } catch {
-      setMessage("There is no room to store this save. Your career is as it was.");
+    } catch (error) {
+      setMessage(
+        error instanceof PlayedElsewhere
+          ? "The game is open in another tab. Play here first, then bring the save in."
+          : "There is no room to store this save. Your career is as it was.",
+      );
     }
   };
 
@@ -106,6 +110,11 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
               {question.inPlay && question.inPlay.date !== "" ? ", which stays among the backups." : "."}
               {question.save.documents.length > 0 && ` ${othersIn(question.save)}`}
             </p>
+            {question.save.findings.map((finding) => (
+              <p key={finding} class="shell-finding">
+                {finding}
+              </p>
+            ))}
             <div class="shell-buttons">
               <button type="button" class="shell-button shell-destructive" onClick={() => void bringIn(question.save)}>
                 Replace my career

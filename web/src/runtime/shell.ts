@@ -37,6 +37,9 @@ export interface ShellState {
   readonly installOffered: boolean;
 }
 
+// Another tab has the career.
+export class PlayedElsewhere extends Error {}
+
 export class Shell {
   private current: ShellState = {
     showing: { kind: "loading" },
@@ -143,9 +146,10 @@ export class Shell {
     return storedCareer(await program.get(), await texts.get(), this.locale, await this.openStorage());
   }
 
-  // Replaces the current save and starts it. Rejects without changes when it can't be stored.
-  // The replaced career stays as a backup.
+  // Replaces the current save and starts it. Rejects without changes when it can't be stored, and with
+  // PlayedElsewhere while another tab plays. The replaced career stays as a backup.
   async bringIn(save: ReadSave): Promise<void> {
+    if (!this.lock.isHeld) throw new PlayedElsewhere();
     const storage = await this.openStorage();
     await backUpCareer(await program.get(), this.host(storage), storage);
     await storage.replace(save.changes);

@@ -31,6 +31,11 @@ export class TabLock {
     if (!(await this.hold({ ifAvailable: true }))) this.wait();
   }
 
+  // Whether this tab may write.
+  get isHeld(): boolean {
+    return !("locks" in navigator) || this.release !== undefined;
+  }
+
   // Asks the playing tab to stop. It releases the lock, or loses it after a timeout.
   takeOver(): void {
     this.channel.postMessage(handOver);
