@@ -19,7 +19,7 @@ using sqlite::Result;
 using sqlite::Statement;
 
 constexpr std::int64_t applicationId = 0x54424c47;  // identifies the file as a career of this game
-// Increment with every change of what is stored; web/src/runtime/storage.ts has its own. Version 2 added
+// Increment with every change of what is stored; web/src/runtime/database.ts has its own. Version 2 added
 // columns, which version 1 takes for damaged rows, and version 3 the journals of the last weeks.
 constexpr std::int64_t schemaVersion = 3;
 

@@ -8,7 +8,8 @@ import { type Change, joined } from "./pieces";
 import type { Storage } from "./storage";
 
 const careerFile = "career.plist"; // of an archive: the career in play
-const largestFile = 256 * 1024 * 1024; // bytes; a career of a hundred years needs a tenth of this
+const largestFile = 64 * 1024 * 1024; // bytes; a career of a hundred years needs less than half of this
+const largestArchive = 256 * 1024 * 1024; // bytes; of a career, three slots and eight backups
 
 const today = () => new Date().toISOString().slice(0, 10);
 
@@ -155,7 +156,7 @@ async function documentOf(
   };
   try {
     const game = await Game.open(module, { commit: () => undefined, documents }, []);
-    if (game.importStore(content) === "") game.backUpStore();
+    if (game.importStore(content).refusal === "") game.backUpStore();
     return found;
   } catch {
     return undefined;
@@ -171,8 +172,11 @@ export async function readSave(
   locale: Uint8Array,
   file: Blob,
 ): Promise<ReadSave | string> {
-  if (file.size > largestFile) return "This file is too large to be a save of Top Billing.";
-  if (await isArchive(file)) return readArchive(module, texts, locale, file);
+  const archive = await isArchive(file);
+  if (file.size > (archive ? largestArchive : largestFile)) {
+    return "This file is too large to be a save of Top Billing.";
+  }
+  if (archive) return readArchive(module, texts, locale, file);
   let changes: Change[] = [];
   const keep = (more: Change[]) => {
     changes = joined(changes, more);
