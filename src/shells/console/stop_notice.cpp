@@ -21,7 +21,7 @@ struct StopNotice {
   std::string text;
   int errors = STDERR_FILENO;  // also while the terminal suppresses standard error
   std::optional<termios> terminal;
-  std::array<std::byte, stopStackSize> stack = {};  // the process's own can be full
+  alignas(64) std::array<std::byte, stopStackSize> stack = {};  // the process's own can be full
 };
 
 StopNotice& stopNotice() {
