@@ -26,13 +26,16 @@ interface Exports {
   document_lost(): void;
   saving_failed(): void;
   back_up_store(): void;
+  last_week(): number;
+  back_to_last_week(): number;
   export_store(): number;
   import_store(): number;
 }
 
 const exportNames = [
   "_initialize", "incoming", "answer", "open_store", "open_documents", "set_texts", "start", "view", "press", "type",
-  "slide", "tick", "back", "document_read", "document_lost", "saving_failed", "back_up_store", "export_store", "import_store",
+  "slide", "tick", "back", "document_read", "document_lost", "saving_failed", "back_up_store", "last_week",
+  "back_to_last_week", "export_store", "import_store",
 ] as const satisfies readonly Exclude<keyof Exports, "memory">[];
 
 // The game trapped. `cause` is the trap; the log has its last output.
@@ -124,8 +127,8 @@ export class Game {
     this.textsAreIn = true;
   }
 
-  // Loads the career, or opens the new-career form. The functions below need a started game, except export
-  // and import.
+  // Loads the career, or opens the new-career form. The functions below need a started game, except export,
+  // import and the way back.
   start(locale: Uint8Array): void {
     this.guarded(() => {
       this.setIncoming(locale);
@@ -187,6 +190,16 @@ export class Game {
   // Puts a backup of the stored career among the documents.
   backUpStore(): void {
     this.guarded(() => this.exports.back_up_store());
+  }
+
+  // "week 12 of 2031": the stored career can go back to the moment before it ended. Empty when it can't.
+  lastWeek(): string {
+    return this.guarded(() => new TextDecoder().decode(this.answer(this.exports.last_week())));
+  }
+
+  // Goes back there and commits. Returns why that was not possible; empty when it was done.
+  backToLastWeek(): string {
+    return this.guarded(() => new TextDecoder().decode(this.answer(this.exports.back_to_last_week())));
   }
 
   exportStore(): Uint8Array<ArrayBuffer> {

@@ -23,8 +23,9 @@ export type Showing =
   | { readonly kind: "loading" }
   | { readonly kind: "elsewhere" } // the game is open in another tab
   | { readonly kind: "playing"; readonly page: Page }
-  // The game trapped. `backup` is offered when it was not the first time.
-  | { readonly kind: "stopped"; readonly backup: ReadSave | undefined }
+  // The game trapped. When it was not the first time, the week before and the newest backup are offered: `lastWeek` is
+  // its name, empty for none.
+  | { readonly kind: "stopped"; readonly lastWeek: string; readonly backup: ReadSave | undefined }
   | { readonly kind: "unavailable" }; // the program or the texts could not be loaded
 
 export interface ShellState {
@@ -161,6 +162,17 @@ export class Shell {
     await this.run();
   }
 
+  // Takes the newest week back and starts the career. Rejects without changes when that is not possible, and with
+  // PlayedElsewhere while another tab plays.
+  async backToLastWeek(): Promise<void> {
+    if (!this.lock.isHeld) throw new PlayedElsewhere();
+    const storage = await this.openStorage();
+    const game = await Game.open(await program.get(), this.host(storage), storage.all());
+    const refusal = game.backToLastWeek();
+    if (refusal !== "") throw new Error(refusal);
+    await this.run();
+  }
+
   // The storage as the game sees it.
   private host(storage: Storage): GameHost {
     return {
@@ -262,14 +274,17 @@ export class Shell {
     console.error(error, error instanceof GameStopped ? error.cause : "");
     this.game = undefined;
     this.stops += 1;
-    this.show({ kind: "stopped", backup: undefined });
-    if (this.stops > 1) void this.offerBackup(this.runs);
+    this.show({ kind: "stopped", lastWeek: "", backup: undefined });
+    if (this.stops > 1) void this.offerWaysBack(this.runs);
   }
 
-  private async offerBackup(run: number): Promise<void> {
+  private async offerWaysBack(run: number): Promise<void> {
     const storage = await this.openStorage();
+    const stored = Game.open(await program.get(), { commit: () => undefined }, storage.all());
+    const lastWeek = await stored.then((game) => game.lastWeek()).catch(() => "");
+    if (run === this.runs) this.show({ kind: "stopped", lastWeek, backup: undefined });
     const backup = await newestBackup(await program.get(), await texts.get(), this.locale, storage);
-    if (run === this.runs) this.show({ kind: "stopped", backup });
+    if (run === this.runs) this.show({ kind: "stopped", lastWeek, backup });
   }
 
   private async stepAside(): Promise<void> {

@@ -57,7 +57,7 @@ export function ShellView({ shell }: { shell: Shell }): JSX.Element {
             </button>
             <DownloadNow shell={shell} />
           </div>
-          {showing.backup ? <BackupOffer shell={shell} backup={showing.backup} /> : <></>}
+          <WaysBack shell={shell} lastWeek={showing.lastWeek} backup={showing.backup} />
         </Standing>
       );
     case "unavailable":
@@ -122,22 +122,41 @@ function mayInstall({ showing, installOffered }: ShellState): boolean {
   return installOffered && showing.kind === "playing" && showing.page.close.length === 0 && showing.page.tabs.length > 0;
 }
 
-function BackupOffer({ shell, backup }: { shell: Shell; backup: ReadSave }): JSX.Element {
+// Offered when the game stopped more than once.
+function WaysBack({ shell, lastWeek, backup }: {
+  shell: Shell;
+  lastWeek: string;
+  backup: ReadSave | undefined;
+}): JSX.Element {
   const [message, setMessage] = useState("");
-  const { name, date } = backup.career;
+  if (lastWeek === "" && !backup) return <></>;
   return (
     <div class="shell-question">
-      <p>
-        It stopped more than once. You can go back to your newest backup, <strong>{`${name}, ${date}`}</strong>. What you
-        have now stays among the backups.
-      </p>
-      <button
-        type="button"
-        class="shell-button"
-        onClick={() => shell.bringIn(backup).catch(() => setMessage("There is no room to store it."))}
-      >
-        Go back to the backup
-      </button>
+      <p>It stopped more than once. You can go back.</p>
+      {lastWeek !== "" && (
+        <button
+          type="button"
+          class="shell-button"
+          onClick={() => shell.backToLastWeek().catch(() => setMessage("The week can't be taken back."))}
+        >
+          {`Back to ${lastWeek}, before it ended`}
+        </button>
+      )}
+      {backup && (
+        <>
+          <p>
+            Your newest backup is <strong>{`${backup.career.name}, ${backup.career.date}`}</strong>. What you have now
+            stays among the backups.
+          </p>
+          <button
+            type="button"
+            class="shell-button"
+            onClick={() => shell.bringIn(backup).catch(() => setMessage("There is no room to store it."))}
+          >
+            Go back to the backup
+          </button>
+        </>
+      )}
       {message !== "" && <p role="status">{message}</p>}
     </div>
   );
