@@ -28,7 +28,7 @@ TEST(StopNotice, SaysThatTheCareerIsSafeWhateverStopsTheGame) {
       announceStops("/careers/ada");
       stop();
     };
-    EXPECT_EXIT(play(), testing::KilledBySignal(signal), "career is safe.*\n.*\n.*/careers/ada");
+    EXPECT_EXIT(play(), testing::KilledBySignal(signal), "career is safe.*\n.*\n.*\n.*/careers/ada");
   };
   stopsWith([] { stopTheGame("a wrong value"); }, SIGILL);
   stopsWith([] { std::abort(); }, SIGABRT);

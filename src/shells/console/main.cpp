@@ -9,6 +9,7 @@
 #include <string>
 #include <system_error>
 
+#include "core/way_back.h"
 #include "screens/app.h"
 #include "shells/console/console.h"
 #include "shells/console/stop_notice.h"
@@ -28,7 +29,7 @@ constexpr int failure = 1;
 constexpr int wrongUse = 2;
 
 constexpr const char* usage =
-    "Usage: top-billing [--data-dir DIR] [--bring-in FILE | --export FILE]\n"
+    "Usage: top-billing [--data-dir DIR] [--bring-in FILE | --export FILE | --last-week]\n"
     "\n"
     "An acting career, one week at a time. Type the number before what you want to\n"
     "use, and Enter; ? tells more, q leaves. Everything is saved as you play.\n"
@@ -38,6 +39,7 @@ constexpr const char* usage =
     "  --bring-in FILE puts the career in FILE, which the game exported, into play;\n"
     "                  the one in play stays among the backups\n"
     "  --export FILE   writes the career to FILE\n"
+    "  --last-week     takes the last week back, for a career at which the game stops\n"
     "  --help          shows this\n"
     "  --version       shows the version\n"
     "\n"
@@ -48,14 +50,18 @@ struct Options {
   std::optional<std::filesystem::path> folder;
   std::optional<std::filesystem::path> bringIn;
   std::optional<std::filesystem::path> exportTo;
+  bool lastWeek = false;
   std::optional<int> exitCode;  // set for --help, --version and invalid options
 };
 
 Options readOptions(int count, char** words) {
-  constexpr option known[] = {
-      {"data-dir", required_argument, nullptr, 'd'}, {"bring-in", required_argument, nullptr, 'b'},
-      {"export", required_argument, nullptr, 'e'},   {"help", no_argument, nullptr, 'h'},
-      {"version", no_argument, nullptr, 'v'},        {nullptr, 0, nullptr, 0}};
+  constexpr option known[] = {{"data-dir", required_argument, nullptr, 'd'},
+                              {"bring-in", required_argument, nullptr, 'b'},
+                              {"export", required_argument, nullptr, 'e'},
+                              {"last-week", no_argument, nullptr, 'l'},
+                              {"help", no_argument, nullptr, 'h'},
+                              {"version", no_argument, nullptr, 'v'},
+                              {nullptr, 0, nullptr, 0}};
   Options options;
   for (int found = 0; (found = getopt_long(count, words, "", known, nullptr)) != -1;) {
     switch (found) {
@@ -67,6 +73,9 @@ Options readOptions(int count, char** words) {
         break;
       case 'e':
         options.exportTo = optarg;
+        break;
+      case 'l':
+        options.lastWeek = true;
         break;
       case 'h':
         std::println("{}", usage);
@@ -119,6 +128,14 @@ int bringIn(tb::SqlitePort& port, const std::filesystem::path& folder, const std
   return report(done);
 }
 
+int backToLastWeek(tb::SqlitePort& port) {
+  tb::SaveStore store(port);
+  const auto week = tb::lastWeek(store);
+  const auto done = tb::backToLastWeek(store);
+  if (done && week) std::println("Your career is back in week {} of {}.", week->week, week->year);
+  return report(done);
+}
+
 int play(tb::SqlitePort& port, const std::filesystem::path& folder) {
   tb::SaveStore store(port);
   tb::SystemRandom random;
@@ -148,6 +165,7 @@ int main(int count, char** words) {
   }
   if (options.exportTo) return report(tb::writeCareerFile(tb::SaveStore(**port), *options.exportTo));
   if (options.bringIn) return bringIn(**port, *folder, *options.bringIn);
+  if (options.lastWeek) return backToLastWeek(**port);
   tb::console::announceStops(*folder);
   return play(**port, *folder);
 }

@@ -45,7 +45,9 @@ void announceStops(const std::filesystem::path& folder) {
   // The sequence ends the cutting of long lines that the terminal can be in.
   prepared.text = std::format(
       "{}\nThe game stopped because of an error. Your career is safe as of the last thing you did.\n"
-      "Start the game again to go on. If it stops there again, restore a backup from Settings.\n"
+      "Start the game again to go on. If it stops there again, start it with --last-week once, which takes "
+      "the last\n"
+      "week back, or restore a backup from Settings.\n"
       "To keep a copy of your career, copy the folder {}\n",
       isatty(STDERR_FILENO) == 1 ? "\x1b[?7h" : "", folder.string());
   prepared.errors = dup(STDERR_FILENO);
