@@ -86,8 +86,12 @@ test("the copy is opened when the database is gone or older, with its slots, and
   const database = join(profile, "Default/IndexedDB");
   const visit = async (play: (page: Page) => Promise<void>) => {
     const context = await openProfile(profile);
-    await play(await openGame(context));
-    await context.close();
+    try {
+      await play(await openGame(context));
+      await context.pages()[0]!.waitForTimeout(1500); // the second copy follows what was played
+    } finally {
+      await context.close();
+    }
   };
   try {
     await visit(async (page) => {
@@ -100,7 +104,6 @@ test("the copy is opened when the database is gone or older, with its slots, and
       await startAnother(page, "Ben Second");
       await liveAWeek(page);
       left = await today(page);
-      await page.waitForTimeout(500);
     });
     for (const lose of [() => loseDatabase(profile), () => cpSync(older, database, { recursive: true })]) {
       lose();
