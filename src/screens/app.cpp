@@ -19,8 +19,8 @@ constexpr Int schemaVersion = 1;  // of the variables; the stores have their own
 Notice aboutDamage(const std::string& damage) {
   return {.title = "🩹 Part of This Career Is Damaged 🩹",
           .message = damage +
-                     "\n\nEverything else is as it was. What could not be used is kept in the save, "
-                     "outside the game."};
+                     "\n\nEverything else is as it was. What could not be used stays in the save "
+                     "that it was read from, outside the game."};
 }
 
 }  // namespace
