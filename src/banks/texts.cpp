@@ -27,8 +27,14 @@ std::string_view texts() {
 
 namespace {
 
+constexpr char agentsFile[] = {
+#embed "banks/agents.txt"
+};
 constexpr char allTimeFile[] = {
 #embed "banks/all_time.txt"
+};
+constexpr char angelFile[] = {
+#embed "banks/angel.txt"
 };
 constexpr char auditionFile[] = {
 #embed "banks/audition.txt"
@@ -54,6 +60,12 @@ constexpr char jobsFile[] = {
 constexpr char namesFile[] = {
 #embed "banks/names.txt"
 };
+constexpr char negotiationFile[] = {
+#embed "banks/negotiation.txt"
+};
+constexpr char offersFile[] = {
+#embed "banks/offers.txt"
+};
 constexpr char rateMoviesFile[] = {
 #embed "banks/rate_movies.txt"
 };
@@ -76,8 +88,10 @@ constexpr char weekFile[] = {
 #embed "banks/week.txt"
 };
 
-constexpr std::array<std::string_view, 16> files = {{
+constexpr std::array<std::string_view, 20> files = {{
+    {agentsFile, sizeof agentsFile},
     {allTimeFile, sizeof allTimeFile},
+    {angelFile, sizeof angelFile},
     {auditionFile, sizeof auditionFile},
     {bankableFile, sizeof bankableFile},
     {boxOfficeFile, sizeof boxOfficeFile},
@@ -86,6 +100,8 @@ constexpr std::array<std::string_view, 16> files = {{
     {filmFile, sizeof filmFile},
     {jobsFile, sizeof jobsFile},
     {namesFile, sizeof namesFile},
+    {negotiationFile, sizeof negotiationFile},
+    {offersFile, sizeof offersFile},
     {rateMoviesFile, sizeof rateMoviesFile},
     {reviewSummaryFile, sizeof reviewSummaryFile},
     {syndicationFile, sizeof syndicationFile},

@@ -24,14 +24,19 @@ const Movie& drawMovie(Game& game, const CastingBoard& board, const MadeTitles& 
   return newTitle(movies(), *movie, made, isListed);
 }
 
+struct ListingFrame {
+  std::int64_t filmId;
+  std::int64_t maxBudget = boardBudget;
+};
+
 CastingListing drawListing(Game& game, const CastingBoard& board, const MadeTitles& made,
-                           std::int64_t filmId) {
-  CastingListing listing{.filmId = filmId, .isPrincipal = RandomRange(game.random, 2)};
+                           const ListingFrame& frame) {
+  CastingListing listing{.filmId = frame.filmId, .isPrincipal = RandomRange(game.random, 2)};
   const TvRole& tvRole = drawTvRole(game);
   listing.movie = &drawMovie(game, board, made);
   listing.role = drawRole(game, listing.isPrincipal);
   listing.isUnion = drawUnionFlag(game);
-  completeListing(game, listing, tvRole);
+  completeListing(game, listing, tvRole, frame.maxBudget);
   return listing;
 }
 
@@ -43,9 +48,13 @@ CastingBoard openCastingNetwork(Game& game) {
   const MadeTitles made = madeTitles(game.world);
   CastingBoard board;
   for (std::int64_t place = 1; place <= listings; ++place) {
-    board.push_back(drawListing(game, board, made, game.world.filmId + place));
+    board.push_back(drawListing(game, board, made, {.filmId = game.world.filmId + place}));
   }
   return board;
+}
+
+CastingListing drawAgentListing(Game& game, std::int64_t filmId, std::int64_t maxBudget) {
+  return drawListing(game, {}, madeTitles(game.world), {.filmId = filmId, .maxBudget = maxBudget});
 }
 
 }  // namespace tb

@@ -35,4 +35,8 @@ using CastingBoard = std::vector<CastingListing>;
 // Draws a board of five to eight roles. Increments `filmId`; the listings get the ids after it.
 [[nodiscard]] CastingBoard openCastingNetwork(Game& game);
 
+// Draws one role as on the board, for an agent with access to productions up to `maxBudget` dollars (0: to
+// those of the board).
+[[nodiscard]] CastingListing drawAgentListing(Game& game, std::int64_t filmId, std::int64_t maxBudget);
+
 }  // namespace tb

@@ -31,9 +31,10 @@ double drawResidual(Game& game) {
 }
 
 // A small production pays better than a big one, because it needs the performer's name more.
-void drawFeatureFilm(Game& game, CastingListing& listing, const TvRole&) {
+void drawFeatureFilm(Game& game, CastingListing& listing, const TvRole&, std::int64_t maxBudget) {
   constexpr double bigBudget = 749'999;
-  listing.budget = dollars(10'000 * RandomBetween(game.random, 10, 99));
+  constexpr std::int64_t unit = 10'000;
+  listing.budget = dollars(unit * RandomBetween(game.random, 10, std::max(maxBudget, boardBudget) / unit));
   const std::int64_t rate = listing.budget > bigBudget ? RandomBetween(game.random, 1150, 1560)
                                                        : RandomBetween(game.random, 2141, 2610);
   listing.payment = dollars(rate * RandomBetween(game.random, 1, 3) / 2);
@@ -42,7 +43,7 @@ void drawFeatureFilm(Game& game, CastingListing& listing, const TvRole&) {
 }
 
 // Principal roles in a series are always union; background roles keep the drawn flag.
-void drawSeries(Game& game, CastingListing& listing, const TvRole& tvRole) {
+void drawSeries(Game& game, CastingListing& listing, const TvRole& tvRole, std::int64_t) {
   const std::int64_t size = RandomBetween(game.random, 10, 99);
   listing.budget = dollars(10'000 * size);
   if (!isPrincipalRole(listing)) {
@@ -78,12 +79,12 @@ void drawFreeCommercial(Game& game, CastingListing& listing) {
   if (tenths % 2 == 0) listing.buyout = dollars(tenths * payment / 10);
 }
 
-void drawCommercial(Game& game, CastingListing& listing, const TvRole&) {
+void drawCommercial(Game& game, CastingListing& listing, const TvRole&, std::int64_t) {
   if (listing.isUnion == 1) return drawUnionCommercial(game, listing);
   drawFreeCommercial(game, listing);
 }
 
-void drawStudentFilm(Game& game, CastingListing& listing, const TvRole&) {
+void drawStudentFilm(Game& game, CastingListing& listing, const TvRole&, std::int64_t) {
   const std::int64_t size = RandomBetween(game.random, 2, 50);
   listing.isUnion = 0;
   listing.budget = dollars(100 * size);
@@ -91,7 +92,7 @@ void drawStudentFilm(Game& game, CastingListing& listing, const TvRole&) {
   listing.role = drawRole(game, listing.isPrincipal);
 }
 
-void drawShortFilm(Game& game, CastingListing& listing, const TvRole&) {
+void drawShortFilm(Game& game, CastingListing& listing, const TvRole&, std::int64_t) {
   if (listing.isUnion == 1) {
     listing.budget = dollars(1'000 * RandomBetween(game.random, 75, 300));
     listing.payment = dollars(isPrincipalRole(listing) ? 216 * RandomBetween(game.random, 2, 20)
@@ -109,8 +110,9 @@ constexpr std::array termsByType = {drawFeatureFilm, drawSeries, drawCommercial,
 
 }  // namespace
 
-void drawTerms(Game& game, CastingListing& listing, const TvRole& tvRole) {
-  termsByType[static_cast<std::size_t>(listing.movie->type)](game, listing, tvRole);
+void drawTerms(Game& game, CastingListing& listing, const TvRole& tvRole, std::int64_t maxBudget) {
+  termsByType[static_cast<std::size_t>(listing.movie->type)](game, listing, tvRole, maxBudget);
+  if (maxBudget > 0) listing.budget = std::min(listing.budget, dollars(maxBudget));
 }
 
 std::string drawRole(Game& game, std::int64_t isPrincipal) {
@@ -126,9 +128,9 @@ std::int64_t drawUnionFlag(Game& game) {
   return flipped ? 1 - game.world.isSAG : game.world.isSAG;
 }
 
-void completeListing(Game& game, CastingListing& listing, const TvRole& tvRole) {
+void completeListing(Game& game, CastingListing& listing, const TvRole& tvRole, std::int64_t maxBudget) {
   listing.characterName = inventedName(game.random, game.world.isMale);
-  drawTerms(game, listing, tvRole);
+  drawTerms(game, listing, tvRole, maxBudget);
   listing.directorRating = drawDirectorRating(game);
   listing.directorName = inventedName(game.random);
   const Schedule schedule = drawSchedule(game);

@@ -1,6 +1,5 @@
 #include "career/royalty_stake.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "banks/draw.h"
@@ -28,15 +27,6 @@ constexpr std::int64_t chancePerStep = 10;
 
 // --- The offer ---
 
-const TalentAgent* agentOf(const WorldState& world) {
-  const auto agent = signedAgent(world);
-  return agent ? &world.saveAllTalentAgents[*agent] : nullptr;
-}
-
-bool isInInbox(const WorldState& world, std::int64_t emailId) {
-  return std::ranges::contains(world.saveAllEmailList, emailId, &Email::id);
-}
-
 double drawPercent(Game& game, const TalentAgent& agent) {
   const double highest = agent.royaltyBonus <= minPercent ? maxForAWeakAgent : agent.royaltyBonus;
   return RandomUnit(game.random, minPercent, highest);
@@ -63,7 +53,7 @@ Audition drawProject(Game& game, double percent) {
 
 Notice book(Game& game, Audition project, double percent) {
   WorldState& world = game.world;
-  const TalentAgent& agent = *agentOf(world);
+  const TalentAgent& agent = *currentAgent(world);
   world.filmId += 1;
   project.filmId = world.filmId;
   project.royalty = percent;
@@ -91,14 +81,14 @@ void closeOffer(Game& game, std::int64_t emailId) {
 }  // namespace
 
 const Audition* stakeOffer(const WorldState& world, std::int64_t emailId) {
-  if (!isInInbox(world, emailId) || agentOf(world) == nullptr) return nullptr;
+  if (emailWith(world, emailId) == nullptr || currentAgent(world) == nullptr) return nullptr;
   const auto offer = find(world.stakeOffers, &EmailedProject::emailId, emailId);
   return offer ? &world.stakeOffers[*offer].project : nullptr;
 }
 
 void drawStakeOffer(Game& game, std::int64_t emailId) {
-  const TalentAgent* const agent = agentOf(game.world);
-  if (agent == nullptr || !isInInbox(game.world, emailId)) return;
+  const TalentAgent* const agent = currentAgent(game.world);
+  if (agent == nullptr || emailWith(game.world, emailId) == nullptr) return;
   if (stakeOffer(game.world, emailId) != nullptr) return;
   const double percent = drawPercent(game, *agent);
   game.world.stakeOffers.push_back({.emailId = emailId, .project = drawProject(game, percent)});
@@ -111,7 +101,7 @@ double percentAsked(const Audition& offer, std::int64_t steps) {
 std::int64_t chanceOfNegotiation(std::int64_t steps) { return 100 - chancePerStep * steps; }
 
 std::int64_t negotiationBonus(const WorldState& world) {
-  const TalentAgent* const agent = agentOf(world);
+  const TalentAgent* const agent = currentAgent(world);
   return agent == nullptr ? 0 : agent->negotiationBonus;
 }
 

@@ -42,4 +42,14 @@ std::string dateHeading(const Locale& locale, std::int64_t week, std::int64_t ye
   return label.month + between + label.dayAndYear;
 }
 
+std::string twoDigits(std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+std::string numericDate(std::int64_t week, std::int64_t year) {
+  const auto friday = fridayOf(week, year);
+  if (!friday) return "";
+  return twoDigits(static_cast<unsigned>(friday->month())) + "/" +
+         twoDigits(static_cast<unsigned>(friday->day())) + "/" +
+         std::to_string(static_cast<int>(friday->year()));
+}
+
 }  // namespace tb

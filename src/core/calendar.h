@@ -25,4 +25,10 @@ struct DateLabel {
 [[nodiscard]] std::string dateHeading(const Locale& locale, std::int64_t week, std::int64_t year,
                                       const std::string& between);
 
+// A part of a date or a time, from 0 to 99: "07".
+[[nodiscard]] std::string twoDigits(std::int64_t number);
+
+// The Friday in digits, as month, day and year: "01/02/2026"; empty when there is no such date.
+[[nodiscard]] std::string numericDate(std::int64_t week, std::int64_t year);
+
 }  // namespace tb

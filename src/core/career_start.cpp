@@ -6,6 +6,7 @@
 #include "core/save_store.h"
 #include "core/signed_agent.h"
 #include "core/variables.h"
+#include "core/welcome_mail.h"
 
 namespace tb {
 
@@ -50,6 +51,7 @@ Refusal confirmNewCareer(Game& game, const NewCareerForm& form) {
   world.enterPlayerDetails = 1;
   world.aboutDescription = form.aboutDescription;
   normaliseAgentFanBonus(game);
+  sendWelcomeMail(game.world);
   return std::nullopt;
 }
 

@@ -23,8 +23,8 @@ struct NewCareerForm {
 // 18 and 2005 stay, which do not match.
 void chooseAge(Game& game, Int age);
 
-// Starts a career: sets name, biography, gender, picture and year, and marks the form as done. Refused, with
-// nothing changed, while the name is empty; a name of spaces is accepted.
+// Starts a career: sets name, biography, gender, picture and year, sends the welcome e-mails, and marks the
+// form as done. Refused, with nothing changed, while the name is empty; a name of spaces is accepted.
 Refusal confirmNewCareer(Game& game, const NewCareerForm& form);
 
 // Resets the career: every variable gets its restart value from the table. The vault becomes the starting

@@ -4,6 +4,7 @@
 
 #include "core/career_start.h"
 #include "core/save.h"
+#include "core/welcome_mail.h"
 
 namespace tb {
 
@@ -32,6 +33,7 @@ std::vector<Damage> loadWorld(Game& game, Reload extent) {
   }
   ensureBasicNeeds(game);
   normaliseAgentFanBonus(game);
+  if (game.world.enterPlayerDetails == 0) sendWelcomeMail(game.world);
   return damages;
 }
 

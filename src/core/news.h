@@ -31,6 +31,7 @@ enum class NewsKind : std::uint8_t {
   classDone,
   jobEnded,
   mail,
+  negotiation,  // of the pay for a returning season or film
   // Private life
   match,
   wedding,

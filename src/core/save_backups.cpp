@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "core/calendar.h"
 #include "core/debug_log.h"
 #include "core/format.h"
 #include "core/save_slots.h"
@@ -21,8 +22,6 @@ namespace {
 using Backups = SaveBackupManager;
 
 constexpr std::string_view namePrefix = "save-";
-
-std::string twoDigits(std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
 // Such as "save-2026-11-22-093000.plist". In UTC: the order of names is the order of time wherever the player
 // travels.

@@ -16,4 +16,10 @@ namespace tb {
   return std::nullopt;
 }
 
+// That agent's record; null when none is signed.
+[[nodiscard]] inline const TalentAgent* currentAgent(const WorldState& world) {
+  const auto index = signedAgent(world);
+  return index ? &world.saveAllTalentAgents[*index] : nullptr;
+}
+
 }  // namespace tb

@@ -52,6 +52,13 @@ Picture posterOf(const Movie& movie) {
           .format = formatOf(movie.type)};
 }
 
+Picture posterOf(const MovieFranchise& film) {
+  return {.kind = PictureKind::poster,
+          .name = film.imageString,
+          .title = film.title,
+          .genre = mainGenre(film.genre)};
+}
+
 Picture posterOf(const CatalogueTitle& title) {
   return {.kind = PictureKind::poster, .name = title.imageString, .title = title.title, .genre = title.genre};
 }

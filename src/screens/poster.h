@@ -13,6 +13,7 @@ namespace tb {
 
 // For a title without the performer: nobody is billed.
 [[nodiscard]] view::Picture posterOf(const Movie& movie);
+[[nodiscard]] view::Picture posterOf(const MovieFranchise& film);
 [[nodiscard]] view::Picture posterOf(const CatalogueTitle& title);
 
 // For the player's project. The performer is billed as the director or with a booked principal part, not with

@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include "career/guild.h"
+#include "career/renewal_negotiation.h"
 #include "career/showreel.h"
 #include "career/submission.h"
 #include "career/traits.h"
 #include "core/ended_week.h"
 #include "life/energy.h"
+#include "social/inbox.h"
 
 namespace tb {
 
@@ -39,6 +41,47 @@ std::int64_t countWaiting(const WorldState& world) {
   return std::ranges::count_if(world.saveAllAuditionList, [](const Audition& project) {
     return project.funnelStage == funnel::submitted && project.didAct == 1;
   });
+}
+
+// --- Mail ---
+
+// The newest e-mail of those that came with the week that ended. The welcome e-mails are no news.
+std::optional<AgendaItem> newMail(const WorldState& world) {
+  const List<Email>& emails = world.saveAllEmailList;
+  std::int64_t count = 0;
+  for (std::size_t index = emails.size(); index-- > 0; ++count) {
+    if (emails[index].weekNumberForTracking < endedTrackingWeek(world)) break;
+    if (emails[index].typeOfDeal == deal::help) break;
+  }
+  if (count == 0) return {};
+  return AgendaItem{.kind = ItemKind::mail, .index = emails.size() - 1, .count = count};
+}
+
+std::optional<AgendaItem> waitingGift(const WorldState& world) {
+  const List<Email>& emails = world.saveAllEmailList;
+  const auto gift = std::ranges::find_if(emails, isGift);
+  if (gift == emails.end()) return {};
+  return AgendaItem{.kind = ItemKind::gift, .index = static_cast<std::size_t>(gift - emails.begin())};
+}
+
+std::optional<AgendaItem> lapsingOffer(const WorldState& world) {
+  if (!isInboxFull(world)) return {};
+  const std::int64_t oldest = world.saveAllEmailList.front().typeOfDeal;
+  if (oldest == deal::help || oldest == deal::message) return {};
+  return AgendaItem{.kind = ItemKind::lapse};
+}
+
+// The next one to wrap.
+std::optional<AgendaItem> negotiation(const WorldState& world) {
+  if (renewalRefusal(world)) return {};
+  const List<Audition>& projects = world.saveAllAuditionList;
+  std::optional<AgendaItem> item;
+  for (std::size_t index = 0; index < projects.size(); ++index) {
+    if (!isNegotiationOffered(world, projects[index])) continue;
+    if (item && projects[item->index].weekToWork <= projects[index].weekToWork) continue;
+    item = AgendaItem{.kind = ItemKind::negotiation, .index = index};
+  }
+  return item;
 }
 
 // No submissions are suggested while too many roles cost energy.
@@ -110,6 +153,10 @@ std::vector<AgendaItem> openItems(const WorldState& world) {
     if (item) items.push_back(*item);
   };
   if (world.isSAG == 0 && !guildRefusal(world)) add(AgendaItem{.kind = ItemKind::guild});
+  add(newMail(world));
+  add(waitingGift(world));
+  add(lapsingOffer(world));
+  add(negotiation(world));
   add(footageReel(world));
   add(submissions(world));
   if (world.weeklyJobContractRemaining < 1) add(AgendaItem{.kind = ItemKind::job});
@@ -134,7 +181,8 @@ std::vector<AgendaItem> runningItems(const WorldState& world) {
 
 std::optional<FirstSteps> firstSteps(const WorldState& world) {
   if (world.weekNumberForTracking != 1) return {};
-  return FirstSteps{.hasWork = world.weeklyJobContractRemaining >= 1,
+  return FirstSteps{.hasClaimedGift = !waitingGift(world),
+                    .hasWork = world.weeklyJobContractRemaining >= 1,
                     .hasSubmitted = !world.saveAllAuditionList.empty()};
 }
 

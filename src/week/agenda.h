@@ -21,6 +21,10 @@ struct AgendaItem {
     shoot,
     release,
     // Affordable now
+    mail,         // came with the week that ended
+    gift,         // has not been claimed
+    lapse,        // the inbox is full, and its oldest e-mail is an offer
+    negotiation,  // of a project's pay
     submissions,
     job,
     guild,
@@ -34,8 +38,8 @@ struct AgendaItem {
   Kind kind;
   std::int64_t week = 0;   // for due items: a value of `weekNumberForTracking`
   std::size_t index = 0;   // of the project in `saveAllAuditionList`, the class in `saveAllCompletedClasses`,
-                           // or the trait in `traits`
-  std::int64_t count = 0;  // affordable submissions, open submissions, or weeks left
+                           // the trait in `traits`, or the e-mail in `saveAllEmailList`
+  std::int64_t count = 0;  // new e-mails, affordable submissions, open submissions, or weeks left
   std::optional<Boost> boost = {};  // available for the project now
 };
 
@@ -48,8 +52,9 @@ struct AgendaItem {
 // The job, the classes and the open submissions.
 [[nodiscard]] std::vector<AgendaItem> runningItems(const WorldState& world);
 
-// The three steps of the first week; none in other weeks.
+// The four steps of the first week; none in other weeks.
 struct FirstSteps {
+  bool hasClaimedGift = false;
   bool hasWork = false;
   bool hasSubmitted = false;
 };

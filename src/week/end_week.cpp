@@ -2,9 +2,12 @@
 
 #include <utility>
 
+#include "career/agent_auditions.h"
+#include "career/agent_offer.h"
 #include "career/audition_cleanup.h"
 #include "career/audition_week.h"
 #include "career/classes.h"
+#include "career/email_offers.h"
 #include "career/job_contract.h"
 #include "career/renewals.h"
 #include "core/ended_week.h"
@@ -60,6 +63,10 @@ void submitBestFigures(Game& game, HubRefresh reason) {
 void endWeek(Game& game) {
   startNewWeek(game.world);
   resolveAuditionsForWeek(game);
+  agentOfferStep(game);
+  investorOfferStep(game);
+  backendOfferStep(game);
+  franchiseOfferStep(game);
   refillEnergy(game);
   advanceJobContract(game);
   advanceClock(game);
@@ -71,6 +78,7 @@ WeekSummary openSummary(Game& game) {
   WeekSummary summary{.week = ended.week, .year = ended.year};
   drawSyndicationBids(game);
   advanceSyndicationDeals(game);
+  agentAuditionStep(game);
   driftPopularity(game);
   renewSeries(game);
   renewSaga(game);

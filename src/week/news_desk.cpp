@@ -33,6 +33,7 @@ constexpr auto rules = std::to_array<NewsRule>({
     {.kind = NewsKind::agent, .stamp = "AGENT", .mood = NewsMood::promising},
     {.kind = NewsKind::classDone, .stamp = "CLASS DONE", .mood = NewsMood::promising},
     {.kind = NewsKind::mail, .stamp = "MAIL", .mood = NewsMood::promising},
+    {.kind = NewsKind::negotiation, .stamp = "NEGOTIATED", .leads = false},
     {.kind = NewsKind::cancellation, .stamp = "CANCELED", .mood = NewsMood::bad},
     {.kind = NewsKind::breakup, .stamp = "SPLIT", .mood = NewsMood::bad, .leads = false},
     {.kind = NewsKind::jobEnded, .stamp = "JOB OVER", .mood = NewsMood::bad, .leads = false},

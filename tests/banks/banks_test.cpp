@@ -5,7 +5,9 @@
 #include <set>
 #include <sstream>
 
+#include "banks/agents_banks.h"
 #include "banks/all_time_banks.h"
+#include "banks/angel_banks.h"
 #include "banks/audition_banks.h"
 #include "banks/bankable_banks.h"
 #include "banks/box_office_banks.h"
@@ -15,6 +17,8 @@
 #include "banks/film_banks.h"
 #include "banks/jobs_banks.h"
 #include "banks/names_banks.h"
+#include "banks/negotiation_banks.h"
+#include "banks/offers_banks.h"
 #include "banks/rate_movies_banks.h"
 #include "banks/review_summary_banks.h"
 #include "banks/syndication_banks.h"
@@ -36,7 +40,9 @@ struct BankRow {
 
 #define BANK_ROW(name, count, placeholders) {bank::name, #name, count, placeholders},
 constexpr BankRow allBanks[] = {  // clang-format off
+    AGENTS_BANKS(BANK_ROW)
     ALL_TIME_BANKS(BANK_ROW)
+    ANGEL_BANKS(BANK_ROW)
     AUDITION_BANKS(BANK_ROW)
     BANKABLE_BANKS(BANK_ROW)
     BOX_OFFICE_BANKS(BANK_ROW)
@@ -45,6 +51,8 @@ constexpr BankRow allBanks[] = {  // clang-format off
     FILM_BANKS(BANK_ROW)
     JOBS_BANKS(BANK_ROW)
     NAMES_BANKS(BANK_ROW)
+    NEGOTIATION_BANKS(BANK_ROW)
+    OFFERS_BANKS(BANK_ROW)
     RATE_MOVIES_BANKS(BANK_ROW)
     REVIEW_SUMMARY_BANKS(BANK_ROW)
     SYNDICATION_BANKS(BANK_ROW)

@@ -5,6 +5,7 @@
 
 #include "career/class_table.h"
 #include "core/calendar.h"
+#include "core/welcome_mail.h"
 #include "film/markets.h"
 #include "film/networks.h"
 #include "tests/journeys/device.h"
@@ -287,12 +288,66 @@ void signAgent(WorldState& world) {
   world.saveAllTalentAgents = {{.id = 5,
                                 .name = "Rosa Vance",
                                 .agency = "Vance & Daughters",
+                                .image = "sw7.png",
                                 .commissionPercentage = commission / 100.0,
+                                .residualBonus = 0.8,
+                                .royaltyBonus = 1.1,
                                 .negotiationBonus = 12,
                                 .rating = 70,
+                                .fanBonus = 1.3,
+                                .maxBudget = 24'000'000,
+                                .weekSigned = world.weekNumberForTracking - 44,
+                                .contractYears = 2,
                                 .weekContractEnds = world.weekNumberForTracking + 60,
+                                .penaltyForBreakingContract = 140'000,
                                 .isSigned = 1,
+                                .weekToSendAudition = 7,
+                                .bookings = 6,
                                 .totalAgentEarnings = 48'200}};
+}
+
+void write(WorldState& world, std::int64_t id, std::int64_t typeOfDeal, const std::string& title,
+           std::int64_t connectingId = -1) {
+  const std::int64_t week = world.weekNumberForTracking - 30 + id;
+  world.saveAllEmailList.push_back({.id = id,
+                                    .typeOfDeal = typeOfDeal,
+                                    .title = title,
+                                    .message = std::format("{} Let us talk.", title),
+                                    .connectingId = connectingId,
+                                    .weekNumber = (week - 1) % weeksPerYear + 1,
+                                    .yearNumber = Career::yearOf(week),
+                                    .weekNumberForTracking = week});
+}
+
+// Offers of every kind that has a screen, the newest last.
+void writeOffers(WorldState& world) {
+  world.saveAllTalentAgents.push_front({.id = 6,
+                                        .name = "Piet Halloran",
+                                        .agency = "The Ottoline Agency",
+                                        .image = "sm3.png",
+                                        .commissionPercentage = 0.09,
+                                        .residualBonus = 0.7,
+                                        .negotiationBonus = 15,
+                                        .rating = 81,
+                                        .fanBonus = 1.25,
+                                        .maxBudget = 30'000'000,
+                                        .contractYears = 3,
+                                        .penaltyForBreakingContract = 210'000,
+                                        .weekToSendAudition = 6});
+  write(world, 21, deal::agent, "Representation starts here", 6);
+  write(world, 22, deal::investment, "A film needs a backer");
+  write(world, 27, deal::royalty, "A role with points", 5);
+  write(world, 29, deal::franchise, "A saga needs a lead");
+}
+
+// A full inbox, with kinds of mail that lead nowhere yet.
+void fillInbox(WorldState& world) {
+  for (std::int64_t id = 1; id <= 14; ++id) {
+    write(world, id, id % 2 == 0 ? deal::investment : deal::royalty, std::format("Offer {}", id), 5);
+  }
+  write(world, 15, deal::sharkBox, "A round for your venture");
+  write(world, 16, deal::message, "A note from a fan");
+  writeOffers(world);
 }
 
 void speak(WorldState& world) {
@@ -349,6 +404,32 @@ Audition ownFilm(Career& career, std::int64_t stage, std::int64_t ahead) {
   return film;
 }
 
+Audition investment(Career& career, std::int64_t stage, std::int64_t ahead) {
+  Audition film = ownFilm(career, stage, ahead);
+  film.isPrincipal = rolePart::background;
+  film.role.clear();
+  return film;
+}
+
+// Adds two released seasons of a series and a third one, whose pay can be negotiated.
+void addReturningSeries(Career& career) {
+  constexpr std::int64_t untilTheWrap = 14;
+  Audition first = career.project(filmType::series, funnel::wrapped, -90);
+  first.seasonNumber = 1;
+  first.royalty = 0;
+  career.addWrapped(first);
+  Audition second = career.project(filmType::series, funnel::wrapped, -30);
+  Audition third = career.project(filmType::series, funnel::booked, untilTheWrap + 10);
+  for (std::int64_t number = 2; Audition * season : {&second, &third}) {
+    season->title = first.title;
+    season->royalty = 0;
+    season->seasonNumber = number++;
+    season->parentSeriesFilmId = first.filmId;
+  }
+  career.addWrapped(second);
+  career.add(third);
+}
+
 // Adds two seasons of a series.
 void addSeasons(Career& career, std::int64_t ahead) {
   Audition first = career.project(filmType::series, funnel::wrapped, ahead);
@@ -379,6 +460,7 @@ void beginner(WorldState& world) {
   career.add(career.project(filmType::studentFilm, funnel::submitted, 17));
   career.add(career.project(filmType::shortFilm, funnel::invited, 15));
   career.add(career.project(filmType::commercial, funnel::closed, 12));
+  sendWelcomeMail(world);
 }
 
 void working(WorldState& world) {
@@ -393,6 +475,10 @@ void working(WorldState& world) {
   world.saveBribePrice = 2'000;
   addOneInEveryState(career);
   career.add(ownFilm(career, funnel::booked, 12));
+  addReturningSeries(career);
+  career.add(investment(career, funnel::booked, 15));
+  career.addWrapped(investment(career, funnel::wrapped, -14));
+  writeOffers(world);
   for (const std::int64_t id : {1, 2, 18, 19}) takeClass(world, id, 0);
   takeClass(world, 20, 7);
   speak(world);
@@ -423,6 +509,8 @@ void star(WorldState& world) {
     if (year % 5 == 0) addSeasons(career, ahead - weeksPerYear);
   }
   for (std::int64_t id = 1; id <= 46; ++id) takeClass(world, id, 0);
+  fillInbox(world);
+  world.saveAllTalentAgents.edit(1).weekContractEnds = world.weekNumberForTracking - 3;
   speak(world);
   ownThings(world);
 }

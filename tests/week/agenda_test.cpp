@@ -64,6 +64,37 @@ TEST_F(Agenda, SuggestsWhatEnergyCashAndContractAllow) {
   EXPECT_TRUE(openItems(world).empty());
 }
 
+TEST_F(Agenda, TellsOfMailThatCameAndOfTheOfferThatGoesNext) {
+  world.totalEnergyAvailable = 0;
+  world.weeklyJobContractRemaining = 3;
+  const auto write = [&](std::int64_t id, std::int64_t kind, std::int64_t week) {
+    world.saveAllEmailList.push_back({.id = id, .typeOfDeal = kind, .weekNumberForTracking = week});
+  };
+  write(Email::giftId, deal::help, 1);
+  write(1, deal::agent, 8);
+  EXPECT_EQ(kindsOf(openItems(world)), (std::vector{Kind::gift}));
+  write(2, deal::royalty, 9);
+  write(3, deal::investment, 9);
+  EXPECT_EQ(kindsOf(openItems(world)), (std::vector{Kind::mail, Kind::gift}));
+  EXPECT_EQ(openItems(world).front().count, 2);
+  EXPECT_EQ(openItems(world).front().index, 3u);
+  world.saveAllEmailList.pop_front();
+  for (std::int64_t id = 4; id <= 20; ++id) write(id, deal::royalty, 9);
+  EXPECT_EQ(kindsOf(openItems(world)), (std::vector{Kind::mail, Kind::lapse}));
+}
+
+TEST_F(Agenda, SuggestsANegotiationWithEnoughEnergy) {
+  world.weeklyJobContractRemaining = 3;
+  world.totalEnergyAvailable = 75;
+  add(funnel::booked).weekToWork = 30;
+  add(funnel::booked).weekToWork = 25;
+  for (std::size_t index = 0; index < 2; ++index) world.saveAllAuditionList.edit(index).seasonNumber = 2;
+  ASSERT_TRUE(std::ranges::contains(kindsOf(openItems(world)), Kind::negotiation));
+  EXPECT_EQ(openItems(world).front().index, 1u);
+  world.totalEnergyAvailable = 74;
+  EXPECT_FALSE(std::ranges::contains(kindsOf(openItems(world)), Kind::negotiation));
+}
+
 TEST_F(Agenda, SuggestsNoSubmissionsWithTooManyRoles) {
   for (int role = 0; role < 6; ++role) add(funnel::booked);
   EXPECT_FALSE(std::ranges::contains(kindsOf(openItems(world)), Kind::submissions));

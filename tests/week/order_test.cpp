@@ -18,14 +18,15 @@ struct Trace {
   std::function<bool(const WorldState&)> isLeft;
 };
 
-// A random source that always gives the lowest value. At each draw it records which steps have had their
-// effect.
+// A random source that always gives the lowest value, or always the highest. At each draw it records which
+// steps have had their effect.
 class Witness : public RandomSource {
  public:
   std::uint64_t next() override {
     look();
-    return 1;
+    return word_;
   }
+  void giveHighest() { word_ = ~std::uint64_t{0}; }
   void watch(const WorldState& world, std::vector<Trace> traces) {
     world_ = &world;
     awaited_ = std::move(traces);
@@ -48,6 +49,7 @@ class Witness : public RandomSource {
     if (!noticed.empty()) seen_.push_back(noticed);
   }
 
+  std::uint64_t word_ = 1;
   const WorldState* world_ = nullptr;
   std::vector<Trace> awaited_;
   std::vector<std::string> seen_;
@@ -137,11 +139,14 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
   world.saveAllCompletedClasses = {{.classId = 1, .weeksRemaining = 1}};
   for (int review = 0; review < 10; ++review) world.saveAllMovieReviews.push_back({});
   world.saveAllAuditionList.push_back({.filmId = 5, .funnelStage = funnel::closed});
+  world.saveAllTalentAgents = {{.id = 8, .isSigned = 1, .weekToSendAudition = 5}};
+  world.filmId = 99;
 
   witness.watch(
       world,
       {{"bids", [](const WorldState& state) { return state.saveAllSyndication[0].networkNames.size() == 2; }},
        {"deals", [](const WorldState& state) { return state.saveAllSyndication[0].didAcceptOffer; }},
+       {"agent", [](const WorldState& state) { return state.saveAllAuditionList.back().filmId == 100; }},
        {"talk", [](const WorldState& state) { return state.saveAllFilmList[1].currentPopularity != 50; }},
        {"series", [](const WorldState& state) { return state.saveAllAuditionList[1].isContinued == 1; }},
        {"saga", [](const WorldState& state) { return state.saveAllAuditionList[2].isContinued == -1; }},
@@ -151,7 +156,8 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
        {"balance", [](const WorldState& state) { return !state.trackPatronEarnings.empty(); }},
        {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
   const WeekSummary summary = openSummary(game);
-  expectSeen({"bids", "deals", "talk", "series", "saga", "box office", "classes, balance, clean-up"});
+  expectSeen(
+      {"bids", "deals", "agent", "talk", "series", "saga", "box office", "classes, balance, clean-up"});
   EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52,
               1e-9);  // the sale's boost of two, then the drift
   const auto lineWith = [&](const std::string& word) {
@@ -169,6 +175,44 @@ TEST_F(WeekStepOrder, OfAQuietSummary) {
                         {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
   EXPECT_TRUE(openSummary(game).offersRelease);
   expectSeen({"release is offered", "clean-up"});
+}
+
+// In a week in which every kind of offer can come.
+TEST_F(WeekStepOrder, OfTheOffers) {
+  world.weekNumber = 10 * 13 * 16;
+  world.isSAG = 1;
+  world.saveFameLevel = 61;
+  world.experience = 20'000;
+  for (Int WorldState::* trait :
+       {&WorldState::talentTrait1, &WorldState::talentTrait2, &WorldState::talentTrait3,
+        &WorldState::talentTrait4, &WorldState::talentTrait5}) {
+    world.*trait = 120;
+  }
+  world.saveAllTalentAgents = {{.id = 5, .isSigned = 1}};
+  for (std::int64_t id = 1; id <= 24; ++id) {
+    world.saveAllAuditionList.push_back(
+        {.filmId = id, .isPrincipal = 1, .weekReleased = now - 300, .funnelStage = funnel::wrapped});
+  }
+  // The 25th role counts because auditions come first.
+  world.saveAllAuditionList.push_back(
+      {.filmId = 25, .isPrincipal = 1, .weekAudition = now, .funnelStage = funnel::invited, .didAct = 0});
+  const auto hasCome = [](std::int64_t kind) {
+    return [kind](const WorldState& state) {
+      return std::ranges::contains(state.saveAllEmailList, kind, &Email::typeOfDeal);
+    };
+  };
+  witness.giveHighest();
+  witness.watch(world,
+                {{"auditions",
+                  [](const WorldState& state) { return state.saveAllAuditionList.back().funnelStage == 2; }},
+                 {"agent", [](const WorldState& state) { return state.saveAllTalentAgents.size() == 2; }},
+                 {"investor", hasCome(deal::investment)},
+                 {"stake", hasCome(deal::royalty)},
+                 {"saga", hasCome(deal::franchise)},
+                 {"energy", [](const WorldState& state) { return state.totalEnergyAvailable != 50; }}});
+  world.totalEnergyAvailable = 50;
+  endWeek(game);
+  expectSeen({"auditions", "agent", "investor", "stake", "saga, energy"});
 }
 
 TEST_F(WeekStepOrder, OfTheSummaryThatCloses) {

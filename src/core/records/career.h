@@ -134,8 +134,8 @@ struct Manager {
   bool operator==(const Manager&) const = default;
 };
 
-// The project that an e-mail offers, for an investment or for a role with a stake. In memory only: drawn when
-// its screen is first opened, and the same when it is opened again.
+// The project that an e-mail offers: an investment, a role with a stake, or the first film of a saga. In
+// memory only: drawn when its screen is first opened, and the same when it is opened again.
 struct EmailedProject {
   std::int64_t emailId = 0;
   Audition project;

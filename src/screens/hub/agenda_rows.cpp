@@ -8,6 +8,8 @@
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/backstage/casting_network_view_controller.h"
+#include "screens/offers/email_inbox_view_controller.h"
+#include "screens/offers/renewal_negotiation_view_controller.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
 #include "screens/talent/acting_classes_view_controller.h"
@@ -74,8 +76,34 @@ Row trainingRow(const WorldState& world, const AgendaItem& item) {
           .action = {trainButton(world, item.index)}};
 }
 
+// --- Mail ---
+
+Row mailRow(std::string label, const Email& email) {
+  return {.label = std::move(label),
+          .detail = email.title,
+          .tone = Tone::accent,
+          .press = opens<EmailInboxViewController>()};
+}
+
+Row negotiationRow(const WorldState& world, const Audition& project) {
+  return {.label = "Negotiate your pay",
+          .detail = tb::format("{} wraps {}", titleWithSeason(project), whenIs(world, project.weekToWork)),
+          .picture = {posterOf(world, project)},
+          .press = [id = project.filmId](Stage& stage) { openNegotiation(stage, id); }};
+}
+
 Row openRow(const Game& game, const AgendaItem& item) {
+  const WorldState& world = game.world;
   switch (item.kind) {
+    case AgendaItem::Kind::mail:
+      return mailRow(item.count == 1 ? "You have mail" : tb::format("{} new emails", item.count),
+                     world.saveAllEmailList[item.index]);
+    case AgendaItem::Kind::gift:
+      return mailRow("A gift waits in your inbox", world.saveAllEmailList[item.index]);
+    case AgendaItem::Kind::lapse:
+      return mailRow("This offer goes when the next email comes", world.saveAllEmailList[item.index]);
+    case AgendaItem::Kind::negotiation:
+      return negotiationRow(world, world.saveAllAuditionList[item.index]);
     case AgendaItem::Kind::submissions:
       return {.label = "Send showreels",
               .detail = tb::format("There is energy for {}", counted(item.count, "more role")),
@@ -131,7 +159,9 @@ Row step(std::string label, std::string detail, bool taken, Operation press) {
 
 Section firstWeek(const FirstSteps& steps) {
   return {.heading = "THIS WEEK",
-          .nodes = {step("Find work", "A job pays the rent while you wait for the call", steps.hasWork,
+          .nodes = {step("Open your mail", "Four letters have come, and one is a gift", steps.hasClaimedGift,
+                         opens<EmailInboxViewController>()),
+                    step("Find work", "A job pays the rent while you wait for the call", steps.hasWork,
                          opens<JobBoardViewController>()),
                     step("Send showreels", "Submit for roles on the casting network: 20 energy each",
                          steps.hasSubmitted, opens<CastingNetworkViewController>()),
@@ -196,6 +226,9 @@ void addRunningRows(std::vector<Node>& rows, const Game& game, Wanted isWanted) 
 }
 
 constexpr auto anyKind = [](AgendaItem::Kind) { return true; };
+constexpr auto isMail = [](AgendaItem::Kind kind) {
+  return kind == AgendaItem::Kind::mail || kind == AgendaItem::Kind::gift || kind == AgendaItem::Kind::lapse;
+};
 constexpr auto isGuild = [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::guild; };
 
 // What is due, and what of the wanted kinds there is room for. The guild opens once in a career, so it leads.
@@ -232,14 +265,15 @@ std::vector<Node> lastWeek(const Game& game) {
 }
 
 std::vector<Node> nextAtWork(const Game& game) {
-  std::vector<Node> rows =
-      rowsAhead(game, [](AgendaItem::Kind kind) { return kind != AgendaItem::Kind::training; });
+  std::vector<Node> rows = rowsAhead(
+      game, [](AgendaItem::Kind kind) { return kind != AgendaItem::Kind::training && !isMail(kind); });
   addRunningRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::answers; });
   return underNext(std::move(rows));
 }
 
 std::vector<Node> nextInPublic(const Game& game) {
   std::vector<Node> rows;
+  addOpenRows(rows, game, isMail);
   for (const AgendaItem& item : dueItems(game.world)) {
     const bool isRelease = item.kind == AgendaItem::Kind::release;
     if (isRelease && rows.size() < maxDue) rows.emplace_back(dueRow(game.world, item));

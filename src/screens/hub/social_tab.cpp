@@ -1,14 +1,24 @@
+#include "core/format.h"
 #include "core/number_style.h"
 #include "film/movie_reviews.h"
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
+#include "screens/offers/email_inbox_view_controller.h"
 #include "screens/parts.h"
 #include "screens/reception/quotes_view_controller.h"
 #include "screens/reception/rate_movies_view_controller.h"
+#include "social/inbox.h"
 
 namespace tb {
 
 namespace {
+
+view::Section mail(const WorldState& world) {
+  return {.heading = "MAIL",
+          .nodes = {leadingTo<EmailInboxViewController>(
+              "Inbox", "Agents, investments, stakes and sagas come by email",
+              tb::format("{} of {}", world.saveAllEmailList.size(), inboxCapacity))}};
+}
 
 view::Section reviewing(const WorldState& world) {
   return {.heading = "REVIEWS",
@@ -30,6 +40,7 @@ std::vector<view::Node> socialTab(const Game& game) {
   const std::vector<double> fans(world.trackFans.begin(), world.trackFans.end());
   std::vector<view::Node> nodes = nextInPublic(game);
   nodes.append_range(std::vector<view::Node>{
+      mail(world),
       reviewing(world),
       view::Tiles{{{.label = "Fans", .value = plainCount(game.locale, world.totalFans)}}},
   });

@@ -4,6 +4,7 @@
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
 #include "screens/parts.h"
+#include "screens/wealth/angel_investment_list_view_controller.h"
 #include "screens/wealth/balance_sheet_view_controller.h"
 #include "screens/wealth/financial_management_view_controller.h"
 #include "screens/wealth/money_parts.h"
@@ -21,11 +22,13 @@ using namespace view;
 Section books(const Game& game) {
   return {
       .heading = "MONEY",
-      .nodes = {leadingTo<FinancialManagementViewController>("Finances", "Job, pay and income"),
-                leadingTo<BalanceSheetViewController>("Balance Sheet", "What you own, at today's prices"),
-                leadingTo<WeeklyExpenseListViewController>("Weekly Expenses", "Your regular expenses",
-                                                           cash(game.locale, standingExpenses(game.world))),
-                leadingTo<PaymentTransactionsViewController>("Payments", "What your titles have paid you")}};
+      .nodes = {
+          leadingTo<FinancialManagementViewController>("Finances", "Job, pay and income"),
+          leadingTo<BalanceSheetViewController>("Balance Sheet", "What you own, at today's prices"),
+          leadingTo<WeeklyExpenseListViewController>("Weekly Expenses", "Your regular expenses",
+                                                     cash(game.locale, standingExpenses(game.world))),
+          leadingTo<PaymentTransactionsViewController>("Payments", "What your titles have paid you"),
+          leadingTo<AngelInvestmentListViewController>("Investments", "Your money in other people's films")}};
 }
 
 Chart indexChart(const char* title, const RealList& history) {

@@ -1,17 +1,25 @@
 #include <algorithm>
 
+#include "career/agent_auditions.h"
+#include "career/agent_offer.h"
 #include "career/classes.h"
+#include "career/proven_roles.h"
 #include "core/format.h"
 #include "core/number_style.h"
+#include "core/signed_agent.h"
 #include "core/talent_scores.h"
+#include "core/text.h"
 #include "screens/backstage/casting_network_view_controller.h"
 #include "screens/film/box_office_view_controller.h"
 #include "screens/film/movie_management_view_controller.h"
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
+#include "screens/offers/email_inbox_view_controller.h"
+#include "screens/offers/talent_agent_signed_view_controller.h"
 #include "screens/parts.h"
 #include "screens/reception/top250_movies_view_controller.h"
 #include "screens/talent/acting_classes_view_controller.h"
+#include "screens/talent/actors_guild_view_controller.h"
 #include "screens/talent/talent_traits_view_controller.h"
 #include "screens/work/active_audition_view_controller.h"
 #include "screens/work/job_board_view_controller.h"
@@ -41,6 +49,27 @@ std::string projectsSummary(const WorldState& world) {
                     at(funnel::booked));
 }
 
+// The signed agent; without one, what is missing for an offer.
+view::Row agentRow(const WorldState& world) {
+  if (const TalentAgent* const agent = currentAgent(world)) {
+    const auto weeks = weeksToNextAudition(world);
+    const std::string next = weeks ? "Next opportunity in " + counted(*weeks, "week") : agent->agency;
+    return leadingTo<TalentAgentSignedViewController>("Talent Agent", next, agent->name);
+  }
+  if (world.isSAG == 0) {
+    return leadingTo<ActorsGuildViewController>("Talent Agent",
+                                                "Agents write to members of the Actor's Guild");
+  }
+  const std::size_t roles = provenRoles(world).size();
+  if (roles < agentRoles) {
+    return leadingTo<ActiveAuditionViewController>(
+        "Talent Agent",
+        tb::format("Agents write after {} booked principal roles: you have {}", agentRoles, roles));
+  }
+  return leadingTo<EmailInboxViewController>(
+      "Talent Agent", "An agent may write every tenth week: the more experience and talent, the sooner");
+}
+
 std::string jobSummary(const WorldState& world) {
   return world.weeklyJobTitle.empty() ? "Weekly pay for weekly energy" : world.weeklyJobTitle;
 }
@@ -61,7 +90,7 @@ std::vector<view::Node> workTab(const Game& game) {
           .heading = "WORK",
           .nodes = {leadingTo<CastingNetworkViewController>("Casting Network", "Submit for today's roles"),
                     leadingTo<ActiveAuditionViewController>("Auditions", projectsSummary(world)),
-                    leadingTo<JobBoardViewController>("Job Board", jobSummary(world))}},
+                    leadingTo<JobBoardViewController>("Job Board", jobSummary(world)), agentRow(world)}},
       view::Section{.heading = "INDUSTRY",
                     .nodes = {leadingTo<BoxOfficeViewController>("Box Office", "What the world is watching"),
                               leadingTo<Top250MoviesViewController>("Top 250", "The best of all time"),

@@ -3,6 +3,7 @@
 #include "core/format.h"
 #include "core/number_style.h"
 #include "screens/moments.h"
+#include "screens/offers/email_inbox_view_controller.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
 #include "screens/work/open_project.h"
@@ -62,6 +63,13 @@ std::string momentLine(const Story& story) {
   }
 }
 
+// Mail leads to the inbox, other news to its project.
+Operation leadingToStory(const WorldState& world, const News& about) {
+  const bool isMail = about.kind == NewsKind::mail || about.kind == NewsKind::agent;
+  if (isMail && about.filmId == 0) return opens<EmailInboxViewController>();
+  return leadingToProject(world, about.filmId);
+}
+
 }  // namespace
 
 Headline headlineNode(const Game& game, const Story& story, bool isLead) {
@@ -73,7 +81,7 @@ Headline headlineNode(const Game& game, const Story& story, bool isLead) {
           .picture = pictureOf(game.world, story),
           .tone = toneOf(about.kind),
           .isLead = isLead,
-          .press = leadingToProject(game.world, about.filmId)};
+          .press = leadingToStory(game.world, about)};
 }
 
 std::vector<Node> rowNodes(const Game& game, const FrontPage& page) {

@@ -2,11 +2,13 @@
 
 #include "career/boosts.h"
 #include "career/bribe.h"
+#include "career/renewal_negotiation.h"
 #include "career/withdrawal.h"
 #include "core/find.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
+#include "screens/offers/renewal_negotiation_view_controller.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
 #include "screens/work/boost_parts.h"
@@ -100,6 +102,12 @@ Button bribeButton(const Game& game, const Audition& project) {
           .refusal = briefOf(bribeRefusal(game.world))};
 }
 
+Button negotiateButton(const Audition& project) {
+  return {.label = "Negotiate",
+          .press = [id = project.filmId](Stage& stage) { openNegotiation(stage, id); },
+          .name = tb::format("Negotiate {}", titleWithSeason(project))};
+}
+
 // For a lost role the button only removes it from the list.
 Button withdrawal(const WorldState& world, const Audition& project) {
   if (isOver(world, project)) {
@@ -128,6 +136,7 @@ Page AuditionDetailViewController::view(const Game& game) {
     page.main = {boostButton(game.world, *offered, project, BoostWords::full)};
   }
   if (isBribeOffered(project)) page.nodes.push_back(bribeButton(game, project));
+  if (isNegotiationOffered(game.world, project)) page.nodes.push_back(negotiateButton(project));
   page.nodes.append_range(std::vector<Node>{roleSection(project), projectSection(game, project),
                                             progressSection(game.world, project)});
   if (isWithdrawalOffered(project)) page.nodes.push_back(withdrawal(game.world, project));

@@ -8,6 +8,7 @@
 #include "core/number_style.h"
 #include "core/signed_agent.h"
 #include "core/text.h"
+#include "screens/offers/offer_parts.h"
 #include "screens/parts.h"
 #include "screens/poster.h"
 #include "screens/work/project_words.h"
@@ -39,10 +40,6 @@ std::string shareOf(const Audition& offer) {
                                               : "of the box office, and of the price when it is syndicated";
 }
 
-std::string chanceWords(std::int64_t chance, std::int64_t bonus) {
-  return tb::format("{}% Chance + {}% Agent Bonus", chance, bonus);
-}
-
 }  // namespace
 
 void RoyaltyViewController::load(Stage& stage) {
@@ -63,10 +60,7 @@ Section RoyaltyViewController::askSection(const Game& game, const Audition& offe
           .nodes = {Tiles{{{.label = "Royalty",
                             .value = tb::format("{:.2f}%", percentAsked(offer, steps_)),
                             .detail = shareOf(offer)}}},
-                    Meter{.label = "They agree",
-                          .value = static_cast<double>(chanceOfNegotiation(steps_) + bonus),
-                          .maximum = 100,
-                          .text = chanceWords(chanceOfNegotiation(steps_), bonus)},
+                    chanceMeter(static_cast<double>(chanceOfNegotiation(steps_)), bonus),
                     Buttons{{{.label = "Ask for less",
                               .press = [this](Stage&) { steps_ -= 1; },
                               .offReason = steps_ > 0 ? "" : "This is what they offer"},
@@ -82,12 +76,11 @@ Section RoyaltyViewController::askSection(const Game& game, const Audition& offe
 
 Page RoyaltyViewController::view(const Game& game) {
   const Audition* const offer = stakeOffer(game.world, email_);
-  if (offer == nullptr)
-    return {.title = "Royalty", .nodes = {caption("This offer is not on the table anymore.")}};
+  if (offer == nullptr) return offerIsGone("Royalty");
   return {.title = offer->title,
           .subtitle = tb::format("{} • {}", typeName(offer->typeOfFilm), guildWords(offer->isUnion)),
           .nodes = {posterOf(game.world, *offer), agentMessage(game.world, email_), askSection(game, *offer),
-                    roleSection(*offer), offerSection(game, *offer)}};
+                    roleSection(*offer), offerSection(game, *offer), declineButton("Turn it down", email_)}};
 }
 
 }  // namespace tb
