@@ -61,6 +61,7 @@ void restartCareer(Game& game) {
   eraseUnreadKeys(game.store);
   game.store.weeks().forget();
   ensureBasicNeeds(game);
+  sendWelcomeMail(game.world);
 }
 
 void ensureBasicNeeds(Game& game) {

@@ -28,9 +28,10 @@ void chooseAge(Game& game, Int age);
 Refusal confirmNewCareer(Game& game, const NewCareerForm& form);
 
 // Resets the career: every variable gets its restart value from the table. The vault becomes the starting
-// cash of the next career, permanent energy and experience carry over, and the form has to be filled in again
-// (enterPlayerDetails 0). Variables marked `kept` do not change; cameo sales and the company's salary and
-// attribute points are among them on purpose. No week before the restart can be taken back.
+// cash of the next career, permanent energy and experience carry over, the inbox has the welcome e-mails, and
+// the form has to be filled in again (enterPlayerDetails 0). Variables marked `kept` do not change; cameo
+// sales and the company's salary and attribute points are among them on purpose. No week before the restart
+// can be taken back.
 void restartCareer(Game& game);
 
 // Adds the weekly Basic Needs item when the list has none: every career pays for it.
