@@ -43,10 +43,12 @@ constexpr std::array<MailKind, 8> mailKinds = {{
 }};
 
 std::string tagsOf(const Email& email) {
-  const auto* const kind = std::ranges::find(mailKinds, email.typeOfDeal, &MailKind::typeOfDeal);
-  if (kind == mailKinds.end()) return "";
-  const std::string_view subTag = kind->subTag;
-  return subTag.empty() ? kind->tag : tb::format("{} • {}", kind->tag, subTag);
+  for (const MailKind& kind : mailKinds) {
+    if (kind.typeOfDeal != email.typeOfDeal) continue;
+    const std::string_view subTag = kind.subTag;
+    return subTag.empty() ? kind.tag : tb::format("{} • {}", kind.tag, subTag);
+  }
+  return "";
 }
 
 void party(Stage& stage) {
