@@ -46,7 +46,7 @@ std::string tagsOf(const Email& email) {
   for (const MailKind& kind : mailKinds) {
     if (kind.typeOfDeal != email.typeOfDeal) continue;
     const std::string_view subTag = kind.subTag;
-    return subTag.empty() ? kind.tag : tb::format("{} • {}", kind.tag, subTag);
+    return subTag.empty() ? tb::format("{} • ", kind.tag) : tb::format("{} • {} • ", kind.tag, subTag);
   }
   return "";
 }
@@ -144,8 +144,7 @@ Node EmailInboxViewController::emailRow(const WorldState& world, std::size_t ind
   const Email& email = world.saveAllEmailList[index];
   const auto press = [this, index](Stage& stage) { open(stage, index); };
   Row row{.label = email.title,
-          .value = numericDate(email.weekNumber, email.yearNumber),
-          .detail = tagsOf(email),
+          .detail = tagsOf(email) + numericDate(email.weekNumber, email.yearNumber),
           .picture = senderOf(world, email),
           .tone = email.weekNumberForTracking >= world.weekNumberForTracking - 1 ? Tone::accent : Tone::plain,
           .press = press};
