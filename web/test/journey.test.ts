@@ -7,7 +7,7 @@ import type { Page } from "playwright-core";
 
 import { inspect } from "./inspect";
 import {
-  choose, finds, heading, liveAWeek, nameField, openSaves, play, press, stage, startCareer, visit, workingActor,
+  actorWithOffers, choose, finds, heading, liveAWeek, nameField, openSaves, play, press, stage, startCareer, visit, workingActor,
 } from "./runtime_site";
 import { keepsWordsWhole } from "./whole_words";
 
@@ -46,7 +46,7 @@ test("a career starts, lives ten weeks, and is found again after a reload", asyn
   await inspect(page, "home");
   await inspectOnTheWay(page, [
     ["Work", [], "work"],
-    ["Work", [/^Talent/, /^Train Charisma to 2, 2 energy/], "talent"],
+    ["Work", [/^Talent(?! Agent)/, /^Train Charisma to 2, 2 energy/], "talent"],
   ]);
   await backToTheTabs(page);
   await hubTab(page, "Home");
@@ -75,6 +75,7 @@ test("every other screen of a beginner can be read and left", async () => {
     ["Home", [backstage, /Showreel/], "showreel"],
     ["Home", [backstage, /Showreel/, /Choose footage/], "footage"],
     ["Home", [backstage, /Actor's Guild/], "guild"],
+    ["Social", [/^Inbox/, /^Who writes/], "first-mail"],
     ["Home", [/^Settings/], "settings"],
   ]);
   await press(page, "Restart?");
@@ -163,4 +164,23 @@ test("every screen of a working actor can be read by everybody", async () => {
   assert.equal(await page.evaluate(() => window.scrollY), 0, "a film's box office opens at its top");
   await press(page, "Back");
   assert.notEqual(await page.evaluate(() => window.scrollY), 0, "the way back leads to where the player was");
+});
+
+test("every offer to a working actor can be read by everybody", async () => {
+  const { page } = await play(setting, "Somebody Else");
+  await openSaves(page);
+  await choose(page, actorWithOffers());
+  await press(page, "Replace my career");
+  await finds(page, "Ada Quinn");
+  await inspectOnTheWay(page, [
+    ["Social", [/^Inbox/], "offers-inbox"],
+    ["Social", [/^Inbox/, /AGENT •/], "offers-agent"],
+    ["Social", [/^Inbox/, /INVEST •/, /^Larger stake/], "offers-investment"],
+    ["Social", [/^Inbox/, /ROYALTY •/, /^Ask for more/], "offers-stake"],
+    ["Social", [/^Inbox/, /FRANCHISE •/], "offers-saga"],
+    ["Work", [/^Talent Agent/], "offers-signed-agent"],
+    ["Work", [/^Auditions/, /Season 3/, /^Negotiate/, /^Ask for more/], "offers-negotiation"],
+    ["Wealth", [/^Investments/], "offers-investments"],
+    ["Wealth", [/^Investments/, /Released/], "offers-returns"],
+  ]);
 });

@@ -240,7 +240,9 @@ export async function choose(page: Page, buffer: Buffer): Promise<void> {
 }
 
 // The career of Ada Vale, in her fourth year with projects in every stage.
-export const workingActor = () => readFileSync(join(process.cwd(), "test/saves/working_actor.plist"));
+const savedCareer = (name: string) => readFileSync(join(process.cwd(), `test/saves/${name}.plist`));
+export const workingActor = () => savedCareer("working_actor");
+export const actorWithOffers = () => savedCareer("offers"); // the golden walk's working performer, exported
 
 // For visit(): disables storage.
 export function withoutStorage(): void {

@@ -42,11 +42,12 @@ constexpr std::array<MailKind, 8> mailKinds = {{
     {.typeOfDeal = deal::message, .tag = "FAN MAIL", .subTag = ""},
 }};
 
+// With a line break; empty for the first mail.
 std::string tagsOf(const Email& email) {
   for (const MailKind& kind : mailKinds) {
     if (kind.typeOfDeal != email.typeOfDeal) continue;
     const std::string_view subTag = kind.subTag;
-    return subTag.empty() ? tb::format("{} • ", kind.tag) : tb::format("{} • {} • ", kind.tag, subTag);
+    return subTag.empty() ? tb::format("{}\n", kind.tag) : tb::format("{} • {}\n", kind.tag, subTag);
   }
   return "";
 }
