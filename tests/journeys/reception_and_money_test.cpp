@@ -109,7 +109,7 @@ void TitleIncomeJourney::isReviewed() {
   player().press("New Release");
   player().expectSees({"Salt Road", "Own Goal"});
   player().press("Imbd page of Salt Road");
-  player().expectSees({std::format("Metascore: {}", device.film(lead).imbdMetascore)});
+  player().expectSees({std::format("Metascore | {}", device.film(lead).imbdMetascore)});
   player().follow({"Back", "Box office of Salt Road"});
   player().expectSees({"Domestic"});
   player().follow({"Back", "Back"});

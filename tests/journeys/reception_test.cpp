@@ -34,8 +34,8 @@ TEST_F(ReceptionJourney, ReviewsStayWhileThePageIsOpen) {
   player.follow({"New Release", "Imbd page of Salt Road"});
   EXPECT_EQ(player.title(), "Salt Road");
   const Film& film = device.film(1);
-  player.expectSees({std::format("Imbd: {:.1f}", film.imbdRating),
-                     std::format("Metascore: {}", film.imbdMetascore), "Mina Falk", "Top 250: Unranked"});
+  player.expectSees({std::format("Imbd | {:.1f}", film.imbdRating),
+                     std::format("Metascore | {}", film.imbdMetascore), "Mina Falk", "Top 250 | Unranked"});
   const auto open = page();
 
   player.press("Rate this title");

@@ -50,10 +50,10 @@ TEST_F(WeekReviewJourney, TheFirstBookingIsAMoment) {
   const std::string booked =
       "You auditioned for Two Hats and the cast director offered you the role. Shooting begins in 10 "
       "week(s).";
-  player.expectSees({"deal | BOOKED | Two Hats • Lead",
-                     "BOOKED | [" + booked + "] | Lead • Feature Film <good> <lead>", "(poster poster1",
-                     "NO ANSWER | [You never heard back after applying for Salt Road.] <quiet>", "FEED",
-                     "Net of the week"});
+  player.expectSees(
+      {"BOOKED | Two Hats • Lead", "[BOOKED | " + booked + " | Lead • Feature Film | <good> | <isLead>]",
+       "poster1 | Two Hats", "[NO ANSWER | You never heard back after applying for Salt Road. | <quiet>]",
+       "FEED", "Net of the week"});
 
   // The headline opens the project, and Back shows the same page without the scene.
   player.press(booked);
