@@ -27,8 +27,8 @@ class Player {
   void type(const std::string& label, const std::string& text);
   void slide(const std::string& label, double value);
 
-  // All texts of the page, one per line, the dialog first. Tones are appended in angle brackets; usable items
-  // are in square brackets.
+  // A line for each struct of the page that says something: its texts, and what differs from a new struct.
+  // What can be pressed is in square brackets, words of the vocabulary are in angle brackets.
   [[nodiscard]] std::vector<std::string> words() const;
   [[nodiscard]] bool sees(const std::string& text) const;
   [[nodiscard]] std::string title() const { return app_.view().title; }
@@ -44,15 +44,15 @@ class Player {
 
   // An item that can be pressed, typed into or slid.
   struct Usable {
-    std::string label;
-    view::Handle handle;
-    enum class Kind : std::uint8_t { press, type, slide } kind;
+    std::string label = {};
+    view::Handle handle = 0;
+    enum class Kind : std::uint8_t { press, type, slide } kind = Kind::press;
     double minimum = 0;
     double maximum = 0;
-    bool onPage = false;    // false: a tab, an icon, the back button or an answer
-    int item = 0;           // number of the card or list item that contains it, from 1
-    std::string likeness;   // equal for items that differ only in names and figures; empty outside items
-    std::string name = {};  // screen-reader name, if it differs from the label
+    bool onPage = false;        // false: a tab, an icon, the back button or an answer
+    int item = 0;               // number of the card or list item that contains it, from 1
+    std::string likeness = {};  // equal for items that differ only in names and figures; empty outside items
+    std::string name = {};      // screen-reader name, if it differs from the label
   };
   [[nodiscard]] std::vector<Usable> usable() const;
 

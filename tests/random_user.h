@@ -37,17 +37,17 @@ class RandomUser {
   }
 
  private:
-  // Prefers ending weeks and answering messages, so that the career advances, and rarely restarts it.
+  // Prefers ending weeks, answering messages and sending showreels, so that the career advances, and rarely
+  // restarts it.
   const Player::Usable& choose(const std::vector<Player::Usable>& all) {
-    constexpr std::int64_t favored = 3;  // in 10
-    constexpr std::array<std::string_view, 4> labels = {"Start my career", "OK", "End Week", "Close"};
-    if (RandomRange(whim_, 10) < favored) {
-      const auto found = std::ranges::find_if(
-          all, [&](const Player::Usable& use) { return std::ranges::contains(labels, use.label); });
-      if (found != all.end()) return *found;
+    constexpr std::array<std::string_view, 5> favored = {"Submit", "Start my career", "OK", "End Week",
+                                                         "Close"};
+    for (const std::string_view label : favored) {
+      const auto found = std::ranges::find(all, label, &Player::Usable::label);
+      if (found != all.end() && RandomRange(whim_, 8) == 0) return *found;
     }
     const auto& any = all[static_cast<std::size_t>(RandomRange(whim_, std::ssize(all)))];
-    return any.label == "Restart" && RandomRange(whim_, 10) > 0 ? all.front() : any;
+    return any.label == "Restart" && RandomRange(whim_, 50) > 0 ? all.front() : any;
   }
 
   SeededRandom whim_;

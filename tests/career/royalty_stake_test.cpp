@@ -43,10 +43,9 @@ TEST(RoyaltyScreen, NegotiatesOnce) {
   player.press("Open");
   const Audition offer = *stakeOffer(app.game().world, mail);
   EXPECT_EQ(player.title(), offer.title);
-  player.expectSees(
-      {"No fee. Hear me out.", "They agree: 100% Chance + 6% Agent Bonus", "This is what they offer"});
+  player.expectSees({"No fee. Hear me out.", "100% Chance + 6% Agent Bonus", "This is what they offer"});
   for (int step = 0; step < maxStakeSteps; ++step) player.press("Ask for more");
-  player.expectSees({"They agree: 0% Chance + 6% Agent Bonus", "Nobody has ever asked for more"});
+  player.expectSees({"| 0% Chance + 6% Agent Bonus", "Nobody has ever asked for more"});
   for (int step = 0; step < maxStakeSteps; ++step) player.press("Ask for less");
 
   player.follow({"Back", "Open"});

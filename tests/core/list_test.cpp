@@ -168,64 +168,41 @@ TEST_P(PersistedListFuzz, LoadsWhatWasSaved) {
 
   for (int step = 0; step < 3000; ++step) {
     const std::string text = std::to_string(step);
-    switch (below(16)) {
-      case 0:
-      case 1:
-      case 2:
+    const std::size_t choice = below(16);
+    const std::size_t at = model.empty() ? 0 : below(model.size());
+    if (choice < 3) {
+      list.push_back(text);
+      model.push_back(text);
+    } else if (choice < 5) {
+      list.push_front(text);
+      model.insert(model.begin(), text);
+    } else if (choice == 5) {
+      for (std::size_t i = 0; i < growth * 10; ++i) {
         list.push_back(text);
         model.push_back(text);
-        break;
-      case 3:
-      case 4:
-        list.push_front(text);
-        model.insert(model.begin(), text);
-        break;
-      case 5:
-        for (std::size_t i = 0; i < growth * 10; ++i) {
-          list.push_back(text);
-          model.push_back(text);
-        }
-        break;
-      case 6:
-      case 7:
-      case 8:
-        if (model.empty()) break;
-        if (const std::size_t at = below(model.size()); true) {
-          list.erase_at(at);
-          model.erase(model.begin() + static_cast<std::ptrdiff_t>(at));
-        }
-        break;
-      case 9:
-        if (model.empty()) break;
-        list.pop_back();
-        model.pop_back();
-        break;
-      case 10:
-        if (const char digit = static_cast<char>('0' + below(10)); true) {
-          const auto ends = [digit](const std::string& value) { return value.back() == digit; };
-          EXPECT_EQ(list.erase_if(ends), std::erase_if(model, ends));
-        }
-        break;
-      case 11:
-      case 12:
-        if (model.empty()) break;
-        if (const std::size_t at = below(model.size()); true) list.edit(at) = model[at] = text;
-        break;
-      case 13:
-        if (below(20) > 0) break;
-        list.assign(std::vector<std::string>(list.begin(), list.end()));
-        break;
-      case 14:
-        if (below(20) > 0) break;
-        list.clear();
-        model.clear();
-        break;
-      default:
-        stored.save(list);
-        ASSERT_FALSE(list.changed());
-        const List<std::string> loaded = stored.load();
-        ASSERT_EQ(std::vector(loaded.begin(), loaded.end()), model) << "after step " << step;
-        if (below(3) == 0) stored.loadInto(list);
+      }
+    } else if (choice < 9 && !model.empty()) {
+      list.erase_at(at);
+      model.erase(model.begin() + static_cast<std::ptrdiff_t>(at));
+    } else if (choice == 9 && !model.empty()) {
+      list.pop_back();
+      model.pop_back();
+    } else if (choice == 10) {
+      const auto ends = [digit = text.back()](const std::string& value) { return value.back() == digit; };
+      EXPECT_EQ(list.erase_if(ends), std::erase_if(model, ends));
+    } else if (choice < 13 && !model.empty()) {
+      list.edit(at) = model[at] = text;
+    } else if (choice == 13 && below(20) == 0) {
+      list.assign(std::vector<std::string>(list.begin(), list.end()));
+    } else if (choice == 14 && below(20) == 0) {
+      list.clear();
+      model.clear();
+    } else if (choice == 15) {
+      stored.save(list);
+      ASSERT_FALSE(list.changed());
+      const List<std::string> loaded = stored.load();
+      ASSERT_EQ(std::vector(loaded.begin(), loaded.end()), model) << "after step " << step;
+      if (below(3) == 0) stored.loadInto(list);
     }
     ASSERT_EQ(list.size(), model.size());
   }

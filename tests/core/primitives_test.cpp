@@ -73,28 +73,12 @@ TEST(Bands, FindsRowsAtBothEndsAndNoneInGaps) {
 
 TEST(GoldenNumbers, FormsAtEachThreshold) {
   test::Sheet sheet("core_numbers");
-  for (const double amount : {0.0,
-                              99.5,
-                              99.999,
-                              100.0,
-                              999.4,
-                              1e3,
-                              1500.0,
-                              9999.0,
-                              1e4,
-                              999'999.0,
-                              1e6,
-                              99.94e6,
-                              1e8,
-                              999'999'999.0,
-                              1e9,
-                              999.94e9,
-                              1e12,
-                              -0.5,
-                              -1.0,
-                              -1e15,
-                              std::numeric_limits<double>::quiet_NaN(),
-                              std::numeric_limits<double>::infinity()}) {
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  constexpr double endless = std::numeric_limits<double>::infinity();
+  constexpr double loss = -1.0;
+  for (const double amount : {0.0,  99.5,      99.999, 100.0,       999.4, 1e3,           1500.0, 9999.0,
+                              1e4,  999'999.0, 1e6,    99.94e6,     1e8,   999'999'999.0, 1e9,    999.94e9,
+                              1e12, loss / 2,  loss,   loss * 1e15, none,  endless}) {
     sheet.line(std::format("{:f} dollars: '{}'", amount, shortMoney({}, amount)));
   }
   for (const std::int64_t count : {0LL, 999LL, 1'000LL, 999'949LL, 1'000'000LL, 1'550'000'000LL,

@@ -137,10 +137,10 @@ struct OffersJourney : testing::Test {
   void negotiate(std::int64_t filmId, const std::string& title, double level) {
     random.setLevel(level);
     player().follow({"Work", "Auditions", "Bookings", title + " Season 2", "Negotiate"});
-    player().expectSees({"You are being offered a $1,000 increase from last season",
-                         "They agree: 100% Chance + 5% Agent Bonus"});
+    player().expectSees(
+        {"You are being offered a $1,000 increase from last season", "| 100% Chance + 5% Agent Bonus"});
     player().follow({"Ask for more", "Ask for more", "Ask for less", "Ask for more"});
-    player().expectSees({"They agree: 80% Chance + 5% Agent Bonus"});
+    player().expectSees({"| 80% Chance + 5% Agent Bonus"});
     player().press(player().page().main.front().label);
     const bool won = level < 0.5;
     player().expectTold(won ? "🤝 Success! ✅" : "❌ Negotiation Failed! ❌");
@@ -160,7 +160,7 @@ struct OffersJourney : testing::Test {
     const double cash = world().totalCashAvailable;
     const InvestmentTalks talks = beginInvestmentTalks(world(), world().passEmailId);
     player().follow({"Larger stake", "Larger stake"});
-    player().expectSees({"They agree: 80% Chance + 5% Agent Bonus"});
+    player().expectSees({"| 80% Chance + 5% Agent Bonus"});
     player().press("OFFER");
     player().expectTold("💰🤝 Locked In 🤝💰");
     player().press("Home");

@@ -2,9 +2,11 @@
 #include <deque>
 #include <format>
 #include <gtest/gtest.h>
+#include <ranges>
 
 #include "shells/console/console.h"
 #include "shells/console/text.h"
+#include "tests/golden.h"
 #include "tests/shells/console_pages.h"
 
 namespace tb::console {
@@ -95,15 +97,36 @@ class DeskScreen : public Screen {
   Seen& seen_;
 };
 
+void play(ScriptedPort& port, Seen& seen, bool diskIsFull) {
+  test::ScratchGame scratch;
+  scratch.port.failAll(diskIsFull);
+  scratch.store.put("weekNumber", plist::Value{std::int64_t{3}});
+  App app(scratch.store, scratch.random, {}, std::make_unique<DeskScreen>(seen));
+  Console(app, port).play();
+}
+
+std::string transcriptOf(const std::vector<std::string>& lines) {
+  ScriptedPort port;
+  Seen seen;
+  for (const std::string& line : lines) port.types(line);
+  play(port, seen, false);
+  std::string text;
+  std::string before = port.pages.front();
+  for (const std::string& page : port.pages) {
+    for (const auto line : std::views::split(page, '\n')) {
+      const std::string shown(line.begin(), line.end());
+      if (!before.contains(shown + "\n")) text += shown + "\n";
+    }
+    before = page;
+  }
+  for (const std::string& prompt : port.prompts) text += prompt + "|";
+  return text + std::format("\npresses {}, name '{}', slid {}, unread {}\n", seen.presses, seen.name,
+                            testing::PrintToString(seen.slid), port.unread());
+}
+
 class ConsoleLoop : public testing::Test {
  protected:
-  void play() {
-    test::ScratchGame scratch;
-    scratch.port.failAll(diskIsFull);
-    scratch.store.put("weekNumber", plist::Value{std::int64_t{3}});
-    App app(scratch.store, scratch.random, {}, std::make_unique<DeskScreen>(seen));
-    Console(app, port).play();
-  }
+  void play() { console::play(port, seen, diskIsFull); }
   // The page after the n-th input line; 0 is the first page.
   [[nodiscard]] const std::string& pageAfter(std::size_t n) const { return port.pages.at(n); }
 
@@ -125,78 +148,29 @@ TEST_F(ConsoleLoop, WarnsOnEachPageAndBeforeLeavingWhileNothingCanBeSaved) {
 
 bool shows(const std::string& page, std::string_view text) { return page.contains(text); }
 
+// What a player types, and what each page says that the one before it did not.
+TEST(GoldenConsoleLoop, Sessions) {
+  const std::pair<const char*, std::vector<std::string>> sessions[] = {
+      {"a number uses its item, and q leaves at once",
+       {"1", "  1  ", "2 Zoë Lark", "3 25", "3 -7.5", "q", "1"}},
+      {"a field or a slider asks for a missing value, and Enter keeps it",
+       {"2", "Bo", "3", "40", "2", "", "3", ""}},
+      {"a field is cleared", {"2", "-"}},
+      {"a long field takes several lines", {"4", "Born.", "Acted.", ""}},
+      {"the input ends at a question", {"2"}},
+      {"the input ends in a long field", {"4", "Half a story"}},
+      {"what cannot be used is explained",
+       {"77", "1 now", "3 old", "3 1e9", "3 nan", "b", "sell", "999999999999"}},
+      {"a dialog is modal", {"5", "b", "2 Eve", "1", "6", "b", ""}},
+      {"a text is cleaned and cut",
+       {"2 \x1b[31mEvil\x1b[0m\x07\t" + std::string(1, '\0') + "\xff\xc3name" + std::string(100'000, 'x')}},
+      {"a question mark shows the help", {"?", ""}}};
+  std::string text;
+  for (const auto& [what, lines] : sessions) text += "==== " + std::string(what) + "\n" + transcriptOf(lines);
+  test::expectGolden("console_sessions", text);
+}
+
 }  // namespace
-
-TEST_F(ConsoleLoop, ANumberUsesItsItem) {
-  port.types("1").types("  1  ").types("2 Zoë Lark").types("3 25").types("3 -7.5").types("q").types("1");
-  play();
-  EXPECT_EQ(seen.presses, 2);
-  EXPECT_EQ(seen.name, "Zoë Lark");
-  EXPECT_EQ(seen.slid, (std::vector{25.0, -7.5})) << "what is out of range is the screen's to mend";
-  EXPECT_EQ(port.unread(), 1) << "q leaves at once";
-}
-
-TEST_F(ConsoleLoop, FieldsAndSlidersAskForMissingValues) {
-  port.types("2").types("Bo").types("3").types("40").types("2").types("").types("3").types("");
-  play();
-  EXPECT_EQ(seen.name, "Bo") << "Enter keeps it";
-  EXPECT_EQ(seen.slid, std::vector{40.0});
-  EXPECT_TRUE(shows(port.prompts[1], "Name"));
-  EXPECT_TRUE(shows(port.prompts[3], "Age (18 to 60)"));
-}
-
-TEST_F(ConsoleLoop, AFieldIsClearedAndALongOneTakesSeveralLines) {
-  port.types("2").types("-");
-  play();
-  EXPECT_EQ(seen.name, "");
-  port.types("4").types("Born.").types("Acted.").types("");
-  play();
-  EXPECT_EQ(seen.name, "Born.\nActed.");
-}
-
-TEST_F(ConsoleLoop, InputCanEndAnywhere) {
-  port.types("2");
-  play();
-  EXPECT_EQ(seen.name, "Ada");
-  port.types("4").types("Half a story");
-  play();
-  EXPECT_EQ(seen.name, "Ada") << "what was not finished is not taken";
-}
-
-TEST_F(ConsoleLoop, ExplainsInvalidInput) {
-  port.types("77").types("1 now").types("3 old").types("3 1e9").types("3 nan").types("b").types("sell").types(
-      "999999999999");
-  play();
-  EXPECT_TRUE(shows(pageAfter(1), "There is no [77]"));
-  EXPECT_TRUE(shows(pageAfter(2), "[1] takes no text"));
-  for (const std::size_t page : {3u, 4u, 5u})
-    EXPECT_TRUE(shows(pageAfter(page), "Age takes a number: 18 to 60"));
-  EXPECT_TRUE(shows(pageAfter(6), "You can't go back from here."));
-  EXPECT_TRUE(shows(pageAfter(7), "That is not an option."));
-  EXPECT_TRUE(shows(pageAfter(8), "That is not an option."));
-  EXPECT_EQ(seen.presses, 0);
-  EXPECT_TRUE(seen.slid.empty());
-}
-
-TEST_F(ConsoleLoop, ADialogIsModal) {
-  port.types("5").types("b").types("2 Eve").types("1").types("6").types("b").types("");
-  play();
-  EXPECT_TRUE(shows(pageAfter(1), "Really?"));
-  EXPECT_TRUE(shows(pageAfter(2), "answered first"));
-  EXPECT_TRUE(shows(pageAfter(3), "There is no [2]"));
-  EXPECT_FALSE(shows(pageAfter(4), "Really?"));
-  EXPECT_TRUE(shows(pageAfter(5), "[1] Back"));
-  EXPECT_TRUE(shows(pageAfter(6), "Desk"));
-  EXPECT_EQ(seen.name, "Ada");
-}
-
-TEST_F(ConsoleLoop, CleansAndTruncatesInput) {
-  port.types("2 \x1b[31mEvil\x1b[0m\x07\t" + std::string(1, '\0') + "\xff\xc3name" +
-             std::string(100'000, 'x'));
-  play();
-  EXPECT_EQ(seen.name, "Evil \uFFFD\uFFFDnam");
-  EXPECT_TRUE(shows(port.last(), "Cut to 10 characters."));
-}
 
 TEST_F(ConsoleLoop, TicksOnlyDuringCountdowns) {
   port.types("", 30);
@@ -250,14 +224,6 @@ TEST_F(ConsoleLoop, KeepsTheScrollPositionAndShowsWholeDialogs) {
   EXPECT_TRUE(shows(pageAfter(3), "[1] | OK"));
   EXPECT_TRUE(shows(pageAfter(4), "Line 20."));
   EXPECT_FALSE(shows(pageAfter(5), "Line"));
-}
-
-TEST_F(ConsoleLoop, AQuestionMarkShowsHelp) {
-  port.types("?").types("");
-  play();
-  EXPECT_TRUE(shows(pageAfter(0), "? tells more, q leaves."));
-  EXPECT_TRUE(shows(pageAfter(1), "b goes back"));
-  EXPECT_FALSE(shows(pageAfter(2), "b goes back"));
 }
 
 }  // namespace tb::console

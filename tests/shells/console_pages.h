@@ -1,6 +1,6 @@
 #pragma once
 
-// Pages for console tests and their plain text.
+// A screen, a layout and plain text for console tests.
 
 #include <memory>
 #include <string>
@@ -38,8 +38,5 @@ inline std::string textOf(const console::PaintedPage& page) {
 }
 
 inline const Operation nothing = [](Stage&) {};
-
-// A page with every kind of node.
-view::Page gallery();
 
 }  // namespace tb::test

@@ -25,8 +25,8 @@ std::string written(Write write) {
 
 // Money, percentages, scores, limits of the format, and random bit patterns.
 std::vector<double> doubles() {
+  using Limits = std::numeric_limits<double>;
   std::vector<double> values{0.0,
-                             -0.0,
                              1,
                              9.5,
                              0.1,
@@ -44,14 +44,13 @@ std::vector<double> doubles() {
                              1e23,
                              5e-324,
                              2.2250738585072014e-308,
-                             -2.5,
                              0.125,
                              999999.5,
-                             9007199254740993.0};
-  values.push_back(std::numeric_limits<double>::max());
-  values.push_back(std::numeric_limits<double>::infinity());
-  values.push_back(-std::numeric_limits<double>::infinity());
-  values.push_back(std::numeric_limits<double>::quiet_NaN());
+                             9007199254740993.0,
+                             Limits::max(),
+                             Limits::infinity(),
+                             Limits::quiet_NaN()};
+  for (const double negative : {0.0, 2.5, Limits::infinity()}) values.push_back(-negative);
   std::mt19937_64 bits(7);
   for (int count = 0; count < 3'000; ++count) {
     values.push_back(std::round(static_cast<double>(bits() % 10'000'000'000)) / 100);

@@ -2,9 +2,6 @@
 //
 //   property_list_tool show FILE         prints every value with its path, kind and bits
 //   property_list_tool copy FILE NEW     reads the file and writes it again
-//   property_list_tool career NEW        writes the store of a career after some weeks
-//   property_list_tool class FILE NEW    the store of FILE, brought into the game, after signing up for a
-//   class
 
 #include <bit>
 #include <cstdio>
@@ -16,9 +13,6 @@
 #include <string_view>
 
 #include "core/property_list.h"
-#include "tests/memory_port.h"
-#include "tests/player.h"
-#include "tests/seeded_random.h"
 
 namespace tb {
 namespace {
@@ -84,48 +78,11 @@ int copy(const Bytes& file, const char* to) {
   return writeFile(to, plist::write(*value)) ? 0 : fail("The copy could not be written.");
 }
 
-// Plays the given steps on the store and writes it to the file.
-template <class Play>
-int playAndWrite(const plist::Dictionary& before, const char* to, Play play) {
-  test::MemoryPort port;
-  SaveStore store(port);
-  store.replace(before);
-  test::SeededRandom random(1);
-  App app(store, random);
-  test::Player player(app);
-  play(player);
-  return writeFile(to, plist::write({store.dictionary()})) ? 0 : fail("The store could not be written.");
-}
-
-int career(const char* to) {
-  return playAndWrite({}, to, [](test::Player& player) {
-    player.type("Stage name", "Zoë 🎬");
-    player.press("Headshot 1");
-    player.press("Start my career");
-    for (int week = 0; week < 5; ++week) {
-      player.press("End Week");
-      player.press("Close");
-    }
-  });
-}
-
-int signUpForAClass(const Bytes& file, const char* to) {
-  const auto value = plist::read(file);
-  if (!value || value->as<plist::Dictionary>() == nullptr) return fail("The file is no store.");
-  return playAndWrite(*value->as<plist::Dictionary>(), to, [](test::Player& player) {
-    player.press("Work");
-    player.press("Acting Classes");
-    player.press("Sign up");
-  });
-}
-
 int run(int count, char** arguments) {
   const std::string_view task = count > 1 ? arguments[1] : "";
   if (task == "show" && count == 3) return show(contentOf(arguments[2]));
   if (task == "copy" && count == 4) return copy(contentOf(arguments[2]), arguments[3]);
-  if (task == "career" && count == 3) return career(arguments[2]);
-  if (task == "class" && count == 4) return signUpForAClass(contentOf(arguments[2]), arguments[3]);
-  return fail("property_list_tool show FILE | copy FILE NEW | career NEW | class FILE NEW");
+  return fail("property_list_tool show FILE | copy FILE NEW");
 }
 
 }  // namespace
