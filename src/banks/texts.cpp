@@ -39,17 +39,29 @@ constexpr char angelFile[] = {
 constexpr char auditionFile[] = {
 #embed "banks/audition.txt"
 };
+constexpr char awardsFile[] = {
+#embed "banks/awards.txt"
+};
 constexpr char bankableFile[] = {
 #embed "banks/bankable.txt"
 };
 constexpr char boxOfficeFile[] = {
 #embed "banks/box_office.txt"
 };
+constexpr char cameoFile[] = {
+#embed "banks/cameo.txt"
+};
+constexpr char chirpFile[] = {
+#embed "banks/chirp.txt"
+};
 constexpr char criticsFile[] = {
 #embed "banks/critics.txt"
 };
 constexpr char earningsFile[] = {
 #embed "banks/earnings.txt"
+};
+constexpr char fameFile[] = {
+#embed "banks/fame.txt"
 };
 constexpr char filmFile[] = {
 #embed "banks/film.txt"
@@ -88,15 +100,19 @@ constexpr char weekFile[] = {
 #embed "banks/week.txt"
 };
 
-constexpr std::array<std::string_view, 20> files = {{
+constexpr std::array<std::string_view, 24> files = {{
     {agentsFile, sizeof agentsFile},
     {allTimeFile, sizeof allTimeFile},
     {angelFile, sizeof angelFile},
     {auditionFile, sizeof auditionFile},
+    {awardsFile, sizeof awardsFile},
     {bankableFile, sizeof bankableFile},
     {boxOfficeFile, sizeof boxOfficeFile},
+    {cameoFile, sizeof cameoFile},
+    {chirpFile, sizeof chirpFile},
     {criticsFile, sizeof criticsFile},
     {earningsFile, sizeof earningsFile},
+    {fameFile, sizeof fameFile},
     {filmFile, sizeof filmFile},
     {jobsFile, sizeof jobsFile},
     {namesFile, sizeof namesFile},

@@ -4,6 +4,7 @@
 
 #include "banks/box_office_banks.h"
 #include "banks/draw.h"
+#include "core/chirps.h"
 #include "core/find.h"
 #include "core/log.h"
 #include "core/number_style.h"
@@ -11,7 +12,6 @@
 #include "film/fan_gain.h"
 #include "film/film_record.h"
 #include "film/markets.h"
-#include "social/chirps.h"
 
 namespace tb {
 
@@ -113,7 +113,7 @@ void postBoxOfficeChirp(Game& game) {
   Chirp post = game.world.openingChirp.front();
   game.world.openingChirp.clear();
   drawCrowdReach(game.random, post);
-  game.world.saveAllChirpList.push_back(std::move(post));
+  addChirp(game.world, std::move(post));
 }
 
 void closeBoxOffice(Game& game) {

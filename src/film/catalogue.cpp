@@ -188,17 +188,22 @@ std::span<const CatalogueTitle> rateMovieCatalogue() {
   return rows;
 }
 
+std::span<const Bankable> leadingStars() {
+  static const std::vector<Bankable> stars = numberedStars();
+  return stars;
+}
+
 std::span<const std::string> starNames() {
   static const std::vector<std::string> names = [] {
     std::vector<std::string> all;
-    for (const Bankable& star : numberedStars()) all.push_back(star.name);
+    for (const Bankable& star : leadingStars()) all.push_back(star.name);
     return all;
   }();
   return names;
 }
 
 std::vector<Bankable> bankables(RandomSource& random) {
-  std::vector<Bankable> stars = numberedStars();
+  std::vector<Bankable> stars(leadingStars().begin(), leadingStars().end());
   for (Bankable& star : stars) {
     star.rating = RandomBetween(random, minStarRating, maxStarRating);
     star.lastWeekRating = RandomBetween(random, minStarRatingLastWeek, maxStarRating);

@@ -77,8 +77,8 @@ struct CatalogueTitle {
 // A star of the industry.
 struct Bankable {
   std::int64_t id = 0;              // 1 and up
-  std::int64_t rating = 0;          // drawn, 10 to 100
-  std::int64_t lastWeekRating = 0;  // drawn, 50 to 100
+  std::int64_t rating = 0;          // 10 to 100; drawn by bankables()
+  std::int64_t lastWeekRating = 0;  // 50 to 100; likewise
   std::string name;
   double totalGross = 0;  // dollars
   std::int64_t totalMovies = 0;
@@ -109,7 +109,8 @@ struct Bankable {
 // 210 titles.
 [[nodiscard]] std::span<const CatalogueTitle> rateMovieCatalogue();
 
-// The 100 stars by descending gross: their names, and their data with newly drawn ratings.
+// The 100 stars by descending gross: their data, their names, and their data with newly drawn ratings.
+[[nodiscard]] std::span<const Bankable> leadingStars();
 [[nodiscard]] std::span<const std::string> starNames();
 [[nodiscard]] std::vector<Bankable> bankables(RandomSource& random);
 

@@ -5,8 +5,8 @@
 #include "banks/draw.h"
 #include "banks/film_banks.h"
 #include "core/bands.h"
+#include "core/chirps.h"
 #include "core/find.h"
-#include "social/chirps.h"
 
 namespace tb {
 
@@ -50,7 +50,7 @@ void postAnswer(Game& game, const Audition& project, const std::string& answer) 
   Chirp post = playerChirp(game, "[on " + project.title + "] " + answer);
   post.filmResponse = interviewAnswer;
   post.filmId = project.filmId;
-  game.world.saveAllChirpList.push_back(std::move(post));
+  addChirp(game.world, std::move(post));
 }
 
 }  // namespace

@@ -76,6 +76,11 @@ class Layout {
     for (Button& action : row.action) visit(action);
   }
   void visit(Headline& headline) { headline.handle = pressable(headline.press); }
+  void visit(Post& post) {
+    post.handle = pressable(post.press);
+    for (Button& action : post.actions) visit(action);
+  }
+  void visit(Place& place) { place.handle = pressable(place.press); }
   void visit(Fold& fold) {
     fold.isOpen = stage_.isFoldOpen(fold.key);
     fold.handle = add({.press = [key = fold.key](Stage& stage) { stage.turnFold(key); }});

@@ -16,6 +16,8 @@ template Node::Node(Button);
 template Node::Node(Buttons);
 template Node::Node(Row);
 template Node::Node(Headline);
+template Node::Node(Post);
+template Node::Node(Place);
 template Node::Node(Field);
 template Node::Node(Slider);
 template Node::Node(Choice);

@@ -179,6 +179,39 @@ struct Headline {
   Handle handle = 0;
 };
 
+// A post of a feed.
+struct Post {
+  std::string note;  // above it, such as "Pinned"; may be empty
+  std::string author;
+  std::string when;
+  std::string text;              // words that start with "@" are highlighted
+  std::vector<Picture> picture;  // of the author: none or one
+  std::string comments;          // formatted, as are the next two
+  std::string reposts;
+  std::string likes;
+  bool isVerified = false;
+  bool mine = false;            // by the player
+  std::vector<Button> actions;  // below it
+  std::string pressName;        // of the operation, for screen readers: "Replies"
+  Operation press;              // may be empty
+  Handle handle = 0;
+};
+
+// An entry of a chart, with its place.
+struct Place {
+  std::string place;
+  enum class Move : std::uint8_t { none, up, down, level, entered };
+  Move move = Move::none;  // since the last chart
+  std::string moved;       // in words: "up 3"
+  std::string label;
+  std::string detail;
+  std::string value;
+  std::vector<Picture> picture;  // none or one
+  Tone tone = Tone::plain;
+  Operation press;  // may be empty
+  Handle handle = 0;
+};
+
 struct Field {
   std::string label;
   std::string value;
@@ -299,9 +332,9 @@ struct ListPage {
 };
 
 struct Node {
-  std::variant<Text, Tiles, Balance, Meter, Stars, Button, Buttons, Row, Headline, Field, Slider, Choice,
-               Chart, Picture, Bubble, TimelineEntry, Countdown, Section, Fold, Card, SwipeCard, PagedList,
-               ListPage>
+  std::variant<Text, Tiles, Balance, Meter, Stars, Button, Buttons, Row, Headline, Post, Place, Field, Slider,
+               Choice, Chart, Picture, Bubble, TimelineEntry, Countdown, Section, Fold, Card, SwipeCard,
+               PagedList, ListPage>
       node;
   // For each kind. Defined in view.cpp, as what follows: a variant of so many kinds is slow to compile, and
   // every screen makes and moves nodes.
@@ -343,9 +376,10 @@ struct Dialog {
 // skips it, and the page has the same information.
 struct Moment {
   enum class Scene : std::uint8_t {
-    deal,     // a poster appears and is stamped
-    curtain,  // a curtain opens over a poster
-    marquee,  // the title in lights
+    deal,      // a poster appears and is stamped
+    curtain,   // a curtain opens over a poster
+    marquee,   // the title in lights
+    envelope,  // an envelope opens, and the line comes out
   };
   Scene scene = Scene::marquee;
   std::string title;  // a word or two in capitals

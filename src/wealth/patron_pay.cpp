@@ -9,7 +9,6 @@ namespace tb {
 
 namespace {
 
-constexpr std::size_t reviewsNeeded = 10;
 constexpr double weeksOfInterest = 200;
 constexpr double subscribersPerFan = 0.0005;  // at maximum fame
 constexpr double subscription = 5;            // dollars per week
@@ -18,27 +17,28 @@ constexpr double maxPerWeek = 10'000;  // dollars per week
 constexpr double minTileAmount = 1;
 constexpr std::size_t keptWeeks = 104;
 
-// 1 in the week of the newest review, falling weekly to 0.
-double interest(const WorldState& world) {
+}  // namespace
+
+double patronInterest(const WorldState& world) {
+  if (world.saveAllMovieReviews.empty()) return 0;
   const std::int64_t newest = world.saveAllMovieReviews.front().weekNumberForTracking;
   const auto weeks = static_cast<double>(world.weekNumberForTracking - newest);
   return std::max(weeksOfInterest - weeks, 0.0) / weeksOfInterest;
 }
 
-double subscriptions(const WorldState& world) {
-  const double fading = interest(world);
+double patronSubscriptions(const WorldState& world) {
+  if (world.saveAllMovieReviews.size() < patronReviews) return 0;
+  const double fading = patronInterest(world);
   const double fame = static_cast<double>(world.saveFameLevel) / fullFame;
   const double payment =
       static_cast<double>(world.totalFans) * subscribersPerFan * fame * subscription * fading;
   return payment <= maxPerWeek ? payment : maxPerWeek * fading;
 }
 
-}  // namespace
-
 double payPatron(Game& game) {
   WorldState& world = game.world;
-  if (world.saveAllMovieReviews.size() < reviewsNeeded) return 0;
-  const double payment = subscriptions(world);
+  if (world.saveAllMovieReviews.size() < patronReviews) return 0;
+  const double payment = patronSubscriptions(world);
   if (world.trackPatronEarnings.empty()) {
     logLine(world, {NewsKind::payday, 0, payment},
             "You received your first weekly payment from Patron - " + shortMoney(game.locale, payment));

@@ -11,11 +11,17 @@
 #include "career/job_contract.h"
 #include "career/renewals.h"
 #include "core/ended_week.h"
+#include "film/awards.h"
 #include "film/box_office.h"
+#include "film/metflix_chart.h"
 #include "film/popularity_drift.h"
 #include "film/syndication_deals.h"
 #include "film/syndication_offers.h"
 #include "life/energy.h"
+#include "social/cameo.h"
+#include "social/fame.h"
+#include "social/fans.h"
+#include "social/star_meter.h"
 #include "wealth/best_figures.h"
 #include "wealth/market_index.h"
 
@@ -24,6 +30,7 @@ namespace tb {
 namespace {
 
 constexpr std::int64_t weekAfterTheLast = 53;
+constexpr std::int64_t awardsWeek = 4;  // the week after the Cademy nominations
 
 void startNewWeek(WorldState& world) {
   world.lastWeekTrackerCount = std::ssize(world.activityTracker);
@@ -67,6 +74,10 @@ void endWeek(Game& game) {
   investorOfferStep(game);
   backendOfferStep(game);
   franchiseOfferStep(game);
+  driftFans(game);
+  featureNominations(game);
+  seriesNominations(game);
+  swingFans(game);
   refillEnergy(game);
   advanceJobContract(game);
   advanceClock(game);
@@ -82,8 +93,13 @@ WeekSummary openSummary(Game& game) {
   driftPopularity(game);
   renewSeries(game);
   renewSaga(game);
+  advanceFilmChart(game);
+  advanceSeriesChart(game);
   closeBoxOffice(game);
   advanceClasses(game);
+  rankStar(game);
+  summary.offersAwards = game.world.weekNumber == awardsWeek && isNominatedThisYear(game.world);
+  cameoWeekStep(game);
   summary.balance = balanceWeek(game);
   showFeed(game, summary);
   summary.offersRelease = std::exchange(game.world.releaseOffered, false);
@@ -101,6 +117,9 @@ void closeSummary(Game& game) {
 void refreshHub(Game& game, HubRefresh reason) {
   if (game.world.weekNumber >= weekAfterTheLast) rollYearOver(game.world);
   submitBestFigures(game, reason);
+  if (game.world.enterPlayerDetails == 0) return;
+  openCharts(game);
+  updateFame(game);
 }
 
 }  // namespace tb

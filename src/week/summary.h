@@ -19,6 +19,7 @@ struct WeekSummary {
   bool hasNews = false;  // false: the only line is a tip
   std::vector<std::string> feed;
   FrontPage frontPage;         // the same lines laid out; without a tip
+  bool offersAwards = false;   // the year's nominations are out, and their screen was not opened yet
   bool offersRelease = false;  // a title was released, and its screen was not opened yet
 };
 

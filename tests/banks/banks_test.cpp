@@ -9,11 +9,15 @@
 #include "banks/all_time_banks.h"
 #include "banks/angel_banks.h"
 #include "banks/audition_banks.h"
+#include "banks/awards_banks.h"
 #include "banks/bankable_banks.h"
 #include "banks/box_office_banks.h"
+#include "banks/cameo_banks.h"
+#include "banks/chirp_banks.h"
 #include "banks/critics_banks.h"
 #include "banks/draw.h"
 #include "banks/earnings_banks.h"
+#include "banks/fame_banks.h"
 #include "banks/film_banks.h"
 #include "banks/jobs_banks.h"
 #include "banks/names_banks.h"
@@ -44,10 +48,14 @@ constexpr BankRow allBanks[] = {  // clang-format off
     ALL_TIME_BANKS(BANK_ROW)
     ANGEL_BANKS(BANK_ROW)
     AUDITION_BANKS(BANK_ROW)
+    AWARDS_BANKS(BANK_ROW)
     BANKABLE_BANKS(BANK_ROW)
     BOX_OFFICE_BANKS(BANK_ROW)
+    CAMEO_BANKS(BANK_ROW)
+    CHIRP_BANKS(BANK_ROW)
     CRITICS_BANKS(BANK_ROW)
     EARNINGS_BANKS(BANK_ROW)
+    FAME_BANKS(BANK_ROW)
     FILM_BANKS(BANK_ROW)
     JOBS_BANKS(BANK_ROW)
     NAMES_BANKS(BANK_ROW)

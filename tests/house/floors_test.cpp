@@ -12,8 +12,8 @@ namespace {
 namespace fs = std::filesystem;
 
 // The layers of src/, lowest first. A file includes files of its own or a lower layer only.
-const std::vector<std::string> floors = {"core",     "banks",  "social", "film",    "career", "life",
-                                         "platform", "wealth", "week",   "screens", "shells"};
+const std::vector<std::string> floors = {"core",     "banks",  "film", "social",  "career", "life",
+                                         "platform", "wealth", "week", "screens", "shells"};
 
 using Includes = std::map<std::string, std::vector<std::string>>;
 

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <functional>
 
 #include "career/agent_auditions.h"
 #include "career/agent_offer.h"
@@ -9,11 +10,15 @@
 #include "core/signed_agent.h"
 #include "core/talent_scores.h"
 #include "core/text.h"
+#include "film/awards.h"
+#include "film/metflix_chart.h"
 #include "screens/backstage/casting_network_view_controller.h"
 #include "screens/film/box_office_view_controller.h"
 #include "screens/film/movie_management_view_controller.h"
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
+#include "screens/metflix/metflix_top_ten_view_controller.h"
+#include "screens/metflix/movie_award_view_controller.h"
 #include "screens/offers/email_inbox_view_controller.h"
 #include "screens/offers/talent_agent_signed_view_controller.h"
 #include "screens/parts.h"
@@ -74,6 +79,20 @@ std::string jobSummary(const WorldState& world) {
   return world.weeklyJobTitle.empty() ? "Weekly pay for weekly energy" : world.weeklyJobTitle;
 }
 
+std::string chartSummary(const WorldState& world) {
+  const auto own = std::ranges::count_if(world.saveAllTopTenList, std::not_fn(isInvented)) +
+                   std::ranges::count_if(world.saveAllTopTenSeriesList, std::not_fn(isInvented));
+  return own == 0 ? "What the world streams this week" : counted(own, "title") + " of yours on the charts";
+}
+
+std::string awardSummary(const WorldState& world) {
+  const bool hasSealed = std::ranges::any_of(
+      world.saveAllMovieAwards, [&world](const Award& award) { return !isRevealed(world, award); });
+  if (hasSealed) return "This year's envelopes are sealed";
+  return world.saveAllMovieAwards.empty() ? "For titles with a metascore of 85 and more"
+                                          : "The nominations, and your shelf";
+}
+
 }  // namespace
 
 std::vector<view::Node> workTab(const Game& game) {
@@ -93,7 +112,9 @@ std::vector<view::Node> workTab(const Game& game) {
                     leadingTo<JobBoardViewController>("Job Board", jobSummary(world)), agentRow(world)}},
       view::Section{.heading = "INDUSTRY",
                     .nodes = {leadingTo<BoxOfficeViewController>("Box Office", "What the world is watching"),
+                              leadingTo<MetflixTopTenViewController>("Metflix Top 10", chartSummary(world)),
                               leadingTo<Top250MoviesViewController>("Top 250", "The best of all time"),
+                              leadingTo<MovieAwardViewController>("Awards", awardSummary(world)),
                               leadingTo<MovieManagementViewController>(
                                   "Productions", "Titles with your money behind them")}},
       view::Section{

@@ -4,9 +4,11 @@
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/film/new_release_view_controller.h"
+#include "screens/metflix/movie_award_view_controller.h"
 #include "screens/parts.h"
 #include "screens/week/front_page_nodes.h"
 #include "week/end_week.h"
+#include "week/review_prompt.h"
 
 namespace tb {
 
@@ -44,11 +46,29 @@ Section figures(const Game& game) {
   return section;
 }
 
+void askForReview(Stage& stage) {
+  const auto answer = [](Stage& asked) {
+    answerReviewPrompt(asked.game());
+    asked.say("Thank you: 5 more energy every week");
+  };
+  stage.ask(
+      Notice{.title = "⭐️ How's the Show? ⭐️",
+             .message = "\nYou're more than halfway through the year. If you're enjoying your career, a "
+                        "kind word to a friend keeps the lights on. Either way, here's +5 weekly energy "
+                        "as thanks."},
+      {{.label = "Happily", .press = answer, .weight = Button::Weight::primary},
+       {.label = "Not Today", .press = answer}});
+}
+
 }  // namespace
 
 void WeeklySummaryViewController::load(Stage& stage) {
   summary_ = openSummary(stage.game());
   playHeadline(stage, summary_.frontPage);
+}
+
+void WeeklySummaryViewController::appear(Stage& stage) {
+  if (isReviewPromptDue(stage.game().world)) askForReview(stage);
 }
 
 void WeeklySummaryViewController::leave(Stage& stage) { closeSummary(stage.game()); }
@@ -63,12 +83,23 @@ Button WeeklySummaryViewController::releaseButton() {
           .weight = Button::Weight::primary};
 }
 
+Button WeeklySummaryViewController::awardButton() {
+  return {.label = "OSKAR NOMINATIONS",
+          .press =
+              [this](Stage& stage) {
+                summary_.offersAwards = false;
+                stage.open<MovieAwardViewController>(stage.game().world.yearNumber);
+              },
+          .weight = Button::Weight::primary};
+}
+
 // The headline with its button, then the other news. A tip has no heading.
 Section WeeklySummaryViewController::feed(const Game& game) {
   Section section{.heading = summary_.hasNews ? "FEED" : ""};
   for (const Story& story : summary_.frontPage.headline) {
     section.nodes.push_back(headlineNode(game, story, true));
   }
+  if (summary_.offersAwards) section.nodes.push_back(awardButton());
   if (summary_.offersRelease) section.nodes.push_back(releaseButton());
   for (Node& row : rowNodes(game, summary_.frontPage)) section.nodes.push_back(std::move(row));
   if (!summary_.hasNews) section.nodes.push_back(Text{.text = summary_.feed.front(), .tone = Tone::quiet});

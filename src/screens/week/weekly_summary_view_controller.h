@@ -10,6 +10,7 @@ namespace tb {
 class WeeklySummaryViewController : public Screen {
  public:
   void load(Stage& stage) override;
+  void appear(Stage& stage) override;
   void leave(Stage& stage) override;
   [[nodiscard]] view::Page view(const Game& game) override;
   [[nodiscard]] std::string closeLabel() const override { return "Close"; }
@@ -18,6 +19,7 @@ class WeeklySummaryViewController : public Screen {
 
  private:
   [[nodiscard]] view::Button releaseButton();
+  [[nodiscard]] view::Button awardButton();
   [[nodiscard]] view::Section feed(const Game& game);
 
   WeekSummary summary_;

@@ -301,6 +301,28 @@ void NodePainter::kind(const Headline& headline) {
   canvas_.gap();
 }
 
+void NodePainter::kind(const Post& post) {
+  const std::string mark = targets_.add(post.handle, {.label = post.author});
+  if (!post.note.empty()) canvas_.text(post.note, Ink::quiet);
+  const std::string author =
+      post.isVerified ? post.author + " " + std::string(canvas_.glyphs().star) : post.author;
+  canvas_.leader(author, post.when, post.mine ? Ink::accent : Ink::strong, Ink::quiet, mark);
+  canvas_.nested("  ", [&] {
+    canvas_.text(post.text, Ink::plain);
+    canvas_.text(std::format("{} comments, {} rechirps, {} likes", post.comments, post.reposts, post.likes),
+                 Ink::quiet);
+    for (const Button& action : post.actions) drawButton(canvas_, targets_, action);
+  });
+}
+
+void NodePainter::kind(const Place& place) {
+  const std::string mark = targets_.add(place.handle, {.label = place.label});
+  const std::string moved = place.moved.empty() ? "" : " (" + place.moved + ")";
+  canvas_.leader(std::format("{}. {}{}", place.place, place.label, moved), place.value,
+                 place.tone == Tone::quiet ? Ink::quiet : inkOf(place.tone), Ink::plain, mark);
+  if (!place.detail.empty()) canvas_.nested("  ", [&] { canvas_.text(place.detail, Ink::quiet); });
+}
+
 void NodePainter::kind(const Field& field) {
   const std::string mark = targets_.add(field.handle, {.kind = Target::Kind::field,
                                                        .label = field.label,

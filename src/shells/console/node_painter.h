@@ -31,6 +31,8 @@ class NodePainter {
   void kind(const view::Buttons& buttons);
   void kind(const view::Row& row);
   void kind(const view::Headline& headline);
+  void kind(const view::Post& post);
+  void kind(const view::Place& place);
   void kind(const view::Field& field);
   void kind(const view::Slider& slider);
   void kind(const view::Choice& choice);

@@ -75,7 +75,8 @@ VIEW_ENUM(Text::Style, body, large, caption, quotation, heading);
 VIEW_ENUM(Button::Weight, normal, primary, quiet, destructive, done);
 VIEW_ENUM(Row::Step, none, open, taken);
 VIEW_ENUM(Chart::Kind, line, bar, pie, histogram);
-VIEW_ENUM(Moment::Scene, deal, curtain, marquee);
+VIEW_ENUM(Place::Move, none, up, down, level, entered);
+VIEW_ENUM(Moment::Scene, deal, curtain, marquee, envelope);
 VIEW_ENUM(Page::Head, full, line);
 
 VIEW_STRUCT(Picture, kind, name, description, title, genre, format, season, billed, age);
@@ -90,6 +91,9 @@ VIEW_STRUCT(Button, label, press, price, offReason, refusal, name, weight, handl
 VIEW_STRUCT(Buttons, buttons);
 VIEW_STRUCT(Row, label, value, detail, picture, tone, step, band, press, action, handle);
 VIEW_STRUCT(Headline, stamp, text, detail, value, picture, tone, isLead, press, handle);
+VIEW_STRUCT(Post, note, author, when, text, picture, comments, reposts, likes, isVerified, mine, actions,
+            pressName, press, handle);
+VIEW_STRUCT(Place, place, move, moved, label, detail, value, picture, tone, press, handle);
 VIEW_STRUCT(Field, label, value, type, hint, maximumLength, severalLines, handle);
 VIEW_STRUCT(Slider, label, value, minimum, maximum, step, text, slide, handle);
 VIEW_STRUCT(Choice::Option, label, chosen, press, picture, handle);

@@ -21,6 +21,8 @@ function heightOf(node: Node): number {
       return 4 + heightOfAll(node.content.nodes);
     case "headline":
       return node.content.isLead ? 8 : 3;
+    case "post":
+      return 4 + node.content.text.length / 50;
     case "fold":
       return 2 + heightOfAll(node.content.nodes);
     case "choice":

@@ -14,7 +14,10 @@ function nameOf(node: Node): string {
     case "choice":
     case "countdown":
     case "fold":
+    case "place":
       return node.content.label;
+    case "post":
+      return `${node.content.author} ${node.content.text}`;
     case "headline":
       return node.content.text;
     case "buttons":

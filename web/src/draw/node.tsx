@@ -17,6 +17,8 @@ import { keysOf, numbered } from "./keys";
 import { ListPage } from "./list_page";
 import { Meter } from "./meter";
 import { Picture } from "./picture";
+import { Place, Places } from "./place";
+import { Post, Posts } from "./post";
 import { Row, Rows } from "./row";
 import { Section } from "./section";
 import { Slider } from "./slider";
@@ -47,6 +49,10 @@ function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
       return <Row {...node.content} />;
     case "headline":
       return <Headline {...node.content} />;
+    case "post":
+      return <Post {...node.content} />;
+    case "place":
+      return <Place {...node.content} />;
     case "field":
       return <Field {...node.content} />;
     case "slider":
@@ -80,6 +86,8 @@ function DrawnNode({ node }: { readonly node: Node }): ComponentChild {
 const lists: Partial<Record<Node["kind"], FunctionComponent>> = {
   row: Rows,
   headline: Headlines,
+  post: Posts,
+  place: Places,
   card: Cards,
   bubble: Chat,
   timelineEntry: Timeline,

@@ -20,6 +20,11 @@ export const Back = () => <Sign name="back" path="M15 5l-7 7 7 7" />;
 export const Turn = () => <Sign name="turn" path="M5 9l7 7 7-7" />;
 export const Check = () => <Sign name="check" path="M5 12.5l4.5 4.5L19 7.5" />;
 
+export const Verified = () => <Sign name="verified" path="M12 2.8l2.6 1.9 3.2 0 1 3 2.6 1.9-1 3 1 3-2.6 1.9-1 3-3.2 0L12 21.4l-2.6-1.9-3.2 0-1-3-2.6-1.9 1-3-1-3 2.6-1.9 1-3 3.2 0zM8 12.2l2.8 2.8L16 9.6" />;
+export const Comment = () => <Sign name="comment" path="M4 5h16v11h-8l-4.500 4v-4H4z" />;
+export const Repost = () => <Sign name="repost" path="M4 10V7h13M14 4l3 3-3 3M20 14v3H7M10 20l-3-3 3-3" />;
+export const Like = () => <Sign name="like" path="M12 19.500C3 13 4 5.500 8.500 5.500c2 0 3 1.200 3.500 2.500c.5-1.300 1.500-2.500 3.500-2.500c4.500 0 5.500 7.500-3.500 14z" />;
+
 const bolt = "M13.5 2.5L5 13.5h6L10 21.5l9-11.5h-6.2z";
 
 // In a field of 24 by 24.

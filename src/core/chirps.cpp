@@ -1,4 +1,4 @@
-#include "social/chirps.h"
+#include "core/chirps.h"
 
 #include <algorithm>
 #include <utility>
@@ -6,6 +6,8 @@
 namespace tb {
 
 namespace {
+
+constexpr std::size_t keptChirps = 200;
 
 // The smallest and largest shares of a post's likes that become comments and rechirps.
 struct Echo {
@@ -53,6 +55,14 @@ Chirp playerChirp(Game& game, std::string message) {
   const auto reach = static_cast<double>(RandomRange(game.random, audience + 1));
   drawEcho(game.random, fanEcho, RandomUnit(game.random, 0.005, 0.02) * reach, chirp);
   return chirp;
+}
+
+void addChirp(WorldState& world, Chirp chirp) {
+  List<Chirp>& chirps = world.saveAllChirpList;
+  chirps.push_back(std::move(chirp));
+  if (chirps.size() <= keptChirps) return;
+  const auto oldest = std::ranges::find(chirps, 0, &Chirp::isPinned);
+  chirps.erase_at(oldest == chirps.end() ? 0 : static_cast<std::size_t>(oldest - chirps.begin()));
 }
 
 void drawCrowdReach(RandomSource& random, Chirp& chirp) {
