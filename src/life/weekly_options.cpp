@@ -20,9 +20,10 @@ constexpr std::array<WeeklyOption, 2> options = {{
 }  // namespace
 
 const WeeklyOption& weeklyOptionWith(std::int64_t id) {
-  const auto* const option = std::ranges::find(options, id, &WeeklyOption::id);
-  if (option == options.end()) stopTheGame("there is no such weekly option");
-  return *option;
+  for (const WeeklyOption& option : options) {
+    if (option.id == id) return option;
+  }
+  stopTheGame("there is no such weekly option");
 }
 
 Refusal weeklyOptionRefusal(const Game& game, std::int64_t id) {

@@ -1,11 +1,14 @@
 #include "tests/screens/careers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <format>
 
 #include "career/class_table.h"
 #include "core/calendar.h"
+#include "core/weekly_option.h"
 #include "core/welcome_mail.h"
+#include "film/awards.h"
 #include "film/markets.h"
 #include "film/networks.h"
 #include "tests/journeys/device.h"
@@ -367,6 +370,106 @@ void speak(WorldState& world) {
   }
 }
 
+// Adds a chart of ten whose titles moved in every way, with a film of the player's in second place. Without
+// an opening of the charts, which would be random.
+void fillCharts(WorldState& world) {
+  for (auto* chart : {&world.saveAllTopTenList, &world.saveAllTopTenSeriesList}) {
+    for (std::int64_t place = 1; place <= 10; ++place) {
+      chart->push_back({.filmId = TopTen::firstInventedId + place,
+                        .title = std::format("Streamed {}", place),
+                        .director = "Ingrid Sol",
+                        .totalViews = 90'000'000 * place,
+                        .totalWeeklyViews = 41'000'000 - place,
+                        .duration = 90 + place,
+                        .rankLastWeek = place % 4 == 0 ? 0 : place + place % 3 - 1,
+                        .rankThisWeek = place,
+                        .weeksOnChart = place % 4 == 0 ? 1 : 2 * place,
+                        .peakPosition = place,
+                        .yearDebut = world.yearNumber,
+                        .weekNumber = 2,
+                        .weeksAtOne = place == 1 ? 1 : 0,
+                        .currentPopularity = static_cast<double>(100 - place),
+                        .lastWeekPopularity = static_cast<double>(96 + place),
+                        .imageString = "streamed.png",
+                        .description = "Somebody comes home."});
+    }
+  }
+  world.saveBestsellerRankings = 1;
+  const auto own = std::ranges::find(world.saveAllFilmList, filmType::feature, &Film::typeOfFilm);
+  if (own == world.saveAllFilmList.end()) return;
+  TopTen& second = world.saveAllTopTenList.edit(1);
+  second.filmId = own->filmId;
+  second.title = own->title;
+  second.totalViews = second.totalWeeklyViews = 0;
+  TopTen former = second;
+  former.peakPosition = 4;
+  world.saveAllSavedTopTenList = {former};
+}
+
+void nominate(WorldState& world, std::int64_t id, std::int64_t option, std::int64_t year,
+              std::int64_t isWinner) {
+  const auto film = std::ranges::find(world.saveAllFilmList,
+                                      option < 7 ? filmType::feature : filmType::series, &Film::typeOfFilm);
+  const AwardOption& row = awardOptions()[static_cast<std::size_t>(option)];
+  world.saveAllMovieAwards.push_back({.id = id,
+                                      .awardOptionId = option,
+                                      .filmId = film->filmId,
+                                      .filmType = film->typeOfFilm,
+                                      .filmTitle = film->title,
+                                      .nameOfAward = std::string(row.awardName),
+                                      .awardShow = std::string(row.awardShow),
+                                      .yearAwarded = year,
+                                      .name = isActing(row) ? world.myName : film->directorName,
+                                      .isWinner = isWinner,
+                                      .otherNomineeNames = {"Ines Vale", "Bo Lind", "Tove Hart"},
+                                      .otherNomineeFilm = {"Low Light", "The Ferry", "Ninth Bell"},
+                                      .description = "For what was done."});
+}
+
+// Adds posts of the player and of others, one of them pinned.
+void chirp(WorldState& world) {
+  for (std::int64_t id = 31; id <= 36; ++id) {
+    const bool isOwn = id % 3 != 0;
+    world.saveAllChirpList.push_back({.id = id,
+                                      .artistId = isOwn ? 0 : -1,
+                                      .chirpName = isOwn ? world.myName : "Box Office Jojo",
+                                      .message = std::format("Post {} for @everybody", id),
+                                      .isPinned = id == 32 ? 1 : 0,
+                                      .weekNumberForTracking = world.weekNumberForTracking - 36 + id,
+                                      .yearNumber = world.yearNumber,
+                                      .commentCount = id,
+                                      .reChirpCount = 10 * id,
+                                      .likeCount = 1'000 * id,
+                                      .news = isOwn ? 0 : -1,
+                                      .imageString = isOwn ? "" : "boxOfficeJojo.png",
+                                      .typeOfAccount = isOwn ? 0 : 6});
+  }
+}
+
+void subscribe(WorldState& world, std::int64_t option, const std::string& title, double cost) {
+  world.saveAllWeeklyLineItems.push_back({.category = WeeklyLineItem::lifestyleCategory,
+                                          .title = title,
+                                          .amount = cost,
+                                          .year = world.yearNumber,
+                                          .typeOfExpense = option});
+}
+
+// Opens The Cameo and Patron, with their sales.
+void earnFromFame(WorldState& world) {
+  subscribe(world, weeklyOption::theCameo, "The Cameo", 100);
+  subscribe(world, weeklyOption::moviePass, "Movie Pass", 29);
+  for (std::int64_t ago = 3; ago >= 0; --ago) {
+    world.saveAllCameos.push_back({.weekNumberForTracking = world.weekNumberForTracking - ago,
+                                   .yearNumber = world.yearNumber,
+                                   .numberOfPurchases = 20 + ago,
+                                   .totalPriceEarned = 25.0 * static_cast<double>(20 + ago),
+                                   .averageRating = 4.6});
+    world.trackPatronEarnings.push_back(310.5 - static_cast<double>(ago));
+  }
+  world.numberOfCameoReviews = 9;
+  world.totalPatronEarnings = 8'120.75;
+}
+
 // Adds a home, a flat that is let, a car and cards, so that the net worth differs from the cash.
 void ownThings(WorldState& world) {
   world.saveAllPropertyList = {
@@ -461,6 +564,7 @@ void beginner(WorldState& world) {
   career.add(career.project(filmType::shortFilm, funnel::invited, 15));
   career.add(career.project(filmType::commercial, funnel::closed, 12));
   sendWelcomeMail(world);
+  fillCharts(world);
 }
 
 void working(WorldState& world) {
@@ -482,6 +586,9 @@ void working(WorldState& world) {
   for (const std::int64_t id : {1, 2, 18, 19}) takeClass(world, id, 0);
   takeClass(world, 20, 7);
   speak(world);
+  chirp(world);
+  fillCharts(world);
+  world.saveStarRankingMeter = {100'000, 91'230};
 }
 
 void star(WorldState& world) {
@@ -510,6 +617,15 @@ void star(WorldState& world) {
   }
   for (std::int64_t id = 1; id <= 46; ++id) takeClass(world, id, 0);
   fillInbox(world);
+  nominate(world, 3, 2, world.yearNumber - 1, 1);
+  nominate(world, 6, 4, world.yearNumber - 1, 0);
+  nominate(world, 9, 3, world.yearNumber, 1);
+  nominate(world, 12, 5, world.yearNumber, 0);
+  nominate(world, 16, 11, world.yearNumber, 0);
+  chirp(world);
+  fillCharts(world);
+  earnFromFame(world);
+  world.saveStarRankingMeter = {420, 310, 95};
   world.saveAllTalentAgents.edit(1).weekContractEnds = world.weekNumberForTracking - 3;
   speak(world);
   ownThings(world);

@@ -114,7 +114,7 @@ TEST_F(WeekStepOrder, OfTheWeekThatEnds) {
        {"job", [](const WorldState& state) { return state.weeklyJobTitle.empty(); }},
        {"clock", [](const WorldState& state) { return state.weekNumberForTracking == now + 1; }}});
   endWeek(game);
-  expectSeen({"the week starts", "auditions, energy, job, clock"});
+  expectSeen({"the week starts", "auditions", "energy, job, clock"});
   EXPECT_EQ(world.totalEnergyAvailable, 100 - 7);  // the ending job and five roles
 }
 
@@ -139,6 +139,11 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
   world.saveAllCompletedClasses = {{.classId = 1, .weeksRemaining = 1}};
   for (int review = 0; review < 10; ++review) world.saveAllMovieReviews.push_back({});
   world.saveAllAuditionList.push_back({.filmId = 5, .funnelStage = funnel::closed});
+  world.totalFans = 10'000;
+  world.saveAllWeeklyLineItems = {{.category = WeeklyLineItem::lifestyleCategory, .typeOfExpense = 116}};
+  world.weekNumber = 50;  // an even week, in which the stars are ranked, and one with a clean-up
+  world.saveAllTopTenList = {{.filmId = TopTen::firstInventedId, .currentPopularity = 200}};
+  world.saveAllTopTenSeriesList = world.saveAllTopTenList;
   world.saveAllTalentAgents = {{.id = 8, .isSigned = 1, .weekToSendAudition = 5}};
   world.filmId = 99;
 
@@ -150,14 +155,19 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
        {"talk", [](const WorldState& state) { return state.saveAllFilmList[1].currentPopularity != 50; }},
        {"series", [](const WorldState& state) { return state.saveAllAuditionList[1].isContinued == 1; }},
        {"saga", [](const WorldState& state) { return state.saveAllAuditionList[2].isContinued == -1; }},
+       {"films' chart", [](const WorldState& state) { return state.saveAllTopTenList[0].rankThisWeek == 1; }},
+       {"series' chart",
+        [](const WorldState& state) { return state.saveAllTopTenSeriesList[0].rankThisWeek == 1; }},
        {"box office", [](const WorldState& state) { return state.saveAllFilmList[3].boxOfficeGross == 5e5; }},
        {"classes",
         [](const WorldState& state) { return state.saveAllCompletedClasses[0].weeksRemaining == 0; }},
+       {"star", [](const WorldState& state) { return !state.saveStarRankingMeter.empty(); }},
+       {"cameo", [](const WorldState& state) { return !state.saveAllCameos.empty(); }},
        {"balance", [](const WorldState& state) { return !state.trackPatronEarnings.empty(); }},
        {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
   const WeekSummary summary = openSummary(game);
-  expectSeen(
-      {"bids", "deals", "agent", "talk", "series", "saga", "box office", "classes, balance, clean-up"});
+  expectSeen({"bids", "deals", "agent", "talk", "series", "saga", "films' chart", "series' chart, box office",
+              "classes, star", "cameo, balance, clean-up"});
   EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52,
               1e-9);  // the sale's boost of two, then the drift
   const auto lineWith = [&](const std::string& word) {
@@ -212,7 +222,41 @@ TEST_F(WeekStepOrder, OfTheOffers) {
                  {"energy", [](const WorldState& state) { return state.totalEnergyAvailable != 50; }}});
   world.totalEnergyAvailable = 50;
   endWeek(game);
-  expectSeen({"auditions", "agent", "investor", "stake", "saga, energy"});
+  expectSeen({"auditions", "agent", "investor", "stake", "saga", "energy"});
+}
+
+// The award shows and the swings have weeks of their own.
+TEST_F(WeekStepOrder, OfTheAudience) {
+  for (const std::int64_t type : {filmType::feature, filmType::series}) {
+    addTitle(type + 1, type, "Acclaimed", 60);
+    Film& film = world.saveAllFilmList.edit(world.saveAllFilmList.size() - 1);
+    film.yearReleased = world.yearNumber - 1;
+    film.imbdMetascore = 100;
+    film.genres = {"Drama"};
+  }
+  world.talentTrait1 = world.talentTrait2 = world.talentTrait3 = world.talentTrait4 = world.talentTrait5 =
+      100;
+  const auto playTheWeek = [&](std::int64_t week) {
+    world.weekNumber = week;
+    world.totalFans = 1'000;
+    world.trackFans = {1};
+    world.totalEnergyAvailable = 50;
+    world.saveAllMovieAwards.clear();
+    witness.watch(world,
+                  {{"drift", [](const WorldState& state) { return state.trackFans.size() == 2; }},
+                   {"awards", [](const WorldState& state) { return !state.saveAllMovieAwards.empty(); }},
+                   {"swing", [](const WorldState& state) { return state.trackFans.size() == 3; }},
+                   {"energy", [](const WorldState& state) { return state.totalEnergyAvailable != 50; }}});
+    endWeek(game);
+  };
+  for (const auto& [week, show] : {std::pair{3, "Cademy Awards"}, {7, "Emme Awards"}}) {
+    playTheWeek(week);
+    expectSeen({"drift", "awards", "energy"});
+    for (const Award& award : world.saveAllMovieAwards) EXPECT_EQ(award.awardShow, show);
+  }
+  witness.giveHighest();
+  playTheWeek(28);
+  expectSeen({"drift", "swing, energy"});
 }
 
 TEST_F(WeekStepOrder, OfTheSummaryThatCloses) {

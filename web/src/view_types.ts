@@ -48,7 +48,7 @@ export interface Dialog {
   readonly answers: readonly Button[];
 }
 
-export type MomentScene = "deal" | "curtain" | "marquee";
+export type MomentScene = "deal" | "curtain" | "marquee" | "envelope";
 
 export type PictureKind = "avatar" | "poster" | "logo" | "house" | "vehicle" | "card" | "photo" | "icon";
 
@@ -157,6 +157,36 @@ export interface Headline {
   readonly picture: readonly Picture[];
   readonly tone: Tone;
   readonly isLead: boolean;
+  readonly handle: number;
+}
+
+export interface Post {
+  readonly note: string;
+  readonly author: string;
+  readonly when: string;
+  readonly text: string;
+  readonly picture: readonly Picture[];
+  readonly comments: string;
+  readonly reposts: string;
+  readonly likes: string;
+  readonly isVerified: boolean;
+  readonly mine: boolean;
+  readonly actions: readonly Button[];
+  readonly pressName: string;
+  readonly handle: number;
+}
+
+export type PlaceMove = "none" | "up" | "down" | "level" | "entered";
+
+export interface Place {
+  readonly place: string;
+  readonly move: PlaceMove;
+  readonly moved: string;
+  readonly label: string;
+  readonly detail: string;
+  readonly value: string;
+  readonly picture: readonly Picture[];
+  readonly tone: Tone;
   readonly handle: number;
 }
 
@@ -273,6 +303,8 @@ export type Node =
   | { readonly kind: "buttons"; readonly content: Buttons }
   | { readonly kind: "row"; readonly content: Row }
   | { readonly kind: "headline"; readonly content: Headline }
+  | { readonly kind: "post"; readonly content: Post }
+  | { readonly kind: "place"; readonly content: Place }
   | { readonly kind: "field"; readonly content: Field }
   | { readonly kind: "slider"; readonly content: Slider }
   | { readonly kind: "choice"; readonly content: Choice }

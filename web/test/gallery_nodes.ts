@@ -52,6 +52,13 @@ export const balance = (net: string, income: string, expenses: string, tone: Vie
 export const headline = node("headline", {
   stamp: "", text: "", detail: "", value: "", picture: [], tone: "plain", isLead: false, handle: 0,
 });
+export const post = node("post", {
+  note: "", author: "", when: "", text: "", picture: [], comments: "", reposts: "", likes: "",
+  isVerified: false, mine: false, actions: [], pressName: "", handle: 0,
+});
+export const place = node("place", {
+  place: "", move: "none", moved: "", label: "", detail: "", value: "", picture: [], tone: "plain", handle: 0,
+});
 export const fold = (label: string, isOpen: boolean, ...nodes: View.Node[]) =>
   node("fold", { key: label, label, isOpen, nodes, handle: 1 })();
 export const moment = part<View.Moment>({ scene: "deal", title: "", line: "", picture: [], number: 1 });

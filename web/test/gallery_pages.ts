@@ -241,6 +241,21 @@ const frontPages = page({
   ],
 });
 
+const face = [make.picture("avatar", "woman (3).png")];
+const seen = { when: "3h", comments: "12", reposts: "1.2K", likes: "8.1K", picture: face };
+const feed = page({
+  title: "Feed",
+  nodes: [
+    make.post({ ...seen, author: "popcornDuchess", text: "the trailer gave away everything, @ushers 🍿", isVerified: true }),
+    make.post({ ...seen, author: "Ada", text: "Thank you.", note: "Pinned", mine: true, handle: 1, actions: [plainButton({ label: "Unpin" })] }),
+    make.post({ ...seen, author: longWord, text: longText, likes: muchMoney }),
+    ...(["up", "down", "level", "entered", "none"] as const).map((move, index) =>
+      make.place({ place: `${index + 1}`, move, moved: move === "none" ? "" : `${move} 3`, label: `Title ${index}`, detail: "4 weeks in the Top 10", value: "41M", picture: [poster], tone: index === 0 ? "accent" : "plain", handle: index }),
+    ),
+    make.place({ place: "100", label: longWord, detail: longText, value: muchMoney }),
+  ],
+});
+
 const letters = (...labels: string[]) => labels.map((label, index) => make.option({ label, chosen: index === 1 }));
 const form = page({
   title: "New career",
@@ -369,6 +384,7 @@ export const pages: Readonly<Record<string, View.Page>> = {
   latch,
   review,
   frontPages,
+  feed,
   form,
   pictures,
   extreme,
