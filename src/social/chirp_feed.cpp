@@ -86,6 +86,15 @@ Chirp metflixPost(Game& game) {
   return post;
 }
 
+// Draws an element and removes it.
+template <class T>
+T takeAny(RandomSource& random, std::vector<T>& from) {
+  const auto at = static_cast<std::ptrdiff_t>(RandomRange(random, std::ssize(from)));
+  T taken = std::move(from[static_cast<std::size_t>(at)]);
+  from.erase(from.begin() + at);
+  return taken;
+}
+
 void moveBack(RandomSource& random, Chirp& post) {
   post.timestamp.seconds -= RandomUnit(random, 0, oldestPost);
 }
@@ -154,9 +163,7 @@ Chirp workPost(Game& game, const Film& film) {
 void addWorkPosts(Game& game, std::int64_t count, std::vector<Chirp>& feed) {
   std::vector<std::size_t> titles = talkedAbout(game.world);
   for (; count > 0 && !titles.empty(); --count) {
-    const auto at = RandomRange(game.random, std::ssize(titles));
-    feed.push_back(workPost(game, game.world.saveAllFilmList[titles[static_cast<std::size_t>(at)]]));
-    titles.erase(titles.begin() + at);
+    feed.push_back(workPost(game, game.world.saveAllFilmList[takeAny(game.random, titles)]));
   }
 }
 
@@ -218,10 +225,8 @@ void addChartPosts(Game& game, std::int64_t others, std::vector<Chirp>& feed) {
     }
   }
   for (; others > 0 && !invented.empty(); --others) {
-    const auto at = RandomRange(game.random, std::ssize(invented));
-    const TopTen& entry = invented[static_cast<std::size_t>(at)];
+    const TopTen entry = takeAny(game.random, invented);
     feed.push_back(chartPost(game, chartBank(entry), entry));
-    invented.erase(invented.begin() + at);
   }
 }
 
