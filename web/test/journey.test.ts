@@ -76,6 +76,17 @@ test("every other screen of a beginner can be read and left", async () => {
     ["Home", [backstage, /Showreel/, /Choose footage/], "footage"],
     ["Home", [backstage, /Actor's Guild/], "guild"],
     ["Social", [/^Inbox/, /^Who writes/], "first-mail"],
+    ["Social", [/^Chirp/], "feed"],
+    ["Social", [/^Chirp/, /^Write a chirp/, /^Suggest/], "new-chirp"],
+    ["Social", [/^Chirp/, /^Profile/], "chirp-profile"],
+    ["Social", [/^0 fans|^\d+ fans?/], "fans"],
+    ["Social", [/^Fame/], "fame"],
+    ["Social", [/^Star Meter/], "star-meter"],
+    ["Social", [/^The Cameo/], "cameo"],
+    ["Social", [/^Patron/], "patron"],
+    ["Work", [/^Metflix Top 10/], "chart"],
+    ["Work", [/^Metflix Top 10/, /^New on Metflix/], "metflix-news"],
+    ["Work", [/^Awards/], "no-awards"],
     ["Home", [/^Settings/], "settings"],
   ]);
   await press(page, "Restart?");

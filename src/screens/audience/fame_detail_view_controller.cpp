@@ -97,8 +97,8 @@ Section talent(const WorldState& world, const FameParts& parts) {
 
 Section audience(const Game& game, const FameParts& parts) {
   Section section = part("FANS", parts.fans, 14, fansSentence(game.world.totalFans),
-                         tb::format("You have {}. Each ten times as many bring about 2 points more.",
-                                    counted(game.world.totalFans, "fan")));
+                         tb::format("You have {} of them. Ten times as many bring about 2 points more.",
+                                    plainCount(game.locale, game.world.totalFans)));
   section.nodes.push_back(leadingTo<FanChartViewController>("Your fans"));
   return section;
 }

@@ -50,7 +50,7 @@ PagedList leadingPlaces(const Game& game, std::int64_t rank) {
 Chart rankChart(const Game& game) {
   const IntList& history = game.world.saveStarRankingMeter;
   const std::vector<double> ranks(history.begin(), history.end());
-  return historyChart("Rank", "entry", ranks, [&game](double rank) {
+  return historyChart("Rank", "ranking", ranks, [&game](double rank) {
     return rankText(game.locale, static_cast<std::int64_t>(std::max(rank, 0.0)));
   });
 }

@@ -51,7 +51,7 @@ Chart takingsChart(const Game& game) {
   for (std::size_t at = sold.size() - std::min(sold.size(), weeksShown); at < sold.size(); ++at) {
     takings.push_back(sold[at].totalPriceEarned);
   }
-  return historyChart("Takings", "week of sales", takings,
+  return historyChart("Takings", "sale", takings,
                       [&game](double amount) { return bigMoney(game.locale, amount); });
 }
 

@@ -62,11 +62,12 @@ Post managedPost(const Game& game, const Chirp& chirp) {
 // Indexes of the player's posts, latest first, with the pinned one before them.
 std::vector<std::size_t> ownPosts(const WorldState& world) {
   std::vector<std::size_t> found;
-  for (std::size_t index = world.saveAllChirpList.size(); index-- > 0;) {
-    if (world.saveAllChirpList[index].artistId == 0) found.push_back(index);
+  for (const bool isPinned : {true, false}) {
+    for (std::size_t index = world.saveAllChirpList.size(); index-- > 0;) {
+      const Chirp& chirp = world.saveAllChirpList[index];
+      if (chirp.artistId == 0 && (chirp.isPinned == 1) == isPinned) found.push_back(index);
+    }
   }
-  std::ranges::stable_partition(
-      found, [&world](std::size_t index) { return world.saveAllChirpList[index].isPinned == 1; });
   return found;
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 #include <utility>
 
 #include "banks/awards_banks.h"
@@ -111,9 +110,12 @@ Section shelfSection(const WorldState& world) {
 
 // Years with nominations, latest first.
 std::vector<std::int64_t> nominationYears(const WorldState& world) {
-  std::set<std::int64_t, std::greater<>> found;
-  for (const Award& award : world.saveAllMovieAwards) found.insert(award.yearAwarded);
-  return {found.begin(), found.end()};
+  std::vector<std::int64_t> found;
+  for (std::size_t index = world.saveAllMovieAwards.size(); index-- > 0;) {
+    const std::int64_t year = world.saveAllMovieAwards[index].yearAwarded;
+    if (!std::ranges::contains(found, year)) found.push_back(year);
+  }
+  return found;
 }
 
 Page nothingYet(const WorldState& world) {
@@ -141,7 +143,8 @@ void MovieAwardViewController::reveal(Stage& stage, std::int64_t id) {
   stage.play({.scene = Moment::Scene::envelope,
               .title = std::string(drawFreshRow(game, bank::envelopeMoments)),
               .line = winnerOf(award)});
-  said_[id] = drawWordsFor(game, award);
+  said_ = drawWordsFor(game, award);
+  said_of_ = id;
 }
 
 Card MovieAwardViewController::nomination(const Game& game, const Award& award) {
@@ -152,8 +155,8 @@ Card MovieAwardViewController::nomination(const Game& game, const Award& award) 
   for (const Nominee& nominee : nomineesOf(award)) {
     card.nodes.push_back(nomineeRow(game, award, nominee, isOpen));
   }
-  if (const auto said = said_.find(award.id); said != said_.end()) {
-    card.nodes.push_back(Text{.text = said->second,
+  if (said_of_ == award.id && !said_.empty()) {
+    card.nodes.push_back(Text{.text = said_,
                               .style = award.isWinner == 1 ? Text::Style::quotation : Text::Style::body,
                               .tone = award.isWinner == 1 ? Tone::good : Tone::quiet});
   }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 
@@ -25,7 +24,9 @@ class MovieAwardViewController : public Screen {
   void reveal(Stage& stage, std::int64_t id);
 
   std::optional<std::int64_t> year_;
-  std::map<std::int64_t, std::string> said_;  // by award id: what was said when its envelope was opened
+  // What was said when the latest envelope was opened, and its award.
+  std::string said_;
+  std::int64_t said_of_ = 0;
 };
 
 }  // namespace tb
