@@ -192,7 +192,6 @@ struct Post {
   bool isVerified = false;
   bool mine = false;            // by the player
   std::vector<Button> actions;  // below it
-  std::string pressName;        // of the operation, for screen readers: "Replies"
   Operation press;              // may be empty
   Handle handle = 0;
 };

@@ -103,7 +103,7 @@ void rateRetention(const WorldState& world, FameParts& parts) {
   double sum = 0;
   double seasons = 0;
   for (const Ratings& season : world.saveAllRatings) {
-    if (season.premiereViews.front() <= 0) continue;
+    if (season.premiereViews.front() < 1) continue;  // viewers
     sum += season.premiereViews.back() / season.premiereViews.front();
     seasons += 1;
   }

@@ -205,7 +205,7 @@ TEST(AudienceJourney, PostsStandAmongTheCrowd) {
   player.press("Post");
   EXPECT_EQ(player.title(), "Chirp");
   EXPECT_TRUE(player.sees("Hello from the back row"));
-  player.press("Replies to: Hello from the back row");
+  player.press("Hello from the back row");
   player.expectSees({"REPLIES"});
   player.follow({"Back", "Profile", "Pin to your profile"});
   player.expectSees({"    Pinned Chirp | Ada Quinn | now <mine>"});

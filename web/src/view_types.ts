@@ -172,7 +172,6 @@ export interface Post {
   readonly isVerified: boolean;
   readonly mine: boolean;
   readonly actions: readonly Button[];
-  readonly pressName: string;
   readonly handle: number;
 }
 

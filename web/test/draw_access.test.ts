@@ -40,7 +40,7 @@ for (const [what, size, zoom] of [
 
 // All texts of a page, by field names; other strings are values of enumerations.
 function wordsIn(part: unknown, field = ""): string[] {
-  if (typeof part === "string") return /^(kind|style|tone|weight|name|head|step|format|band|icon)$/.test(field) ? [] : [part];
+  if (typeof part === "string") return /^(kind|style|tone|weight|name|head|step|format|band|icon|move)$/.test(field) ? [] : [part];
   if (typeof part !== "object" || part === null) return [];
   // Long charts have no table, and a passing line disappears.
   return Object.entries(part).flatMap(([name, inner]) =>

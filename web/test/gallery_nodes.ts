@@ -54,7 +54,7 @@ export const headline = node("headline", {
 });
 export const post = node("post", {
   note: "", author: "", when: "", text: "", picture: [], comments: "", reposts: "", likes: "",
-  isVerified: false, mine: false, actions: [], pressName: "", handle: 0,
+  isVerified: false, mine: false, actions: [], handle: 0,
 });
 export const place = node("place", {
   place: "", move: "none", moved: "", label: "", detail: "", value: "", picture: [], tone: "plain", handle: 0,

@@ -250,7 +250,7 @@ const feed = page({
     make.post({ ...seen, author: "Ada", text: "Thank you.", note: "Pinned", mine: true, handle: 1, actions: [plainButton({ label: "Unpin" })] }),
     make.post({ ...seen, author: longWord, text: longText, likes: muchMoney }),
     ...(["up", "down", "level", "entered", "none"] as const).map((move, index) =>
-      make.place({ place: `${index + 1}`, move, moved: move === "none" ? "" : `${move} 3`, label: `Title ${index}`, detail: "4 weeks in the Top 10", value: "41M", picture: [poster], tone: index === 0 ? "accent" : "plain", handle: index }),
+      make.place({ place: `${index + 1}`, move, moved: move === "none" ? "" : `${move} 3`, label: `Title ${index}`, detail: "4 weeks in the Top 10", value: "41M", picture: poster, tone: index === 0 ? "accent" : "plain", handle: index }),
     ),
     make.place({ place: "100", label: longWord, detail: longText, value: muchMoney }),
   ],

@@ -50,9 +50,8 @@ Section awards(const FameParts& parts) {
            parts.awards < 10
                ? tb::format("A win is worth 2 points and a nomination a quarter: {:.2f} to the next.", toNext)
                : "");
-  section.nodes.push_back(leadingTo<MovieAwardViewController>(
-      "Your awards",
-      tb::format("{}, {}", counted(parts.wins, "win"), counted(parts.nominations, "nomination"))));
+  section.nodes.push_back(
+      leadingTo<MovieAwardViewController>("Your awards", counted(parts.nominations, "nomination")));
   return section;
 }
 

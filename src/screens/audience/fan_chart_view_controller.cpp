@@ -47,7 +47,7 @@ Page FanChartViewController::view(const Game& game) {
       .heading = "WHAT MOVES THEM",
       .nodes = {Text{.text = talentWords(world)},
                 Text{.text = world.totalFans > 1'000
-                                 ? "A week that does not costs a few."
+                                 ? "A bad week costs a few."
                                  : "Up to 1,000 fans are loyal: they stay whatever the week brings."},
                 Text{.text = "Leads in good titles with large budgets bring the most, in the weeks of their "
                              "release."}}});

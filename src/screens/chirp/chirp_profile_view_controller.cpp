@@ -45,7 +45,6 @@ Button pinButton(const Chirp& chirp) {
 // A post of the player's, which leads to its replies.
 Post ownPost(const Game& game, const Chirp& chirp) {
   Post post = postNode(game, chirp);
-  post.pressName = "Replies to: " + chirp.message;
   post.press = [id = chirp.id](Stage& stage) { stage.open<ChirpReplyThreadViewController>(id); };
   return post;
 }

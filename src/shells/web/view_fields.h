@@ -92,7 +92,7 @@ VIEW_STRUCT(Buttons, buttons);
 VIEW_STRUCT(Row, label, value, detail, picture, tone, step, band, press, action, handle);
 VIEW_STRUCT(Headline, stamp, text, detail, value, picture, tone, isLead, press, handle);
 VIEW_STRUCT(Post, note, author, when, text, picture, comments, reposts, likes, isVerified, mine, actions,
-            pressName, press, handle);
+            press, handle);
 VIEW_STRUCT(Place, place, move, moved, label, detail, value, picture, tone, press, handle);
 VIEW_STRUCT(Field, label, value, type, hint, maximumLength, severalLines, handle);
 VIEW_STRUCT(Slider, label, value, minimum, maximum, step, text, slide, handle);
