@@ -15,8 +15,6 @@ namespace fs = std::filesystem;
 
 constexpr int mostLinesShown = 40;
 
-fs::path pathOf(const std::string& name) { return fs::path(GOLDEN_FOLDER) / (name + ".txt"); }
-
 std::string contentOf(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
@@ -36,10 +34,8 @@ void printDifference(const fs::path& kept, const std::string& text) {
 
 }  // namespace
 
-std::string goldenText(const std::string& name) { return contentOf(pathOf(name)); }
-
 void expectGolden(const std::string& name, const std::string& text) {
-  const fs::path path = pathOf(name);
+  const fs::path path = fs::path(GOLDEN_FOLDER) / (name + ".txt");
   if (std::getenv("REWRITE_GOLDEN") != nullptr) return write(path, text);
   if (text == contentOf(path)) return;
   printDifference(path, text);

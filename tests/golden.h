@@ -9,9 +9,6 @@
 
 namespace tb::test {
 
-// The text of tests/golden/NAME.txt; empty if there is none.
-std::string goldenText(const std::string& name);
-
 // Fails with the lines that differ, each under its heading (a line that starts with "==== ").
 void expectGolden(const std::string& name, const std::string& text);
 

@@ -56,8 +56,6 @@ void addChanges(std::string& text, std::string_view key, const List<T>& before, 
   if (gone > 0 && gone != here) text += std::format("  {} loses {} from {}\n", key, gone, front);
 }
 
-}  // namespace
-
 std::string changesOf(const WorldState& before, const WorldState& now) {
   std::string text;
 #define VARIABLE(Type, key, start, restart, load, ...) addChanges(text, #key, before.key, now.key);
@@ -66,6 +64,8 @@ std::string changesOf(const WorldState& before, const WorldState& now) {
 #include "core/world_variables.def"
   return text;
 }
+
+}  // namespace
 
 Sheet::~Sheet() { expectGolden(name_, text_); }
 

@@ -10,9 +10,6 @@
 
 namespace tb::test {
 
-// The variables that differ, one a line, with the elements of lists that were changed, added or removed.
-std::string changesOf(const WorldState& before, const WorldState& now);
-
 class Sheet {
  public:
   using Prepare = std::function<void(WorldState&)>;

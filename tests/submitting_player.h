@@ -27,6 +27,7 @@ class SubmittingPlayer {
 
   void endWeek() {
     press("End Week");
+    press("Not Today");  // to recommend the game, once in a career
     press("Carry on");
   }
 

@@ -20,7 +20,6 @@ enum class NewsKind : std::uint8_t {
   renewal,   // a further season or film is ordered
   cancellation,
   chartEntry,
-  nomination,
   award,
   // Money
   payday,       // residuals, royalties, shares, a first payment

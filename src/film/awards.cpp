@@ -8,9 +8,6 @@
 #include "banks/awards_banks.h"
 #include "banks/names.h"
 #include "core/descending.h"
-#include "core/format.h"
-#include "core/log.h"
-#include "core/text.h"
 
 namespace tb {
 
@@ -51,9 +48,6 @@ constexpr std::size_t rivals = 3;
 struct Show {
   Game& game;
   std::array<bool, 5> isTaken = {};  // by Prize
-  std::vector<std::string> titles = {};
-  std::int64_t nominations = 0;
-  std::int64_t firstFilm = 0;
 
   bool& taken(Prize prize) { return isTaken[static_cast<std::size_t>(prize)]; }
 };
@@ -103,15 +97,11 @@ void nominate(Show& show, const Film& film, std::size_t row) {
   }
   award.otherNomineeFilm = drawRivalTitles(show.game.random);
   world.saveAllMovieAwards.push_back(std::move(award));
-
-  if (show.nominations == 0) show.firstFilm = film.filmId;
-  show.nominations += 1;
-  if (!std::ranges::contains(show.titles, film.title)) show.titles.push_back(film.title);
 }
 
 // The size of the role does not matter, only its kind.
 bool isForRole(const Film& film, const AwardOption& option) {
-  return film.didAct == 1 && film.role.contains("Support") == (option.roleType == "Support");
+  return film.role.contains("Support") == (option.roleType == "Support");
 }
 
 void consider(Show& show, const Film& film, std::size_t row) {
@@ -142,14 +132,6 @@ std::vector<Film> eligibleTitles(const WorldState& world, std::int64_t typeOfFil
   return titles;
 }
 
-void announce(Show& show, std::int64_t typeOfFilm) {
-  if (show.nominations == 0) return;
-  const auto option = std::ranges::find(options, typeOfFilm, &AwardOption::typeOfFilm);
-  logLine(show.game.world, {NewsKind::nomination, show.firstFilm},
-          tb::format("{}: {} for {}", option->awardShow, counted(show.nominations, "nomination"),
-                     joinedWithAnd(show.titles)));
-}
-
 void holdShow(Game& game, std::int64_t typeOfFilm) {
   Show show{.game = game};
   for (const Film& film : eligibleTitles(game.world, typeOfFilm)) {
@@ -157,7 +139,6 @@ void holdShow(Game& game, std::int64_t typeOfFilm) {
       if (isFor(game.world, options[row], typeOfFilm)) consider(show, film, row);
     }
   }
-  announce(show, typeOfFilm);
 }
 
 }  // namespace
@@ -178,6 +159,16 @@ void seriesNominations(Game& game) {
 
 bool isNominatedThisYear(const WorldState& world) {
   return std::ranges::contains(world.saveAllMovieAwards, world.yearNumber, &Award::yearAwarded);
+}
+
+std::vector<std::size_t> newNominations(const WorldState& world) {
+  std::vector<std::size_t> indexes;
+  for (std::size_t index = 0; index < world.saveAllMovieAwards.size(); ++index) {
+    const Award& award = world.saveAllMovieAwards[index];
+    const std::int64_t announced = award.filmType == filmType::series ? emmeWeek : cademyWeek;
+    if (award.yearAwarded == world.yearNumber && world.weekNumber == announced + 1) indexes.push_back(index);
+  }
+  return indexes;
 }
 
 bool isRevealed(const WorldState& world, const Award& award) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "core/game.h"
 
@@ -37,6 +38,9 @@ void seriesNominations(Game& game);
 
 // Whether `saveAllMovieAwards` has a nomination of this year.
 [[nodiscard]] bool isNominatedThisYear(const WorldState& world);
+
+// Indexes in `saveAllMovieAwards` of the nominations that came out in the week that ended.
+[[nodiscard]] std::vector<std::size_t> newNominations(const WorldState& world);
 
 // Whether the winner is known to the player: in later years, and after openEnvelope().
 [[nodiscard]] bool isRevealed(const WorldState& world, const Award& award);

@@ -81,18 +81,21 @@ double grossSoFar(const WorldState& world, const Film& film) {
 
 // Of released titles with a principal part. A film's score is 0 until its release.
 void rateTitles(const WorldState& world, FameParts& parts) {
-  double sum = 0;
+  double ratings = 0;
+  double metascores = 0;
   double titles = 0;
   for (const Film& film : world.saveAllFilmList) {
     if (film.isPrincipal != rolePart::principal || !isOut(world, film) || film.imbdRating <= 0) continue;
-    sum += meanScore(film);
+    ratings += film.imbdRating;
+    metascores += static_cast<double>(film.imbdMetascore);
     titles += 1;
     if (film.typeOfFilm != filmType::feature) continue;
     parts.films += 1;
     parts.gross += grossSoFar(world, film);
     parts.budgets += film.budget;
   }
-  parts.meanRating = titles > 0 ? sum / titles : 0;
+  // The means first: the mean of each title's own score is a little lower when rounded, and can cost a point.
+  if (titles > 0) parts.meanRating = (ratings / titles + metascores / titles / 10) * 0.5;
   parts.rating = static_cast<std::int64_t>(parts.meanRating);
   if (parts.budgets > 0) {
     parts.returns = std::min(maxReturnPoints, pointsPerReturn * parts.gross / parts.budgets);
@@ -103,7 +106,7 @@ void rateRetention(const WorldState& world, FameParts& parts) {
   double sum = 0;
   double seasons = 0;
   for (const Ratings& season : world.saveAllRatings) {
-    if (season.premiereViews.front() < 1) continue;  // viewers
+    if (season.premiereViews.empty() || season.premiereViews.front() < 1) continue;  // viewers
     sum += season.premiereViews.back() / season.premiereViews.front();
     seasons += 1;
   }

@@ -8,6 +8,7 @@
 #include "career/submission.h"
 #include "career/traits.h"
 #include "core/ended_week.h"
+#include "film/awards.h"
 #include "life/energy.h"
 #include "social/inbox.h"
 
@@ -189,6 +190,10 @@ std::optional<FirstSteps> firstSteps(const WorldState& world) {
 std::vector<Outcome> lastWeeksOutcomes(const WorldState& world) {
   const std::int64_t ended = endedTrackingWeek(world);
   std::vector<Outcome> outcomes;
+  if (const auto nominations = newNominations(world); !nominations.empty()) {
+    outcomes.push_back(
+        {.kind = Outcome::Kind::nominated, .index = nominations.front(), .count = std::ssize(nominations)});
+  }
   std::int64_t lostRoles = 0;
   for (std::size_t index = 0; index < world.saveAllAuditionList.size(); ++index) {
     const Audition& project = world.saveAllAuditionList[index];

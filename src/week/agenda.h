@@ -62,11 +62,11 @@ struct FirstSteps {
 
 // An outcome of the week that ended; lists of them are sorted best first.
 struct Outcome {
-  enum class Kind : std::uint8_t { booked, opened, wrapped, paid, notSelected };
+  enum class Kind : std::uint8_t { nominated, booked, opened, wrapped, paid, notSelected };
   Kind kind;
-  std::size_t index = 0;   // of the project in `saveAllAuditionList`
+  std::size_t index = 0;   // of the project in `saveAllAuditionList`, or the award in `saveAllMovieAwards`
   double amount = 0;       // dollars paid for all titles
-  std::int64_t count = 0;  // lost roles
+  std::int64_t count = 0;  // nominations, or lost roles
 };
 [[nodiscard]] std::vector<Outcome> lastWeeksOutcomes(const WorldState& world);
 

@@ -16,7 +16,6 @@ constexpr auto rules = std::to_array<NewsRule>({
     {.kind = NewsKind::birth, .stamp = "IT'S A BABY", .mood = NewsMood::good, .moment = Occasion::always},
     {.kind = NewsKind::company, .stamp = "FOUNDED", .mood = NewsMood::good, .moment = Occasion::always},
     {.kind = NewsKind::guild, .stamp = "MEMBER", .mood = NewsMood::good, .moment = Occasion::always},
-    {.kind = NewsKind::nomination, .stamp = "NOMINATED", .mood = NewsMood::promising},
     {.kind = NewsKind::opening, .stamp = "OPENS", .mood = NewsMood::good, .moment = Occasion::firstOrLarge},
     {.kind = NewsKind::premiere,
      .stamp = "PREMIERE",

@@ -64,6 +64,7 @@ class Beginner {
     actInPlace("Train to ");
     use(page().main.front().handle);
     EXPECT_EQ(page().title, "REVIEW");
+    while (!page().dialog.empty()) use(page().dialog.front().answers.front().handle);
     use(page().main.front().handle);
   }
 
@@ -123,6 +124,62 @@ TEST(BeginnerJourney, FirstBookingByWeek20AtTheMedian) {
   }
   std::ranges::sort(weeks);
   EXPECT_LE(weeks[15], 20) << testing::PrintToString(weeks);
+}
+
+// The first weeks on the screens, with counts of presses.
+struct FirstWeeksJourney : testing::Test {
+  test::SeededRandom random{5};
+  test::Device device{random};
+  test::Player& player() { return device.player(); }
+  FirstWeeksJourney() {
+    device.begin([](WorldState&) {});
+  }
+  // Names of the board's buttons that do not show a refusal.
+  std::vector<std::string> openRoles() {
+    std::vector<std::string> names;
+    for (const view::Node& node : player().page().nodes) {
+      const auto* const row = std::get_if<view::Row>(&node.node);
+      if (row != nullptr && row->action.front().refusal.empty()) names.push_back(row->action.front().name);
+    }
+    return names;
+  }
+};
+
+TEST_F(FirstWeeksJourney, AWeekWithThreeSubmissionsTakesEightPresses) {
+  player().expectSees({"Find work", "Send showreels", "End the week"});
+  player().press("Send showreels");
+  int presses = 1;
+  for (const std::string& submit : openRoles()) {
+    if (device.world().saveAllAuditionList.size() == 3) break;
+    player().press(submit);
+    EXPECT_TRUE(player().said().starts_with("Showreel sent to ")) << submit;
+    presses += 1;
+  }
+  ASSERT_EQ(device.world().saveAllAuditionList.size(), 3U);
+  player().follow({"End Week", "Carry on"});
+  EXPECT_LE(presses + 2, 8);
+  EXPECT_EQ(player().title(), device.world().myName);
+  player().expectSees({"Waiting to hear"});
+}
+
+TEST_F(FirstWeeksJourney, ButtonsShowRefusalsAndCompletion) {
+  device.begin([](WorldState& world) { world.totalEnergyAvailable = 25; });
+  player().press("Send showreels");
+  player().press(openRoles().front());
+  player().expectSees({"Too little energy"});
+  player().press("Submitted");
+  player().expectTold("🎭 SUBMITTED! 🎭");
+  EXPECT_EQ(device.world().totalEnergyAvailable, 5);
+}
+
+TEST_F(FirstWeeksJourney, TabsAndEndWeekAreOnEveryScreen) {
+  player().follow({"Work", "Talent", "Life"});
+  player().expectSees({"WEEKLY ENERGY COSTS"});
+  player().follow({"Work", "Acting Classes", "End Week"});
+  EXPECT_EQ(player().title(), "REVIEW");
+  for (const test::Player::Usable& usable : player().usable()) EXPECT_NE(usable.label, "Home");
+  player().press("Carry on");
+  EXPECT_EQ(player().title(), device.world().myName) << "the screens that were open are left";
 }
 
 }  // namespace

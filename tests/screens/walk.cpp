@@ -44,6 +44,19 @@ struct Path {
   }
 };
 
+Lines added(const Lines& before, const Lines& now) {
+  std::multiset<std::string> old(before.begin(), before.end());
+  Lines lines;
+  for (const std::string& line : now) {
+    if (const auto found = old.find(line); found != old.end()) {
+      old.erase(found);
+    } else {
+      lines.push_back(line);
+    }
+  }
+  return lines;
+}
+
 std::string joined(const Lines& lines) {
   std::string text;
   for (const std::string& line : lines) text += line + "\n";
@@ -174,19 +187,6 @@ class Explorer {
 };
 
 }  // namespace
-
-Lines added(const Lines& before, const Lines& now) {
-  std::multiset<std::string> old(before.begin(), before.end());
-  Lines lines;
-  for (const std::string& line : now) {
-    if (const auto found = old.find(line); found != old.end()) {
-      old.erase(found);
-    } else {
-      lines.push_back(line);
-    }
-  }
-  return lines;
-}
 
 std::string walkAllScreens(Device& device, SeededRandom& random) {
   return Explorer(device, random).explore();

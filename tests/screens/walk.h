@@ -8,10 +8,6 @@
 
 namespace tb::test {
 
-// The lines of `now` that `before` does not have.
-[[nodiscard]] std::vector<std::string> added(const std::vector<std::string>& before,
-                                             const std::vector<std::string>& now);
-
 // Visits every screen breadth first and records each page and the effects of its presses. `random` is the
 // device's generator; it is reseeded before each press, so that a screen does not depend on earlier ones.
 //

@@ -8,6 +8,7 @@
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/backstage/casting_network_view_controller.h"
+#include "screens/metflix/movie_award_view_controller.h"
 #include "screens/offers/email_inbox_view_controller.h"
 #include "screens/offers/renewal_negotiation_view_controller.h"
 #include "screens/parts.h"
@@ -177,6 +178,12 @@ Row outcomeRow(const Game& game, const Outcome& outcome) {
             .value = "+" + cash(game.locale, outcome.amount),
             .tone = Tone::good,
             .press = opens<PaymentTransactionsViewController>()};
+  }
+  if (outcome.kind == Outcome::Kind::nominated) {
+    return {.label = "Nominated: " + world.saveAllMovieAwards[outcome.index].awardShow,
+            .detail = counted(outcome.count, "nomination"),
+            .tone = Tone::good,
+            .press = opens<MovieAwardViewController>()};
   }
   if (outcome.kind == Outcome::Kind::notSelected) {
     return {.label = tb::format("Not selected for {}", counted(outcome.count, "role")),

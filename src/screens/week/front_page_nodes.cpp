@@ -2,7 +2,6 @@
 
 #include "core/format.h"
 #include "core/number_style.h"
-#include "screens/metflix/movie_award_view_controller.h"
 #include "screens/moments.h"
 #include "screens/offers/email_inbox_view_controller.h"
 #include "screens/parts.h"
@@ -64,11 +63,10 @@ std::string momentLine(const Story& story) {
   }
 }
 
-// Mail leads to the inbox, nominations to the awards, other news to its project.
+// Mail leads to the inbox, other news to its project.
 Operation leadingToStory(const WorldState& world, const News& about) {
   const bool isMail = about.kind == NewsKind::mail || about.kind == NewsKind::agent;
   if (isMail && about.filmId == 0) return opens<EmailInboxViewController>();
-  if (about.kind == NewsKind::nomination) return opens<MovieAwardViewController>();
   return leadingToProject(world, about.filmId);
 }
 
