@@ -63,6 +63,7 @@ export interface ReadSave {
   readonly changes: readonly Change[];
   readonly career: Career;
   readonly documents: readonly StoredDocument[]; // the slots and backups of an archive
+  readonly left: number; // others of its slots and backups that stay in the archive only
   readonly findings: readonly string[]; // what is damaged in it
 }
 
@@ -157,7 +158,8 @@ async function documentOf(
   try {
     const game = await Game.open(module, { commit: () => undefined, documents }, []);
     if (game.importStore(content).refusal === "") game.backUpStore();
-    return found;
+    // With its own checksum, so that a damaged one is known when it is opened.
+    return found && { ...found, size: content.length, content };
   } catch {
     return undefined;
   }
@@ -190,7 +192,7 @@ export async function readSave(
     const page = game.page();
     // The only notice at the start is about what could not be read.
     const findings = [remark, ...page.dialog.map(({ message }) => message)].filter((text) => text !== "");
-    return { changes, career: careerOn(page), findings, documents: [] };
+    return { changes, career: careerOn(page), findings, documents: [], left: 0 };
   } catch (error) {
     if (error instanceof GameStopped) return "The career in this file can't be opened.";
     return "This file can't be read.";

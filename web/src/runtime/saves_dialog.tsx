@@ -15,10 +15,11 @@ function labelOf({ folder, name, changed }: DocumentSummary): string {
   return `the backup of ${new Date(changed).toLocaleString(undefined, { dateStyle: "medium", timeStyle: "medium" })}`;
 }
 
-const othersIn = ({ documents }: ReadSave): string =>
-  documents.length === 1
-    ? "A slot or backup comes with it; one that you have here stays as it is."
-    : `${documents.length} slots and backups come with it; those that you have here stay as they are.`;
+function othersIn({ documents: { length }, left }: ReadSave): string {
+  const coming = length === 1 ? " 1 slot or backup comes with it." : ` ${length} slots and backups come with it.`;
+  const staying = ` ${left} more of them ${left === 1 ? "stays" : "stay"} in the file only: yours are kept, and the game keeps eight backups.`;
+  return (length > 0 ? coming : "") + (left > 0 ? staying : "");
+}
 
 // The question names both careers.
 interface Question {
@@ -108,7 +109,7 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
               <strong>{named(question.save.career)}</strong> takes the place of{" "}
               <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>
               {question.inPlay && question.inPlay.date !== "" ? ", which stays among the backups." : "."}
-              {question.save.documents.length > 0 && ` ${othersIn(question.save)}`}
+              {othersIn(question.save)}
             </p>
             {question.save.findings.map((finding) => (
               <p key={finding} class="shell-finding">
