@@ -4,8 +4,6 @@ import { MessageReader, MessageWriter } from "./message";
 
 export const backupFolder = "SaveBackups"; // as in src/core/save_backups.h
 
-const mostBackups = 8; // as there
-
 export const slotFolder = "SaveSlots"; // as in src/core/save_slots.h
 
 export interface DocumentPlace {
@@ -33,18 +31,6 @@ export function summaryOf({ content: _, ...summary }: StoredDocument): DocumentS
 
 export const isSamePlace = (one: DocumentPlace, other: DocumentPlace) =>
   one.folder === other.folder && one.name === other.name;
-
-const isBackup = ({ folder }: DocumentPlace) => folder === backupFolder;
-
-// The documents that come beside those that are known: none of the same place, and of the backups the newest, as many
-// as there is room for beside a backup of the career in play.
-export function fitting<T extends DocumentPlace>(documents: readonly T[], known: readonly DocumentPlace[]): T[] {
-  const others = documents.filter((document) => !known.some((old) => isSamePlace(old, document)));
-  const room = Math.max(mostBackups - 1 - known.filter(isBackup).length, 0);
-  // Their names have the time.
-  const backups = others.filter(isBackup).sort((one, other) => (one.name < other.name ? 1 : -1));
-  return [...others.filter((document) => !isBackup(document)), ...backups.slice(0, room)];
-}
 
 export function readPlace(message: Uint8Array): DocumentPlace {
   const reader = new MessageReader(message);

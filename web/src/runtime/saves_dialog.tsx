@@ -15,12 +15,6 @@ function labelOf({ folder, name, changed }: DocumentSummary): string {
   return `the backup of ${new Date(changed).toLocaleString(undefined, { dateStyle: "medium", timeStyle: "medium" })}`;
 }
 
-function othersIn({ documents: { length }, left }: ReadSave): string {
-  const coming = length === 1 ? " 1 slot or backup comes with it." : ` ${length} slots and backups come with it.`;
-  const staying = ` ${left} more of them ${left === 1 ? "stays" : "stay"} in the file only: yours are kept, and the game keeps eight backups.`;
-  return (length > 0 ? coming : "") + (left > 0 ? staying : "");
-}
-
 // The question names both careers.
 interface Question {
   readonly save: ReadSave;
@@ -109,7 +103,7 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
               <strong>{named(question.save.career)}</strong> takes the place of{" "}
               <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>
               {question.inPlay && question.inPlay.date !== "" ? ", which stays among the backups." : "."}
-              {othersIn(question.save)}
+              {question.save.others}
             </p>
             {question.save.findings.map((finding) => (
               <p key={finding} class="shell-finding">

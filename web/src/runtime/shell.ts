@@ -5,7 +5,7 @@ import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
-import { type DocumentPlace, type DocumentSummary, fitting } from "./documents";
+import { type DocumentPlace, type DocumentSummary } from "./documents";
 import { isKeptForOffline, loadFace } from "./face";
 import { Game, type GameHost, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
@@ -140,10 +140,8 @@ export class Shell {
   }
 
   async read(file: Blob): Promise<ReadSave | string> {
-    const save = await readSave(await program.get(), await texts.get(), this.locale, file);
-    if (typeof save === "string") return save;
-    const documents = fitting(save.documents, (await this.openStorage()).documents());
-    return { ...save, documents, left: save.documents.length - documents.length };
+    const known = (await this.openStorage()).documents();
+    return readSave(await program.get(), await texts.get(), this.locale, file, known);
   }
 
   async careerInPlay(): Promise<Career | undefined> {
