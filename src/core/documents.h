@@ -33,6 +33,12 @@ struct DocumentFailure {
   std::string reason;
 };
 
+// What became of taking up a slot or a backup.
+struct TakenUp {
+  bool isDone = false;
+  std::string damage = {};  // why it was not done yet: what the player should know before
+};
+
 class Documents {
  public:
   Documents() = default;

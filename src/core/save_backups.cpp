@@ -11,6 +11,7 @@
 #include "core/calendar.h"
 #include "core/debug_log.h"
 #include "core/format.h"
+#include "core/save_file.h"
 #include "core/save_slots.h"
 #include "core/save_store.h"
 #include "core/stored_value.h"
@@ -110,6 +111,16 @@ void replaceStore(Game& game, plist::Dictionary values) {
   game.reload = Reload::asAtStart;
 }
 
+TakenUp takeUp(Game& game, std::optional<plist::Dictionary> values, bool acceptsDamage) {
+  if (!values) return {};
+  std::string damage = takeDamage(*values, game.random);
+  if (!damage.empty() && !acceptsDamage) return {.damage = std::move(damage)};
+  if (!SlotManager::saveCurrent(game)) return {};
+  Backups::backUp(game);
+  replaceStore(game, *std::move(values));
+  return {.isDone = true};
+}
+
 void removeBackup(Documents& documents, const std::string& url) {
   if (const auto done = documents.remove(Backups::backupFolderName, url); !done) {
     debugLog("SaveBackupManager: backup write failed: " + done.error());
@@ -129,8 +140,7 @@ bool SaveBackupManager::backUp(Documents& documents, const plist::Dictionary& va
     debugLog("SaveBackupManager: backup write failed: The backups can't be read.");
     return false;
   }
-  const auto done =
-      documents.write(backupFolderName, freeName(*before, now), plist::write(plist::Value{values}));
+  const auto done = documents.write(backupFolderName, freeName(*before, now), saveFile(values));
   if (!done) {
     debugLog(std::string(done.error().isFolder ? "SaveBackupManager: could not create backup directory: "
                                                : "SaveBackupManager: backup write failed: ") +
@@ -153,17 +163,12 @@ std::optional<std::vector<SaveBackupManager::BackupInfo>> SaveBackupManager::lis
   return infos;
 }
 
-void SaveBackupManager::restore(Game& game, const std::string& url, std::function<void(bool)> then) {
-  if (game.documents == nullptr) return then(false);
+void SaveBackupManager::restore(Game& game, const std::string& url, bool acceptsDamage,
+                                std::function<void(const TakenUp&)> then) {
+  if (game.documents == nullptr) return then({});
   game.documents->read(backupFolderName, url,
-                       [&game, then = std::move(then)](const std::optional<Bytes>& content) {
-                         auto values = careerIn(content);
-                         const bool restores = values && SlotManager::saveCurrent(game);
-                         if (restores) {
-                           backUp(game);
-                           replaceStore(game, *std::move(values));
-                         }
-                         then(restores);
+                       [&game, acceptsDamage, then = std::move(then)](const std::optional<Bytes>& content) {
+                         then(takeUp(game, careerIn(content), acceptsDamage));
                        });
 }
 

@@ -43,8 +43,10 @@ class SaveBackupManager {
 
   // Replaces the store with a backup, after backing the store up. A backup of another slot continues that
   // slot, and the career in play is saved to its own. A backup without the keys that belong to no slot leaves
-  // them as they are. `then` gets false when the backup can't be read, and nothing was changed.
-  static void restore(Game& game, const std::string& url, std::function<void(bool)> then);
+  // them as they are. It is not done, and nothing was changed, when the backup can't be read, and for a
+  // damaged one unless `acceptsDamage`.
+  static void restore(Game& game, const std::string& url, bool acceptsDamage,
+                      std::function<void(const TakenUp&)> then);
 
   static void remove(Game& game, const std::string& url);
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "core/load_world.h"
 #include "core/property_list_xml.h"
 #include "core/stored_value.h"
 
@@ -27,20 +28,43 @@ std::string checksum(plist::Dictionary values) {
   return text;
 }
 
+void removeChecksum(plist::Dictionary& values) {
+  std::erase_if(values, [](const auto& entry) { return entry.first == checksumKey; });
+}
+
 std::string remarkOn(const plist::Dictionary& values, const std::string& stated) {
   if (stated.empty()) return "This file has no checksum, so it is not known whether it is complete.";
   if (stated == checksum(values)) return "";
-  return "This file was damaged or changed after it was written: its checksum does not fit.";
+  return "This save was damaged or changed after it was written: its checksum does not fit.";
 }
 
 }  // namespace
 
 Bytes exportedSave(const SaveStore& store) {
   plist::Dictionary values = store.dictionary();
-  std::erase_if(values, [](const auto& entry) { return entry.first == checksumKey; });
-  std::string sum = checksum(values);
-  values.emplace_back(checksumKey, plist::Value{std::move(sum)});
+  removeChecksum(values);
+  return saveFile(std::move(values));
+}
+
+Bytes saveFile(plist::Dictionary values) {
+  if (!std::ranges::contains(values, checksumKey, &plist::Dictionary::value_type::first)) {
+    std::string sum = checksum(values);
+    values.emplace_back(checksumKey, plist::Value{std::move(sum)});
+  }
   return plist::write(plist::Value{std::move(values)});
+}
+
+std::string takeDamage(plist::Dictionary& values, RandomSource& random) {
+  const auto stated = storedValue<std::string>(values, checksumKey);
+  removeChecksum(values);
+  std::string remark = stated.empty() ? "" : remarkOn(values, stated);
+  if (remark.empty()) return remark;
+  ScratchPort port;
+  SaveStore store(port);
+  store.replace(values);
+  Game game{.store = store, .random = random};
+  const auto damage = describe(loadWorld(game));
+  return remark + "\n\n" + damage.value_or("All of the career can still be read.");
 }
 
 ImportedSave importSave(SaveStore& store, std::span<const std::byte> file) {
@@ -54,7 +78,7 @@ ImportedSave importSave(SaveStore& store, std::span<const std::byte> file) {
   }
   auto& values = std::get<plist::Dictionary>(read->held);
   const auto stated = storedValue<std::string>(values, checksumKey);
-  std::erase_if(values, [](const auto& entry) { return entry.first == checksumKey; });
+  removeChecksum(values);
   std::string remark = remarkOn(values, stated);
   store.replace(values);
   return {.refusal = {}, .remark = std::move(remark)};

@@ -6,6 +6,7 @@
 #include "core/debug_log.h"
 #include "core/format.h"
 #include "core/save_backups.h"
+#include "core/save_file.h"
 #include "core/save_store.h"
 #include "core/stored_value.h"
 
@@ -68,12 +69,15 @@ void replaceStore(Game& game, plist::Dictionary values, Int index) {
   game.reload = Reload::asAtStart;
 }
 
-// Whether the career in play was saved, and another one took its place.
-bool play(Game& game, std::optional<plist::Dictionary> values, Int index) {
-  if (!values || !Slots::saveCurrent(game)) return false;
+// Saves the career in play, and another one takes its place.
+TakenUp play(Game& game, std::optional<plist::Dictionary> values, Int index, bool acceptsDamage) {
+  if (!values) return {};
+  std::string damage = takeDamage(*values, game.random);
+  if (!damage.empty() && !acceptsDamage) return {.damage = std::move(damage)};
+  if (!Slots::saveCurrent(game)) return {};
   SaveBackupManager::backUp(game);
   replaceStore(game, *std::move(values), index);
-  return true;
+  return {.isDone = true};
 }
 
 std::optional<std::vector<DocumentSummary>> documentsOf(const Game& game) {
@@ -116,17 +120,19 @@ std::vector<SlotManager::SlotSummary> SlotManager::summaries(const Game& game) {
   return all;
 }
 
-void SlotManager::switchTo(Game& game, Int index, std::function<void(bool)> then) {
+void SlotManager::switchTo(Game& game, Int index, bool acceptsDamage,
+                           std::function<void(const TakenUp&)> then) {
   if (game.documents == nullptr || index == activeSlot(game.world)) return;
   const auto documents = documentsOf(game);
-  if (!documents) return then(false);
+  if (!documents) return then({});
   if (!std::ranges::contains(*documents, slotName(index), &DocumentSummary::name)) {
-    return then(play(game, plist::Dictionary{}, index));
+    return then(play(game, plist::Dictionary{}, index, acceptsDamage));
   }
-  game.documents->read(slotFolderName, slotName(index),
-                       [&game, index, then = std::move(then)](const std::optional<Bytes>& document) {
-                         then(play(game, contentOf(document, index), index));
-                       });
+  game.documents->read(
+      slotFolderName, slotName(index),
+      [&game, index, acceptsDamage, then = std::move(then)](const std::optional<Bytes>& document) {
+        then(play(game, contentOf(document, index), index, acceptsDamage));
+      });
 }
 
 bool SlotManager::saveCurrent(Game& game) {
@@ -134,8 +140,7 @@ bool SlotManager::saveCurrent(Game& game) {
   const Int index = activeSlot(game.world);
   plist::Dictionary values = game.store.dictionary();
   removeSharedValues(values);
-  const auto done =
-      game.documents->write(slotFolderName, slotName(index), plist::write(plist::Value{std::move(values)}));
+  const auto done = game.documents->write(slotFolderName, slotName(index), saveFile(std::move(values)));
   if (done) return true;
   debugLog(done.error().isFolder
                ? "SlotManager: could not create slots directory: " + done.error().reason

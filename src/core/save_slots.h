@@ -41,9 +41,9 @@ class SlotManager {
   [[nodiscard]] static std::vector<SlotSummary> summaries(const Game& game);
 
   // Saves the career in play to its slot and plays another slot; an empty one begins with the new-career
-  // form. `then` gets false if nothing was changed, because a document can't be read or written. Does nothing
-  // for the active slot.
-  static void switchTo(Game& game, Int index, std::function<void(bool)> then);
+  // form. It is not done, and nothing was changed, if a document can't be read or written, and for a damaged
+  // slot unless `acceptsDamage`. Does nothing for the active slot.
+  static void switchTo(Game& game, Int index, bool acceptsDamage, std::function<void(const TakenUp&)> then);
 
   // Saves the career in play to its slot. False after a failure, which is logged.
   static bool saveCurrent(Game& game);

@@ -207,7 +207,7 @@ std::expected<void, std::string> SaveStore::commit() {
 void SaveStore::setPiece(std::string_view key, Entry& entry, std::int64_t piece, Bytes bytes) {
   const auto [at, added] = entry.pieces.try_emplace(piece);
   if (!added && at->second == bytes) return;
-  weeks_.note(key, entry.shape, piece, added ? std::nullopt : std::optional(std::move(at->second)));
+  weeks_.note(key, entry.shape, piece, added ? nullptr : &at->second, &bytes);
   at->second = std::move(bytes);
   waitingFor(key).pieces.insert(piece);
 }
@@ -215,12 +215,12 @@ void SaveStore::setPiece(std::string_view key, Entry& entry, std::int64_t piece,
 void SaveStore::dropPiece(std::string_view key, Entry& entry, std::int64_t piece) {
   auto dropped = entry.pieces.extract(piece);
   if (dropped.empty()) return;
-  weeks_.note(key, entry.shape, piece, std::move(dropped.mapped()));
+  weeks_.note(key, entry.shape, piece, &dropped.mapped(), nullptr);
   waitingFor(key).pieces.insert(piece);
 }
 
 void SaveStore::dropKey(std::string_view key, Entry& entry) {
-  for (auto& [piece, bytes] : entry.pieces) weeks_.note(key, entry.shape, piece, std::move(bytes));
+  for (const auto& [piece, bytes] : entry.pieces) weeks_.note(key, entry.shape, piece, &bytes, nullptr);
   entry.pieces.clear();
   waitingFor(key) = {.dropsKey = true, .pieces = {}};
   for (const std::string& column : columnsOf(key)) remove(column);

@@ -23,6 +23,7 @@ bool reload(Game& game, bool isReplaced) {
 }  // namespace
 
 std::optional<CareerWeek> lastWeek(const SaveStore& store) {
+  if (store.weeks().weeksBack() == 0) return std::nullopt;
   return careerWeek(store.weeks().valueBack("weekNumber"), store.weeks().valueBack("yearNumber"));
 }
 

@@ -108,5 +108,66 @@ TEST_F(WeeksOfAStore, AnyNumberOfWeeksIsTakenBackAndHadAgain) {
   }
 }
 
+TEST_F(WeeksOfAStore, TenWeeksAreOfferedHoweverManyWereEnded) {
+  for (Int week = 1; week <= 40; ++week) {
+    store->put("week", Value{week});
+    store->weeks().beginWeek();
+    ASSERT_TRUE(store->commit());
+    EXPECT_EQ(store->weeks().weeksBack(), std::min<Int>(week, 10));
+    if (upTo(3) == 0) relaunch();
+  }
+  store->put("week", Value{Int{41}});
+  for (Int back = 0; back < 10; ++back) {
+    EXPECT_EQ(store->weeks().valueBack("week"), Value{40 - back});
+    ASSERT_TRUE(store->weeks().goBack());
+    EXPECT_EQ(store->weeks().weeksForward(), back + 1);
+  }
+  EXPECT_FALSE(store->weeks().goBack());
+  EXPECT_EQ(store->value("week"), Value{Int{31}});
+}
+
+// As the first builds with journals wrote them.
+TEST_F(WeeksOfAStore, JournalsOfWholePiecesAreGoneBackThrough) {
+  store->put("cash", Value{Int{100}});
+  store->putPieces("films", Shape::recordList, false, {{1, list(1)}});
+  const Rows before = rows();
+  store->put("cash", Value{Int{7}});
+  store->putPieces("films", Shape::recordList, false, {{1, list(2)}, {2, list(3)}});
+  const auto places = [](Array values) { return plist::write(Value{std::move(values)}); };
+  const auto record = [&](const char* key, Int piece, Int shape, Bytes bytes) {
+    return places({Value{key}, Value{piece}, Value{shape}, Value{plist::Data{std::move(bytes)}}});
+  };
+  store->putPieces("weekBefore.9", Shape::journal, false,
+                   {{0, record("cash", 0, 0, plist::write(Value{Int{100}}))},
+                    {1, record("films", 1, 1, list(1))},
+                    {2, record("films", 2, 1, {})}});
+  relaunch();
+  store->put("cash", Value{Int{8}});  // is recorded as a difference
+  relaunch();
+  const Rows after = rows();
+  EXPECT_EQ(store->weeks().valueBack("cash"), Value{Int{100}});
+  ASSERT_TRUE(store->weeks().goBack());
+  EXPECT_EQ(rows(), before);
+  ASSERT_TRUE(store->weeks().goForward());
+  EXPECT_EQ(rows(), after);
+}
+
+TEST_F(WeeksOfAStore, ADamagedJournalOrPieceChangesNothing) {
+  for (const bool isJournal : {true, false}) {
+    store->put("cash", Value{Int{1}});
+    store->weeks().beginWeek();
+    store->put("cash", Value{Int{2}});
+    relaunch();
+    for (auto& [place, stored] : port.pieces) {
+      if ((stored.shape == Shape::journal) == isJournal) stored.bytes.back() ^= std::byte{1};
+    }
+    store.emplace(port);
+    const Rows left = rows();
+    EXPECT_FALSE(store->weeks().goBack());
+    EXPECT_EQ(rows(), left);
+    EXPECT_EQ(store->weeks().weeksBack(), 0U);
+  }
+}
+
 }  // namespace
 }  // namespace tb

@@ -46,12 +46,13 @@ void playWeek(Game& game) {
 }
 
 void switchToSlot(Game& game, Int index) {
-  SlotManager::switchTo(game, index, [](bool) {});
+  SlotManager::switchTo(game, index, false, [](const TakenUp&) {});
 }
 
 void restoreBackup(Game& game) {
   const auto backups = SaveBackupManager::list(game);
-  if (backups && !backups->empty()) SaveBackupManager::restore(game, backups->front().url, [](bool) {});
+  if (backups && !backups->empty())
+    SaveBackupManager::restore(game, backups->front().url, false, [](const TakenUp&) {});
 }
 
 }  // namespace tb::crash

@@ -177,6 +177,52 @@ TEST_F(Slots, ABackupThatCannotBeReadIsRefused) {
   EXPECT_TRUE(stored() == before);
 }
 
+// One byte of each: the last letter of the player's name.
+TEST_F(Slots, ADamagedSlotOrBackupSaysSoBeforeAnythingIsReplaced) {
+  openPicker();
+  player().press(emptySlot);
+  beginCareer("Bea Stone");
+  const auto damage = [this](std::string_view folder, std::string_view name) {
+    for (auto& [place, content] : device.documents.files) {
+      if (place.first != folder) continue;
+      const auto at = std::ranges::search(content, std::as_bytes(std::span(name)));
+      if (!at.empty()) at.back() = std::byte{'m'};
+    }
+  };
+  const auto asksFirst = [this](std::initializer_list<std::string> presses, std::string_view name) {
+    const plist::Dictionary before = stored();
+    player().follow(presses);
+    EXPECT_TRUE(player().sees("This Save Is Damaged"));
+    EXPECT_TRUE(stored() == before);
+    player().press("Keep playing");
+    EXPECT_TRUE(stored() == before);
+    player().follow(presses);
+    player().press("Open it anyway");
+    EXPECT_EQ(device.world().myName, name);
+    EXPECT_FALSE(SaveStore(device.port).contains("saveChecksum"));
+  };
+  damage(SlotManager::slotFolderName, "Ada Quinn");
+  openPicker();
+  asksFirst({"Play Ada Quinm"}, "Ada Quinm");
+
+  damage(SaveBackupManager::backupFolderName, "Bea Stone");
+  player().follow({"Settings", "Backups"});
+  asksFirst({"Restore Week 1 of 2026", "Restore"}, "Bea Stonm");
+}
+
+// Older builds wrote them so.
+TEST_F(Slots, ASlotWithoutAChecksumIsOpened) {
+  openPicker();
+  player().press(emptySlot);
+  beginCareer("Bea Stone");
+  Bytes& slot = device.documents.files[{"SaveSlots", "slot-0.plist"}];
+  auto values = std::get<plist::Dictionary>(plist::read(slot)->held);
+  ASSERT_EQ(std::erase_if(values, [](const auto& entry) { return entry.first == "saveChecksum"; }), 1U);
+  slot = plist::write(plist::Value{values});
+  play("Ada Quinn");
+  EXPECT_EQ(player().title(), "Ada Quinn");
+}
+
 TEST_F(Slots, ANewYearAndARestartAreBackedUp) {
   device.playWeeks(60);
   const std::size_t before = backups();

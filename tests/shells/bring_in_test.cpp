@@ -50,7 +50,9 @@ TEST_F(BringIn, BacksUpTheReplacedCareer) {
   ASSERT_TRUE(bringIn(careerFile(test::star), store_, documents_, {}));
   EXPECT_NE(SaveStore(port_).dictionary(), before);
   ASSERT_EQ(documents_.files.size(), 1u);
-  EXPECT_EQ(plist::read(documents_.files.begin()->second), plist::Value{before});
+  auto backup = std::get<plist::Dictionary>(plist::read(documents_.files.begin()->second)->held);
+  EXPECT_EQ(takeDamage(backup, random_), "");
+  EXPECT_EQ(backup, before);
 }
 
 TEST_F(BringIn, ChangesNothingWithoutABackup) {

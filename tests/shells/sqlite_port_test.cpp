@@ -334,7 +334,7 @@ TEST_F(SqliteCareer, TreatsAnEmptyFileAsNew) {
 
 TEST_F(SqliteCareer, RejectsNewerVersions) {
   beginCareer();
-  alter("PRAGMA user_version = 4");
+  alter("PRAGMA user_version = 5");
   alter("INSERT INTO pieces VALUES ('future', 0, 9, x'00')");
   const std::string before = contentOf(file_);
   EXPECT_EQ(refusal().kind, OpenFailure::Kind::newerVersion);
@@ -346,7 +346,7 @@ TEST_F(SqliteCareer, UpgradesOlderVersions) {
   const Dictionary first = beginCareer();
   alter("PRAGMA user_version = 1");
   EXPECT_EQ(stored(), first);
-  EXPECT_EQ(sqlite::Database::open(file_)->number("PRAGMA user_version"), 3);
+  EXPECT_EQ(sqlite::Database::open(file_)->number("PRAGMA user_version"), 4);
 }
 
 TEST_F(SqliteCareer, SetsDamagedRowsAside) {

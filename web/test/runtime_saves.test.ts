@@ -3,6 +3,7 @@
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import { test } from "node:test";
+import type { Page } from "playwright-core";
 
 import { inspect } from "./inspect";
 import {
@@ -73,6 +74,35 @@ test("all careers and backups go to another browser in one file, and each in its
   await choose(there, slot);
   await press(there, "Replace my career");
   await finds(there, "Ada First");
+});
+
+test("backups that come in take the free places of the eight, and the others are told", async () => {
+  const backUp = async (page: Page, times: number) => {
+    await pressAgain(page, "Settings");
+    await page.getByRole("button", { name: /^Backups/ }).click();
+    for (let time = 0; time < times; time += 1) await pressAgain(page, "Back up now");
+  };
+  const { player, page } = await play(setting, "Ada Eight");
+  await backUp(page, 6);
+  await page.reload();
+  await openSaves(page);
+  await page.getByText("Slots and backups").click();
+  const all = await download(page, "Download everything", /^top-billing-all-/);
+  await player.end();
+
+  const { page: there } = await play(setting, "Ben Three");
+  await backUp(there, 3);
+  await there.reload();
+  await openSaves(there);
+  await choose(there, all);
+  const question = there.getByRole("group", { name: "Bring in this save?" });
+  await question.getByText("4 slots and backups come with it. 2 more of them stay in the file only").waitFor();
+  await inspect(there, "saves-archive-left");
+  await press(there, "Replace my career");
+  await finds(there, "Ada Eight");
+  await backUp(there, 0);
+  const listed = (name: string) => there.locator(".page-nodes, main").first().getByText(name, { exact: true }).count();
+  assert.deepEqual([await listed("Ada Eight"), await listed("Ben Three")], [4, 4]);
 });
 
 test("a career can be brought in before any was started, and opens at the top", async () => {

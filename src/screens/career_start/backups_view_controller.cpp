@@ -18,11 +18,15 @@ using Info = SaveBackupManager::BackupInfo;
 
 std::string momentOf(const Info& backup) { return tb::format("Week {} of {}", backup.week, backup.year); }
 
-void restore(Stage& stage, const std::string& url) {
-  SaveBackupManager::restore(stage.game(), url, [&stage](bool done) {
+void restore(Stage& stage, const std::string& url, bool acceptsDamage) {
+  SaveBackupManager::restore(stage.game(), url, acceptsDamage, [&stage, url](const TakenUp& backup) {
+    if (!backup.damage.empty()) {
+      return askAboutDamage(stage, backup.damage, [url](Stage& above) { restore(above, url, true); });
+    }
     stage.show(
-        done ? Notice{"Backup Restored", "Fully close and reopen the app to load your restored game."}
-             : Notice{"Not Restored", "That backup couldn't be restored. Your current game is unchanged."});
+        backup.isDone
+            ? Notice{"Backup Restored", "Fully close and reopen the app to load your restored game."}
+            : Notice{"Not Restored", "That backup couldn't be restored. Your current game is unchanged."});
   });
 }
 
@@ -33,7 +37,7 @@ void askToRestore(Stage& stage, const Info& backup) {
                                    backup.playerName)},
             {{.label = "Keep playing", .weight = Button::Weight::primary},
              {.label = "Restore",
-              .press = [url = backup.url](Stage& above) { restore(above, url); },
+              .press = [url = backup.url](Stage& above) { restore(above, url, false); },
               .weight = Button::Weight::destructive}});
 }
 

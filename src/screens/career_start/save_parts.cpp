@@ -17,6 +17,13 @@ void askToDelete(Stage& stage, std::string title, std::string message, Operation
              {.label = "Delete", .press = std::move(deletes), .weight = Button::Weight::destructive}});
 }
 
+void askAboutDamage(Stage& stage, const std::string& damage, Operation plays) {
+  using view::Button;
+  stage.ask({.title = "This Save Is Damaged", .message = damage + "\n\nNothing was changed so far."},
+            {{.label = "Keep playing", .weight = Button::Weight::primary},
+             {.label = "Open it anyway", .press = std::move(plays), .weight = Button::Weight::destructive}});
+}
+
 std::string timeAgo(plist::Date then, plist::Date now) {
   constexpr double minute = 60;
   constexpr double hour = 60 * minute;

@@ -14,6 +14,9 @@ namespace tb {
 // Asks before `deletes` runs.
 void askToDelete(Stage& stage, std::string title, std::string message, Operation deletes);
 
+// Asks whether a damaged save is played all the same. `damage` says what can't be read.
+void askAboutDamage(Stage& stage, const std::string& damage, Operation plays);
+
 // "just now", "5 minutes ago", "3 hours ago", "12 days ago". A moment to come counts as now: clocks are set.
 [[nodiscard]] std::string timeAgo(plist::Date then, plist::Date now);
 

@@ -19,10 +19,11 @@ namespace {
 
 using Summary = SlotManager::SlotSummary;
 
-Operation plays(Int index) {
-  return [index](Stage& stage) {
-    SlotManager::switchTo(stage.game(), index, [&stage](bool done) {
-      if (!done) stage.say("That save could not be opened. Your career is as it was.");
+Operation plays(Int index, bool acceptsDamage = false) {
+  return [index, acceptsDamage](Stage& stage) {
+    SlotManager::switchTo(stage.game(), index, acceptsDamage, [&stage, index](const TakenUp& slot) {
+      if (!slot.damage.empty()) return askAboutDamage(stage, slot.damage, plays(index, true));
+      if (!slot.isDone) stage.say("That save could not be opened. Your career is as it was.");
     });
   };
 }

@@ -16,13 +16,6 @@ namespace {
 constexpr std::uintmax_t largestFile =
     64 * 1024 * 1024;  // bytes; a career of a hundred years needs half of it
 
-// Keeps nothing.
-class ScratchPort : public StorePort {
- public:
-  std::vector<StoredPiece> load() override { return {}; }
-  std::expected<void, std::string> commit(std::span<const StoreChange>) override { return {}; }
-};
-
 std::string careerIn(const WorldState& world) {
   if (world.enterPlayerDetails == 0) return "a career that has not begun";
   return tb::format("{}, week {} of {}", world.myName, world.weekNumber, world.yearNumber);

@@ -25,7 +25,7 @@ interface Schema extends DBSchema {
 }
 
 const databaseName = "top-billing";
-const schemaVersion = 5; // raise it with every change of what is stored; src/shells/sqlite has its own
+const schemaVersion = 6; // raise it with every change of what is stored; src/shells/sqlite has its own
 const pausesBeforeReopening = [0, 200, 1000]; // milliseconds
 const openingPatience = 5000; // milliseconds; some browsers never report a result
 const mostChanges = 500; // rows; more are moved into packs
@@ -202,7 +202,7 @@ const rewriting = (generation: number, all: Pieces, documents: readonly Document
 function openDatabase(whenClosed: () => void): Promise<IDBPDatabase<Schema>> {
   return openDB<Schema>(databaseName, schemaVersion, {
     // Version 2 has columns among the pieces, version 3 packs and documents. A build that knows none would lose
-    // what is in them. Version 4 has journals among the pieces, version 5 the generation.
+    // what is in them. Version 4 has journals among the pieces, version 5 the generation, version 6 other journals.
     upgrade(database, before) {
       if (before < 1) {
         database.createObjectStore("pieces", { keyPath: ["key", "piece"] });

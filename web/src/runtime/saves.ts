@@ -63,6 +63,7 @@ export interface ReadSave {
   readonly changes: readonly Change[];
   readonly career: Career;
   readonly documents: readonly StoredDocument[]; // the slots and backups of an archive
+  readonly others: string; // a sentence about them
   readonly findings: readonly string[]; // what is damaged in it
 }
 
@@ -115,14 +116,16 @@ export async function newestBackup(
   return undefined;
 }
 
-// Reads an archive of downloadAll(). Slots and backups that can't be opened are left out.
+// Reads an archive of downloadAll(). Slots and backups that can't be opened, or for which there is no place beside the
+// `known` ones, are left out.
 async function readArchive(
   module: WebAssembly.Module,
   texts: Uint8Array,
   locale: Uint8Array,
   archive: Blob,
+  known: readonly DocumentPlace[],
 ): Promise<ReadSave | string> {
-  const { unzipped } = await import("../archive/zip");
+  const { fitting, sentenceAbout, unzipped } = await import("../archive/zip");
   try {
     const { [careerFile]: career, ...others } = unzipped(new Uint8Array(await archive.arrayBuffer()));
     if (!career) return "There is no career in this archive.";
@@ -133,7 +136,8 @@ async function readArchive(
       const document = await documentOf(module, path, content);
       if (document) documents.push(document);
     }
-    return { ...save, documents };
+    const coming = fitting(documents, known);
+    return { ...save, documents: coming, others: sentenceAbout(coming.length, documents.length - coming.length) };
   } catch {
     return "This archive is damaged.";
   }
@@ -157,7 +161,8 @@ async function documentOf(
   try {
     const game = await Game.open(module, { commit: () => undefined, documents }, []);
     if (game.importStore(content).refusal === "") game.backUpStore();
-    return found;
+    // With its own checksum, so that a damaged one is known when it is opened.
+    return found && { ...found, size: content.length, content };
   } catch {
     return undefined;
   }
@@ -165,18 +170,19 @@ async function documentOf(
 
 const isArchive = async (file: Blob) => (await file.slice(0, 2).text()) === "PK";
 
-// The save in the file, or a message why it can't be imported.
+// The save in the file, or a message why it can't be imported. `known`: the slots and backups that are here.
 export async function readSave(
   module: WebAssembly.Module,
   texts: Uint8Array,
   locale: Uint8Array,
   file: Blob,
+  known: readonly DocumentPlace[] = [],
 ): Promise<ReadSave | string> {
   const archive = await isArchive(file);
   if (file.size > (archive ? largestArchive : largestFile)) {
     return "This file is too large to be a save of Top Billing.";
   }
-  if (archive) return readArchive(module, texts, locale, file);
+  if (archive) return readArchive(module, texts, locale, file, known);
   let changes: Change[] = [];
   const keep = (more: Change[]) => {
     changes = joined(changes, more);
@@ -190,7 +196,7 @@ export async function readSave(
     const page = game.page();
     // The only notice at the start is about what could not be read.
     const findings = [remark, ...page.dialog.map(({ message }) => message)].filter((text) => text !== "");
-    return { changes, career: careerOn(page), findings, documents: [] };
+    return { changes, career: careerOn(page), findings, documents: [], others: "" };
   } catch (error) {
     if (error instanceof GameStopped) return "The career in this file can't be opened.";
     return "This file can't be read.";

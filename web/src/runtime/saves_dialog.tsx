@@ -15,11 +15,6 @@ function labelOf({ folder, name, changed }: DocumentSummary): string {
   return `the backup of ${new Date(changed).toLocaleString(undefined, { dateStyle: "medium", timeStyle: "medium" })}`;
 }
 
-const othersIn = ({ documents }: ReadSave): string =>
-  documents.length === 1
-    ? "A slot or backup comes with it; one that you have here stays as it is."
-    : `${documents.length} slots and backups come with it; those that you have here stay as they are.`;
-
 // The question names both careers.
 interface Question {
   readonly save: ReadSave;
@@ -108,7 +103,7 @@ export function SavesDialog({ shell }: { shell: Shell }): JSX.Element {
               <strong>{named(question.save.career)}</strong> takes the place of{" "}
               <strong>{question.inPlay ? named(question.inPlay) : "the career in this browser"}</strong>
               {question.inPlay && question.inPlay.date !== "" ? ", which stays among the backups." : "."}
-              {question.save.documents.length > 0 && ` ${othersIn(question.save)}`}
+              {question.save.others}
             </p>
             {question.save.findings.map((finding) => (
               <p key={finding} class="shell-finding">

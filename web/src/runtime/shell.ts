@@ -5,7 +5,7 @@ import { loadArt } from "../draw/drawn_pictures";
 import type { Page } from "../view_types";
 import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
-import { type DocumentPlace, type DocumentSummary, isSamePlace } from "./documents";
+import { type DocumentPlace, type DocumentSummary } from "./documents";
 import { isKeptForOffline, loadFace } from "./face";
 import { Game, type GameHost, GameStopped } from "./game";
 import { InstallOffer } from "./install_offer";
@@ -140,7 +140,8 @@ export class Shell {
   }
 
   async read(file: Blob): Promise<ReadSave | string> {
-    return readSave(await program.get(), await texts.get(), this.locale, file);
+    const known = (await this.openStorage()).documents();
+    return readSave(await program.get(), await texts.get(), this.locale, file, known);
   }
 
   async careerInPlay(): Promise<Career | undefined> {
@@ -154,11 +155,7 @@ export class Shell {
     const storage = await this.openStorage();
     await backUpCareer(await program.get(), this.host(storage), storage);
     await storage.replace(save.changes);
-    const known = storage.documents();
-    for (const document of save.documents) {
-      if (known.some((old) => isSamePlace(old, document))) continue;
-      storage.changeDocument({ kind: "put", document });
-    }
+    for (const document of save.documents) storage.changeDocument({ kind: "put", document });
     await this.run();
   }
 
