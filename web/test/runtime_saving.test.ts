@@ -109,7 +109,7 @@ test("a career of an older version is opened and belongs to this one from then o
   await page.goto(setting.site.address);
   await finds(page, "Ada Older");
   player.expect(/404/, 0); // an icon for the manifest, which the browser may ask for
-  assert.deepEqual(await page.evaluate(() => indexedDB.databases()), [{ name: "top-billing", version: 5 }]);
+  assert.deepEqual(await page.evaluate(() => indexedDB.databases()), [{ name: "top-billing", version: 6 }]);
   await player.end();
 });
 
