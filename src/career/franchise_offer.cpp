@@ -7,11 +7,11 @@
 #include "career/casting_terms.h"
 #include "career/project_start.h"
 #include "career/schedule.h"
-#include "core/find.h"
 #include "core/format.h"
 #include "core/log.h"
 #include "core/signed_agent.h"
 #include "film/catalogue.h"
+#include "social/emailed_project.h"
 #include "social/inbox.h"
 
 namespace tb {
@@ -68,17 +68,11 @@ Audition drawFirstFilm(Game& game, const TalentAgent& agent) {
   return project;
 }
 
-void closeFranchiseOffer(Game& game, std::int64_t emailId) {
-  game.world.franchiseOffers.erase_if([&](const EmailedProject& offer) { return offer.emailId == emailId; });
-  removeEmail(game, emailId);
-}
-
 }  // namespace
 
 const Audition* franchiseOffer(const WorldState& world, std::int64_t emailId) {
-  if (emailWith(world, emailId) == nullptr || currentAgent(world) == nullptr) return nullptr;
-  const auto offer = find(world.franchiseOffers, &EmailedProject::emailId, emailId);
-  return offer ? &world.franchiseOffers[*offer].project : nullptr;
+  if (currentAgent(world) == nullptr) return nullptr;
+  return emailedProject(world, &WorldState::franchiseOffers, emailId);
 }
 
 void drawFranchiseOffer(Game& game, std::int64_t emailId) {
@@ -109,7 +103,7 @@ std::string acceptFranchise(Game& game, std::int64_t emailId) {
   std::string line = tb::format("You signed on for a saga, beginning with the lead in {}.", project.title);
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));
-  closeFranchiseOffer(game, emailId);
+  closeEmailedProject(game, &WorldState::franchiseOffers, emailId);
   return line;
 }
 

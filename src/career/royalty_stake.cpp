@@ -8,12 +8,12 @@
 #include "career/new_title.h"
 #include "career/project_start.h"
 #include "career/schedule.h"
-#include "core/find.h"
 #include "core/format.h"
 #include "core/house_notices.h"
 #include "core/log.h"
 #include "core/signed_agent.h"
 #include "film/catalogue.h"
+#include "social/emailed_project.h"
 #include "social/inbox.h"
 
 namespace tb {
@@ -73,17 +73,11 @@ Notice book(Game& game, Audition project, double percent) {
   return {.title = "🎬 Booked 🎬", .message = "\n" + line};
 }
 
-void closeOffer(Game& game, std::int64_t emailId) {
-  game.world.stakeOffers.erase_if([&](const EmailedProject& offer) { return offer.emailId == emailId; });
-  removeEmail(game, emailId);
-}
-
 }  // namespace
 
 const Audition* stakeOffer(const WorldState& world, std::int64_t emailId) {
-  if (emailWith(world, emailId) == nullptr || currentAgent(world) == nullptr) return nullptr;
-  const auto offer = find(world.stakeOffers, &EmailedProject::emailId, emailId);
-  return offer ? &world.stakeOffers[*offer].project : nullptr;
+  if (currentAgent(world) == nullptr) return nullptr;
+  return emailedProject(world, &WorldState::stakeOffers, emailId);
 }
 
 void drawStakeOffer(Game& game, std::int64_t emailId) {
@@ -120,7 +114,7 @@ StakeAnswer negotiateStake(Game& game, std::int64_t emailId, std::int64_t steps)
   Notice notice = agreed ? book(game, offer, percentAsked(offer, steps))
                          : Notice{.title = "❌ Negotiation Failed! ❌",
                                   .message = "\nThe team declined your offer at that royalty."};
-  closeOffer(game, emailId);
+  closeEmailedProject(game, &WorldState::stakeOffers, emailId);
   return {.notice = std::move(notice), .isFinal = true};
 }
 

@@ -129,8 +129,8 @@ void WeekHistory::reset() {
 void WeekHistory::note(std::string_view key, Shape shape, std::int64_t piece, const Bytes* before,
                        const Bytes* after) {
   if (shape == Shape::journal || (back_.keys.empty() && forward_.keys.empty())) return;
-  putBytes(noted_, std::as_bytes(std::span(noted_.empty() || key != lastKey_ ? key : std::string_view())));
-  lastKey_ = key;
+  putBytes(noted_, std::as_bytes(std::span(noted_.empty() || key != last_key_ ? key : std::string_view())));
+  last_key_ = key;
   putNumber(noted_, piece);
   putNumber(noted_, static_cast<std::int64_t>(shape));
   if (before == nullptr || before->empty()) {

@@ -107,8 +107,8 @@ class WeekHistory {
   SaveStore& store_;
   Journals back_{.prefix = "weekBefore.", .keys = {}};
   Journals forward_{.prefix = "weekAfter.", .keys = {}};
-  Bytes noted_;          // changes since the last record()
-  std::string lastKey_;  // of the last of them
+  Bytes noted_;           // changes since the last record()
+  std::string last_key_;  // of the last of them
 };
 
 }  // namespace tb

@@ -18,6 +18,7 @@
 #include "core/log.h"
 #include "core/number_style.h"
 #include "film/catalogue.h"
+#include "social/emailed_project.h"
 #include "social/inbox.h"
 
 namespace tb {
@@ -75,12 +76,6 @@ void startNow(const WorldState& world, Audition& project) {
 
 Notice tooLittleCashForDeal() { return notEnoughCash("\nYou do not have enough cash for this deal."); }
 
-void closeOffer(Game& game, std::int64_t emailId) {
-  game.world.investmentOpportunities.erase_if(
-      [&](const EmailedProject& offer) { return offer.emailId == emailId; });
-  removeEmail(game, emailId);
-}
-
 Notice invest(Game& game, const InvestmentTalks& talks) {
   WorldState& world = game.world;
   Audition project = *opportunity(world, talks.emailId);
@@ -95,7 +90,7 @@ Notice invest(Game& game, const InvestmentTalks& talks) {
                                       talks.equityPercentage, project.title);
   logActivity(world, line);
   world.saveAllAuditionList.push_back(std::move(project));
-  closeOffer(game, talks.emailId);
+  closeEmailedProject(game, &WorldState::investmentOpportunities, talks.emailId);
   return {.title = "💰🤝 Locked In 🤝💰",
           .message = tb::format("\n\"{}\"\n\n{}.", drawFreshRow(game, bank::angelAccept), line)};
 }
@@ -129,9 +124,7 @@ double takingsOf(const WorldState& world, const Film& film) {
 }  // namespace
 
 const Audition* opportunity(const WorldState& world, std::int64_t emailId) {
-  if (emailWith(world, emailId) == nullptr) return nullptr;
-  const auto offer = find(world.investmentOpportunities, &EmailedProject::emailId, emailId);
-  return offer ? &world.investmentOpportunities[*offer].project : nullptr;
+  return emailedProject(world, &WorldState::investmentOpportunities, emailId);
 }
 
 void makeOpportunity(Game& game, std::int64_t emailId) {

@@ -45,7 +45,7 @@ Chart fansChart(const Game& game) {
   });
 }
 
-Card FanbaseView(const Game& game) {
+Card fanbaseView(const Game& game) {
   const WorldState& world = game.world;
   Card card{.title = plainCount(game.locale, world.totalFans) + (world.totalFans == 1 ? " fan" : " fans"),
             .subtitle = fansSentence(world.totalFans),

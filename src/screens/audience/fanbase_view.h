@@ -6,7 +6,7 @@
 namespace tb {
 
 // The fans in brief, with a small chart; leads to the whole one.
-[[nodiscard]] view::Card FanbaseView(const Game& game);
+[[nodiscard]] view::Card fanbaseView(const Game& game);
 
 // The sentence for the size of the audience.
 [[nodiscard]] const std::string& fansSentence(std::int64_t fans);

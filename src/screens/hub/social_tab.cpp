@@ -50,7 +50,7 @@ view::Section audience(const Game& game) {
   const bool isRanked = !world.saveStarRankingMeter.empty();
   return {
       .heading = "AUDIENCE",
-      .nodes = {FanbaseView(game),
+      .nodes = {fanbaseView(game),
                 leadingTo<FameDetailViewController>("Fame", "Where each point comes from",
                                                     tb::format("{} list", fameLetter(world.saveFameLevel))),
                 leadingTo<StarMeterViewController>(

@@ -14,9 +14,7 @@
 #include "screens/offers/agent_terms.h"
 #include "screens/offers/offer_parts.h"
 #include "screens/parts.h"
-#include "screens/poster.h"
 #include "screens/work/open_project.h"
-#include "screens/work/project_words.h"
 
 namespace tb {
 
@@ -63,15 +61,6 @@ Section inAll(const Game& game, const TalentAgent& agent) {
       .heading = "SO FAR",
       .nodes = {scoreMeter("Relationship", static_cast<std::int64_t>(std::round(agent.relationship))),
                 Row{.label = "Commission earned", .value = bigMoney(game.locale, agent.totalAgentEarnings)}}};
-}
-
-Row projectRow(const WorldState& world, const Audition& project) {
-  return {.label = titleWithSeason(project),
-          .value = progressWords(world, project),
-          .detail = tb::format("{} • {}", typeName(project.typeOfFilm), project.role),
-          .picture = {posterOf(world, project)},
-          .tone = isOver(world, project) ? Tone::quiet : Tone::plain,
-          .press = [id = project.filmId](Stage& stage) { openProject(stage, id); }};
 }
 
 Section work(const WorldState& world, const TalentAgent& agent) {

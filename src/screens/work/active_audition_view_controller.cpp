@@ -4,9 +4,7 @@
 #include <array>
 #include <vector>
 
-#include "core/format.h"
 #include "screens/parts.h"
-#include "screens/poster.h"
 #include "screens/work/audition_detail_view_controller.h"
 #include "screens/work/open_project.h"
 #include "screens/work/post_release_audition_view_controller.h"
@@ -68,15 +66,6 @@ std::vector<std::size_t> projectsOf(const WorldState& world, Listed list) {
   }
   std::ranges::stable_sort(places, {}, [&](std::size_t index) { return weekAhead(projects[index], list); });
   return places;
-}
-
-Row projectRow(const WorldState& world, const Audition& project) {
-  return {.label = titleWithSeason(project),
-          .value = progressWords(world, project),
-          .detail = tb::format("{} • {}", typeName(project.typeOfFilm), project.role),
-          .picture = {posterOf(world, project)},
-          .tone = isOver(world, project) ? Tone::quiet : Tone::plain,
-          .press = [id = project.filmId](Stage& stage) { openProject(stage, id); }};
 }
 
 }  // namespace
