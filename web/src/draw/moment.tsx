@@ -2,7 +2,7 @@
 // not played with reduced motion. news.ts announces its words.
 
 import type { TargetedEvent } from "preact";
-import { useEffect, useRef, useState } from "preact/hooks";
+import { useLayoutEffect, useRef, useState } from "preact/hooks";
 
 import type * as View from "../view_types";
 import { stillness } from "./motion";
@@ -39,8 +39,9 @@ function Scene({ moment, end }: { readonly moment: View.Moment; readonly end: ()
   const [skipped, skip] = useState(false);
   const held = useRef(false);
 
-  // The key that skips the scene does not reach the focused control. Repeats of a held key do not skip.
-  useEffect(() => {
+  // The key that skips the scene does not reach the focused control. Repeats of a held key do not skip. Listens
+  // before the scene is painted, so that not even a quick key gets through.
+  useLayoutEffect(() => {
     const onKeyDown = (event: KeyboardEvent) => {
       event.preventDefault();
       event.stopPropagation();
