@@ -61,7 +61,7 @@ export class Site {
   }
 
   remove(): void {
-    rmSync(this.folder, { recursive: true, force: true });
+    rmSync(this.folder, { recursive: true, force: true, maxRetries: 20, retryDelay: 100 });
   }
 }
 

@@ -76,6 +76,6 @@ export class SmallDisk {
 
   end(): void {
     this.holder.stdin!.end();
-    rmSync(this.folder, { recursive: true, force: true });
+    rmSync(this.folder, { recursive: true, force: true, maxRetries: 20, retryDelay: 100 });
   }
 }
