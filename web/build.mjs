@@ -12,6 +12,8 @@ import { parseArgs } from "node:util";
 import { brotliCompressSync, constants } from "node:zlib";
 import { build } from "esbuild";
 
+import { split } from "./split.mjs";
+
 const here = dirname(fileURLToPath(import.meta.url));
 const { values: options } = parseArgs({
   options: {
@@ -50,7 +52,9 @@ const staticFiles = readdirSync(join(here, "static"), { recursive: true, withFil
   .filter((entry) => entry.isFile() && entry.name !== "index.html")
   .map((entry) => join(entry.parentPath ?? entry.path, entry.name).slice(join(here, "static").length + 1));
 
-const wasm = putHashed("top_billing", "wasm", readFileSync(options.wasm));
+const program = await split(options.wasm);
+const form = putHashed("form", "wasm", program.form);
+const rest = putHashed("rest", "wasm", program.rest);
 
 // The rows of all banks, without comments and empty lines (src/banks/texts.h).
 const banks = join(here, "../src/banks");
@@ -91,14 +95,17 @@ const page = await build({
   format: "esm",
   jsx: "automatic",
   jsxImportSource: "preact",
-  define: { WASM_FILE: JSON.stringify(wasm), TEXTS_FILE: JSON.stringify(texts), FACES: JSON.stringify(faces) },
+  define: {
+    FORM_FILE: JSON.stringify(form), REST_FILE: JSON.stringify(rest), TEXTS_FILE: JSON.stringify(texts),
+    FACES: JSON.stringify(faces),
+  },
   plugins: [apart],
 });
 const bundled = (ending) => page.outputFiles.find((file) => file.path.endsWith(ending)).contents;
 const script = putHashed("page", "js", bundled(".js"));
 const style = putHashed("page", "css", bundled(".css"));
 
-const names = { "{script}": script, "{style}": style, "{wasm}": wasm };
+const names = { "{script}": script, "{style}": style, "{form}": form };
 const index = readFileSync(join(here, "static/index.html"), "utf8").replace(/\{\w+\}/g, (name) => names[name] ?? name);
 put("index.html", index);
 
@@ -113,7 +120,7 @@ const licenses = put(
 
 // The files for offline play. Home screens keep their own copies of the PNG icons.
 const files = [
-  script, style, wasm, texts, artScript, archiveScript, ...faces.map(({ file }) => file), licenses,
+  script, style, form, rest, texts, artScript, archiveScript, ...faces.map(({ file }) => file), licenses,
   ...staticFiles.filter((name) => !name.endsWith(".png")),
 ];
 
@@ -129,7 +136,7 @@ const worker = await build({
 put("service-worker.js", worker.outputFiles[0].contents);
 
 // Precompressed files at the highest level, which takes too long to do per request.
-for (const name of [wasm, script, style, texts, artScript]) {
+for (const name of [form, rest, script, style, texts, artScript]) {
   const content = readFileSync(join(options.out, name));
   put(`${name}.br`, brotliCompressSync(content, { params: { [constants.BROTLI_PARAM_QUALITY]: constants.BROTLI_MAX_QUALITY } }));
 }

@@ -32,6 +32,27 @@ interface Exports {
   import_store(): number;
 }
 
+// The program is in two modules, so that a new player does not wait for all of it (web/split.mjs).
+export interface Program {
+  readonly form: WebAssembly.Module; // what the form of a new career needs
+  readonly rest?: RestOfProgram; // everything but that form needs it
+}
+
+export interface RestOfProgram {
+  readonly code: WebAssembly.Module;
+  readonly texts: Uint8Array; // the rows of all banks
+}
+
+// A function of the rest was called before it was there. This cause of a GameStopped is no fault in the career.
+export class RestMissing extends Error {}
+
+// What the form's module imports of the rest, until complete() replaces it.
+const missingRest = new Proxy<WebAssembly.ModuleImports>({}, {
+  get: () => () => {
+    throw new RestMissing();
+  },
+});
+
 const exportNames = [
   "_initialize", "incoming", "answer", "open_store", "open_documents", "set_texts", "start", "view", "press", "type",
   "slide", "tick", "back", "document_read", "document_lost", "saving_failed", "back_up_store", "last_week",
@@ -82,7 +103,8 @@ class DebugLog {
 }
 
 export class Game {
-  textsAreIn = false;
+  isComplete = false;
+  private linked: Promise<unknown> | undefined;
   private stopped = false;
 
   private constructor(
@@ -91,7 +113,7 @@ export class Game {
   ) {}
 
   // Creates a game with these pieces. Like all functions of a game, it throws GameStopped.
-  static async open(module: WebAssembly.Module, host: GameHost, pieces: readonly Piece[]): Promise<Game> {
+  static async open({ form, rest }: Program, host: GameHost, pieces: readonly Piece[]): Promise<Game> {
     const log = new DebugLog();
     const memory = () => exports.memory;
     const wasi = wasiImports({ memory, line: (text) => log.add(text) });
@@ -103,12 +125,14 @@ export class Game {
       read_document: (number: number, at: number, size: number) =>
         host.documents?.read(number, readPlace(bytes(at, size))),
     };
-    const instance = await WebAssembly.instantiate(module, { wasi_snapshot_preview1: wasi, game: imports });
+    const instance = await WebAssembly.instantiate(form, { wasi_snapshot_preview1: wasi, game: imports, rest: missingRest });
     const exports = exportsOf(instance);
 
     const game = new Game(exports, log);
+    if (rest) await game.link(rest);
     game.guarded(() => {
       exports._initialize();
+      if (rest) game.setTexts(rest);
       game.setIncoming(writePieces(pieces));
       exports.open_store();
       if (!host.documents) return;
@@ -118,13 +142,10 @@ export class Game {
     return game;
   }
 
-  // Sets the rows of all banks. Only the new-career form works without them.
-  setTexts(texts: Uint8Array): void {
-    this.guarded(() => {
-      this.setIncoming(texts);
-      this.exports.set_texts();
-    });
-    this.textsAreIn = true;
+  // Adds the rest of the program to a game that was opened without it; once.
+  async complete(rest: RestOfProgram): Promise<void> {
+    await this.link(rest);
+    if (!this.isComplete) this.guarded(() => this.setTexts(rest));
   }
 
   // Loads the career, or opens the new-career form. The functions below need a started game, except export,
@@ -214,6 +235,18 @@ export class Game {
     });
     const reader = new MessageReader(answer);
     return { refusal: reader.text(), remark: reader.text() };
+  }
+
+  // The modules share the memory and the table of functions, in which the rest replaces what was missing.
+  private link({ code }: RestOfProgram): Promise<unknown> {
+    this.linked ??= WebAssembly.instantiate(code, { form: { ...this.exports } });
+    return this.linked;
+  }
+
+  private setTexts({ texts }: RestOfProgram): void {
+    this.setIncoming(texts);
+    this.exports.set_texts();
+    this.isComplete = true;
   }
 
   // Growing memory detaches views, so each use creates a new one.

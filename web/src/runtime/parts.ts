@@ -1,6 +1,9 @@
 // Parts of the game that are fetched once. After a failure the next request tries again.
 
-declare const WASM_FILE: string;
+import type { Program, RestOfProgram } from "./game";
+
+declare const FORM_FILE: string;
+declare const REST_FILE: string;
 declare const TEXTS_FILE: string;
 
 class Part<T> {
@@ -25,11 +28,22 @@ class Part<T> {
   }
 }
 
-// Needed before the first page.
-export const program = new Part(compile, WASM_FILE);
+// All that a new player's first page needs.
+export const formPart = new Part(compile, FORM_FILE);
 
-// The rows of all banks, which are fetched after the first paint.
-export const texts = new Part(async (answer) => new Uint8Array(await answer.arrayBuffer()), TEXTS_FILE);
+const codePart = new Part(compile, REST_FILE);
+const textsPart = new Part(async (answer) => new Uint8Array(await answer.arrayBuffer()), TEXTS_FILE);
+
+// Fetched after a new player's first paint, and before the first page of a career.
+export async function restOfProgram(): Promise<RestOfProgram> {
+  const [code, texts] = await Promise.all([codePart.get(), textsPart.get()]);
+  return { code, texts };
+}
+
+export async function wholeProgram(): Promise<Required<Program>> {
+  const [form, rest] = await Promise.all([formPart.get(), restOfProgram()]);
+  return { form, rest };
+}
 
 async function compile(answer: Response): Promise<WebAssembly.Module> {
   // Streaming compilation is faster but needs a MIME type that not every host sends.

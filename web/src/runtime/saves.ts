@@ -3,7 +3,7 @@
 
 import type { Page } from "../view_types";
 import { backupFolder, type DocumentPlace, type StoredDocument } from "./documents";
-import { type DocumentHost, Game, type GameHost, GameStopped } from "./game";
+import { type DocumentHost, Game, type GameHost, GameStopped, type Program } from "./game";
 import { type Change, joined } from "./pieces";
 import type { Storage } from "./storage";
 
@@ -13,13 +13,13 @@ const largestArchive = 256 * 1024 * 1024; // bytes; of a career, three slots and
 
 const today = () => new Date().toISOString().slice(0, 10);
 
-async function exported(module: WebAssembly.Module, storage: Storage): Promise<Uint8Array<ArrayBuffer>> {
-  const game = await Game.open(module, { commit: () => undefined }, storage.readable());
+async function exported(program: Program, storage: Storage): Promise<Uint8Array<ArrayBuffer>> {
+  const game = await Game.open(program, { commit: () => undefined }, storage.readable());
   return game.exportStore();
 }
 
-export async function downloadSave(module: WebAssembly.Module, storage: Storage): Promise<void> {
-  handOver(await exported(module, storage), `top-billing-${today()}.plist`, "application/x-plist");
+export async function downloadSave(program: Program, storage: Storage): Promise<void> {
+  handOver(await exported(program, storage), `top-billing-${today()}.plist`, "application/x-plist");
 }
 
 // A slot or a backup. Rejects when it can't be read.
@@ -30,8 +30,8 @@ export async function downloadDocument(storage: Storage, place: DocumentPlace): 
 }
 
 // The career in play, the slots and the backups as one archive. Returns how many of them can't be read.
-export async function downloadAll(module: WebAssembly.Module, storage: Storage): Promise<number> {
-  const files: Record<string, Uint8Array<ArrayBuffer>> = { [careerFile]: await exported(module, storage) };
+export async function downloadAll(program: Program, storage: Storage): Promise<number> {
+  const files: Record<string, Uint8Array<ArrayBuffer>> = { [careerFile]: await exported(program, storage) };
   let lost = 0;
   for (const place of storage.documents()) {
     const content = await storage.readDocument(place);
@@ -75,14 +75,12 @@ function careerOn(page: Page): Career {
 
 // The stored career; undefined when it can't be opened.
 export async function storedCareer(
-  module: WebAssembly.Module,
-  texts: Uint8Array,
+  program: Program,
   locale: Uint8Array,
   storage: Storage,
 ): Promise<Career | undefined> {
   try {
-    const game = await Game.open(module, { commit: () => undefined }, storage.all());
-    game.setTexts(texts);
+    const game = await Game.open(program, { commit: () => undefined }, storage.all());
     game.start(locale);
     return careerOn(game.page());
   } catch {
@@ -91,9 +89,9 @@ export async function storedCareer(
 }
 
 // Puts a backup of the stored career among the documents. A career that can't be read has none.
-export async function backUpCareer(module: WebAssembly.Module, host: GameHost, storage: Storage): Promise<void> {
+export async function backUpCareer(program: Program, host: GameHost, storage: Storage): Promise<void> {
   try {
-    (await Game.open(module, host, storage.all())).backUpStore();
+    (await Game.open(program, host, storage.all())).backUpStore();
   } catch (error) {
     if (!(error instanceof GameStopped)) throw error;
   }
@@ -101,8 +99,7 @@ export async function backUpCareer(module: WebAssembly.Module, host: GameHost, s
 
 // The newest backup whose career can be opened.
 export async function newestBackup(
-  module: WebAssembly.Module,
-  texts: Uint8Array,
+  program: Program,
   locale: Uint8Array,
   storage: Storage,
 ): Promise<ReadSave | undefined> {
@@ -110,7 +107,7 @@ export async function newestBackup(
   // Their names have the time.
   for (const backup of backups.sort((one, other) => (one.name < other.name ? 1 : -1))) {
     const content = await storage.readDocument(backup);
-    const save = content && (await readSave(module, texts, locale, new Blob([content])));
+    const save = content && (await readSave(program, locale, new Blob([content])));
     if (save && typeof save !== "string") return save;
   }
   return undefined;
@@ -119,8 +116,7 @@ export async function newestBackup(
 // Reads an archive of downloadAll(). Slots and backups that can't be opened, or for which there is no place beside the
 // `known` ones, are left out.
 async function readArchive(
-  module: WebAssembly.Module,
-  texts: Uint8Array,
+  program: Program,
   locale: Uint8Array,
   archive: Blob,
   known: readonly DocumentPlace[],
@@ -129,11 +125,11 @@ async function readArchive(
   try {
     const { [careerFile]: career, ...others } = unzipped(new Uint8Array(await archive.arrayBuffer()));
     if (!career) return "There is no career in this archive.";
-    const save = await readSave(module, texts, locale, new Blob([career]));
+    const save = await readSave(program, locale, new Blob([career]));
     if (typeof save === "string") return save;
     const documents: StoredDocument[] = [];
     for (const [path, content] of Object.entries(others)) {
-      const document = await documentOf(module, path, content);
+      const document = await documentOf(program, path, content);
       if (document) documents.push(document);
     }
     const coming = fitting(documents, known);
@@ -145,7 +141,7 @@ async function readArchive(
 
 // The slot or backup in a file, with what lists show of it; undefined when there is none.
 async function documentOf(
-  module: WebAssembly.Module,
+  program: Program,
   path: string,
   content: Uint8Array<ArrayBuffer>,
 ): Promise<StoredDocument | undefined> {
@@ -159,7 +155,7 @@ async function documentOf(
     read: () => undefined,
   };
   try {
-    const game = await Game.open(module, { commit: () => undefined, documents }, []);
+    const game = await Game.open(program, { commit: () => undefined, documents }, []);
     if (game.importStore(content).refusal === "") game.backUpStore();
     // With its own checksum, so that a damaged one is known when it is opened.
     return found && { ...found, size: content.length, content };
@@ -172,8 +168,7 @@ const isArchive = async (file: Blob) => (await file.slice(0, 2).text()) === "PK"
 
 // The save in the file, or a message why it can't be imported. `known`: the slots and backups that are here.
 export async function readSave(
-  module: WebAssembly.Module,
-  texts: Uint8Array,
+  program: Program,
   locale: Uint8Array,
   file: Blob,
   known: readonly DocumentPlace[] = [],
@@ -182,16 +177,15 @@ export async function readSave(
   if (file.size > (archive ? largestArchive : largestFile)) {
     return "This file is too large to be a save of Top Billing.";
   }
-  if (archive) return readArchive(module, texts, locale, file, known);
+  if (archive) return readArchive(program, locale, file, known);
   let changes: Change[] = [];
   const keep = (more: Change[]) => {
     changes = joined(changes, more);
   };
   try {
-    const game = await Game.open(module, { commit: keep }, []);
+    const game = await Game.open(program, { commit: keep }, []);
     const { refusal, remark } = game.importStore(new Uint8Array(await file.arrayBuffer()));
     if (refusal !== "") return refusal;
-    game.setTexts(texts);
     game.start(locale);
     const page = game.page();
     // The only notice at the start is about what could not be read.

@@ -7,10 +7,10 @@ import type { Actions } from "./actions";
 import { BackGesture } from "./back_gesture";
 import { type DocumentPlace, type DocumentSummary } from "./documents";
 import { isKeptForOffline, loadFace } from "./face";
-import { Game, type GameHost, GameStopped } from "./game";
+import { Game, type GameHost, GameStopped, RestMissing } from "./game";
 import { InstallOffer } from "./install_offer";
 import { localeMessage } from "./locale";
-import { program, texts } from "./parts";
+import { formPart, restOfProgram, wholeProgram } from "./parts";
 import {
   backUpCareer, type Career, downloadAll, downloadDocument, downloadSave, newestBackup, type ReadSave, readSave, storedCareer,
 } from "./saves";
@@ -26,14 +26,14 @@ export type Showing =
   // The game trapped. When it was not the first time, the week before and the newest backup are offered: `lastWeek` is
   // its name, empty for none.
   | { readonly kind: "stopped"; readonly lastWeek: string; readonly backup: ReadSave | undefined }
-  | { readonly kind: "unavailable" }; // the program or the texts could not be loaded
+  | { readonly kind: "unavailable" }; // the program could not be loaded
 
 export interface ShellState {
   readonly showing: Showing;
   readonly refusal: Refusal | undefined; // why nothing can be saved here
   readonly failing: SavingFailure | undefined; // stays until the player has downloaded a copy
   readonly isRestored: boolean; // the browser had lost the save
-  readonly textsMissing: boolean; // a press is waiting for the texts, which could not be fetched
+  readonly restMissing: boolean; // a press is waiting for the rest of the program, which could not be fetched
   readonly updateReady: boolean;
   readonly installOffered: boolean;
 }
@@ -47,7 +47,7 @@ export class Shell {
     refusal: undefined,
     failing: undefined,
     isRestored: false,
-    textsMissing: false,
+    restMissing: false,
     updateReady: false,
     installOffered: false,
   };
@@ -57,7 +57,8 @@ export class Shell {
   private game: Game | undefined;
   private stops = 0; // since the page was opened
   private runs = 0; // number of the current run; an older run ends silently
-  private waitingPress: number | undefined; // handle of a press that waits for the texts
+  private waitingPress: number | undefined; // handle of a press that waits for the rest of the program
+  private startsWhole = false; // the form turned out to need the rest
   private askedToKeep = false;
   private toldOfFailure = false;
   private fetchesRest = false;
@@ -92,10 +93,10 @@ export class Shell {
   async start(): Promise<void> {
     // The program is loaded even while another tab plays, because this version may be gone from the server
     // later.
-    program.get().catch(() => undefined);
+    formPart.get().catch(() => undefined);
     if (isKeptForOffline()) {
       // Both are here already, and the first page of a career needs them.
-      texts.get().catch(() => undefined);
+      restOfProgram().catch(() => undefined);
       loadFace().catch(() => undefined);
     }
     await this.lock.acquire();
@@ -106,11 +107,11 @@ export class Shell {
     void this.run();
   }
 
-  // Fetches the texts, and the art, again for a waiting press.
-  fetchTextsAgain(): void {
-    this.setTexts()
+  // Fetches the rest of the program, and the art, again for a waiting press.
+  fetchRestAgain(): void {
+    this.complete()
       .then(loadArt)
-      .catch(() => this.change({ textsMissing: !this.game?.textsAreIn }));
+      .catch(() => this.change({ restMissing: !this.game?.isComplete }));
   }
 
   playHere(): void {
@@ -123,7 +124,7 @@ export class Shell {
   }
 
   async download(): Promise<void> {
-    await downloadSave(await program.get(), await this.openStorage());
+    await downloadSave(await wholeProgram(), await this.openStorage());
     if (this.current.failing?.isSaved) this.change({ failing: undefined });
   }
 
@@ -136,16 +137,16 @@ export class Shell {
   }
 
   async downloadAll(): Promise<number> {
-    return downloadAll(await program.get(), await this.openStorage());
+    return downloadAll(await wholeProgram(), await this.openStorage());
   }
 
   async read(file: Blob): Promise<ReadSave | string> {
     const known = (await this.openStorage()).documents();
-    return readSave(await program.get(), await texts.get(), this.locale, file, known);
+    return readSave(await wholeProgram(), this.locale, file, known);
   }
 
   async careerInPlay(): Promise<Career | undefined> {
-    return storedCareer(await program.get(), await texts.get(), this.locale, await this.openStorage());
+    return storedCareer(await wholeProgram(), this.locale, await this.openStorage());
   }
 
   // Replaces the current save and starts it. Rejects without changes when it can't be stored, and with
@@ -153,7 +154,7 @@ export class Shell {
   async bringIn(save: ReadSave): Promise<void> {
     if (!this.lock.isHeld) throw new PlayedElsewhere();
     const storage = await this.openStorage();
-    await backUpCareer(await program.get(), this.host(storage), storage);
+    await backUpCareer(await wholeProgram(), this.host(storage), storage);
     await storage.replace(save.changes);
     for (const document of save.documents) storage.changeDocument({ kind: "put", document });
     await this.run();
@@ -164,7 +165,7 @@ export class Shell {
   async backToLastWeek(): Promise<void> {
     if (!this.lock.isHeld) throw new PlayedElsewhere();
     const storage = await this.openStorage();
-    const game = await Game.open(await program.get(), this.host(storage), storage.all());
+    const game = await Game.open(await wholeProgram(), this.host(storage), storage.all());
     const refusal = game.backToLastWeek();
     if (refusal !== "") throw new Error(refusal);
     await this.run();
@@ -197,13 +198,12 @@ export class Shell {
     this.show({ kind: "loading" });
     try {
       const storage = await this.openStorage();
-      const isNew = storage.all().length === 0;
-      const [module, rows] = await Promise.all([program.get(), isNew ? undefined : texts.get()]);
+      const isNew = storage.all().length === 0 && !this.startsWhole;
+      const program = isNew ? { form: await formPart.get() } : await wholeProgram();
       if (thisRun !== this.runs) return;
       this.change({ refusal: storage.refusal, isRestored: storage.isRestored });
-      const game = await Game.open(module, this.host(storage), storage.all());
+      const game = await Game.open(program, this.host(storage), storage.all());
       if (thisRun !== this.runs) return;
-      if (rows) game.setTexts(rows);
       game.start(this.locale);
       this.game = game;
       this.show({ kind: "playing", page: game.page() });
@@ -214,31 +214,35 @@ export class Shell {
     }
   }
 
-  // A press before the texts are loaded is delayed until they are.
+  // A press before the program is complete is delayed until it is.
   private press(handle: number): void {
-    if (!this.game || this.game.textsAreIn || isChoice(this.current.showing, handle)) {
+    if (!this.game || this.game.isComplete || isChoice(this.current.showing, handle)) {
       this.act((game) => game.press(handle));
     } else if (this.waitingPress === undefined) {
       this.waitingPress = handle;
-      this.setTexts().catch(() => {
+      this.complete().catch(() => {
         this.waitingPress = undefined;
-        this.change({ textsMissing: true });
+        this.change({ restMissing: true });
       });
     }
   }
 
-  // Loads the texts into the game. Rejects when they could not be fetched.
-  private async setTexts(): Promise<void> {
+  // Completes the program of the game, then does the press that waited. Rejects when the rest could not be fetched.
+  private async complete(): Promise<void> {
     const { runs } = this;
-    const rows = await texts.get();
-    this.change({ textsMissing: false });
-    if (runs !== this.runs || !this.game || this.game.textsAreIn) return;
+    const rest = await restOfProgram();
+    this.change({ restMissing: false });
+    const { game } = this;
+    if (runs !== this.runs || !game) return;
+    try {
+      await game.complete(rest);
+    } catch (error) {
+      if (game === this.game) this.stop(error);
+      return;
+    }
     const handle = this.waitingPress;
     this.waitingPress = undefined;
-    this.act((game) => {
-      game.setTexts(rows);
-      if (handle !== undefined) game.press(handle);
-    });
+    if (game === this.game && handle !== undefined) this.act(() => game.press(handle));
   }
 
   // Fetches the parts that the first page does not need, then prepares offline play.
@@ -246,7 +250,7 @@ export class Shell {
     if (this.fetchesRest) return;
     this.fetchesRest = true;
     await new Promise((painted) => requestAnimationFrame(() => setTimeout(painted)));
-    await Promise.allSettled([this.setTexts(), loadArt(), loadFace()]);
+    await Promise.allSettled([this.complete(), loadArt(), loadFace()]);
     await this.updates.start();
   }
 
@@ -268,6 +272,10 @@ export class Shell {
   }
 
   private stop(error: unknown): void {
+    if (error instanceof GameStopped && error.cause instanceof RestMissing) {
+      this.startsWhole = true;
+      return this.startAgain();
+    }
     console.error(error, error instanceof GameStopped ? error.cause : "");
     this.game = undefined;
     this.stops += 1;
@@ -277,10 +285,10 @@ export class Shell {
 
   private async offerWaysBack(run: number): Promise<void> {
     const storage = await this.openStorage();
-    const stored = Game.open(await program.get(), { commit: () => undefined }, storage.all());
+    const stored = Game.open(await wholeProgram(), { commit: () => undefined }, storage.all());
     const lastWeek = await stored.then((game) => game.lastWeek()).catch(() => "");
     if (run === this.runs) this.show({ kind: "stopped", lastWeek, backup: undefined });
-    const backup = await newestBackup(await program.get(), await texts.get(), this.locale, storage);
+    const backup = await newestBackup(await wholeProgram(), this.locale, storage);
     if (run === this.runs) this.show({ kind: "stopped", lastWeek, backup });
   }
 
@@ -324,7 +332,7 @@ export class Shell {
   }
 }
 
-// Whether the handle is an option of a choice, which works without texts on the new-career form.
+// Whether the handle is an option of a choice, which the form of a new career handles by itself.
 function isChoice(showing: Showing, handle: number): boolean {
   if (showing.kind !== "playing") return false;
   return showing.page.nodes.some(

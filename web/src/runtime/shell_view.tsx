@@ -199,10 +199,10 @@ function Notices({ shell, state }: { shell: Shell; state: ShellState }): JSX.Ele
           <DownloadNow shell={shell} />
         </div>
       )}
-      {state.textsMissing && (
+      {state.restMissing && (
         <p class="shell-warning shell-at-foot">
           The rest of the game could not be fetched. Are you online?{" "}
-          <button type="button" class="shell-button" onClick={() => shell.fetchTextsAgain()}>
+          <button type="button" class="shell-button" onClick={() => shell.fetchRestAgain()}>
             Try again
           </button>
         </p>
