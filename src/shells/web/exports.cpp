@@ -11,6 +11,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "banks/texts.h"
 #include "core/format.h"
@@ -68,7 +69,7 @@ EXPORT(incoming) std::byte* roomForIncoming(std::size_t size) {
 EXPORT(answer) const std::byte* answerAddress() { return answer.data(); }
 
 // Incoming: the stored pieces. Must be called first.
-EXPORT(open_store) void openStore() { game.emplace(readable(tb::readPieces(incoming))); }
+EXPORT(open_store) void openStore() { game.emplace(readable(tb::readPieces(std::exchange(incoming, {})))); }
 
 // Incoming: the summaries of the slots and backups. Without this call there are none.
 EXPORT(open_documents) void openDocuments() {

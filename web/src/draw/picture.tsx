@@ -7,15 +7,15 @@ import { addressIfDrawn, draw, drawWhenNear, keyOf } from "./drawn_pictures";
 
 type Size = "row" | "lead" | "card" | "option" | "full";
 
-// Large pictures are drawn immediately.
-const isLarge = (size: Size): boolean => size === "full" || size === "lead";
+// The picture that a page is about is there with it. All others come after the first paint.
+const isFirst = (size: Size): boolean => size === "full";
 
 // The address of the image, undefined until it is drawn, and the reference for its placeholder.
 function useAddress(shown: View.Picture, size: Size) {
   const place = useRef<HTMLSpanElement>(null);
   const [, show] = useState("");
   const key = keyOf(shown);
-  const address = isLarge(size) ? draw(shown) : addressIfDrawn(key);
+  const address = isFirst(size) ? draw(shown) : addressIfDrawn(key);
   const missing = address === undefined;
   useEffect(() => {
     if (missing) return drawWhenNear(place.current!, shown, () => show(key));
@@ -33,5 +33,5 @@ export function Picture({ size, ...shown }: View.Picture & { readonly size: Size
     const role = description === "" ? "presentation" : "img";
     return <span ref={place} class={`${look} is-missing`} role={role} aria-label={description} />;
   }
-  return <img class={look} src={address} alt={description} decoding={isLarge(size) ? "sync" : "async"} />;
+  return <img class={look} src={address} alt={description} decoding={isFirst(size) ? "sync" : "async"} />;
 }

@@ -51,7 +51,7 @@ export function readDocument(message: Uint8Array): StoredDocument {
 
 // The reverse of readDocument.
 export function writeDocument({ folder, name, size, changed, head, content }: StoredDocument): Uint8Array<ArrayBuffer> {
-  const writer = new MessageWriter(content.length + head.length + 1024);
+  const writer = new MessageWriter(new Uint8Array(content.length + head.length + 1024));
   writer.text(folder);
   writer.text(name);
   writer.wideNumber(size);

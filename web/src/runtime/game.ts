@@ -133,7 +133,7 @@ export class Game {
     game.guarded(() => {
       exports._initialize();
       if (rest) game.setTexts(rest);
-      game.setIncoming(writePieces(pieces));
+      writePieces(pieces, (size) => game.incoming(size));
       exports.open_store();
       if (!host.documents) return;
       game.setIncoming(writeSummaries(host.documents.summaries()));
@@ -251,8 +251,12 @@ export class Game {
 
   // Growing memory detaches views, so each use creates a new one.
   private setIncoming(bytes: Uint8Array): void {
-    const at = this.exports.incoming(bytes.length);
-    new Uint8Array(this.exports.memory.buffer, at, bytes.length).set(bytes);
+    this.incoming(bytes.length).set(bytes);
+  }
+
+  private incoming(size: number): Uint8Array<ArrayBuffer> {
+    const at = this.exports.incoming(size);
+    return new Uint8Array(this.exports.memory.buffer as ArrayBuffer, at, size);
   }
 
   private answer(size: number): Uint8Array<ArrayBuffer> {

@@ -6,14 +6,12 @@ const encoder = new TextEncoder();
 const decoder = new TextDecoder();
 
 export class MessageWriter {
-  private bytes: Uint8Array<ArrayBuffer>;
   private view: DataView;
   private size = 0;
 
-  // `expected`: the size of the message, if known. It saves copying a large one.
-  constructor(expected = 1024) {
-    this.bytes = new Uint8Array(expected);
-    this.view = new DataView(this.bytes.buffer);
+  // `bytes`: where the message is written as long as it fits, which saves copying a large one.
+  constructor(private bytes: Uint8Array<ArrayBuffer> = new Uint8Array(1024)) {
+    this.view = new DataView(bytes.buffer, bytes.byteOffset);
   }
 
   number(value: number): void {
@@ -70,14 +68,19 @@ export class MessageReader {
     return Number(this.view.getBigInt64(this.at - 8, true));
   }
 
-  // Returns a copy, because the message can be in the game's memory, which moves when it grows.
-  bytesOf(): Uint8Array<ArrayBuffer> {
+  // A part of the message.
+  viewOfBytes(): Uint8Array<ArrayBuffer> {
     const size = this.number();
     this.at += size;
-    return this.message.slice(this.at - size, this.at) as Uint8Array<ArrayBuffer>;
+    return this.message.subarray(this.at - size, this.at) as Uint8Array<ArrayBuffer>;
+  }
+
+  // Returns a copy, because the message can be in the game's memory, which moves when it grows.
+  bytesOf(): Uint8Array<ArrayBuffer> {
+    return this.viewOfBytes().slice();
   }
 
   text(): string {
-    return decoder.decode(this.bytesOf());
+    return decoder.decode(this.viewOfBytes());
   }
 }

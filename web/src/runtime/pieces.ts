@@ -23,10 +23,19 @@ function writePiece(writer: MessageWriter, { key, shape, piece, bytes }: Piece):
   writer.bytesOf(bytes);
 }
 
-export function writePieces(pieces: readonly Piece[]): Uint8Array<ArrayBuffer> {
-  const about = 64; // bytes of a piece besides its own, or a few more
-  const expected = pieces.reduce((sum, { bytes }) => sum + bytes.length + about, 1024);
-  const writer = new MessageWriter(expected);
+const numbersOfPiece = 20; // bytes: two lengths, the shape and the piece number
+const longestLetter = 3; // bytes in UTF-8 for a UTF-16 unit
+
+// `room` returns where the message is written: at least this many bytes.
+export function writePieces(
+  pieces: readonly Piece[],
+  room = (size: number): Uint8Array<ArrayBuffer> => new Uint8Array(size),
+): Uint8Array<ArrayBuffer> {
+  const most = pieces.reduce(
+    (sum, { key, bytes }) => sum + numbersOfPiece + longestLetter * key.length + bytes.length,
+    4,
+  );
+  const writer = new MessageWriter(room(most));
   writer.number(pieces.length);
   for (const piece of pieces) writePiece(writer, piece);
   return writer.message();
@@ -36,10 +45,10 @@ function readPiece(reader: MessageReader): Piece {
   const key = reader.text();
   const shape = reader.number();
   const piece = reader.wideNumber();
-  return { key, shape, piece, bytes: reader.bytesOf() };
+  return { key, shape, piece, bytes: reader.viewOfBytes() };
 }
 
-// The reverse of writePieces.
+// The reverse of writePieces. The pieces are parts of the message.
 function readPieces(message: Uint8Array): Piece[] {
   const reader = new MessageReader(message);
   return Array.from({ length: reader.number() }, () => readPiece(reader));
@@ -50,7 +59,8 @@ export function readChanges(message: Uint8Array): Change[] {
   return Array.from({ length: reader.number() }, () => {
     const kind = changeKinds[reader.number()];
     if (!kind) throw new Error("The game sent a change of an unknown kind.");
-    return { kind, stored: readPiece(reader) };
+    const stored = readPiece(reader);
+    return { kind, stored: { ...stored, bytes: stored.bytes.slice() } };
   });
 }
 
