@@ -184,9 +184,9 @@ class StoredWorld {
     for (const Variable& variable : variables()) {
       if (variable.load == Load::atStart && isChanged(variable)) loadVariable(stored_, variable);
     }
-    forEachVariable([&]<auto Member>(std::string_view key, const auto&, const auto&, Load when) {
+    forEachVariable([&](std::string_view key, auto member, const auto&, const auto&, Load when) {
       if (when != Load::atStart) return;
-      EXPECT_TRUE(stored_.world.*Member == world.*Member) << key << " is not saved after: " << used;
+      EXPECT_TRUE(stored_.world.*member == world.*member) << key << " is not saved after: " << used;
     });
   }
 

@@ -25,15 +25,12 @@ using test::forEachRuntimeVariable;
 using test::forEachVariable;
 using test::ScratchGame;
 
-template <auto Member>
-using TypeOf = std::remove_cvref_t<decltype(WorldState{}.*Member)>;
-
 // Sets every variable to a lawful value that is neither its start nor its restart value.
 WorldState unusualWorld() {
   WorldState world;
   test::Unusual unusual;
   forEachVariable(
-      [&]<auto Member>(std::string_view, const auto&, const auto&, Load) { unusual.fill(world.*Member); });
+      [&](std::string_view, auto member, const auto&, const auto&, Load) { unusual.fill(world.*member); });
   for (const Variable& variable : variables()) {
     if (!variable.isList) {
       makeLawful(*variable.type, variable.range, memberOf(world, variable));
@@ -72,10 +69,10 @@ TEST(Dictionary, LoadsOnlyAtStartVariables) {
   relaunched.world.fanGainCarry = 5;  // from a game that was played before a slot was loaded
   loadWorld(relaunched);
   EXPECT_EQ(relaunched.world.fanGainCarry, 0);
-  forEachVariable([&]<auto Member>(std::string_view key, const auto& start, const auto&, Load when) {
+  forEachVariable([&](std::string_view key, auto member, const auto& start, const auto&, Load when) {
     SCOPED_TRACE(key);
     if (hasOwnRule(key)) return;
-    EXPECT_EQ(relaunched.world.*Member, when == Load::atStart ? played.*Member : TypeOf<Member>(start));
+    EXPECT_EQ(relaunched.world.*member, when == Load::atStart ? played.*member : start);
   });
   saveChanges(relaunched);
   EXPECT_EQ(scratch.store.value("saveAllChildList"), Value{Data{encoded(played.saveAllChildList)}});
@@ -96,17 +93,17 @@ TEST(Dictionary, RestartSetsAllButKeptVariables) {
   loadWorld(relaunched);
   EXPECT_EQ(relaunched.world.saveAllEmailList.size(), 4u);  // the welcome of the career that the form starts
   EXPECT_EQ(game.world.saveAllEmailList, relaunched.world.saveAllEmailList);
-  forEachVariable([&]<auto Member>(std::string_view key, const auto& start, const auto& restart, Load when) {
+  forEachVariable([&](std::string_view key, auto member, const auto& start, const auto& restart, Load when) {
     if (hasOwnRule(key)) return;
     SCOPED_TRACE(key);
-    TypeOf<Member> value = launched.*Member;
+    auto value = launched.*member;
     if constexpr (!std::is_same_v<decltype(restart), const test::Kept&>) value = restart;
-    EXPECT_EQ(game.world.*Member, value);
-    EXPECT_EQ(relaunched.world.*Member, when == Load::atStart ? value : TypeOf<Member>(start));
+    EXPECT_EQ(game.world.*member, value);
+    EXPECT_EQ(relaunched.world.*member, when == Load::atStart ? value : start);
   });
-  forEachRuntimeVariable([&]<auto Member>(const auto&, const auto& restart) {
+  forEachRuntimeVariable([&](auto member, const auto&, const auto& restart) {
     if constexpr (!std::is_same_v<decltype(restart), const test::Kept&>) {
-      EXPECT_EQ(game.world.*Member, restart);
+      EXPECT_EQ(game.world.*member, restart);
     }
   });
 }

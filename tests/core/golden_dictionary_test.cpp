@@ -47,16 +47,16 @@ std::string kindOf(const plist::Value& value) {
 TEST(GoldenDictionary, EveryRow) {
   test::Sheet sheet("dictionary");
   test::forEachVariable(
-      [&]<auto Member>(std::string_view key, const auto& start, const auto& restart, Load when) {
+      [&](std::string_view key, auto member, const auto& start, const auto& restart, Load when) {
         test::ScratchGame scratch;
-        test::Unusual().fill(scratch.world.*Member);
+        test::Unusual().fill(scratch.world.*member);
         saveChanges(scratch.game);
         const auto stored = scratch.store.value(key);
         sheet.line(std::format("{} starts at '{}', again at '{}', stored as {}{}", key, valueText(start),
                                valueText(restart), stored ? kindOf(*stored) : "nothing",
                                when == Load::never ? ", never loaded" : ""));
       });
-  test::forEachRuntimeVariable([&]<auto Member>(const auto& start, const auto& restart) {
+  test::forEachRuntimeVariable([&](auto, const auto& start, const auto& restart) {
     sheet.line(std::format("in memory '{}', again '{}'", valueText(start), valueText(restart)));
   });
 }

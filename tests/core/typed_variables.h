@@ -23,25 +23,24 @@ Kept rowValue(Kept value) {
   return value;
 }
 
-// Calls visit.template operator()<Member>(key, start, restart, load) for every persisted row, in the order of
-// the table; `restart` is a value of the variable's type, or `kept`.
+// Calls visit(key, member, start, restart, load) for every persisted row, in the order of the table;
+// `restart` is a value of the variable's type, or `kept`. `member` points to a member of WorldState.
 template <class Visit>
 void forEachVariable(Visit&& visit) {
-#define VARIABLE(Type, key, start, restart, load, ...)                                       \
-  visit.template operator()<&WorldState::key>(std::string_view(#key), rowValue<Type>(start), \
-                                              rowValue<Type>(restart), Load::load);
+#define VARIABLE(Type, key, start, restart, load, ...) \
+  visit(std::string_view(#key), &WorldState::key, rowValue<Type>(start), rowValue<Type>(restart), Load::load);
 #define RECORDS(Record, key, restart, load) VARIABLE(List<Record>, key, {}, restart, load)
 #define RUNTIME(Type, name, start, restart)
 #include "core/world_variables.def"
 }
 
-// The same for the run-time rows: visit.template operator()<Member>(start, restart).
+// The same for the run-time rows: visit(member, start, restart).
 template <class Visit>
 void forEachRuntimeVariable(Visit&& visit) {
 #define VARIABLE(Type, key, start, restart, load, ...)
 #define RECORDS(Record, key, restart, load)
 #define RUNTIME(Type, name, start, restart) \
-  visit.template operator()<&WorldState::name>(rowValue<Type>(start), rowValue<Type>(restart));
+  visit(&WorldState::name, rowValue<Type>(start), rowValue<Type>(restart));
 #include "core/world_variables.def"
 }
 
