@@ -6,7 +6,7 @@ import { readFileSync } from "node:fs";
 import { test } from "node:test";
 import type { Page } from "playwright-core";
 
-import { choose, finds, liveAWeek, openSaves, play, press, stage, waitForGame } from "./runtime_site";
+import { choose, finds, liveAWeek, openSaves, play, press, stage } from "./runtime_site";
 
 const setting = stage();
 
@@ -14,6 +14,7 @@ const save = process.env["BUSY_CAREER"];
 const slowness = 4;
 const weeks = 15;
 const weekPatience = 120; // milliseconds from a press to what it leads to, the median
+const startPause = 8000; // milliseconds
 const startPatience = 1200; // milliseconds from the reload until a week can be ended
 
 // Presses a button and returns the milliseconds until the frame with the other button has been painted.
@@ -31,6 +32,17 @@ function timeToPaint(page: Page, name: string, leadsTo: string): Promise<number>
     },
     [name, leadsTo] as const,
   );
+}
+
+// For a new page: sets `playableAt` when a week can be ended. The page works alone until then, because a test that
+// looks into it takes time of the slow processor.
+function watchStart(): void {
+  const look = () => {
+    const isThere = [...document.querySelectorAll("button")].some(({ textContent }) => textContent === "End Week");
+    if (isThere) Object.assign(globalThis, { playableAt: performance.now() });
+    else requestAnimationFrame(look);
+  };
+  look();
 }
 
 function median(times: number[]): number {
@@ -56,9 +68,10 @@ test("a week of a busy fiftieth year is soon there, and so is its career", { ski
     await page.waitForTimeout(400);
     closes.push(await timeToPaint(page, "Carry on", "End Week"));
   }
+  await page.addInitScript(watchStart);
   await page.reload();
-  await waitForGame(page);
-  const start = await page.evaluate(() => performance.now());
+  await page.waitForTimeout(startPause);
+  const start = await page.evaluate(() => (globalThis as { playableAt?: number }).playableAt ?? Infinity);
   await session.send("Emulation.setCPUThrottlingRate", { rate: 1 });
 
   console.log(

@@ -282,7 +282,7 @@ export function breakable(): void {
     const broken = (name: string) => (...values: unknown[]) => {
       if (!(globalThis as { breaks?: string }).breaks?.includes(name)) return real[name]?.(...values);
       real["incoming"]?.(1);
-      return real["open_store"]?.();
+      return real["add_pieces"]?.();
     };
     return { exports: { ...real, press: broken("press"), start: broken("start") } };
   };

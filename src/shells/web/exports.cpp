@@ -5,13 +5,16 @@
 //
 // After a trap the instance is unusable: the page starts a new one from the saved data.
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "banks/texts.h"
 #include "core/format.h"
@@ -41,6 +44,7 @@ struct OpenGame {
 
 tb::Bytes incoming;
 tb::Bytes answer;
+std::vector<tb::StoredPiece> stored;  // until the store is opened
 std::optional<OpenGame> game;
 
 std::string incomingText() { return {reinterpret_cast<const char*>(incoming.data()), incoming.size()}; }
@@ -68,8 +72,14 @@ EXPORT(incoming) std::byte* roomForIncoming(std::size_t size) {
 
 EXPORT(answer) const std::byte* answerAddress() { return answer.data(); }
 
-// Incoming: the stored pieces. Must be called first.
-EXPORT(open_store) void openStore() { game.emplace(readable(tb::readPieces(std::exchange(incoming, {})))); }
+// Incoming: some of the stored pieces. Called before open_store until all are in, so that no message has to
+// be as large as the whole save.
+EXPORT(add_pieces) void addPieces() {
+  std::ranges::move(readable(tb::readPieces(incoming)), std::back_inserter(stored));
+}
+
+// Must be called before the functions below.
+EXPORT(open_store) void openStore() { game.emplace(std::exchange(stored, {})); }
 
 // Incoming: the summaries of the slots and backups. Without this call there are none.
 EXPORT(open_documents) void openDocuments() {

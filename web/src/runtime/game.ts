@@ -4,7 +4,7 @@
 import type { Page } from "../view_types";
 import { type DocumentPlace, type DocumentSummary, readDocument, readPlace, type StoredDocument, writePlace, writeSummaries } from "./documents";
 import { MessageReader } from "./message";
-import { type Change, type Piece, readChanges, writePieces } from "./pieces";
+import { type Change, packs, type Piece, readChanges, writePieces } from "./pieces";
 import { wasiImports } from "./wasi";
 
 interface Exports {
@@ -12,6 +12,7 @@ interface Exports {
   _initialize(): void;
   incoming(size: number): number;
   answer(): number;
+  add_pieces(): void;
   open_store(): void;
   open_documents(): void;
   set_texts(): void;
@@ -54,7 +55,7 @@ const missingRest = new Proxy<WebAssembly.ModuleImports>({}, {
 });
 
 const exportNames = [
-  "_initialize", "incoming", "answer", "open_store", "open_documents", "set_texts", "start", "view", "press", "type",
+  "_initialize", "incoming", "answer", "add_pieces", "open_store", "open_documents", "set_texts", "start", "view", "press", "type",
   "slide", "tick", "back", "document_read", "document_lost", "saving_failed", "back_up_store", "last_week",
   "back_to_last_week", "export_store", "import_store",
 ] as const satisfies readonly Exclude<keyof Exports, "memory">[];
@@ -133,7 +134,10 @@ export class Game {
     game.guarded(() => {
       exports._initialize();
       if (rest) game.setTexts(rest);
-      writePieces(pieces, (size) => game.incoming(size));
+      for (const pack of packs(pieces)) {
+        writePieces(pack, (size) => game.incoming(size));
+        exports.add_pieces();
+      }
       exports.open_store();
       if (!host.documents) return;
       game.setIncoming(writeSummaries(host.documents.summaries()));

@@ -120,6 +120,21 @@ export function joined(earlier: readonly Change[], later: readonly Change[]): Ch
 
 const packSize = 1 << 19; // bytes
 
+// The pieces in groups of about `packSize`.
+export function* packs(pieces: readonly Piece[]): Iterable<readonly Piece[]> {
+  let pack: Piece[] = [];
+  let size = 0;
+  for (const piece of pieces) {
+    pack.push(piece);
+    size += piece.bytes.length;
+    if (size < packSize) continue;
+    yield pack;
+    pack = [];
+    size = 0;
+  }
+  if (pack.length > 0) yield pack;
+}
+
 // All pieces of the save, in memory.
 export class Pieces {
   private readonly byKey = new Map<string, Map<number, Piece>>();
@@ -155,20 +170,7 @@ export class Pieces {
 
   // All pieces as messages of about `packSize`.
   packs(): Uint8Array[] {
-    const packs: Uint8Array[] = [];
-    let pack: Piece[] = [];
-    let size = 0;
-    const close = () => packs.push(writePieces(pack).slice());
-    for (const piece of this.all()) {
-      pack.push(piece);
-      size += piece.bytes.length;
-      if (size < packSize) continue;
-      close();
-      pack = [];
-      size = 0;
-    }
-    if (pack.length > 0) close();
-    return packs;
+    return [...packs(this.all())].map((pack) => writePieces(pack).slice());
   }
 
   private put(stored: Piece): void {
