@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <deque>
 #include <format>
 #include <gtest/gtest.h>
@@ -37,7 +36,6 @@ class ScriptedPort : public ConsolePort {
   }
   void window(int rows) { shape_.rows = rows; }
   [[nodiscard]] std::size_t unread() const { return inputs_.size(); }
-  [[nodiscard]] const std::string& last() const { return pages.back(); }
 
   std::vector<std::string> pages;
   std::vector<std::string> prompts;
@@ -97,60 +95,53 @@ class DeskScreen : public Screen {
   Seen& seen_;
 };
 
-void play(ScriptedPort& port, Seen& seen, bool diskIsFull) {
+struct Session {
+  const char* what;
+  std::vector<std::string> lines;  // "(wait)" for none in time
+  double seconds = 0;              // until each line
+  Seen seen = {};
+  int rows = 0;  // of the window
+  bool diskIsFull = false;
+};
+
+// What each page says that the one before it did not, in a window and while nothing can be saved whole pages;
+// what was asked; and what the screen has seen.
+std::string transcriptOf(const Session& session) {
+  ScriptedPort port;
+  port.window(session.rows);
+  for (const std::string& line : session.lines) {
+    if (line == "(wait)") {
+      port.waitsFor(session.seconds);
+    } else {
+      port.types(line, session.seconds);
+    }
+  }
   test::ScratchGame scratch;
-  scratch.port.failAll(diskIsFull);
+  scratch.port.failAll(session.diskIsFull);
   scratch.store.put("weekNumber", plist::Value{std::int64_t{3}});
+  Seen seen = session.seen;
   App app(scratch.store, scratch.random, {}, std::make_unique<DeskScreen>(seen));
   Console(app, port).play();
-}
 
-std::string transcriptOf(const std::vector<std::string>& lines) {
-  ScriptedPort port;
-  Seen seen;
-  for (const std::string& line : lines) port.types(line);
-  play(port, seen, false);
-  std::string text;
-  std::string before = port.pages.front();
+  std::string text = std::format("==== {}\n", session.what);
+  const bool isWhole = session.rows > 0 || session.diskIsFull;
+  std::string before = isWhole ? "" : port.pages.front();
   for (const std::string& page : port.pages) {
     for (const auto line : std::views::split(page, '\n')) {
       const std::string shown(line.begin(), line.end());
       if (!before.contains(shown + "\n")) text += shown + "\n";
     }
-    before = page;
+    if (!isWhole) before = page;
   }
-  for (const std::string& prompt : port.prompts) text += prompt + "|";
-  return text + std::format("\npresses {}, name '{}', slid {}, unread {}\n", seen.presses, seen.name,
-                            testing::PrintToString(seen.slid), port.unread());
+  for (std::size_t index = 0; index < port.prompts.size(); ++index) {
+    text += port.prompts[index] + (port.waits[index] ? std::format("({} s)|", *port.waits[index]) : "|");
+  }
+  return text + std::format("\npresses {}, name '{}', slid {}, {} s left, unread {}\n", seen.presses,
+                            seen.name, testing::PrintToString(seen.slid), seen.secondsLeft, port.unread());
 }
 
-class ConsoleLoop : public testing::Test {
- protected:
-  void play() { console::play(port, seen, diskIsFull); }
-  // The page after the n-th input line; 0 is the first page.
-  [[nodiscard]] const std::string& pageAfter(std::size_t n) const { return port.pages.at(n); }
-
-  Seen seen;
-  ScriptedPort port;
-  bool diskIsFull = false;
-};
-
-TEST_F(ConsoleLoop, WarnsOnEachPageAndBeforeLeavingWhileNothingCanBeSaved) {
-  diskIsFull = true;
-  port.types("q").types("?").types("q").types("q").types("?");
-  play();
-  EXPECT_EQ(port.unread(), 1u);
-  for (const std::string& page : port.pages)
-    EXPECT_TRUE(page.contains("Not saved: The disk is full.")) << page;
-  EXPECT_TRUE(pageAfter(1).contains("q again leaves without it."));
-  EXPECT_FALSE(pageAfter(2).contains("q again"));
-}
-
-bool shows(const std::string& page, std::string_view text) { return page.contains(text); }
-
-// What a player types, and what each page says that the one before it did not.
 TEST(GoldenConsoleLoop, Sessions) {
-  const std::pair<const char*, std::vector<std::string>> sessions[] = {
+  const Session sessions[] = {
       {"a number uses its item, and q leaves at once",
        {"1", "  1  ", "2 Zoë Lark", "3 25", "3 -7.5", "q", "1"}},
       {"a field or a slider asks for a missing value, and Enter keeps it",
@@ -164,66 +155,22 @@ TEST(GoldenConsoleLoop, Sessions) {
       {"a dialog is modal", {"5", "b", "2 Eve", "1", "6", "b", ""}},
       {"a text is cleaned and cut",
        {"2 \x1b[31mEvil\x1b[0m\x07\t" + std::string(1, '\0') + "\xff\xc3name" + std::string(100'000, 'x')}},
-      {"a question mark shows the help", {"?", ""}}};
+      {"a question mark shows the help", {"?", ""}},
+      {"q warns while nothing can be saved", {"q", "?", "q", "q", "?"}, 0, {}, 0, true},
+      {"time passes only in a countdown", {""}, 30},
+      {"a countdown is painted every second", {"(wait)", "(wait)", "1"}, 1, {.secondsLeft = 60}, 24},
+      {"a number does not use an item that replaced it", {"1"}, 45, {.secondsLeft = 60}},
+      {"a long page scrolls below its head and above its tabs", {"", "", "", ""}, 0, {.lines = 50}, 24},
+      {"the scroll position stays, and a dialog is shown whole",
+       {"", "1", "5", "1", "6"},
+       0,
+       {.lines = 50},
+       24}};
   std::string text;
-  for (const auto& [what, lines] : sessions) text += "==== " + std::string(what) + "\n" + transcriptOf(lines);
+  for (const Session& session : sessions) text += transcriptOf(session);
   test::expectGolden("console_sessions", text);
 }
 
 }  // namespace
-
-TEST_F(ConsoleLoop, TicksOnlyDuringCountdowns) {
-  port.types("", 30);
-  play();
-  EXPECT_EQ(seen.secondsLeft, 0);
-
-  seen.secondsLeft = 60;
-  port.window(24);
-  port.waitsFor(1).waitsFor(1).types("1", 0.5);
-  play();
-  EXPECT_EQ(seen.secondsLeft, 57.5);
-  EXPECT_EQ(seen.presses, 1);
-  EXPECT_EQ(port.waits.back(), 1.0) << "a window is painted again every second";
-}
-
-TEST_F(ConsoleLoop, ANumberDoesNotUseAnItemThatReplacedIt) {
-  seen.secondsLeft = 60;
-  port.types("1", 45);
-  play();
-  EXPECT_EQ(seen.presses, 0);
-  EXPECT_TRUE(shows(port.last(), "Bid more"));
-  EXPECT_TRUE(shows(port.last(), "The page has changed."));
-}
-
-TEST_F(ConsoleLoop, ScrollsLongPagesWithVisibleTabs) {
-  seen.lines = 60;
-  port.window(24);
-  port.types("").types("").types("").types("").types("").types("");
-  play();
-  std::string seenLines;
-  for (const std::string& page : port.pages) {
-    EXPECT_LE(std::ranges::count(page, '\n'), 23) << "the prompt has a line too";
-    EXPECT_TRUE(shows(page, "Desk"));
-    EXPECT_TRUE(shows(page, "<Home>"));
-    seenLines += page;
-  }
-  for (int line = 1; line <= 60; ++line) EXPECT_TRUE(shows(seenLines, std::format("Line {}.", line))) << line;
-  EXPECT_TRUE(shows(pageAfter(0), "Enter for more"));
-  EXPECT_TRUE(std::ranges::any_of(port.pages,
-                                  [](const std::string& page) { return shows(page, "Enter for the top"); }));
-}
-
-TEST_F(ConsoleLoop, KeepsTheScrollPositionAndShowsWholeDialogs) {
-  seen.lines = 60;
-  port.window(24);
-  port.types("").types("1").types("5").types("1").types("6");
-  play();
-  EXPECT_TRUE(shows(pageAfter(1), "Line 20."));
-  EXPECT_TRUE(shows(pageAfter(2), "Line 20."));
-  EXPECT_TRUE(shows(pageAfter(3), "Really?"));
-  EXPECT_TRUE(shows(pageAfter(3), "[1] | OK"));
-  EXPECT_TRUE(shows(pageAfter(4), "Line 20."));
-  EXPECT_FALSE(shows(pageAfter(5), "Line"));
-}
 
 }  // namespace tb::console

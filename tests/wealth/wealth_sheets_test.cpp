@@ -1,4 +1,4 @@
-// Golden sheets of filming pay, residuals, Patron and energy.
+// Golden sheets of filming pay, residuals, Patron, energy, the balance and the net worth.
 
 #include <format>
 #include <gtest/gtest.h>
@@ -6,10 +6,14 @@
 #include <vector>
 
 #include "life/energy.h"
+#include "platform/share_register.h"
 #include "tests/sheet.h"
 #include "wealth/filming_pay.h"
 #include "wealth/market_index.h"
+#include "wealth/net_worth.h"
 #include "wealth/patron_pay.h"
+#include "wealth/payment_history.h"
+#include "wealth/weekly_balance.h"
 
 namespace tb {
 namespace {
@@ -151,6 +155,130 @@ TEST(GoldenWealth, EnergyOfAgesAndWeeks) {
           },
           seed);
     }
+  }
+}
+
+TEST(GoldenWealth, BalanceAddsEveryKindOfIncomeOnce) {
+  Sheet sheet("wealth_balance");
+  const auto balance = [&](const std::string& what, const Sheet::Prepare& prepare) {
+    sheet.changes(
+        what,
+        [&](WorldState& world) {
+          world.yearNumber = 2027;
+          world.weekNumberForTracking = now;
+          world.saveAllWeeklyLineItems = {{.amount = 50}, {.amount = 20}, {.amount = 7, .isExpense = false}};
+          world.totalCashAvailable = 20;
+          prepare(world);
+        },
+        [&](Game& game) {
+          const WeekBalance totals = balanceWeek(game);
+          sheet.line(std::format("income {}, expenses {}", totals.income, totals.expenses));
+          for (const Analytics& tile : game.world.weekBalanceItems) {
+            sheet.line(std::format("{} {}", tile.title, tile.moneyEarned));
+          }
+        });
+  };
+  balance("expenses without cash", [](WorldState& world) { world.platformSalary = 51; });
+  balance("every income, among those of other weeks", [](WorldState& world) {
+    for (const auto& [week, session, buyout, residual] : {std::tuple{now - 1, 5000, 5000, 5000},
+                                                          {now, 1000, 200, 0},
+                                                          {now, 0, 0, 30},
+                                                          {now + 1, 5000, 5000, 5000}}) {
+      world.saveAllWeeklyEarnings.push_back({.sessionEarned = static_cast<double>(session),
+                                             .buyoutEarned = static_cast<double>(buyout),
+                                             .residualsEarned = static_cast<double>(residual),
+                                             .weekNumberForTracking = week});
+    }
+    world.saveAllEquityPayouts = {{.weekNumberForTracking = now - 1, .payOut = 5000},
+                                  {.weekNumberForTracking = now, .payOut = 400}};
+    world.saveAllRoyaltyPayouts = {{.weekNumberForTracking = now, .payout = 80},
+                                   {.weekNumberForTracking = now + 1, .payout = 5000}};
+    world.saveAllCameos = {{.weekNumberForTracking = now, .totalPriceEarned = 5},  // of the previous career
+                           {.weekNumberForTracking = 900, .totalPriceEarned = 5000},
+                           {.weekNumberForTracking = now, .totalPriceEarned = 20}};
+    world.saveAllPropertyList = {{.weeklyRent = 300, .isPrimary = 1}, {.weeklyRent = 90, .rentEarned = 10}};
+    world.platformSalary = 52 * 3 + 51;
+    world.weeklyJobIncome = 410;
+    world.weekNetIncome = 15;
+    world.yearToDatePaycheck = 900;
+  });
+}
+
+TEST(GoldenWealth, PaymentsNewestFirst) {
+  WorldState world;
+  world.saveAllFilmList = {{.filmId = 5, .title = "Salt Road"}};
+  world.saveAllWeeklyEarnings = {
+      {.filmTitle = "Fizz", .yearNumber = 2026, .weekNumberForTracking = 10},  // worked for nothing
+      {.filmTitle = "Salt Road",
+       .sessionEarned = 940,
+       .buyoutEarned = 60,
+       .yearNumber = 2026,
+       .weekNumberForTracking = 53},
+      {.filmTitle = "Fizz", .residualsEarned = 47, .yearNumber = 2028, .weekNumberForTracking = 107}};
+  world.saveAllRoyaltyPayouts = {{.title = "Salt Road",
+                                  .yearNumber = 2028,
+                                  .weekNumberForTracking = 108,
+                                  .payout = 200,
+                                  .typeOfPayment = payoutSource::syndication}};
+  world.saveAllEquityPayouts = {{.filmId = 5, .yearNumber = 2026, .weekNumberForTracking = 54, .payOut = -30},
+                                {.filmId = 6, .yearNumber = 2028, .weekNumberForTracking = 107, .payOut = 1}};
+  Sheet sheet("wealth_payments");
+  for (const Payment& payment : paymentHistory(world)) {
+    sheet.line(std::format("{} kind {} in week {} of {}: {} {}", payment.title,
+                           static_cast<int>(payment.kind), payment.week, payment.year, payment.amount,
+                           payment.source));
+  }
+}
+
+TEST(GoldenWealth, NetWorthByItsParts) {
+  Sheet sheet("wealth_net_worth");
+  const auto worth = [&](const std::string& what, const Sheet::Prepare& prepare) {
+    sheet.text(what, prepare, [](Game& game) {
+      const NetWorth parts = netWorth(game.world);
+      updateNetWorth(game);
+      return std::format(
+          "cash {:.2f} cards {:.2f} property {:.2f} vehicles {:.2f} ventures {:.2f} platform {:.2f} of {} "
+          "shares: {:.2f}",
+          parts.cash, parts.cards, parts.property, parts.vehicles, parts.ventures, parts.platform,
+          totalPlatformShares(game.world), game.world.saveNetworth);
+    });
+  };
+  worth("homes, cards and ventures", [](WorldState& world) {
+    world.totalCashAvailable = -500;
+    world.trackCardPortfolio = {10, 40};
+    world.realEstateIndex = 1.2;
+    world.saveAllPropertyList = {{.pricePaid = 1000, .realEstateIndex = 0.9},
+                                 {.pricePaid = 2000, .realEstateIndex = 1.4}};
+    world.saveSharkBoxDeals = {{.equity = 0.1,
+                                .rounds = {{.valuation = 1000}, {.valuation = 3000}, {.valuation = 9000}},
+                                .roundsResolved = 2},
+                               {.equity = 0.5,
+                                .rounds = {{.valuation = 1000}},
+                                .roundsResolved = 1,
+                                .status = ventureStatus::exited}};
+  });
+  for (const std::int64_t year : {2026, 2030, 2066, 2067}) {
+    worth(std::format("a car in {}", year), [&](WorldState& world) {
+      world.yearNumber = year;
+      world.realEstateIndex = year == 2030 ? 1.2 : 1;
+      world.saveAllTransportationOwnedList = {
+          {.pricePaid = 30'000, .economyIndex = year == 2030 ? 0.8 : 1, .yearPurchased = 2026}};
+    });
+  }
+  for (const auto& [launched, own, valuations] :
+       {std::tuple{0, 600, 0}, {1, 600, 0}, {1, 600, 2}, {1, 0, 2}}) {
+    worth(std::format("a platform, launched {}, {} own shares, {} valuations", launched, own, valuations),
+          [&](WorldState& world) {
+            world.isPlatformLaunched = launched;
+            world.platformShares = own;
+            world.platformCashAvailable = 1000;
+            world.platformInfrastureValue = 500;
+            if (valuations > 0) world.trackBusinessValuation = {70, 2000};
+            if (own == 0) return;
+            world.saveAllEmployeeList = {{.sharesOwned = 100, .yearEnded = 2027}, {.sharesOwned = -40}};
+            world.saveAllFundraisingRounds = {{.sharesToIssue = 300, .investorName = {"Vane"}},
+                                              {.sharesToIssue = 900}};
+          });
   }
 }
 
