@@ -4,7 +4,6 @@
 
 #include "core/format.h"
 #include "core/number_style.h"
-#include "core/text.h"
 #include "life/latch.h"
 #include "life/latch_people.h"
 #include "life/partner.h"
@@ -35,11 +34,18 @@ Choice preferenceChoice(const WorldState& world) {
               option("Everyone", preference::both, wish != preference::women && wish != preference::men)}};
 }
 
+std::string openWords(std::int64_t open) {
+  if (open == 0) return "Nobody waits for a message";
+  return open == 1 ? "1 match to write to" : tb::format("{} matches to write to", open);
+}
+
 Node aboutDating(const WorldState& world) {
   const Matches* const partner = currentPartner(world);
   if (partner == nullptr) {
-    return Text{.text =
-                    "Swipe, match, write. A partner brings energy every week, and wants some of it back."};
+    return Text{
+        .text = tb::format(
+            "Every swipe takes {} energy. A partner brings energy every week, and wants some of it back.",
+            swipeEnergy)};
   }
   return Card{.title = partner->name,
               .subtitle = togetherWords(world, *partner),
@@ -57,16 +63,12 @@ Page LatchDatingViewController::view(const Game& game) {
       .title = "Latch",
       .icons = {{.label = "Matches", .icon = Icon::rose, .press = opens<LatchMatchListViewController>()}},
       .nodes = {aboutDating(world), preferenceChoice(world),
-                leadingTo<LatchMatchListViewController>(
-                    "Your matches",
-                    open == 0 ? "Nobody waits for a message" : counted(open, "match") + " to write to",
-                    std::to_string(world.saveAllMatchesList.size())),
+                leadingTo<LatchMatchListViewController>("Your matches", openWords(open),
+                                                        std::to_string(world.saveAllMatchesList.size())),
                 Tiles{{{.label = "Conversations", .value = plainCount(game.locale, world.slideIntoDmsCount)},
                        {.label = "Rejections", .value = plainCount(game.locale, world.rejectionCount)}}}},
       .main = {{.label = "Swipe",
                 .press = opens<LatchMatchingViewController>(),
-                .price = energyPrice(swipeEnergy),
-                .refusal = briefOf(swipeRefusal(world, Swipe::right)),
                 .weight = Button::Weight::primary}}};
 }
 

@@ -48,8 +48,13 @@ Page LatchYouMatchedWithViewController::view(const Game& game) {
   const WorldState& world = game.world;
   const Matches* const match = selectedMatch(world);
   if (match == nullptr) return {.title = "Latch", .nodes = {caption("Nobody is here.")}};
-  Page page{.title = "You matched\nwith " + match->name, .subtitle = agoWords(world, match->weekMatched)};
-  page.nodes = {Card{.picture = {portraitOf(*match)}, .nodes = personNodes(game, *match)}, promptNode(*match),
+  Page page{.title = "You matched\nwith " + match->name,
+            .subtitle = agoWords(world, match->weekMatched),
+            .head = Page::Head::line};
+  page.nodes = {Card{.title = match->matchPrompt,
+                     .subtitle = match->matchPromptResponse,
+                     .picture = {portraitOf(*match)}},
+                Fold{.key = "person", .label = "About " + match->name, .nodes = personNodes(game, *match)},
                 Bubble{.speaker = world.myName, .text = match->matchComment, .mine = true},
                 Bubble{.speaker = match->name, .text = match->pickupLineResponse}};
   if (conversation_) {

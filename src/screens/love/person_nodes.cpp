@@ -12,7 +12,7 @@ using namespace view;
 
 std::vector<Node> personNodes(const Game& game, const Matches& person) {
   return {Tiles{{{.label = "Chemistry", .value = tb::format("{:.0f}% Chemistry", person.chemistry)},
-                 {.label = "Every week together",
+                 {.label = "Together",
                   .value = tb::format("{:+} Energy", person.energyBonus),
                   .tone = person.energyBonus > 0 ? Tone::good : Tone::quiet}}},
           Text{.text = tb::format("{} | {}/week", person.occupation,

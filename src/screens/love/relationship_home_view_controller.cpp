@@ -145,13 +145,16 @@ Section care(const Game& game, const Matches& partner) {
   return section;
 }
 
+std::string storyOf(const Child& child) {
+  return child.relationshipTracker.empty() ? "" : "\n" + child.relationshipTracker.front();
+}
+
 Row childRow(const Game& game, const Child& child) {
-  return {
-      .label = child.name,
-      .value = tb::format("{:+}", -child.weeklyEnergyCost),
-      .detail = tb::format("{} • Born {}\n{}", child.relationship,
-                           numericDate(child.birthWeek, child.birthYear), child.relationshipTracker.front()),
-      .picture = {childPicture(game.world, child)}};
+  return {.label = child.name,
+          .value = tb::format("{:+}", -child.weeklyEnergyCost),
+          .detail = tb::format("{} • Born {}{}", child.relationship,
+                               numericDate(child.birthWeek, child.birthYear), storyOf(child)),
+          .picture = {childPicture(game.world, child)}};
 }
 
 // The children, and the pictures of the great days.

@@ -1,7 +1,7 @@
 // A chat bubble.
 
 import type { ComponentChildren } from "preact";
-import { useEffect, useState } from "preact/hooks";
+import { useEffect, useRef, useState } from "preact/hooks";
 
 import type * as View from "../view_types";
 import { stillness } from "./motion";
@@ -47,9 +47,13 @@ function Written({ text, letterTime, delay }: View.Bubble) {
 }
 
 export function Bubble(bubble: View.Bubble) {
-  const { speaker, mine } = bubble;
+  const { speaker, mine, letterTime } = bubble;
+  const place = useRef<HTMLLIElement>(null);
+  useEffect(() => {
+    if (letterTime > 0) place.current!.scrollIntoView({ block: "nearest" });
+  }, []);
   return (
-    <li class={`bubble-place${mine ? " is-mine" : ""}`}>
+    <li ref={place} class={`bubble-place${mine ? " is-mine" : ""}`}>
       {speaker !== "" && (
         <span class="bubble-speaker">
           <Words text={speaker} />
