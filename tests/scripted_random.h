@@ -45,6 +45,9 @@ class ScriptedRandom : public RandomSource {
     return *this;
   }
 
+  // Takes back the draws that were not used.
+  void clear() { words_.clear(); }
+
   std::uint64_t next() override {
     if (words_.empty()) {
       EXPECT_EQ(unscripted_, Unscripted::low) << "a draw that the test did not script";

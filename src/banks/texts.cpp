@@ -69,6 +69,15 @@ constexpr char filmFile[] = {
 constexpr char jobsFile[] = {
 #embed "banks/jobs.txt"
 };
+constexpr char latchProfilesFile[] = {
+#embed "banks/latch_profiles.txt"
+};
+constexpr char latchPromptsFile[] = {
+#embed "banks/latch_prompts.txt"
+};
+constexpr char latchTalkFile[] = {
+#embed "banks/latch_talk.txt"
+};
 constexpr char namesFile[] = {
 #embed "banks/names.txt"
 };
@@ -80,6 +89,12 @@ constexpr char offersFile[] = {
 };
 constexpr char rateMoviesFile[] = {
 #embed "banks/rate_movies.txt"
+};
+constexpr char relationshipQuestionsFile[] = {
+#embed "banks/relationship_questions.txt"
+};
+constexpr char relationshipsFile[] = {
+#embed "banks/relationships.txt"
 };
 constexpr char reviewSummaryFile[] = {
 #embed "banks/review_summary.txt"
@@ -100,7 +115,7 @@ constexpr char weekFile[] = {
 #embed "banks/week.txt"
 };
 
-constexpr std::array<std::string_view, 24> files = {{
+constexpr std::array<std::string_view, 29> files = {{
     {agentsFile, sizeof agentsFile},
     {allTimeFile, sizeof allTimeFile},
     {angelFile, sizeof angelFile},
@@ -115,10 +130,15 @@ constexpr std::array<std::string_view, 24> files = {{
     {fameFile, sizeof fameFile},
     {filmFile, sizeof filmFile},
     {jobsFile, sizeof jobsFile},
+    {latchProfilesFile, sizeof latchProfilesFile},
+    {latchPromptsFile, sizeof latchPromptsFile},
+    {latchTalkFile, sizeof latchTalkFile},
     {namesFile, sizeof namesFile},
     {negotiationFile, sizeof negotiationFile},
     {offersFile, sizeof offersFile},
     {rateMoviesFile, sizeof rateMoviesFile},
+    {relationshipQuestionsFile, sizeof relationshipQuestionsFile},
+    {relationshipsFile, sizeof relationshipsFile},
     {reviewSummaryFile, sizeof reviewSummaryFile},
     {syndicationFile, sizeof syndicationFile},
     {talentFile, sizeof talentFile},

@@ -27,6 +27,8 @@ constexpr std::array<ShortForm, 7> moneyForms = {{
     {.below = 1e12, .unit = 1e9, .digits = 1, .suffix = "B"},
 }};
 
+constexpr ShortForm trillions = {.below = 1e15, .unit = 1e12, .digits = 1, .suffix = "T"};
+
 constexpr std::array<ShortForm, 4> countForms = {{
     {.below = 1e3, .unit = 1, .digits = 0, .suffix = ""},
     {.below = 1e6, .unit = 1e3, .digits = 1, .suffix = "K"},
@@ -63,14 +65,24 @@ std::string withSymbol(const Locale& locale, const std::string& amount) {
                                      : amount + locale.currencyGap + locale.currencySymbol;
 }
 
+std::string inForm(const Locale& locale, const ShortForm& form, double amount) {
+  return withSymbol(locale, groupedDigits(locale, amount / form.unit, form.digits) + form.suffix);
+}
+
 }  // namespace
 
 std::string shortMoney(const Locale& locale, double v) {
   if (!std::isfinite(v)) return noNumber;
   if (v < 0) return "";
   const ShortForm* form = formOf(moneyForms, v);
-  if (form == nullptr) return "";
-  return withSymbol(locale, groupedDigits(locale, v / form->unit, form->digits) + form->suffix);
+  return form == nullptr ? "" : inForm(locale, *form, v);
+}
+
+std::string shareMoney(const Locale& locale, double amount) {
+  if (!std::isfinite(amount)) return noNumber;
+  const double size = std::abs(amount);
+  const ShortForm* form = formOf(moneyForms, size);
+  return (amount < 0 ? locale.minusSign : "") + inForm(locale, form == nullptr ? trillions : *form, size);
 }
 
 std::string shortCount(std::int64_t n) {

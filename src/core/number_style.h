@@ -6,6 +6,7 @@
 //   wholeMoney()  prices and contract pay
 //   bigMoney()    budgets, grosses, fortunes and charts: short form
 //   shortMoney()  lines of the feed and the log, and the tiles of a week
+//   shareMoney()  the share of a fortune that a divorce costs
 
 #include <cstdint>
 #include <string>
@@ -17,6 +18,9 @@ namespace tb {
 // An amount of money in short form: $99.50, $100, $1.5K, $12K, $3.4M, $120M, $1.2B. Empty for a negative
 // amount and for 10^12 and more, and callers rely on that; "$0" for an amount that is not a number.
 [[nodiscard]] std::string shortMoney(const Locale& locale, double v);
+
+// shortMoney() with a minus sign for negative amounts, and with T for trillions: -$500, $1.5T.
+[[nodiscard]] std::string shareMoney(const Locale& locale, double amount);
 
 // A count of people or units in short form: 999, 1.0K, 1.0M, 1.0B. Empty for negative counts and for 10^12
 // and more.

@@ -10,6 +10,7 @@
 namespace tb {
 
 namespace weeklyOption {
+inline constexpr std::int64_t metflix = 100;
 inline constexpr std::int64_t moviePass = 103;
 inline constexpr std::int64_t theCameo = 116;
 }  // namespace weeklyOption

@@ -13,8 +13,13 @@ namespace {
 Moment::Scene sceneOf(NewsKind kind) {
   switch (kind) {
     case NewsKind::offer:
-    case NewsKind::match:
       return Moment::Scene::deal;
+    case NewsKind::match:
+    case NewsKind::wedding:
+    case NewsKind::birth:
+      return Moment::Scene::glow;
+    case NewsKind::breakup:
+      return Moment::Scene::tabloid;
     case NewsKind::opening:
     case NewsKind::premiere:
       return Moment::Scene::curtain;

@@ -42,7 +42,7 @@ enum class Tone : std::uint8_t {
 enum class Band : std::uint8_t { none, poor, fair, good, great };
 
 // A small icon beside a text or a figure. Each shell draws it in its own way.
-enum class Icon : std::uint8_t { none, home, work, social, life, wealth, backstage, settings, energy };
+enum class Icon : std::uint8_t { none, home, work, social, life, wealth, backstage, settings, energy, rose };
 
 enum class PictureKind : std::uint8_t { avatar, poster, logo, house, vehicle, card, photo, icon };
 
@@ -268,6 +268,10 @@ struct Bubble {
   std::string speaker;
   std::string text;
   bool mine = false;  // by the player
+  // Of a text whose letters appear one by one: the seconds per letter, and those before the first one. All at
+  // once with a time of 0, in a terminal, and with reduced motion.
+  double letterTime = 0;
+  double delay = 0;
 };
 
 struct TimelineEntry {
@@ -379,6 +383,8 @@ struct Moment {
     curtain,   // a curtain opens over a poster
     marquee,   // the title in lights
     envelope,  // an envelope opens, and the line comes out
+    glow,      // a portrait lights up
+    tabloid,   // a front page spins in
   };
   Scene scene = Scene::marquee;
   std::string title;  // a word or two in capitals

@@ -10,6 +10,7 @@
 #include "core/ended_week.h"
 #include "film/awards.h"
 #include "life/energy.h"
+#include "life/partner.h"
 #include "social/inbox.h"
 
 namespace tb {
@@ -70,6 +71,26 @@ std::optional<AgendaItem> lapsingOffer(const WorldState& world) {
   const std::int64_t oldest = world.saveAllEmailList.front().typeOfDeal;
   if (oldest == deal::help || oldest == deal::message) return {};
   return AgendaItem{.kind = ItemKind::lapse};
+}
+
+// --- Love ---
+
+// A partner who is about to leave.
+std::optional<AgendaItem> neglectedPartner(const WorldState& world) {
+  constexpr double lowMeter = 25;
+  const auto index = partnerIndex(world);
+  if (!index || world.saveAllMatchesList[*index].relationshipStatus >= lowMeter) return {};
+  return AgendaItem{.kind = ItemKind::neglect, .index = *index};
+}
+
+// The latest match of a single player.
+std::optional<AgendaItem> openConversation(const WorldState& world) {
+  if (currentPartner(world) != nullptr) return {};
+  for (std::size_t index = world.saveAllMatchesList.size(); index-- > 0;) {
+    if (world.saveAllMatchesList[index].relationshipState != bond::matched) continue;
+    return AgendaItem{.kind = ItemKind::conversation, .index = index};
+  }
+  return {};
 }
 
 // The next one to wrap.
@@ -157,6 +178,8 @@ std::vector<AgendaItem> openItems(const WorldState& world) {
   add(newMail(world));
   add(waitingGift(world));
   add(lapsingOffer(world));
+  add(neglectedPartner(world));
+  add(openConversation(world));
   add(negotiation(world));
   add(footageReel(world));
   add(submissions(world));

@@ -21,10 +21,12 @@ struct AgendaItem {
     shoot,
     release,
     // Affordable now
-    mail,         // came with the week that ended
-    gift,         // has not been claimed
-    lapse,        // the inbox is full, and its oldest e-mail is an offer
-    negotiation,  // of a project's pay
+    mail,          // came with the week that ended
+    gift,          // has not been claimed
+    lapse,         // the inbox is full, and its oldest e-mail is an offer
+    neglect,       // the partner's meter is in its lowest band
+    conversation,  // a single player has not written to a match
+    negotiation,   // of a project's pay
     submissions,
     job,
     guild,
@@ -38,7 +40,8 @@ struct AgendaItem {
   Kind kind;
   std::int64_t week = 0;   // for due items: a value of `weekNumberForTracking`
   std::size_t index = 0;   // of the project in `saveAllAuditionList`, the class in `saveAllCompletedClasses`,
-                           // the trait in `traits`, or the e-mail in `saveAllEmailList`
+                           // the trait in `traits`, the e-mail in `saveAllEmailList`, or the match in
+                           // `saveAllMatchesList`
   std::int64_t count = 0;  // new e-mails, affordable submissions, open submissions, or weeks left
   std::optional<Boost> boost = {};  // available for the project now
 };

@@ -18,6 +18,7 @@
 #include "film/syndication_deals.h"
 #include "film/syndication_offers.h"
 #include "life/energy.h"
+#include "life/relationship_week.h"
 #include "social/cameo.h"
 #include "social/fame.h"
 #include "social/fans.h"
@@ -98,6 +99,7 @@ WeekSummary openSummary(Game& game) {
   closeBoxOffice(game);
   advanceClasses(game);
   rankStar(game);
+  summary.separation = relationshipWeekStep(game);
   summary.offersAwards = game.world.weekNumber == awardsWeek && isNominatedThisYear(game.world);
   cameoWeekStep(game);
   summary.balance = balanceWeek(game);
@@ -106,6 +108,8 @@ WeekSummary openSummary(Game& game) {
   cleanUpAuditions(game);
   return summary;
 }
+
+std::optional<Separation> returnToSummary(Game& game) { return relationshipWeekStep(game); }
 
 void closeSummary(Game& game) {
   recordWeekNet(game);

@@ -6,7 +6,10 @@
 // (D). The save has no marker for a week in progress: if the game ends between the phases, the next launch is
 // at the hub, with the week played and its summary lost.
 
+#include <optional>
+
 #include "core/game.h"
+#include "life/separation.h"
 #include "week/summary.h"
 
 namespace tb {
@@ -16,6 +19,10 @@ void endWeek(Game& game);
 
 // Phase B, when the summary opens, right after phase A. The clock already shows the new week.
 [[nodiscard]] WeekSummary openSummary(Game& game);
+
+// Phase C, each time the summary comes to the top, also after opening: the relationship's step runs again.
+// Returns the separation when the partner left.
+[[nodiscard]] std::optional<Separation> returnToSummary(Game& game);
 
 // Phase D, when the player closes the summary.
 void closeSummary(Game& game);

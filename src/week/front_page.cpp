@@ -111,6 +111,16 @@ FrontPage layOutFrontPage(const Game& game) {
   return page;
 }
 
+std::vector<Story> takeLateStories(Game& game) {
+  WorldState& world = game.world;
+  std::vector<Story> stories;
+  for (std::size_t line = 0; line < world.WeekFeed.size(); ++line)
+    stories.push_back(storyOfLine(world, line));
+  world.WeekFeed.clear();
+  world.weekFeedNews.clear();
+  return stories;
+}
+
 std::string foldedWords(const std::vector<Story>& folded) {
   const std::string refused = countedWords(folded, NewsKind::refusal, "said no");
   const std::string silent = countedWords(folded, NewsKind::silence, "never wrote back");

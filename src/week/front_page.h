@@ -26,6 +26,9 @@ struct FrontPage {
 // line there. A wrap shows the session's pay. Call it after balanceWeek() and before `WeekFeed` is emptied.
 [[nodiscard]] FrontPage layOutFrontPage(const Game& game);
 
+// Moves lines that came after the page was laid out from `WeekFeed` to stories, in the order of the feed.
+[[nodiscard]] std::vector<Story> takeLateStories(Game& game);
+
 // The text for folded lines: "Saltwater said no, 3 never wrote back".
 [[nodiscard]] std::string foldedWords(const std::vector<Story>& folded);
 

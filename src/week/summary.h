@@ -3,10 +3,12 @@
 // The weekly summary. Its data exists only while it is open.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/game.h"
+#include "life/separation.h"
 #include "wealth/weekly_balance.h"
 #include "week/front_page.h"
 
@@ -21,6 +23,7 @@ struct WeekSummary {
   FrontPage frontPage;         // the same lines laid out; without a tip
   bool offersAwards = false;   // the year's nominations are out, and their screen was not opened yet
   bool offersRelease = false;  // a title was released, and its screen was not opened yet
+  std::optional<Separation> separation;  // the partner left when the summary opened
 };
 
 // Moves the lines of `WeekFeed` to the summary and lays out its front page. A week without lines shows a tip.

@@ -20,10 +20,15 @@
 #include "banks/fame_banks.h"
 #include "banks/film_banks.h"
 #include "banks/jobs_banks.h"
+#include "banks/latch_profiles_banks.h"
+#include "banks/latch_prompts_banks.h"
+#include "banks/latch_talk_banks.h"
 #include "banks/names_banks.h"
 #include "banks/negotiation_banks.h"
 #include "banks/offers_banks.h"
 #include "banks/rate_movies_banks.h"
+#include "banks/relationship_questions_banks.h"
+#include "banks/relationships_banks.h"
 #include "banks/review_summary_banks.h"
 #include "banks/syndication_banks.h"
 #include "banks/talent_banks.h"
@@ -58,10 +63,15 @@ constexpr BankRow allBanks[] = {  // clang-format off
     FAME_BANKS(BANK_ROW)
     FILM_BANKS(BANK_ROW)
     JOBS_BANKS(BANK_ROW)
+    LATCH_PROFILES_BANKS(BANK_ROW)
+    LATCH_PROMPTS_BANKS(BANK_ROW)
+    LATCH_TALK_BANKS(BANK_ROW)
     NAMES_BANKS(BANK_ROW)
     NEGOTIATION_BANKS(BANK_ROW)
     OFFERS_BANKS(BANK_ROW)
     RATE_MOVIES_BANKS(BANK_ROW)
+    RELATIONSHIP_QUESTIONS_BANKS(BANK_ROW)
+    RELATIONSHIPS_BANKS(BANK_ROW)
     REVIEW_SUMMARY_BANKS(BANK_ROW)
     SYNDICATION_BANKS(BANK_ROW)
     TALENT_BANKS(BANK_ROW)

@@ -546,6 +546,55 @@ void addSeasons(Career& career, std::int64_t ahead) {
   career.addWrapped(second);
 }
 
+Matches match(const WorldState& world, const std::string& name, std::int64_t state) {
+  return {.matchId = std::ssize(world.saveAllMatchesList) + 1,
+          .name = name,
+          .matchImage = std::format("woman ({}).png", 7 + world.saveAllMatchesList.size()),
+          .matchPrompt = "My simple pleasures",
+          .matchPromptResponse = "Rain on a car roof",
+          .matchComment = "Which car?",
+          .occupation = "Pilot",
+          .weekMatched = world.weekNumberForTracking - 2,
+          .energyBonus = 6,
+          .relationshipStatus = 62.5,
+          .age = 31,
+          .chemistry = 24,
+          .beauty = 71,
+          .intelligence = 88,
+          .personality = 42,
+          .maintenance = 37,
+          .weeklyEarnings = 2'512.5,
+          .igFollowers = 12'400,
+          .interests = {"hiking", "hot yoga"},
+          .pickupLineResponse = "Any car. It is about the rain.",
+          .relationshipState = state,
+          .timeToPropose = 60};
+}
+
+// A single beginner's matches, of whom one says no and one is over.
+void meet(WorldState& world) {
+  world.saveAllMatchesList.push_back(match(world, "Mia", bond::matched));
+  world.saveAllMatchesList.push_back(match(world, "Noor", bond::matched));
+  world.saveAllMatchesList.edit(1).interested = 1;
+  Matches former = match(world, "Zoe", bond::ended);
+  former.weekStartedDating = 2;
+  former.weekEndedDating = 6;
+  former.breakupLine = "You only ever rehearse with me";
+  world.saveAllMatchesList.push_back(former);
+  world.rejectionCount = 1;
+  world.slideIntoDmsCount = 2;
+}
+
+// A partner of two years, and a match beside them.
+void love(WorldState& world, std::int64_t state, double meter) {
+  Matches partner = match(world, "Mia", state);
+  partner.weekStartedDating = world.weekNumberForTracking - 104;
+  partner.relationshipStatus = meter;
+  world.saveAllMatchesList.push_back(partner);
+  world.saveAllMatchesList.push_back(match(world, "Noor", bond::matched));
+  world.relationshipTracker = {"Mia: \"I noticed.\"", "Gossip: the two were seen at a bus stop."};
+}
+
 }  // namespace
 
 void beginner(WorldState& world) {
@@ -565,6 +614,7 @@ void beginner(WorldState& world) {
   career.add(career.project(filmType::commercial, funnel::closed, 12));
   sendWelcomeMail(world);
   fillCharts(world);
+  meet(world);
 }
 
 void working(WorldState& world) {
@@ -589,6 +639,8 @@ void working(WorldState& world) {
   chirp(world);
   fillCharts(world);
   world.saveStarRankingMeter = {100'000, 91'230};
+  love(world, bond::dating, 91);
+  subscribe(world, weeklyOption::metflix, "Metflix", 16);
 }
 
 void star(WorldState& world) {
@@ -629,6 +681,9 @@ void star(WorldState& world) {
   world.saveAllTalentAgents.edit(1).weekContractEnds = world.weekNumberForTracking - 3;
   speak(world);
   ownThings(world);
+  love(world, bond::engaged, 80.5);
+  world.saveRingImage = "ring4.png";
+  world.relationalFameImpact = 1.5;
 }
 
 }  // namespace tb::test

@@ -146,6 +146,8 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
   world.saveAllTopTenSeriesList = world.saveAllTopTenList;
   world.saveAllTalentAgents = {{.id = 8, .isSigned = 1, .weekToSendAudition = 5}};
   world.filmId = 99;
+  world.saveAllMatchesList = {
+      {.relationshipStatus = 60, .igFollowers = 1'000, .relationshipState = bond::dating}};
 
   witness.watch(
       world,
@@ -162,12 +164,14 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
        {"classes",
         [](const WorldState& state) { return state.saveAllCompletedClasses[0].weeksRemaining == 0; }},
        {"star", [](const WorldState& state) { return !state.saveStarRankingMeter.empty(); }},
+       {"relationship",
+        [](const WorldState& state) { return state.saveAllMatchesList[0].igFollowers != 1'000; }},
        {"cameo", [](const WorldState& state) { return !state.saveAllCameos.empty(); }},
        {"balance", [](const WorldState& state) { return !state.trackPatronEarnings.empty(); }},
        {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
   const WeekSummary summary = openSummary(game);
   expectSeen({"bids", "deals", "agent", "talk", "series", "saga", "films' chart", "series' chart, box office",
-              "classes, star", "cameo, balance, clean-up"});
+              "classes, star", "relationship", "cameo, balance, clean-up"});
   EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52,
               1e-9);  // the sale's boost of two, then the drift
   const auto lineWith = [&](const std::string& word) {

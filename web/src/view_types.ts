@@ -2,7 +2,7 @@
 // build the target view_types and run it.
 export type PageHead = "full" | "line";
 
-export type Icon = "none" | "home" | "work" | "social" | "life" | "wealth" | "backstage" | "settings" | "energy";
+export type Icon = "none" | "home" | "work" | "social" | "life" | "wealth" | "backstage" | "settings" | "energy" | "rose";
 
 export interface Tab {
   readonly label: string;
@@ -48,7 +48,7 @@ export interface Dialog {
   readonly answers: readonly Button[];
 }
 
-export type MomentScene = "deal" | "curtain" | "marquee" | "envelope";
+export type MomentScene = "deal" | "curtain" | "marquee" | "envelope" | "glow" | "tabloid";
 
 export type PictureKind = "avatar" | "poster" | "logo" | "house" | "vehicle" | "card" | "photo" | "icon";
 
@@ -246,6 +246,8 @@ export interface Bubble {
   readonly speaker: string;
   readonly text: string;
   readonly mine: boolean;
+  readonly letterTime: number;
+  readonly delay: number;
 }
 
 export interface TimelineEntry {

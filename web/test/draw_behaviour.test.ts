@@ -356,9 +356,34 @@ for (const still of [false, true]) {
   });
 }
 
+test("the arrow keys answer a card, but not in a field or under a message", async () => {
+  const nodes = [...swipe(answer("Like", 2)), typed(3, "Ada")];
+  const page = await drawn(nodes);
+  for (const key of ["ArrowRight", "ArrowLeft"]) await page.keyboard.press(key);
+  await page.getByLabel("Name").focus();
+  await page.keyboard.press("ArrowLeft");
+  await again(page, nodes, { dialog: make.dialog("Wait", "A moment.", answer("OK", 4)) });
+  await page.keyboard.press("ArrowRight");
+  assert.deepEqual(await done(page), [["press", 2], ["press", 1]]);
+});
+
+test("the letters of a message come one by one, and its words are there at once", async () => {
+  const message = "Let me write that down";
+  const page = await drawn([make.bubble("Robin", message, false, 0.03)], {}, { still: false });
+  const bubble = page.locator(".bubble");
+  assert.equal(await bubble.locator(".unseen").textContent(), message);
+  const before = (await bubble.boundingBox())!;
+  await page.waitForFunction(() => document.querySelector(".bubble-unwritten") === null);
+  assert.equal(await bubble.textContent(), message);
+  assert.deepEqual(await bubble.boundingBox(), before);
+  const still = await drawn([make.bubble("Robin", message, false, 0.03)], {}, { still: true });
+  assert.equal(await still.locator(".bubble").textContent(), message);
+});
+
 test("a card cannot be pushed to an answer that is off", async () => {
   const page = await drawn(swipe(answer("Like", 0, { offReason: "Tired." })));
   await push(page, 160);
+  await page.keyboard.press("ArrowRight");
   assert.deepEqual(await done(page), []);
 });
 

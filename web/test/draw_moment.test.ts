@@ -40,7 +40,7 @@ const over = (page: Page) => page.waitForFunction(() => document.querySelector("
 
 test("a moment plays for less than a second, once, and is told to who does not see it", async () => {
   const page = await gallery.open("hub", { still: false });
-  const scenes: readonly View.MomentScene[] = ["deal", "curtain", "marquee", "envelope"];
+  const scenes: readonly View.MomentScene[] = ["deal", "curtain", "marquee", "envelope", "glow", "tabloid"];
   for (const [index, scene] of scenes.entries()) {
     const length = await begin(page, pressable(booked(index + 1).map((each) => ({ ...each, scene }))));
     assert.ok(length >= 600 && length <= 900, `${scene}: ${length} ms`);
@@ -50,7 +50,7 @@ test("a moment plays for less than a second, once, and is told to who does not s
     await letGo(page);
     await over(page);
   }
-  await show(page, pressable(booked(4), { screen: 2 })); // returned to
+  await show(page, pressable(booked(6), { screen: 2 })); // returned to
   assert.equal(await playing(page), 0);
 });
 

@@ -77,7 +77,8 @@ export const poster = (title: string, genre: string, rest: Partial<View.Picture>
   ...usualPicture, kind: "poster", name: `${title}.png`, title, genre, ...rest,
 });
 export const pictureNode = (...shown: Parameters<typeof picture>) => node("picture", picture(...shown))();
-export const bubble = (speaker: string, text: string, mine = false) => node("bubble", { speaker, text, mine })();
+export const bubble = (speaker: string, text: string, mine = false, letterTime = 0) =>
+  node("bubble", { speaker, text, mine, letterTime, delay: 0 })();
 export const happened = (when: string, text: string) => node("timelineEntry", { when, text })();
 export const countdown = (label: string, secondsLeft: number, secondsInAll = 60) =>
   node("countdown", { label, secondsLeft, secondsInAll })();

@@ -7,7 +7,7 @@ import type { Page } from "playwright-core";
 
 import { inspect } from "./inspect";
 import {
-  actorWithOffers, choose, finds, heading, liveAWeek, nameField, openSaves, play, press, stage, startCareer, visit, workingActor,
+  actorWithOffers, choose, dater, finds, heading, liveAWeek, nameField, openSaves, play, press, stage, startCareer, visit, workingActor,
 } from "./runtime_site";
 import { keepsWordsWhole } from "./whole_words";
 
@@ -193,5 +193,56 @@ test("every offer to a working actor can be read by everybody", async () => {
     ["Work", [/^Auditions/, /Season 3/, /^Negotiate/, /^Ask for more/], "offers-negotiation"],
     ["Wealth", [/^Investments/], "offers-investments"],
     ["Wealth", [/^Investments/, /Released/], "offers-returns"],
+  ]);
+});
+
+const energyOf = async (page: Page): Promise<number> =>
+  Number(/Energy\D*(\d+)/u.exec(await page.locator("main, header").allInnerTexts().then((all) => all.join(" ")))![1]);
+
+// Drags a finger across the card.
+async function swipeCard(page: Page, pixels: number): Promise<void> {
+  const box = (await page.locator(".swipe-front").boundingBox())!;
+  const [x, y] = [box.x + box.width / 2, box.y + box.height / 2];
+  const touch = await page.context().newCDPSession(page);
+  const send = (type: "touchStart" | "touchMove" | "touchEnd", moved = 0) =>
+    touch.send("Input.dispatchTouchEvent", { type, touchPoints: type === "touchEnd" ? [] : [{ x: x + moved, y }] });
+  await send("touchStart");
+  for (let step = 1; step <= 8; step += 1) await send("touchMove", (pixels * step) / 8);
+  await send("touchEnd");
+}
+
+test("a dater swipes with a finger and with the keys, and everybody can read the screens of love", async () => {
+  const { page } = await play(setting, "Somebody Else");
+  await openSaves(page);
+  await choose(page, dater());
+  await press(page, "Replace my career");
+  await finds(page, "Ada Quinn");
+  await inspectOnTheWay(page, [
+    ["Life", [/^Latch/], "latch"],
+    ["Life", [/^Latch/, /^Your matches/], "latch-matches"],
+    ["Life", [/^Latch/, /^Your matches/, /^Noor/, /^SEND MESSAGE/], "latch-conversation"],
+    ["Life", [/^Latch/, /^Swipe/], "latch-card"],
+  ]);
+  const energy = await energyOf(page);
+  const shows = (left: number) => page.waitForFunction(
+    (wanted) => document.body.innerText.replace(/\s+/gu, " ").includes(`${wanted} of 100`), left);
+  await page.keyboard.press("ArrowLeft");
+  await shows(energy - 3);
+  await page.waitForTimeout(350); // a double tap at the same spot is ignored
+  await swipeCard(page, -200);
+  await shows(energy - 6);
+});
+
+test("every screen of a relationship can be read by everybody", async () => {
+  const { page } = await play(setting, "Somebody Else");
+  await openSaves(page);
+  await choose(page, actorWithOffers());
+  await press(page, "Replace my career");
+  await finds(page, "Ada Quinn");
+  await inspectOnTheWay(page, [
+    ["Life", [/^Mia/], "relationship"],
+    ["Life", [/^Mia/, /^About Mia/], "partner"],
+    ["Life", [/^Mia/, /^PROPOSE/], "rings"],
+    ["Life", [/^Mia/, /^PROPOSE/, /^Propose with Oval/, /^OK/, /^PLAN THE WEDDING/], "wedding-too-soon"],
   ]);
 });

@@ -242,6 +242,7 @@ export async function choose(page: Page, buffer: Buffer): Promise<void> {
 // The career of Ada Vale, in her fourth year with projects in every stage.
 const savedCareer = (name: string) => readFileSync(join(process.cwd(), `test/saves/${name}.plist`));
 export const workingActor = () => savedCareer("working_actor");
+export const dater = () => savedCareer("dating"); // the golden walk's beginner, exported
 export const actorWithOffers = () => savedCareer("offers"); // the golden walk's working performer, exported
 
 // For visit(): disables storage.

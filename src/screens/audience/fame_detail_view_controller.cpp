@@ -137,6 +137,16 @@ Node toNextLetter(std::int64_t level) {
                .text = tb::format("{} of {}", level, *next)};
 }
 
+// What the press made of the relationship. It is talked about, but brings no points.
+std::vector<Node> privateLife(const WorldState& world) {
+  if (world.relationalFameImpact == 0) return {};
+  return {Section{.heading = "PRIVATE LIFE",
+                  .nodes = {Row{.label = "Your relationship in the press",
+                                .value = tb::format("{}{:.1f}", world.relationalFameImpact < 0 ? "" : "+",
+                                                    world.relationalFameImpact),
+                                .detail = "Talked about, but not part of your fame level"}}}};
+}
+
 Chart sources(const FameParts& parts) {
   constexpr std::array names = {"Awards", "Scores", "Experience", "Image",
                                 "Talent", "Fans",   "Television", "Box office"};
@@ -160,14 +170,16 @@ void FameDetailViewController::load(Stage& stage) { updateFame(stage.game()); }
 Page FameDetailViewController::view(const Game& game) {
   const FameParts parts = fameParts(game.world);
   const std::int64_t level = fameLevel(parts);
-  return {.title = "Fame",
-          .subtitle = std::string(fameLetter(level)) + " LIST",
-          .nodes = {Tiles{{{.label = "Fame level",
-                            .value = std::to_string(level),
-                            .detail = std::string(fameLetter(level)) + " list"}}},
-                    toNextLetter(level), sources(parts), audience(game, parts), scores(parts),
-                    returns(game, parts), retention(parts), talent(game.world, parts),
-                    experience(game, parts), image(game.world, parts), awards(parts)}};
+  Page page{.title = "Fame",
+            .subtitle = std::string(fameLetter(level)) + " LIST",
+            .nodes = {Tiles{{{.label = "Fame level",
+                              .value = std::to_string(level),
+                              .detail = std::string(fameLetter(level)) + " list"}}},
+                      toNextLetter(level), sources(parts), audience(game, parts), scores(parts),
+                      returns(game, parts), retention(parts), talent(game.world, parts),
+                      experience(game, parts), image(game.world, parts), awards(parts)}};
+  page.nodes.append_range(privateLife(game.world));
+  return page;
 }
 
 }  // namespace tb

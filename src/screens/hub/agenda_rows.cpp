@@ -8,6 +8,9 @@
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/backstage/casting_network_view_controller.h"
+#include "screens/love/latch_match_list_view_controller.h"
+#include "screens/love/love_parts.h"
+#include "screens/love/relationship_home_view_controller.h"
 #include "screens/metflix/movie_award_view_controller.h"
 #include "screens/offers/email_inbox_view_controller.h"
 #include "screens/offers/renewal_negotiation_view_controller.h"
@@ -93,6 +96,23 @@ Row negotiationRow(const WorldState& world, const Audition& project) {
           .press = [id = project.filmId](Stage& stage) { openNegotiation(stage, id); }};
 }
 
+// --- Love ---
+
+Row neglectRow(const Matches& partner) {
+  return {.label = partner.name + " needs you",
+          .detail = "Below 0 the relationship is over",
+          .picture = {portraitOf(partner)},
+          .tone = Tone::warning,
+          .press = opens<RelationshipHomeViewController>()};
+}
+
+Row conversationRow(const WorldState& world, const Matches& match) {
+  return {.label = "Write to " + match.name,
+          .detail = "Matched on Latch " + agoWords(world, match.weekMatched),
+          .picture = {portraitOf(match)},
+          .press = opens<LatchMatchListViewController>()};
+}
+
 Row openRow(const Game& game, const AgendaItem& item) {
   const WorldState& world = game.world;
   switch (item.kind) {
@@ -103,6 +123,10 @@ Row openRow(const Game& game, const AgendaItem& item) {
       return mailRow("A gift waits in your inbox", world.saveAllEmailList[item.index]);
     case AgendaItem::Kind::lapse:
       return mailRow("This offer goes when the next email comes", world.saveAllEmailList[item.index]);
+    case AgendaItem::Kind::neglect:
+      return neglectRow(world.saveAllMatchesList[item.index]);
+    case AgendaItem::Kind::conversation:
+      return conversationRow(world, world.saveAllMatchesList[item.index]);
     case AgendaItem::Kind::negotiation:
       return negotiationRow(world, world.saveAllAuditionList[item.index]);
     case AgendaItem::Kind::submissions:
@@ -236,6 +260,9 @@ constexpr auto anyKind = [](AgendaItem::Kind) { return true; };
 constexpr auto isMail = [](AgendaItem::Kind kind) {
   return kind == AgendaItem::Kind::mail || kind == AgendaItem::Kind::gift || kind == AgendaItem::Kind::lapse;
 };
+constexpr auto isLove = [](AgendaItem::Kind kind) {
+  return kind == AgendaItem::Kind::neglect || kind == AgendaItem::Kind::conversation;
+};
 constexpr auto isGuild = [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::guild; };
 
 // What is due, and what of the wanted kinds there is room for. The guild opens once in a career, so it leads.
@@ -272,8 +299,9 @@ std::vector<Node> lastWeek(const Game& game) {
 }
 
 std::vector<Node> nextAtWork(const Game& game) {
-  std::vector<Node> rows = rowsAhead(
-      game, [](AgendaItem::Kind kind) { return kind != AgendaItem::Kind::training && !isMail(kind); });
+  std::vector<Node> rows = rowsAhead(game, [](AgendaItem::Kind kind) {
+    return kind != AgendaItem::Kind::training && !isMail(kind) && !isLove(kind);
+  });
   addRunningRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::answers; });
   return underNext(std::move(rows));
 }
@@ -290,7 +318,8 @@ std::vector<Node> nextInPublic(const Game& game) {
 
 std::vector<Node> nextInLife(const Game& game) {
   std::vector<Node> rows;
-  addOpenRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::training; });
+  addOpenRows(rows, game,
+              [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::training || isLove(kind); });
   addRunningRows(rows, game, [](AgendaItem::Kind kind) { return kind == AgendaItem::Kind::actingClass; });
   return underNext(std::move(rows));
 }

@@ -4,6 +4,7 @@
 #include "life/energy.h"
 #include "screens/hub/agenda_rows.h"
 #include "screens/hub/tabs.h"
+#include "screens/love/love_section.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -37,6 +38,7 @@ std::vector<view::Node> lifeTab(const Game& game) {
   const WorldState& world = game.world;
   std::vector<view::Node> nodes = {energyMeter(world)};
   nodes.append_range(nextInLife(game));
+  nodes.push_back(loveSection(game));
   nodes.append_range(std::vector<view::Node>{
       everyWeek(world),
       view::Section{

@@ -2,6 +2,7 @@
 
 #include "core/format.h"
 #include "core/number_style.h"
+#include "screens/love/love_parts.h"
 #include "screens/moments.h"
 #include "screens/offers/email_inbox_view_controller.h"
 #include "screens/parts.h"
@@ -20,6 +21,9 @@ namespace {
 constexpr std::size_t rowsAtOnce = 12;
 
 std::vector<Picture> pictureOf(const WorldState& world, const Story& story) {
+  if (story.about.kind == NewsKind::birth && !world.saveAllChildList.empty()) {
+    return {childPicture(world, world.saveAllChildList.back())};
+  }
   if (story.project.empty()) return {};
   return {posterOf(world, story.project.front())};
 }
@@ -100,6 +104,12 @@ std::vector<Node> rowNodes(const Game& game, const FrontPage& page) {
   for (const Story& story : page.folded) fold.nodes.push_back(headlineNode(game, story, false));
   nodes.push_back(std::move(fold));
   return nodes;
+}
+
+void playStory(Stage& stage, const Story& story) {
+  const WorldState& world = stage.game().world;
+  if (!isMoment(world, story.about, {})) return;
+  stage.play(momentOf(story.about.kind, momentLine(story), pictureOf(world, story)));
 }
 
 void playHeadline(Stage& stage, const FrontPage& page) {

@@ -14,6 +14,9 @@ namespace tb {
 // they are laid out.
 [[nodiscard]] std::vector<view::Node> rowNodes(const Game& game, const FrontPage& page);
 
+// Plays the scene of a story that came after the page was laid out, if it is a moment.
+void playStory(Stage& stage, const Story& story);
+
 // Plays the scene of the headline if it is a moment.
 void playHeadline(Stage& stage, const FrontPage& page);
 

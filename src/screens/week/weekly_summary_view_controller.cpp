@@ -1,9 +1,12 @@
 #include "screens/week/weekly_summary_view_controller.h"
 
+#include <utility>
+
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/text.h"
 #include "screens/film/new_release_view_controller.h"
+#include "screens/love/love_parts.h"
 #include "screens/metflix/movie_award_view_controller.h"
 #include "screens/parts.h"
 #include "screens/week/front_page_nodes.h"
@@ -65,10 +68,22 @@ void askForReview(Stage& stage) {
 void WeeklySummaryViewController::load(Stage& stage) {
   summary_ = openSummary(stage.game());
   playHeadline(stage, summary_.frontPage);
+  tellSeparation(stage, summary_.separation);
+}
+
+// What phase C brings stands above the week's other news.
+void WeeklySummaryViewController::showLateNews(Stage& stage) {
+  for (Story& story : takeLateStories(stage.game())) {
+    playStory(stage, story);
+    summary_.hasNews = true;
+    summary_.frontPage.rows.insert(summary_.frontPage.rows.begin(), std::move(story));
+  }
 }
 
 void WeeklySummaryViewController::appear(Stage& stage) {
   if (isReviewPromptDue(stage.game().world)) askForReview(stage);
+  tellSeparation(stage, returnToSummary(stage.game()));
+  showLateNews(stage);
 }
 
 void WeeklySummaryViewController::leave(Stage& stage) { closeSummary(stage.game()); }

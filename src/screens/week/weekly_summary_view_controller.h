@@ -18,6 +18,7 @@ class WeeklySummaryViewController : public Screen {
   [[nodiscard]] TabsHere tabsHere() const override { return TabsHere::later; }
 
  private:
+  void showLateNews(Stage& stage);
   [[nodiscard]] view::Button releaseButton();
   [[nodiscard]] view::Button awardButton();
   [[nodiscard]] view::Section feed(const Game& game);

@@ -27,6 +27,8 @@ std::string_view glyphOf(view::Icon icon) {
       return "B";
     case view::Icon::settings:
       return "⚙️";
+    case view::Icon::rose:
+      return "🌹";
   }
   std::unreachable();
 }

@@ -68,7 +68,7 @@ namespace tb {
 
 VIEW_ENUM(Tone, plain, quiet, good, warning, accent);
 VIEW_ENUM(Band, none, poor, fair, good, great);
-VIEW_ENUM(Icon, none, home, work, social, life, wealth, backstage, settings, energy);
+VIEW_ENUM(Icon, none, home, work, social, life, wealth, backstage, settings, energy, rose);
 VIEW_ENUM(PictureKind, avatar, poster, logo, house, vehicle, card, photo, icon);
 VIEW_ENUM(PosterFormat, feature, series, commercial, student, shortFilm);
 VIEW_ENUM(Text::Style, body, large, caption, quotation, heading);
@@ -76,7 +76,7 @@ VIEW_ENUM(Button::Weight, normal, primary, quiet, destructive, done);
 VIEW_ENUM(Row::Step, none, open, taken);
 VIEW_ENUM(Chart::Kind, line, bar, pie, histogram);
 VIEW_ENUM(Place::Move, none, up, down, level, entered);
-VIEW_ENUM(Moment::Scene, deal, curtain, marquee, envelope);
+VIEW_ENUM(Moment::Scene, deal, curtain, marquee, envelope, glow, tabloid);
 VIEW_ENUM(Page::Head, full, line);
 
 VIEW_STRUCT(Picture, kind, name, description, title, genre, format, season, billed, age);
@@ -101,7 +101,7 @@ VIEW_STRUCT(Choice, label, options, several);
 VIEW_STRUCT(Chart::Point, label, value, text);
 VIEW_STRUCT(Chart::Tick, value, text);
 VIEW_STRUCT(Chart, kind, title, points, scale, summary);
-VIEW_STRUCT(Bubble, speaker, text, mine);
+VIEW_STRUCT(Bubble, speaker, text, mine, letterTime, delay);
 VIEW_STRUCT(TimelineEntry, when, text);
 VIEW_STRUCT(Countdown, label, secondsLeft, secondsInAll);
 VIEW_STRUCT(Section, heading, nodes);

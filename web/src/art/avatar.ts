@@ -92,7 +92,7 @@ interface Face {
   readonly hairColour: string;
   readonly eyes: (typeof eyes)[number];
   readonly nose: (typeof noses)[number] | "wrinkles";
-  readonly mouth: (typeof paintedMouths)[number];
+  readonly mouth: (typeof paintedMouths)[number] | "pacifier";
   readonly skin: string;
   readonly beard: (typeof beards)[number] | ""; // empty for none
   readonly backdrop: string;
@@ -151,11 +151,31 @@ function performer(name: string, number: number, age: number, chance: Chance): F
   };
 }
 
+// A child's face.
+const child = /^(fe)?malechild/u;
+
+function young(name: string, age: number, chance: Chance): Face {
+  const female = name.startsWith("female");
+  const grown = chance.pick(female ? youngLongHair : youngShortHair);
+  return {
+    ...someone(name, chance),
+    female,
+    hair: age < 1 ? chance.pick(["bald", "buzzcut"] as const) : grown,
+    hairColour: chance.pick(youngHairColours),
+    eyes: chance.pick(["open", "happy"] as const),
+    nose: "smallRound",
+    mouth: age < 2 ? "pacifier" : "bigSmile",
+    beard: "",
+  };
+}
+
 // The face of a name; for a headshot at an age in years, if known.
 export function avatar(name: string, age = 0): string {
   const chance = new Chance(`avatar ${name}`);
   const number = Number(headshot.exec(name)?.[1] ?? 0);
-  const face = number > 0 ? performer(name, number, age, chance) : someone(name, chance);
+  const face = number > 0
+    ? performer(name, number, age, chance)
+    : child.test(name) ? young(name, age, chance) : someone(name, chance);
   const art = createAvatar(personas, {
     seed: "",
     body: [chance.pick(bodies)],

@@ -1,6 +1,6 @@
-// A card that is answered by swiping or with one of its two buttons.
+// A card that is answered by swiping, with the arrow keys or with one of its two buttons.
 
-import { useLayoutEffect, useRef } from "preact/hooks";
+import { useEffect, useLayoutEffect, useRef } from "preact/hooks";
 
 import type * as View from "../view_types";
 import { PressButton } from "./button";
@@ -16,6 +16,13 @@ const flight = 140; // milliseconds of the exit animation
 const lean = 0.06; // degrees per pixel
 
 type Side = "left" | "right";
+
+const sides: Readonly<Record<string, Side>> = { ArrowLeft: "left", ArrowRight: "right" };
+
+// Whether the arrow keys do something else there: in a field or a choice, and under a message.
+const usesArrows = (target: EventTarget | null): boolean =>
+  document.querySelector("dialog[open]") !== null ||
+  (target instanceof HTMLElement && target.closest("input, textarea, select") !== null);
 
 interface Push {
   readonly pointer: number;
@@ -58,6 +65,18 @@ function usePushing() {
   };
 
   useLayoutEffect(() => () => clearTimeout(leaving.current), []);
+
+  useEffect(() => {
+    const onKeyDown = (event: KeyboardEvent) => {
+      const side = sides[event.key];
+      if (side === undefined || event.repeat || event.altKey || event.ctrlKey || event.metaKey) return;
+      if (leaving.current !== 0 || usesArrows(event.target) || !buttonOf(side)) return;
+      event.preventDefault();
+      answer(side);
+    };
+    window.addEventListener("keydown", onKeyDown);
+    return () => window.removeEventListener("keydown", onKeyDown);
+  }, []);
 
   return {
     ref: card,
