@@ -252,6 +252,18 @@ std::string Player::said() const {
   return passing.empty() ? "" : passing.front().text;
 }
 
+void Player::answerStory() {
+  if (title() != "PUBLIC RELATIONS") return;
+  for (const view::Node& node : page().nodes) {
+    const auto* const option = std::get_if<view::Card>(&node.node);
+    if (option == nullptr) continue;
+    const auto& button = std::get<view::Button>(option->nodes.front().node);
+    if (!button.price.amount.empty()) continue;
+    app_.press(button.handle);
+    return app_.press(page().main.front().handle);
+  }
+}
+
 Player::Usable Player::find(const std::string& label, Usable::Kind kind) const {
   for (const Usable& usable : this->usable()) {
     const bool hasThatName = usable.label == label || usable.name == label;

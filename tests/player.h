@@ -42,6 +42,9 @@ class Player {
   // Expects the notice and answers it with OK.
   void expectTold(const std::string& title);
 
+  // Answers the story about the performer, if the week's summary opened one, with a free option.
+  void answerStory();
+
   // An item that can be pressed, typed into or slid.
   struct Usable {
     std::string label = {};

@@ -28,6 +28,7 @@ class SubmittingPlayer {
   void endWeek() {
     press("End Week");
     press("Not Today");  // to recommend the game, once in a career
+    player_.answerStory();
     press("Carry on");
   }
 

@@ -57,8 +57,14 @@ constexpr char chirpFile[] = {
 constexpr char criticsFile[] = {
 #embed "banks/critics.txt"
 };
+constexpr char dilemmasFile[] = {
+#embed "banks/dilemmas.txt"
+};
 constexpr char earningsFile[] = {
 #embed "banks/earnings.txt"
+};
+constexpr char eventsFile[] = {
+#embed "banks/events.txt"
 };
 constexpr char fameFile[] = {
 #embed "banks/fame.txt"
@@ -77,6 +83,9 @@ constexpr char latchPromptsFile[] = {
 };
 constexpr char latchTalkFile[] = {
 #embed "banks/latch_talk.txt"
+};
+constexpr char lifestyleFile[] = {
+#embed "banks/lifestyle.txt"
 };
 constexpr char namesFile[] = {
 #embed "banks/names.txt"
@@ -115,7 +124,7 @@ constexpr char weekFile[] = {
 #embed "banks/week.txt"
 };
 
-constexpr std::array<std::string_view, 29> files = {{
+constexpr auto files = std::to_array<std::string_view>({
     {agentsFile, sizeof agentsFile},
     {allTimeFile, sizeof allTimeFile},
     {angelFile, sizeof angelFile},
@@ -126,13 +135,16 @@ constexpr std::array<std::string_view, 29> files = {{
     {cameoFile, sizeof cameoFile},
     {chirpFile, sizeof chirpFile},
     {criticsFile, sizeof criticsFile},
+    {dilemmasFile, sizeof dilemmasFile},
     {earningsFile, sizeof earningsFile},
+    {eventsFile, sizeof eventsFile},
     {fameFile, sizeof fameFile},
     {filmFile, sizeof filmFile},
     {jobsFile, sizeof jobsFile},
     {latchProfilesFile, sizeof latchProfilesFile},
     {latchPromptsFile, sizeof latchPromptsFile},
     {latchTalkFile, sizeof latchTalkFile},
+    {lifestyleFile, sizeof lifestyleFile},
     {namesFile, sizeof namesFile},
     {negotiationFile, sizeof negotiationFile},
     {offersFile, sizeof offersFile},
@@ -145,7 +157,7 @@ constexpr std::array<std::string_view, 29> files = {{
     {titlesFile, sizeof titlesFile},
     {userReviewsFile, sizeof userReviewsFile},
     {weekFile, sizeof weekFile},
-}};
+});
 
 std::string allFiles() {
   std::string all;

@@ -50,6 +50,14 @@ bool isTaken(const WorldState& world, std::int64_t classId) {
   return std::ranges::contains(world.saveAllCompletedClasses, classId, &ActingClass::classId);
 }
 
+std::int64_t finishedClasses(const WorldState& world) {
+  return std::ranges::count_if(julliardClasses, [&](const JulliardClass& row) {
+    return std::ranges::any_of(world.saveAllCompletedClasses, [&](const ActingClass& taken) {
+      return taken.classId == row.id && taken.weeksRemaining < 1;
+    });
+  });
+}
+
 std::int64_t classEnergy(const WorldState& world) {
   std::int64_t energy = 0;
   for (const ActingClass& running : world.saveAllCompletedClasses) {

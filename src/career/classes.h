@@ -29,6 +29,9 @@ struct ClassOption {
 // The fraction of the curriculum that was taken, 0 to 1.
 [[nodiscard]] double completionPercentage(const WorldState& world);
 
+// How many different classes of the curriculum are finished, 0 to 47.
+[[nodiscard]] std::int64_t finishedClasses(const WorldState& world);
+
 // The energy cost of the running classes, in points per week.
 [[nodiscard]] std::int64_t classEnergy(const WorldState& world);
 

@@ -4,6 +4,7 @@
 
 #include "core/format.h"
 #include "core/house_notices.h"
+#include "core/text.h"
 
 namespace tb {
 
@@ -21,6 +22,12 @@ const std::array<Trait, 5> traits = {{
     {"MEMORIZATION", &WorldState::talentTrait4, &WorldState::talentTraitCost4, 1},
     {"VOICE", &WorldState::talentTrait5, &WorldState::talentTraitCost5, 2},
 }};
+
+std::string spokenName(const Trait& trait) {
+  std::string name = lowerCase(trait.label);
+  name.front() = trait.label.front();
+  return name;
+}
 
 std::int64_t nextValue(const WorldState& world, const Trait& trait) {
   return std::min(world.*trait.price / trait.pricePerPoint, maxTrait);

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "core/game.h"
@@ -20,6 +21,9 @@ struct Trait {
 };
 
 extern const std::array<Trait, 5> traits;
+
+// The trait's name as "Charisma": some screen readers spell out names in capitals.
+[[nodiscard]] std::string spokenName(const Trait& trait);
 
 inline constexpr std::int64_t maxTrait = 100;
 

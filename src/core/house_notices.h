@@ -21,4 +21,11 @@ inline constexpr char tooLittleCash[] = "Too little cash";
   return {.title = "💰 Not Enough Cash 💰", .message = std::move(sentence), .brief = tooLittleCash};
 }
 
+// `need` says in a few words what is missing.
+[[nodiscard]] inline Notice requirementsNotMet(std::string need) {
+  return {.title = "Requirements Not Met",
+          .message = "\nThere is a requirement that you haven't met yet",
+          .brief = std::move(need)};
+}
+
 }  // namespace tb

@@ -18,13 +18,16 @@
 #include "film/syndication_deals.h"
 #include "film/syndication_offers.h"
 #include "life/energy.h"
+#include "life/public_relations.h"
 #include "life/relationship_week.h"
+#include "life/week_events.h"
 #include "social/cameo.h"
 #include "social/fame.h"
 #include "social/fans.h"
 #include "social/star_meter.h"
 #include "wealth/best_figures.h"
 #include "wealth/market_index.h"
+#include "week/review_prompt.h"
 
 namespace tb {
 
@@ -94,6 +97,7 @@ WeekSummary openSummary(Game& game) {
   driftPopularity(game);
   renewSeries(game);
   renewSaga(game);
+  for (const WeekEvent event : drawWeekEvents(game)) summary.events.push_back({event});
   advanceFilmChart(game);
   advanceSeriesChart(game);
   closeBoxOffice(game);
@@ -109,7 +113,13 @@ WeekSummary openSummary(Game& game) {
   return summary;
 }
 
-std::optional<Separation> returnToSummary(Game& game) { return relationshipWeekStep(game); }
+SummaryCalls showSummary(Game& game) {
+  SummaryCalls calls;
+  calls.forReview = isReviewPromptDue(game.world);
+  calls.separation = relationshipWeekStep(game);
+  calls.forRandomEvent = randomEventStep(game);
+  return calls;
+}
 
 void closeSummary(Game& game) {
   recordWeekNet(game);

@@ -20,9 +20,14 @@ void endWeek(Game& game);
 // Phase B, when the summary opens, right after phase A. The clock already shows the new week.
 [[nodiscard]] WeekSummary openSummary(Game& game);
 
-// Phase C, each time the summary comes to the top, also after opening: the relationship's step runs again.
-// Returns the separation when the partner left.
-[[nodiscard]] std::optional<Separation> returnToSummary(Game& game);
+// Phase C, each time the summary comes to the top: when it opens, and when a screen over it closes. The
+// relationship's step runs again.
+struct SummaryCalls {
+  bool forReview = false;                // the player is asked to recommend the game
+  std::optional<Separation> separation;  // the partner left
+  bool forRandomEvent = false;           // a public relations event opens
+};
+[[nodiscard]] SummaryCalls showSummary(Game& game);
 
 // Phase D, when the player closes the summary.
 void closeSummary(Game& game);

@@ -9,10 +9,16 @@
 
 #include "core/game.h"
 #include "life/separation.h"
+#include "life/week_events.h"
 #include "wealth/weekly_balance.h"
 #include "week/front_page.h"
 
 namespace tb {
+
+struct OfferedEvent {
+  WeekEvent event;
+  std::vector<WeekEventResult> result = {};  // none until it is used
+};
 
 struct WeekSummary {
   std::int64_t week = 0;  // the week that ended
@@ -20,7 +26,8 @@ struct WeekSummary {
   WeekBalance balance;
   bool hasNews = false;  // false: the only line is a tip
   std::vector<std::string> feed;
-  FrontPage frontPage;         // the same lines laid out; without a tip
+  FrontPage frontPage;  // the same lines laid out; without a tip
+  std::vector<OfferedEvent> events;
   bool offersAwards = false;   // the year's nominations are out, and their screen was not opened yet
   bool offersRelease = false;  // a title was released, and its screen was not opened yet
   std::optional<Separation> separation;  // the partner left when the summary opened

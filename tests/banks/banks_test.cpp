@@ -15,14 +15,17 @@
 #include "banks/cameo_banks.h"
 #include "banks/chirp_banks.h"
 #include "banks/critics_banks.h"
+#include "banks/dilemmas_banks.h"
 #include "banks/draw.h"
 #include "banks/earnings_banks.h"
+#include "banks/events_banks.h"
 #include "banks/fame_banks.h"
 #include "banks/film_banks.h"
 #include "banks/jobs_banks.h"
 #include "banks/latch_profiles_banks.h"
 #include "banks/latch_prompts_banks.h"
 #include "banks/latch_talk_banks.h"
+#include "banks/lifestyle_banks.h"
 #include "banks/names_banks.h"
 #include "banks/negotiation_banks.h"
 #include "banks/offers_banks.h"
@@ -59,13 +62,16 @@ constexpr BankRow allBanks[] = {  // clang-format off
     CAMEO_BANKS(BANK_ROW)
     CHIRP_BANKS(BANK_ROW)
     CRITICS_BANKS(BANK_ROW)
+    DILEMMAS_BANKS(BANK_ROW)
     EARNINGS_BANKS(BANK_ROW)
+    EVENTS_BANKS(BANK_ROW)
     FAME_BANKS(BANK_ROW)
     FILM_BANKS(BANK_ROW)
     JOBS_BANKS(BANK_ROW)
     LATCH_PROFILES_BANKS(BANK_ROW)
     LATCH_PROMPTS_BANKS(BANK_ROW)
     LATCH_TALK_BANKS(BANK_ROW)
+    LIFESTYLE_BANKS(BANK_ROW)
     NAMES_BANKS(BANK_ROW)
     NEGOTIATION_BANKS(BANK_ROW)
     OFFERS_BANKS(BANK_ROW)
@@ -171,11 +177,30 @@ std::size_t ownWords(const std::string& row) {
 // Log lines repeat often, so a quarter of each bank is short.
 TEST(Banks, HaveShortRowsInLogBanks) {
   constexpr std::size_t shortRow = 50;
-  for (const Bank bank :
-       {bank::submission, bank::silence, bank::invitation, bank::investmentWrap, bank::payday,
-        bank::withdrawal, bank::seriesCancellation, bank::seriesRenewal, bank::sagaRenewal, bank::sagaEnding,
-        bank::premiere, bank::closing, bank::residualPaidBank, bank::equityPaidBank, bank::royaltyPaidBank,
-        bank::royaltySignedBank, bank::syndicationDealBank, bank::showreelScene, bank::classSignUp}) {
+  for (const Bank bank : {bank::submission,
+                          bank::silence,
+                          bank::invitation,
+                          bank::investmentWrap,
+                          bank::payday,
+                          bank::withdrawal,
+                          bank::seriesCancellation,
+                          bank::seriesRenewal,
+                          bank::sagaRenewal,
+                          bank::sagaEnding,
+                          bank::premiere,
+                          bank::closing,
+                          bank::residualPaidBank,
+                          bank::equityPaidBank,
+                          bank::royaltyPaidBank,
+                          bank::royaltySignedBank,
+                          bank::syndicationDealBank,
+                          bank::showreelScene,
+                          bank::classSignUp,
+                          bank::localTheater,
+                          bank::scriptReading,
+                          bank::sideHustle,
+                          bank::streetMime,
+                          bank::publicImage}) {
     const auto plain =
         std::ranges::count_if(rowsOf(bank), [](const std::string& row) { return ownWords(row) <= shortRow; });
     EXPECT_GE(plain * 4, std::ssize(rowsOf(bank))) << rowsOf(bank).front();

@@ -89,6 +89,7 @@ void Tourist::playWeeks(int weeks) {
     goHome();
     if (!pressIfThere("Home") || !pressIfThere("End Week")) return;
     answerDialogs();
+    player_.answerStory();
     pressIfThere("Close");
     answerDialogs();
   }

@@ -85,7 +85,7 @@ TEST(AudienceJourney, FameOpensTheCameoAndPatron) {
   test::Player& player = device.player();
   player.follow({"Social", "The Cameo"});
   player.expectSees({"TO OPEN"});
-  player.press("Sign up for The Cameo");
+  player.follow({"Sign up for The Cameo", "Subscribe"});
   player.follow({"Home", "Social", "Patron"});
   player.press("Sign up for Movie Pass");
   player.expectTold("💰 Not Enough Cash 💰");
@@ -124,7 +124,7 @@ TEST(AudienceJourney, FameOpensTheCameoAndPatron) {
   // A tenth review, and Patron pays by fans, fame and interest.
   device.playWeeks(2);
   player.follow({"Social", "Patron"});
-  player.press("Sign up for Movie Pass");
+  player.follow({"Sign up for Movie Pass", "Subscribe"});
   player.expectSees({"📝 Not Enough Reviews 📝"});
   player.press("Review a movie");
   player.follow({"7 ★", "❇️ Write it for me", "Submit"});

@@ -63,6 +63,7 @@ class Beginner {
     }
     actInPlace("Train to ");
     use(page().main.front().handle);
+    device_.player().answerStory();
     EXPECT_EQ(page().title, "REVIEW");
     while (!page().dialog.empty()) use(page().dialog.front().answers.front().handle);
     use(page().main.front().handle);
@@ -174,7 +175,7 @@ TEST_F(FirstWeeksJourney, ButtonsShowRefusalsAndCompletion) {
 
 TEST_F(FirstWeeksJourney, TabsAndEndWeekAreOnEveryScreen) {
   player().follow({"Work", "Talent", "Life"});
-  player().expectSees({"WEEKLY ENERGY COSTS"});
+  player().expectSees({"Energy tracker"});
   player().follow({"Work", "Acting Classes", "End Week"});
   EXPECT_EQ(player().title(), "REVIEW");
   for (const test::Player::Usable& usable : player().usable()) EXPECT_NE(usable.label, "Home");

@@ -65,6 +65,7 @@ const Film& Device::film(std::int64_t id) const {
 void Device::endWeek() {
   player().follow({"Home", "End Week"});
   if (player().sees("Not Today")) player().press("Not Today");  // to recommend the game, once in a career
+  player().answerStory();
   EXPECT_EQ(player().title(), "REVIEW");
 }
 

@@ -40,7 +40,7 @@ class Device {
   }
   [[nodiscard]] const Film& film(std::int64_t id) const;
 
-  // Ends a week and leaves its summary open.
+  // Ends a week and leaves its summary open. A story that breaks about the performer is answered.
   void endWeek();
   // Ends weeks and closes their summaries; returns the words of the last one.
   std::vector<std::string> playWeeks(int weeks = 1);

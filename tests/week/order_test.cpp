@@ -24,9 +24,13 @@ class Witness : public RandomSource {
  public:
   std::uint64_t next() override {
     look();
-    return word_;
+    const bool isLucky = !seen_.empty() && seen_.back() == lucky_step_ && draws_after_++ == 1;
+    return isLucky ? highest : word_;
   }
-  void giveHighest() { word_ = ~std::uint64_t{0}; }
+  void give(std::uint64_t word) { word_ = word; }
+  void giveHighest() { give(highest); }
+  // The first draw after this step and its line gives the highest value.
+  void giveHighestAfter(std::string step) { lucky_step_ = std::move(step); }
   void watch(const WorldState& world, std::vector<Trace> traces) {
     world_ = &world;
     awaited_ = std::move(traces);
@@ -49,7 +53,11 @@ class Witness : public RandomSource {
     if (!noticed.empty()) seen_.push_back(noticed);
   }
 
+  static constexpr std::uint64_t highest = ~std::uint64_t{0};
+
   std::uint64_t word_ = 1;
+  std::string lucky_step_;
+  int draws_after_ = 0;
   const WorldState* world_ = nullptr;
   std::vector<Trace> awaited_;
   std::vector<std::string> seen_;
@@ -169,7 +177,9 @@ TEST_F(WeekStepOrder, OfTheSummaryThatOpens) {
        {"cameo", [](const WorldState& state) { return !state.saveAllCameos.empty(); }},
        {"balance", [](const WorldState& state) { return !state.trackPatronEarnings.empty(); }},
        {"clean-up", [](const WorldState& state) { return !state.save.empty(); }}});
+  witness.giveHighestAfter("saga");
   const WeekSummary summary = openSummary(game);
+  EXPECT_EQ(summary.events.size(), 3u) << "the events of the week are drawn right after the sagas";
   expectSeen({"bids", "deals", "agent", "talk", "series", "saga", "films' chart", "series' chart, box office",
               "classes, star", "relationship", "cameo, balance, clean-up"});
   EXPECT_NEAR(world.saveAllFilmList[0].lastWeekPopularity, 52,
@@ -261,6 +271,19 @@ TEST_F(WeekStepOrder, OfTheAudience) {
   witness.giveHighest();
   playTheWeek(28);
   expectSeen({"drift", "swing, energy"});
+}
+
+// Each time it appears. A story breaks on the one roll in seven that the middle of all words gives.
+TEST_F(WeekStepOrder, OfTheSummaryThatAppears) {
+  witness.give(std::uint64_t{1} << 63);
+  world.weekNumber = 31;
+  EXPECT_TRUE(showSummary(game).forReview);
+  EXPECT_FALSE(showSummary(game).forRandomEvent);
+  world.weekNumber = 33;
+  EXPECT_TRUE(showSummary(game).forRandomEvent);
+  EXPECT_FALSE(showSummary(game).forRandomEvent);
+  endWeek(game);
+  EXPECT_EQ(world.randomEventShownThisWeek, 0);
 }
 
 TEST_F(WeekStepOrder, OfTheSummaryThatCloses) {

@@ -84,6 +84,8 @@ test("every other screen of a beginner can be read and left", async () => {
     ["Social", [/^Star Meter/], "star-meter"],
     ["Social", [/^The Cameo/], "cameo"],
     ["Social", [/^Patron/], "patron"],
+    ["Life", [/^Energy(?! tracker)/], "energy"],
+    ["Life", [/^Energy tracker/], "energy-tracker"],
     ["Work", [/^Metflix Top 10/], "chart"],
     ["Work", [/^Metflix Top 10/, /^New on Metflix/], "metflix-news"],
     ["Work", [/^Awards/], "no-awards"],
@@ -163,6 +165,8 @@ test("every screen of a working actor can be read by everybody", async () => {
     ["Wealth", [/^Weekly Expenses/], "actor-expenses"],
     ["Wealth", [/^Payments/], "actor-payments"],
     ["Life", [], "actor-life"],
+    ["Life", [/^Energy(?! tracker)/], "actor-energy"],
+    ["Life", [/^Energy tracker/], "actor-energy-tracker"],
   ]);
   const taken = await figuresUnder(page, "WEEKLY ENERGY COSTS");
   const inAll = taken.pop()!;

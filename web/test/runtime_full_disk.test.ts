@@ -8,7 +8,9 @@ import { test } from "node:test";
 import type { BrowserContext, Page } from "playwright-core";
 
 import { inspect } from "./inspect";
-import { download, liveAWeek, playOther, says, stage, startAnother, startCareer, waitForGame } from "./runtime_site";
+import {
+  download, liveAWeek, playOther, says, stage, startAnother, startCareer, storyOption, waitForGame,
+} from "./runtime_site";
 import { canMount, openProfile, SmallDisk } from "./small_disk";
 
 const setting = stage();
@@ -24,6 +26,7 @@ async function liveOn(page: Page): Promise<void> {
       await page.waitForTimeout(400);
       if ((await dialog.count()) > 0) await press("OK", dialog);
       else if ((await next.count()) > 0) return;
+      else if ((await storyOption(page).count()) > 0) await storyOption(page).click();
       else await press();
     }
   };

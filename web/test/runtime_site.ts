@@ -182,10 +182,24 @@ export async function pressAgain(page: Page, name: string): Promise<void> {
   await press(page, name);
 }
 
+// The free option of a story about the performer.
+export const storyOption = (page: Page) =>
+  page.getByRole("main").locator("button", { hasText: "Do this" }).filter({ hasNotText: "COST" }).first();
+
+// Waits for the review, and answers a story about the performer that opens over it.
+export async function reachReview(page: Page): Promise<void> {
+  const review = page.getByRole("heading", { name: "REVIEW", exact: true });
+  await review.or(storyOption(page)).waitFor();
+  if ((await review.count()) > 0) return;
+  await storyOption(page).click();
+  await pressAgain(page, "Carry on");
+  await review.waitFor();
+}
+
 // Ends a week from the hub and returns to it.
 export async function liveAWeek(page: Page): Promise<void> {
   await pressAgain(page, "End Week");
-  await heading(page, "REVIEW");
+  await reachReview(page);
   await pressAgain(page, "Carry on");
   await page.getByRole("button", { name: "End Week" }).waitFor();
 }

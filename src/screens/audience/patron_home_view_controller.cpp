@@ -8,7 +8,7 @@
 #include "core/weekly_option.h"
 #include "film/movie_reviews.h"
 #include "screens/audience/patron_analytics_view_controller.h"
-#include "screens/audience/subscription.h"
+#include "screens/life/subscription.h"
 #include "screens/parts.h"
 #include "screens/reception/rate_movies_view_controller.h"
 #include "wealth/patron_pay.h"

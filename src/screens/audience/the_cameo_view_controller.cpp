@@ -8,7 +8,7 @@
 #include "core/number_style.h"
 #include "core/text.h"
 #include "core/weekly_option.h"
-#include "screens/audience/subscription.h"
+#include "screens/life/subscription.h"
 #include "screens/audience/the_cameo_price_view_controller.h"
 #include "screens/headshot.h"
 #include "screens/parts.h"

@@ -1,16 +1,9 @@
 #include "screens/talent/trait_parts.h"
 
 #include "core/format.h"
-#include "core/text.h"
 #include "screens/parts.h"
 
 namespace tb {
-
-std::string spokenName(const Trait& trait) {
-  std::string name = lowerCase(trait.label);
-  name.front() = trait.label.front();
-  return name;
-}
 
 view::Button trainButton(const WorldState& world, std::size_t index) {
   const Trait& trait = traits[index];

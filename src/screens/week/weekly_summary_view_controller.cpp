@@ -7,9 +7,13 @@
 #include "core/text.h"
 #include "screens/film/new_release_view_controller.h"
 #include "screens/love/love_parts.h"
+#include "screens/love/relationship_event_view_controller.h"
 #include "screens/metflix/movie_award_view_controller.h"
 #include "screens/parts.h"
+#include "screens/reception/rate_movies_view_controller.h"
 #include "screens/week/front_page_nodes.h"
+#include "screens/week/random_event_view_controller.h"
+#include "screens/week/week_event_rows.h"
 #include "week/end_week.h"
 #include "week/review_prompt.h"
 
@@ -81,9 +85,11 @@ void WeeklySummaryViewController::showLateNews(Stage& stage) {
 }
 
 void WeeklySummaryViewController::appear(Stage& stage) {
-  if (isReviewPromptDue(stage.game().world)) askForReview(stage);
-  tellSeparation(stage, returnToSummary(stage.game()));
+  const SummaryCalls calls = showSummary(stage.game());
+  if (calls.forReview) askForReview(stage);
+  tellSeparation(stage, calls.separation);
   showLateNews(stage);
+  if (calls.forRandomEvent) stage.open<RandomEventViewController>();
 }
 
 void WeeklySummaryViewController::leave(Stage& stage) { closeSummary(stage.game()); }
@@ -108,17 +114,48 @@ Button WeeklySummaryViewController::awardButton() {
           .weight = Button::Weight::primary};
 }
 
-// The headline with its button, then the other news. A tip has no heading.
-Section WeeklySummaryViewController::feed(const Game& game) {
-  Section section{.heading = summary_.hasNews ? "FEED" : ""};
-  for (const Story& story : summary_.frontPage.headline) {
-    section.nodes.push_back(headlineNode(game, story, true));
+// An event that opens a screen is gone at once; another one leaves its result in its place.
+void WeeklySummaryViewController::use(Stage& stage, std::size_t place) {
+  Game& game = stage.game();
+  const WeekEvent event = summary_.events[place].event;
+  if (Refusal refusal = weekEventRefusal(game.world, event)) return stage.show(std::move(refusal));
+  const bool isTalk = isWithPartner(game.world, event);
+  const WeekEventResult result = useWeekEvent(game, event);
+  if (!result.text.empty()) {
+    summary_.events[place].result = {result};
+    return;
   }
-  if (summary_.offersAwards) section.nodes.push_back(awardButton());
-  if (summary_.offersRelease) section.nodes.push_back(releaseButton());
-  for (Node& row : rowNodes(game, summary_.frontPage)) section.nodes.push_back(std::move(row));
-  if (!summary_.hasNews) section.nodes.push_back(Text{.text = summary_.feed.front(), .tone = Tone::quiet});
+  summary_.events.erase(summary_.events.begin() + static_cast<std::ptrdiff_t>(place));
+  if (isTalk) return stage.open<RelationshipEventViewController>();
+  stage.open<RateMoviesViewController>();
+}
+
+Section WeeklySummaryViewController::events(const Game& game) {
+  Section section{.heading = "BEFORE YOU CARRY ON"};
+  for (std::size_t place = 0; place < summary_.events.size(); ++place) {
+    section.nodes.push_back(
+        weekEventRow(game, summary_.events[place], [this, place](Stage& stage) { use(stage, place); }));
+  }
   return section;
+}
+
+// The headline with its button, the events of the week, then the other news. A tip has no heading.
+std::vector<Node> WeeklySummaryViewController::feed(const Game& game) {
+  std::vector<Node> top;
+  for (const Story& story : summary_.frontPage.headline) top.push_back(headlineNode(game, story, true));
+  if (summary_.offersAwards) top.push_back(awardButton());
+  if (summary_.offersRelease) top.push_back(releaseButton());
+  std::vector<Node> rest = rowNodes(game, summary_.frontPage);
+  if (!summary_.hasNews) rest = {Text{.text = summary_.feed.front(), .tone = Tone::quiet}};
+
+  const std::string heading = summary_.hasNews ? "FEED" : "";
+  if (summary_.events.empty()) {
+    top.append_range(std::move(rest));
+    return {Section{.heading = heading, .nodes = std::move(top)}};
+  }
+  if (top.empty()) return {events(game), Section{.heading = heading, .nodes = std::move(rest)}};
+  return {Section{.heading = heading, .nodes = std::move(top)}, events(game),
+          Section{.nodes = std::move(rest)}};
 }
 
 Page WeeklySummaryViewController::view(const Game& game) {
@@ -126,7 +163,7 @@ Page WeeklySummaryViewController::view(const Game& game) {
             .subtitle = tb::format("Week {} of {}", summary_.week, summary_.year),
             .head = Page::Head::line};
   page.nodes.push_back(balance(game, summary_.balance));
-  page.nodes.push_back(feed(game));
+  page.nodes.append_range(feed(game));
   page.nodes.push_back(figures(game));
   // The close button is where End Week was, under the player's thumb.
   page.main = {

@@ -2,6 +2,8 @@
 
 // The weekly summary. It opens when a week ends and is not available after it closes.
 
+#include <cstddef>
+
 #include "screens/stage.h"
 #include "week/summary.h"
 
@@ -21,7 +23,9 @@ class WeeklySummaryViewController : public Screen {
   void showLateNews(Stage& stage);
   [[nodiscard]] view::Button releaseButton();
   [[nodiscard]] view::Button awardButton();
-  [[nodiscard]] view::Section feed(const Game& game);
+  void use(Stage& stage, std::size_t place);
+  [[nodiscard]] view::Section events(const Game& game);
+  [[nodiscard]] std::vector<view::Node> feed(const Game& game);
 
   WeekSummary summary_;
 };
