@@ -73,7 +73,7 @@ function Scene({ moment, end }: { readonly moment: View.Moment; readonly end: ()
       <div class="moment-stage">
         {moment.picture.map((shown) => (
           <div class="moment-poster" key={shown.name}>
-            <Picture {...shown} description="" size="lead" />
+            <Picture {...shown} description="" size="lead" atOnce />
           </div>
         ))}
         <p class="moment-title">
