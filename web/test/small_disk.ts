@@ -13,6 +13,13 @@ import { type BrowserContext, chromium } from "playwright-core";
 import { executable, flags } from "../browser.mjs";
 import { phone } from "./inspect";
 
+// For a browser that has granted the site lasting storage, as it does for an installed game. Without it Chromium deletes
+// all that a site has stored when it starts on a full disk.
+const preferencesFor = (origin: string) => {
+  const granted = { last_modified: "13400000000000000", setting: 1 };
+  return { profile: { content_settings: { exceptions: { durable_storage: { [`${origin},*`]: granted } } } } };
+};
+
 // Without root the user namespace makes the test its own root, where the system allows that.
 const namespace = process.getuid?.() === 0 ? ["--mount"] : ["--mount", "--user", "--map-root-user"];
 
@@ -31,8 +38,8 @@ export class SmallDisk {
     private readonly holder: ReturnType<typeof spawn>,
   ) {}
 
-  // `size`: in megabytes.
-  static async make(size: number): Promise<SmallDisk> {
+  // `size`: in megabytes. `origin`: of the site that its browser keeps.
+  static async make(size: number, origin: string): Promise<SmallDisk> {
     const folder = mkdtempSync(join(tmpdir(), "small-disk-"));
     const mounts = `mount -t tmpfs -o size=${size}m none ${folder}/disk && echo mounted && cat`;
     mkdirSync(join(folder, "disk"));
@@ -42,7 +49,10 @@ export class SmallDisk {
     const script = join(folder, "browser");
     writeFileSync(script, `#!/bin/sh\nexec nsenter --target ${holder.pid} --mount ${enters} ${executable} "$@"\n`);
     chmodSync(script, 0o755);
-    return new SmallDisk(folder, holder);
+    const disk = new SmallDisk(folder, holder);
+    mkdirSync(disk.path("profile/Default"), { recursive: true });
+    writeFileSync(disk.path("profile/Default/Preferences"), JSON.stringify(preferencesFor(origin)));
+    return disk;
   }
 
   openBrowser(): Promise<BrowserContext> {

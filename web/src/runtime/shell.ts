@@ -15,6 +15,7 @@ import {
   backUpCareer, type Career, downloadAll, downloadDocument, downloadSave, newestBackup, type ReadSave, readSave, storedCareer,
 } from "./saves";
 import { type Refusal, type SavingFailure, Storage } from "./storage";
+import { storedGameHost } from "./stored_game_host";
 import { TabLock } from "./tab_lock";
 import { Ticker } from "./ticker";
 import { Updates } from "./updates";
@@ -171,22 +172,11 @@ export class Shell {
     await this.run();
   }
 
-  // The storage as the game sees it.
   private host(storage: Storage): GameHost {
-    return {
-      commit: (changes) => storage.save(changes),
-      documents: {
-        summaries: () => storage.documents(),
-        put: (document) => storage.changeDocument({ kind: "put", document }),
-        remove: (document) => storage.changeDocument({ kind: "remove", document }),
-        read: (number, place) => {
-          const { runs } = this;
-          void storage.readDocument(place).then((content) => {
-            if (runs === this.runs) this.act((game) => game.documentRead(number, content));
-          });
-        },
-      },
-    };
+    const { runs } = this;
+    return storedGameHost(storage, (number, content) => {
+      if (runs === this.runs) this.act((game) => game.documentRead(number, content));
+    });
   }
 
   // Starts the game from the saved data.
