@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/calendar.h"
 #include "core/format.h"
 #include "core/number_style.h"
 #include "core/save_backups.h"
@@ -16,7 +17,11 @@ namespace {
 
 using Info = SaveBackupManager::BackupInfo;
 
-std::string momentOf(const Info& backup) { return tb::format("Week {} of {}", backup.week, backup.year); }
+// Backups have the week of the career.
+std::string momentOf(const Info& backup) {
+  const Int weekOfYear = backup.week > 0 ? (backup.week - 1) % weeksPerYear + 1 : 0;
+  return tb::format("Week {} of {}", weekOfYear, backup.year);
+}
 
 void restore(Stage& stage, const std::string& url, bool acceptsDamage) {
   SaveBackupManager::restore(stage.game(), url, acceptsDamage, [&stage, url](const TakenUp& backup) {
