@@ -172,7 +172,7 @@ async function play(steps: readonly string[], after: (player: Player) => unknown
   return player;
 }
 
-const mostSteps = (steps: readonly string[], times: number) => Array.from({ length: times }, () => steps).flat();
+const repeated = (steps: readonly string[], times: number) => Array.from({ length: times }, () => steps).flat();
 const week = ["End Week", "Carry on"];
 const backups = ["Settings", "Backups"];
 const saves = ["Settings", "Choose a save"];
@@ -184,7 +184,7 @@ async function prepare(): Promise<void> {
     if (name !== "Ada First") for (const step of [...saves, "Empty"]) await player.press(step);
     player.typeName(name);
     await player.press("Start my career");
-    for (const step of [...mostSteps(week, 2), ...backups, "Back up now"]) await player.press(step);
+    for (const step of [...repeated(week, 2), ...backups, "Back up now"]) await player.press(step);
     player.end();
   }
 }
@@ -259,7 +259,9 @@ const actions: Readonly<Record<string, readonly string[]>> = {
 
 // Does each action with each of its first 30 calls failing, and then each `stride`-th, as most of these put rows in one
 // transaction. Returns the number of failed calls by action, and what went wrong.
-async function failCalls(stride: number): Promise<{ readonly counts: Record<string, number>; readonly wrong: string[] }> {
+async function failCalls(
+  stride: number,
+): Promise<{ readonly counts: Record<string, number>; readonly wrong: string[] }> {
   makeStoresFaulty();
   makeDeterministic();
   await prepare();

@@ -64,7 +64,7 @@ async function wasSaved(page: Page): Promise<boolean> {
 
 const skip = !canMount && "this system lets the test mount no disk of its own";
 
-test("ten weeks on a full disk are there at the next starts, with the disk still full and without the database", { skip }, async () => {
+test("ten weeks on a full disk are there at the next starts, the disk still full or the database gone", { skip }, async () => {
   const disk = await SmallDisk.make(64, setting.site.origin);
   try {
     const context = await disk.openBrowser();

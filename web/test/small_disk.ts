@@ -13,8 +13,8 @@ import { type BrowserContext, chromium } from "playwright-core";
 import { executable, flags } from "../browser.mjs";
 import { phone } from "./inspect";
 
-// For a browser that has granted the site lasting storage, as it does for an installed game. Without it Chromium deletes
-// all that a site has stored when it starts on a full disk.
+// For a browser that has granted the site persistent storage, as it does for an installed game. Without it Chromium
+// deletes all that a site has stored when it starts on a full disk.
 const preferencesFor = (origin: string) => {
   const granted = { last_modified: "13400000000000000", setting: 1 };
   return { profile: { content_settings: { exceptions: { durable_storage: { [`${origin},*`]: granted } } } } };

@@ -117,7 +117,8 @@ export class Storage {
     await this.writes;
   }
 
-  // Requests persistent storage. Some browsers ask the player, so call it after an action of the player.
+  // Requests persistent storage: without it Chromium deletes both places when it starts on a full disk. Some browsers
+  // ask the player, so call it after an action of the player.
   askToKeep(): void {
     if (!this.refusal) navigator.storage?.persist?.().catch(() => undefined);
   }
