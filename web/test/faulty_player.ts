@@ -5,7 +5,7 @@
 import type { DocumentPlace } from "../src/runtime/documents";
 import { Game } from "../src/runtime/game";
 import { localeMessage } from "../src/runtime/locale";
-import { program, texts } from "../src/runtime/parts";
+import { wholeProgram } from "../src/runtime/parts";
 import { Storage } from "../src/runtime/storage";
 import { storedGameHost } from "../src/runtime/stored_game_host";
 
@@ -77,9 +77,8 @@ class Player {
       host.documents.read(number, place);
     };
     const waits = { ...host, documents: { ...host.documents, read } };
-    const game = await Game.open(await program.get(), waits, storage.all());
+    const game = await Game.open(await wholeProgram(), waits, storage.all());
     const player = (late.player = new Player(storage, game));
-    game.setTexts(await texts.get());
     game.start(localeMessage("en-US"));
     return player;
   }

@@ -14,7 +14,9 @@ const setting = stage();
 
 async function scriptOfPlayer(): Promise<string> {
   const fileIn = (wanted: RegExp) => JSON.stringify(readdirSync("dist").find((name) => wanted.test(name)));
-  const define = { WASM_FILE: fileIn(/\.wasm$/), TEXTS_FILE: fileIn(/^texts-.*\.txt$/) };
+  const define = {
+    FORM_FILE: fileIn(/^form-.*\.wasm$/), REST_FILE: fileIn(/^rest-.*\.wasm$/), TEXTS_FILE: fileIn(/^texts-.*\.txt$/),
+  };
   const bundled = { bundle: true, write: false, format: "iife", logLevel: "warning", define } as const;
   const { outputFiles } = await build({ ...bundled, entryPoints: ["test/faulty_player.ts"] });
   return outputFiles[0]!.text;
