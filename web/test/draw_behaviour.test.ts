@@ -372,10 +372,14 @@ test("the letters of a message come one by one, and its words are there at once"
   const page = await drawn([make.bubble("Robin", message, false, 0.03)], {}, { still: false });
   const bubble = page.locator(".bubble");
   assert.equal(await bubble.locator(".unseen").textContent(), message);
-  const before = (await bubble.boundingBox())!;
+  const size = async () => {
+    const { width, height } = (await bubble.boundingBox())!;
+    return { width, height };
+  };
+  const before = await size();
   await page.waitForFunction(() => document.querySelector(".bubble-unwritten") === null);
   assert.equal(await bubble.textContent(), message);
-  assert.deepEqual(await bubble.boundingBox(), before);
+  assert.deepEqual(await size(), before);
   const still = await drawn([make.bubble("Robin", message, false, 0.03)], {}, { still: true });
   assert.equal(await still.locator(".bubble").textContent(), message);
 });

@@ -184,6 +184,7 @@ const charts = page({
 const latch = page({
   title: "Latch",
   subtitle: "Each swipe takes 3 energy",
+  icons: [make.tab("Matches", "rose")],
   close: back("Done"),
   nodes: [
     make.swipeCard(

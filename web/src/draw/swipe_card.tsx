@@ -1,6 +1,6 @@
 // A card that is answered by swiping, with the arrow keys or with one of its two buttons.
 
-import { useEffect, useLayoutEffect, useRef } from "preact/hooks";
+import { useLayoutEffect, useRef } from "preact/hooks";
 
 import type * as View from "../view_types";
 import { PressButton } from "./button";
@@ -66,7 +66,7 @@ function usePushing() {
 
   useLayoutEffect(() => () => clearTimeout(leaving.current), []);
 
-  useEffect(() => {
+  useLayoutEffect(() => {
     const onKeyDown = (event: KeyboardEvent) => {
       const side = sides[event.key];
       if (side === undefined || event.repeat || event.altKey || event.ctrlKey || event.metaKey) return;
