@@ -143,8 +143,15 @@ double paidLastWeek(const WorldState& world) {
   return paid;
 }
 
+// Whether the performer read for the role in that week. Renewed seasons, sagas and roles that an agent booked
+// have an audition week too, but nobody auditions for them; a role that was rehearsed was read for.
+bool wasReadFor(const Audition& project, std::int64_t week) {
+  const bool isOwnSubmission = project.sourceId == 0 && project.parentSeriesFilmId < 0;
+  return project.weekAudition == week && (isOwnSubmission || project.rehearsalBoostCount > 0);
+}
+
 std::optional<Outcome::Kind> outcomeOf(const Audition& project, std::int64_t ended) {
-  if (project.funnelStage == funnel::booked && project.weekAudition == ended) return Outcome::Kind::booked;
+  if (project.funnelStage == funnel::booked && wasReadFor(project, ended)) return Outcome::Kind::booked;
   if (project.funnelStage != funnel::wrapped) return {};
   if (project.weekReleased == ended) return Outcome::Kind::opened;
   if (project.weekToWork == ended) return Outcome::Kind::wrapped;

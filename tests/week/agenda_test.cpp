@@ -126,6 +126,9 @@ TEST_F(Agenda, SortsOutcomesBestFirst) {
   add(funnel::wrapped).weekToWork = 9;
   add(funnel::booked).weekAudition = 9;
   add(funnel::booked);  // in another week
+  Audition& bookedByAgent = add(funnel::booked);
+  bookedByAgent.weekAudition = 9;
+  bookedByAgent.sourceId = 4;
   for (const std::int64_t week : {9, 10, 10}) {
     world.saveAllWeeklyEarnings.push_back(
         {.sessionEarned = 100, .residualsEarned = 5, .weekNumberForTracking = week});
