@@ -155,7 +155,7 @@ TEST_F(LoveJourney, FromASwipeToAFamilyAndAScandal) {
   random.range(2, 0).range(26, 5);
   player().press("Aaron");
   player().expectTold("👀 Caught in the DMs 👀");
-  EXPECT_EQ(moment(), "SPLIT");
+  EXPECT_EQ(moment(), "SCANDAL");
   EXPECT_DOUBLE_EQ(partner().relationshipStatus, before - 20);
   const std::int64_t energyMax = world().totalEnergyMax;
   cash = world().totalCashAvailable;

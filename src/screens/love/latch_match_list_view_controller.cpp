@@ -24,7 +24,7 @@ void openRow(Stage& stage, std::size_t row) {
   if (opened.separation) return tellSeparation(stage, opened.separation);
   if (opened.isFoundOut) {
     return tellScandal(
-        stage, std::move(*opened.notice),
+        stage, std::move(*opened.notice), "SCANDAL",
         tb::format("{} writes to {}. {} reads along.", stage.game().world.myName, match.name, partner),
         portraitOf(match));
   }

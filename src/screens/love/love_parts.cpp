@@ -5,7 +5,6 @@
 #include "core/calendar.h"
 #include "core/format.h"
 #include "life/partner.h"
-#include "screens/moments.h"
 #include "screens/parts.h"
 
 namespace tb {
@@ -54,17 +53,19 @@ Moment glow(std::string title, std::string line, Picture picture) {
 
 void tellSeparation(Stage& stage, const std::optional<Separation>& separation) {
   if (!separation) return;
-  tellScandal(stage, separation->notice,
+  tellScandal(stage, separation->notice, "SPLIT",
               tb::format("{} and {}: it is over", stage.game().world.myName, separation->partner.name),
               portraitOf(separation->partner));
 }
 
-void tellScandal(Stage& stage, Notice notice, std::string line, Picture picture) {
-  stage.ask(std::move(notice),
-            {{.label = "OK",
-              .press = [line = std::move(line), picture = std::move(picture)](
-                           Stage& told) { told.play(momentOf(NewsKind::breakup, line, {picture})); },
-              .weight = Button::Weight::primary}});
+void tellScandal(Stage& stage, Notice notice, std::string title, std::string line, Picture picture) {
+  Moment moment{.scene = Moment::Scene::tabloid,
+                .title = std::move(title),
+                .line = std::move(line),
+                .picture = {std::move(picture)}};
+  stage.ask(std::move(notice), {{.label = "OK",
+                                 .press = [moment = std::move(moment)](Stage& told) { told.play(moment); },
+                                 .weight = Button::Weight::primary}});
 }
 
 }  // namespace tb

@@ -34,7 +34,7 @@ inline constexpr double letterTime = 0.03;
 // Shows the notice about a partner who left; the news is out when it is closed. Does nothing for none.
 void tellSeparation(Stage& stage, const std::optional<Separation>& separation);
 
-// Shows a notice, and a tabloid with this line when it is closed.
-void tellScandal(Stage& stage, Notice notice, std::string line, view::Picture picture);
+// Shows a notice, and a tabloid with this title and line when it is closed.
+void tellScandal(Stage& stage, Notice notice, std::string title, std::string line, view::Picture picture);
 
 }  // namespace tb
