@@ -15,8 +15,8 @@ inline constexpr std::int64_t women = 1;
 inline constexpr std::int64_t both = 2;
 }  // namespace preference
 
-// Deals the next card: draws a person to `latchCard`, with the fields that are known before a match, and a line
-// to `latchTagline`. Their chemistry is from 5 to 5 + `talentTrait2`.
+// Deals the next card: draws a person to `latchCard`, with the fields that are known before a match, and a
+// line to `latchTagline`. Their chemistry is from 5 to 5 + `talentTrait2`.
 void generateCandidate(Game& game);
 
 }  // namespace tb
