@@ -98,12 +98,15 @@ interface Face {
   readonly backdrop: string;
 }
 
+// The people of the dating app are 18 to 40.
+const onLatch = /^(wo)?man \(/u;
+
 function someone(name: string, chance: Chance): Face {
   const female = isFemale.test(name) || (!isMale.test(name) && chance.likely(0.5));
   return {
     female,
     hair: chance.pick(chance.likely(0.07) ? hats : female ? longHair : shortHair),
-    hairColour: chance.pick(hairColours),
+    hairColour: chance.pick(onLatch.test(name) ? youngHairColours : hairColours),
     eyes: chance.pick(eyes),
     nose: chance.pick(noses),
     mouth: chance.pick(female ? paintedMouths : mouths),
