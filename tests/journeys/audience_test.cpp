@@ -16,6 +16,7 @@
 #include "social/fans.h"
 #include "tests/journeys/device.h"
 #include "tests/screens/careers.h"
+#include "tests/scripted_random.h"
 #include "week/end_week.h"
 
 namespace tb {
@@ -66,6 +67,65 @@ TEST(AudienceJourney, TitlesPayTheirFansAgainUntilTheGameIsClosed) {
   EXPECT_EQ(device.world().totalFans, fans);
   EXPECT_EQ(device.world().fanGainCarry, 0);
   if (device.world().weekNumber % 4 != 0) EXPECT_LE(gainOfWeek(), 100);
+}
+
+// --- A decade ---
+
+// With the lowest draws fans come every week, as few as their number allows, and no swing moves them.
+TEST(AudienceJourney, ADecadeOfTheLowestDraws) {
+  const auto leastDrift = [](std::int64_t fans) {
+    return fans <= 100 ? 1 : fans <= 1'000 ? 2 : fans <= 10'001 ? 5 : 10;
+  };
+  test::ScriptedRandom random(test::Unscripted::low);
+  test::Device device(random);
+  device.begin([](WorldState& world) {
+    world.weekNumber = world.weekNumberForTracking = 5;
+    world.myName = "Ada Quinn";
+    Audition lead = test::bookedLead(1, filmType::shortFilm, "Small Hours");
+    lead.funnelStage = funnel::wrapped;
+    lead.weekToWork = 1;
+    lead.weekReleased = 110;
+    lead.budget = 1e6;
+    world.saveAllAuditionList = {lead};
+    world.saveAllFilmList = {
+        {.filmId = 1, .typeOfFilm = filmType::shortFilm, .isPrincipal = 1, .title = "Small Hours"},
+        {.filmId = 2,
+         .role = "Lead",
+         .isPrincipal = 1,
+         .title = "Saltwater",
+         .yearReleased = 2026,
+         .imbdRating = 9.8,
+         .imbdMetascore = 100},
+        {.filmId = 3,
+         .role = "Lead",
+         .isPrincipal = 1,
+         .title = "Puddle",
+         .yearReleased = 2026,
+         .imbdRating = 4,
+         .imbdMetascore = 84}};
+  });
+  std::int64_t highestCarry = 0;
+  for (int week = 0; week < 520; ++week) {
+    if (week == 260) device.launch();
+    const std::int64_t before = device.world().totalFans;
+    device.playWeeks();
+    const WorldState& world = device.world();
+    const std::int64_t carried = before + world.fanGainCarry;
+    ASSERT_EQ(world.totalFans, carried + leastDrift(carried)) << week;
+    ASSERT_GE(world.fanGainCarry, week < 260 ? highestCarry : 0) << week;
+    if (week >= 260) ASSERT_EQ(world.fanGainCarry, 0) << week;
+    highestCarry = std::max(highestCarry, world.fanGainCarry);
+    for (const auto* chart : {&world.saveAllTopTenList, &world.saveAllTopTenSeriesList}) {
+      ASSERT_GE(chart->size(), 9u);
+      ASSERT_LE(chart->size(), 11u);
+    }
+  }
+  EXPECT_GT(highestCarry, 0);
+  ASSERT_FALSE(device.world().saveAllMovieAwards.empty());
+  for (const Award& award : device.world().saveAllMovieAwards) {
+    EXPECT_EQ(award.filmTitle, "Saltwater");
+    EXPECT_EQ(award.yearAwarded, 2027);
+  }
 }
 
 // --- Fame pays ---

@@ -182,6 +182,37 @@ TEST_F(LoveJourney, AChildIsForgottenWhenTheGameIsClosed) {
   EXPECT_EQ(world().totalEnergyAvailable, 100);
 }
 
+TEST_F(LoveJourney, APrenupIsSignedAtTheWeddingAndKeepsTheCash) {
+  begin([](WorldState& world) {
+    world.weekNumber = 48;
+    world.weekNumberForTracking = 100;
+    world.saveAllMatchesList = {{.matchId = 1,
+                                 .name = "Mia",
+                                 .matchImage = "woman (4).png",
+                                 .weekStartedDating = 2,
+                                 .energyBonus = 3,
+                                 .relationshipStatus = 75,
+                                 .age = 30,
+                                 .maintenance = 40,
+                                 .weeklyEarnings = 900,
+                                 .relationshipState = bond::engaged,
+                                 .timeToPropose = 52}};
+  });
+  openRelationship();
+  player().press("PLAN THE WEDDING");
+  player().press("Book: A heartfelt day on a humble budget");
+  player().press("Sign Prenup");
+  EXPECT_EQ(moment(), "MARRIED");
+  EXPECT_EQ(world().signPrenup, 1);
+  const double cash = world().totalCashAvailable;
+  EXPECT_DOUBLE_EQ(cash, 20'000 - 5'000 * world().realEstateIndex);
+  openRelationship();
+  player().follow({"DIVORCE", "Yes"});
+  player().expectTold("💔 Ready to Move On 💔");
+  EXPECT_EQ(world().totalCashAvailable, cash);
+  EXPECT_EQ(world().signPrenup, 0);
+}
+
 TEST_F(LoveJourney, AMarriageEndsInEveryWay) {
   for (const std::int64_t prenup : {0, 1}) {
     beginMarried(90, prenup);
