@@ -29,6 +29,19 @@ void giveTalent(WorldState& world, std::int64_t points) {
       points;
 }
 
+// Puts the performer's short film, which comes out in that week, into an otherwise empty career of week 5.
+void addShortFilm(WorldState& world, std::int64_t weekReleased, double budget) {
+  world.weekNumber = world.weekNumberForTracking = 5;
+  Audition lead = test::bookedLead(1, filmType::shortFilm, "Small Hours");
+  lead.funnelStage = funnel::wrapped;
+  lead.weekToWork = 1;
+  lead.weekReleased = weekReleased;
+  lead.budget = budget;
+  world.saveAllAuditionList = {lead};
+  world.saveAllFilmList = {
+      {.filmId = 1, .typeOfFilm = filmType::shortFilm, .isPrincipal = 1, .title = "Small Hours"}};
+}
+
 // --- The carry ---
 
 // A performer who never loses fans, so that each week's gain is known.
@@ -36,17 +49,9 @@ TEST(AudienceJourney, TitlesPayTheirFansAgainUntilTheGameIsClosed) {
   SeededRandom random(5);
   test::Device device(random);
   device.begin([](WorldState& world) {
-    world.weekNumber = world.weekNumberForTracking = 5;
+    addShortFilm(world, 6, 1e9);
     world.totalEnergyAvailable = 100;
     giveTalent(world, 100);
-    Audition lead = test::bookedLead(1, filmType::shortFilm, "Small Hours");
-    lead.funnelStage = funnel::wrapped;
-    lead.weekToWork = 1;
-    lead.weekReleased = 6;
-    lead.budget = 1e9;
-    world.saveAllAuditionList = {lead};
-    world.saveAllFilmList = {
-        {.filmId = 1, .typeOfFilm = filmType::shortFilm, .isPrincipal = 1, .title = "Small Hours"}};
   });
   device.playWeeks(2);
   const std::int64_t carry = device.world().fanGainCarry;
@@ -79,30 +84,19 @@ TEST(AudienceJourney, ADecadeOfTheLowestDraws) {
   test::ScriptedRandom random(test::Unscripted::low);
   test::Device device(random);
   device.begin([](WorldState& world) {
-    world.weekNumber = world.weekNumberForTracking = 5;
+    addShortFilm(world, 110, 1e6);
     world.myName = "Ada Quinn";
-    Audition lead = test::bookedLead(1, filmType::shortFilm, "Small Hours");
-    lead.funnelStage = funnel::wrapped;
-    lead.weekToWork = 1;
-    lead.weekReleased = 110;
-    lead.budget = 1e6;
-    world.saveAllAuditionList = {lead};
-    world.saveAllFilmList = {
-        {.filmId = 1, .typeOfFilm = filmType::shortFilm, .isPrincipal = 1, .title = "Small Hours"},
-        {.filmId = 2,
-         .role = "Lead",
-         .isPrincipal = 1,
-         .title = "Saltwater",
-         .yearReleased = 2026,
-         .imbdRating = 9.8,
-         .imbdMetascore = 100},
-        {.filmId = 3,
-         .role = "Lead",
-         .isPrincipal = 1,
-         .title = "Puddle",
-         .yearReleased = 2026,
-         .imbdRating = 4,
-         .imbdMetascore = 84}};
+    const auto lead = [&](std::int64_t id, const char* title, std::int64_t metascore) {
+      world.saveAllFilmList.push_back({.filmId = id,
+                                       .role = "Lead",
+                                       .isPrincipal = 1,
+                                       .title = title,
+                                       .yearReleased = 2026,
+                                       .imbdRating = 7,
+                                       .imbdMetascore = metascore});
+    };
+    lead(2, "Saltwater", 100);
+    lead(3, "Puddle", 84);
   });
   std::int64_t highestCarry = 0;
   for (int week = 0; week < 520; ++week) {
