@@ -3,6 +3,7 @@
 #include <format>
 #include <gtest/gtest.h>
 
+#include "life/partner.h"
 #include "tests/journeys/device.h"
 #include "tests/sheet.h"
 
@@ -15,6 +16,10 @@ struct LifeJourney : testing::Test {
   test::Player& player() { return device.player(); }
   const WorldState& world() { return device.world(); }
 
+  void writeScreen(test::Sheet& sheet, const std::string& what) {
+    sheet.line("==== " + what);
+    for (const std::string& line : player().words()) sheet.line(line);
+  }
   // Ends the first week of careers until one leads to a page with this text.
   void endWeekUntil(const std::string& text, const std::function<void(WorldState&)>& prepare) {
     for (std::uint64_t seed = 1; seed < 300; ++seed) {
@@ -29,10 +34,7 @@ struct LifeJourney : testing::Test {
 
 TEST_F(LifeJourney, AStoryIsAnsweredBeforeTheReview) {
   test::Sheet sheet("screen_story");
-  const auto record = [&](const std::string& what) {
-    sheet.line("==== " + what);
-    for (const std::string& line : player().words()) sheet.line(line);
-  };
+  const auto record = [&](const std::string& what) { writeScreen(sheet, what); };
   double cash = 0;
   const auto breakStory = [&] {
     endWeekUntil("COST ", [&](WorldState& world) {
@@ -64,6 +66,34 @@ TEST_F(LifeJourney, AStoryIsAnsweredBeforeTheReview) {
   EXPECT_GT(world().publicImage, 50);
   device.app().back();
   EXPECT_EQ(player().title(), "REVIEW");
+}
+
+TEST_F(LifeJourney, APartnerAsksAQuestionInTheReview) {
+  test::Sheet sheet("screen_question");
+  endWeekUntil("Relationship 10", [](WorldState& world) {
+    world.totalEnergyAvailable = 100;
+    world.totalCashAvailable = 500;
+    world.saveAllMatchesList = {{.matchId = 1,
+                                 .name = "Mia",
+                                 .matchImage = "woman (4).png",
+                                 .relationshipStatus = 60,
+                                 .age = 30,
+                                 .maintenance = 40,
+                                 .relationshipState = bond::dating}};
+  });
+  player().press("Relationship 10");
+  EXPECT_EQ(world().totalEnergyAvailable, 90);
+  writeScreen(sheet, "asked");
+  player().press("Back");
+  EXPECT_EQ(player().notice(), "💬 No Answer? 💬");
+  player().press("Stay");
+  const std::size_t told = world().relationshipTracker.size();
+  player().press(player().usable().at(1));  // after "Back"
+  writeScreen(sheet, "answered");
+  EXPECT_EQ(world().relationshipTracker.size(), told + 2);
+  player().press("Carry on");
+  EXPECT_EQ(player().title(), "REVIEW");
+  EXPECT_FALSE(player().sees("Relationship 10"));
 }
 
 TEST_F(LifeJourney, AnEventOfTheWeekIsUsedOnceInTheReview) {

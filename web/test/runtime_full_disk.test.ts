@@ -102,7 +102,7 @@ test("ten weeks on a full disk are there at the next starts, the disk still full
       await later.close();
     }
   } finally {
-    disk.end();
+    await disk.end();
   }
 });
 

@@ -33,6 +33,8 @@ export function openProfile(folder: string, executablePath = executable): Promis
 }
 
 export class SmallDisk {
+  private readonly browsers: BrowserContext[] = [];
+
   private constructor(
     private readonly folder: string,
     private readonly holder: ReturnType<typeof spawn>,
@@ -55,8 +57,10 @@ export class SmallDisk {
     return disk;
   }
 
-  openBrowser(): Promise<BrowserContext> {
-    return openProfile(join(this.folder, "disk/profile"), join(this.folder, "browser"));
+  async openBrowser(): Promise<BrowserContext> {
+    const browser = await openProfile(join(this.folder, "disk/profile"), join(this.folder, "browser"));
+    this.browsers.push(browser);
+    return browser;
   }
 
   // The profile as seen from outside.
@@ -84,7 +88,9 @@ export class SmallDisk {
     return `/proc/${this.holder.pid}/root${this.folder}/disk/${name}`;
   }
 
-  end(): void {
+  // Closes its browsers too: an open one keeps the test run from ending.
+  async end(): Promise<void> {
+    for (const browser of this.browsers) await browser.close();
     this.holder.stdin!.end();
     rmSync(this.folder, { recursive: true, force: true, maxRetries: 20, retryDelay: 100 });
   }
