@@ -191,6 +191,7 @@ export async function reachReview(page: Page): Promise<void> {
   const review = page.getByRole("heading", { name: "REVIEW", exact: true });
   await review.or(storyOption(page)).waitFor();
   if ((await review.count()) > 0) return;
+  await page.waitForTimeout(350); // a press right after another does not count
   await storyOption(page).click();
   await pressAgain(page, "Carry on");
   await review.waitFor();
