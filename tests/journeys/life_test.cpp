@@ -5,6 +5,7 @@
 
 #include "life/partner.h"
 #include "tests/journeys/device.h"
+#include "tests/mia.h"
 #include "tests/sheet.h"
 
 namespace tb {
@@ -73,13 +74,7 @@ TEST_F(LifeJourney, APartnerAsksAQuestionInTheReview) {
   endWeekUntil("Relationship 10", [](WorldState& world) {
     world.totalEnergyAvailable = 100;
     world.totalCashAvailable = 500;
-    world.saveAllMatchesList = {{.matchId = 1,
-                                 .name = "Mia",
-                                 .matchImage = "woman (4).png",
-                                 .relationshipStatus = 60,
-                                 .age = 30,
-                                 .maintenance = 40,
-                                 .relationshipState = bond::dating}};
+    world.saveAllMatchesList = {test::mia(bond::dating, 60)};
   });
   player().press("Relationship 10");
   EXPECT_EQ(world().totalEnergyAvailable, 90);

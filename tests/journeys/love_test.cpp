@@ -8,6 +8,7 @@
 #include "core/weekly_option.h"
 #include "life/partner.h"
 #include "tests/journeys/device.h"
+#include "tests/mia.h"
 
 namespace tb {
 namespace {
@@ -35,16 +36,7 @@ struct LoveJourney : testing::Test {
   void beginMarried(double meter, std::int64_t prenup) {
     begin([&](WorldState& world) {
       world.signPrenup = prenup;
-      world.saveAllMatchesList = {{.matchId = 1,
-                                   .name = "Mia",
-                                   .matchImage = "woman (4).png",
-                                   .weekStartedDating = 2,
-                                   .energyBonus = 3,
-                                   .relationshipStatus = meter,
-                                   .age = 30,
-                                   .maintenance = 40,
-                                   .weeklyEarnings = 900,
-                                   .relationshipState = bond::married}};
+      world.saveAllMatchesList = {test::mia(bond::married, meter)};
     });
   }
   const WorldState& world() { return device->world(); }
@@ -186,17 +178,7 @@ TEST_F(LoveJourney, APrenupIsSignedAtTheWeddingAndKeepsTheCash) {
   begin([](WorldState& world) {
     world.weekNumber = 48;
     world.weekNumberForTracking = 100;
-    world.saveAllMatchesList = {{.matchId = 1,
-                                 .name = "Mia",
-                                 .matchImage = "woman (4).png",
-                                 .weekStartedDating = 2,
-                                 .energyBonus = 3,
-                                 .relationshipStatus = 75,
-                                 .age = 30,
-                                 .maintenance = 40,
-                                 .weeklyEarnings = 900,
-                                 .relationshipState = bond::engaged,
-                                 .timeToPropose = 52}};
+    world.saveAllMatchesList = {test::mia(bond::engaged, 75)};
   });
   openRelationship();
   player().press("PLAN THE WEDDING");

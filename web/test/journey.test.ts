@@ -137,12 +137,18 @@ test("the casting board shows five roles without scrolling, and each can be subm
 
 const toTheTitlePage = [/^Auditions/, /^Releases/, /Feature Film.*Released/, /^Imbd page/];
 
-test("every screen of a working actor can be read by everybody", async () => {
+// Brings a career in, of the performer of that name.
+async function playCareer(career: Parameters<typeof choose>[1], name: string): Promise<Page> {
   const { page } = await play(setting, "Somebody Else");
   await openSaves(page);
-  await choose(page, workingActor());
+  await choose(page, career);
   await press(page, "Replace my career");
-  await finds(page, "Ada Vale");
+  await finds(page, name);
+  return page;
+}
+
+test("every screen of a working actor can be read by everybody", async () => {
+  const page = await playCareer(workingActor(), "Ada Vale");
   await inspectOnTheWay(page, [
     ["Work", [/^Job Board/], "actor-job-board"],
     ["Work", [/^Casting Network/], "actor-casting"],
@@ -182,11 +188,7 @@ test("every screen of a working actor can be read by everybody", async () => {
 });
 
 test("every offer to a working actor can be read by everybody", async () => {
-  const { page } = await play(setting, "Somebody Else");
-  await openSaves(page);
-  await choose(page, actorWithOffers());
-  await press(page, "Replace my career");
-  await finds(page, "Ada Quinn");
+  const page = await playCareer(actorWithOffers(), "Ada Quinn");
   await inspectOnTheWay(page, [
     ["Social", [/^Inbox/], "offers-inbox"],
     ["Social", [/^Inbox/, /AGENT •/], "offers-agent"],
@@ -216,11 +218,7 @@ async function swipeCard(page: Page, pixels: number): Promise<void> {
 }
 
 test("a dater swipes with a finger and with the keys, and everybody can read the screens of love", async () => {
-  const { page } = await play(setting, "Somebody Else");
-  await openSaves(page);
-  await choose(page, dater());
-  await press(page, "Replace my career");
-  await finds(page, "Ada Quinn");
+  const page = await playCareer(dater(), "Ada Quinn");
   await inspectOnTheWay(page, [
     ["Life", [/^Latch/], "latch"],
     ["Life", [/^Latch/, /^Your matches/], "latch-matches"],
@@ -238,11 +236,7 @@ test("a dater swipes with a finger and with the keys, and everybody can read the
 });
 
 test("every screen of a relationship can be read by everybody", async () => {
-  const { page } = await play(setting, "Somebody Else");
-  await openSaves(page);
-  await choose(page, actorWithOffers());
-  await press(page, "Replace my career");
-  await finds(page, "Ada Quinn");
+  const page = await playCareer(actorWithOffers(), "Ada Quinn");
   await inspectOnTheWay(page, [
     ["Life", [/^Mia/], "relationship"],
     ["Life", [/^Mia/, /^About Mia/], "partner"],
