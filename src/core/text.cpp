@@ -52,6 +52,11 @@ std::string lowerCase(std::string_view text) {
   return lower;
 }
 
+std::string capitalized(std::string text) {
+  text.replace(0, 1, upperCase(text.substr(0, 1)));
+  return text;
+}
+
 std::string trimmed(std::string_view text) {
   constexpr std::string_view blanks = " \t\r\n";
   const std::size_t first = text.find_first_not_of(blanks);

@@ -17,6 +17,9 @@ namespace tb {
 // The letters A to Z in lower case, everything else unchanged. For lookups, not for display.
 [[nodiscard]] std::string lowerCase(std::string_view text);
 
+// The text with its first character in capitals if that is an ASCII letter. Does nothing to an empty text.
+[[nodiscard]] std::string capitalized(std::string text);
+
 // The text without white space at both ends.
 [[nodiscard]] std::string trimmed(std::string_view text);
 

@@ -24,9 +24,7 @@ std::string interestWords(const Matches& person) {
   constexpr std::size_t most = 3;
   std::string words;
   for (std::size_t index = 0; index < std::min(person.interests.size(), most); ++index) {
-    std::string interest = person.interests[index];
-    interest.replace(0, 1, upperCase(interest.substr(0, 1)));
-    words += (index == 0 ? "" : ", ") + interest;
+    words += (index == 0 ? "" : ", ") + capitalized(person.interests[index]);
   }
   return words;
 }

@@ -13,11 +13,6 @@ using namespace view;
 
 namespace {
 
-std::string capitalized(std::string sentence) {
-  sentence.replace(0, 1, upperCase(sentence.substr(0, 1)));
-  return sentence;
-}
-
 Tiles standing(const Game& game) {
   const WorldState& world = game.world;
   return {{scoreTile("Public image", world.publicImage),
